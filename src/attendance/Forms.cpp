@@ -1,0 +1,7 @@
+#include "attendance/Forms.h"
+
+namespace orvane {
+
+void registerAttendanceForms(Program&) {}
+
+} // namespace orvane

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "session/Program.h"
+
+namespace orvane {
+
+/// Registers the forms of this folder under their names.
+void registerAttendanceForms(Program& program);
+
+} // namespace orvane

@@ -1,0 +1,7 @@
+#include "billing/Forms.h"
+
+namespace orvane {
+
+void registerBillingForms(Program&) {}
+
+} // namespace orvane

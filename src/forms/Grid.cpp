@@ -1,0 +1,218 @@
+#include "forms/Grid.h"
+
+#include "data/Assert.h"
+#include "data/Money.h"
+
+#include <algorithm>
+
+namespace orvane {
+
+void Grid::load(const Recordset& rows) {
+    m_rows = rows;
+    m_row = m_rows.count() > 0 ? 0 : -1;
+    touch();
+}
+
+void Grid::clear() {
+    load(Recordset());
+}
+
+int Grid::rowCount() const {
+    return m_rows.count();
+}
+
+int Grid::columnCount() const {
+    return int(m_rows.columns().size());
+}
+
+QString Grid::columnName(int column) const {
+    return m_rows.columns().at(column);
+}
+
+int Grid::columnIndex(const QString& name) const {
+    const QStringList names = m_rows.columns();
+    for (int i = 0; i < names.size(); ++i)
+        if (names.at(i).compare(name, Qt::CaseInsensitive) == 0)
+            return i;
+    return -1;
+}
+
+bool Grid::isHidden(int column) const {
+    return m_looks.value(columnName(column).toLower()).hidden;
+}
+
+void Grid::hide(const QStringList& columns) {
+    for (const QString& column : columns)
+        m_looks[column.toLower()].hidden = true;
+    touch();
+}
+
+void Grid::setFormat(const QString& column, const QString& format) {
+    m_looks[column.toLower()].format = format;
+    touch();
+}
+
+QString Grid::format(int column) const {
+    return m_looks.value(columnName(column).toLower()).format;
+}
+
+void Grid::setWidth(const QString& column, int characters) {
+    m_looks[column.toLower()].width = characters;
+    touch();
+}
+
+int Grid::width(int column) const {
+    return m_looks.value(columnName(column).toLower()).width;
+}
+
+bool Grid::isNumber(int column) const {
+    if (!format(column).isEmpty())
+        return true;
+    const int sample = std::min(rowCount(), 20);
+    bool seen = false;
+    for (int row = 0; row < sample; ++row) {
+        const QVariant cell = value(row, column);
+        if (cell.isNull())
+            continue;
+        const int type = cell.userType();
+        if (type != QMetaType::Double && type != QMetaType::LongLong && type != QMetaType::Int)
+            return false;
+        seen = true;
+    }
+    return seen;
+}
+
+void Grid::selectRow(int row) {
+    if (row < 0 || row >= rowCount()) {
+        m_row = -1;
+        touch();
+        return;
+    }
+    m_row = row;
+    touch();
+    click();
+}
+
+QVariant Grid::value(int row, int column) const {
+    Recordset rows = m_rows;
+    rows.moveTo(row);
+    return rows.value(column);
+}
+
+QString Grid::text(const QString& column) const {
+    if (m_row < 0)
+        return {};
+    Recordset rows = m_rows;
+    rows.moveTo(m_row);
+    return rows.text(column);
+}
+
+double Grid::number(const QString& column) const {
+    if (m_row < 0)
+        return 0;
+    Recordset rows = m_rows;
+    rows.moveTo(m_row);
+    return rows.number(column);
+}
+
+QDate Grid::date(const QString& column) const {
+    if (m_row < 0)
+        return {};
+    Recordset rows = m_rows;
+    rows.moveTo(m_row);
+    return rows.date(column);
+}
+
+QString Grid::cellText(int row, int column) const {
+    Recordset rows = m_rows;
+    rows.moveTo(row);
+    const QVariant cell = rows.value(column);
+    const QString look = format(column);
+    if (!look.isEmpty())
+        return cell.isNull() ? QString() : formatNumber(cell.toDouble(), look);
+    if (cell.userType() == QMetaType::QDate)
+        return cell.toDate().toString(QStringLiteral("dd/MM/yyyy"));
+    if (cell.userType() == QMetaType::QDateTime)
+        return cell.toDateTime().toString(QStringLiteral("dd/MM/yyyy HH:mm"));
+    const QString text = rows.text(column);
+    // The embedded engine keeps dates as ISO texts.
+    if (text.size() == 10 && text.at(4) == QLatin1Char('-') && text.at(7) == QLatin1Char('-')) {
+        const QDate date = QDate::fromString(text, Qt::ISODate);
+        if (date.isValid())
+            return date.toString(QStringLiteral("dd/MM/yyyy"));
+    }
+    return text;
+}
+
+int Grid::findRow(const QString& column, const QString& wanted) const {
+    Recordset rows = m_rows;
+    rows.moveFirst();
+    return rows.find(column, wanted) ? rows.row() : -1;
+}
+
+QString Grid::valueText() const {
+    return QStringLiteral("%1 rows").arg(rowCount());
+}
+
+void EntryGrid::setHead(const QString& head) {
+    m_heads.clear();
+    for (QString text : head.split(QLatin1Char('|'))) {
+        while (text.startsWith(QLatin1Char('-')))
+            text.remove(0, 1);
+        while (text.endsWith(QLatin1Char('-')))
+            text.chop(1);
+        m_heads << text;
+    }
+    clear();
+}
+
+void EntryGrid::addRow() {
+    QStringList cells;
+    cells.resize(m_heads.size());
+    m_cells.append(cells);
+    touch();
+}
+
+void EntryGrid::removeRow(int row) {
+    ORVANE_ASSERT(row >= 1 && row < rows());
+    m_cells.removeAt(row - 1);
+    m_row = -1;
+    touch();
+}
+
+void EntryGrid::clear() {
+    m_cells.clear();
+    m_row = -1;
+    addRow();
+}
+
+QString EntryGrid::cell(int row, int column) const {
+    return m_cells.at(row - 1).at(column);
+}
+
+void EntryGrid::setCell(int row, int column, const QString& text) {
+    m_cells[row - 1][column] = text;
+    touch();
+}
+
+void EntryGrid::selectRow(int row) {
+    m_row = row >= 1 && row < rows() ? row : -1;
+    touch();
+    if (m_row >= 0)
+        click();
+}
+
+bool EntryGrid::isMoney(int column) const {
+    return m_money.contains(column);
+}
+
+void EntryGrid::setMoney(const QList<int>& columns) {
+    m_money = columns;
+    touch();
+}
+
+QString EntryGrid::valueText() const {
+    return QStringLiteral("%1 rows").arg(m_cells.size());
+}
+
+} // namespace orvane

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <optional>
+
+namespace orvane {
+
+class Form;
+class Recordset;
+
+enum class Icon { None, Information, Exclamation, Critical, Question };
+
+/// The one port of the screens to the outside. Two implementations: the desktop and the script player.
+class Ui {
+public:
+    virtual ~Ui() = default;
+
+    /// A message with an OK button; an empty title shows the program's name. Returns when it was read.
+    virtual void box(const QString& text, Icon icon = Icon::None, const QString& title = {}) = 0;
+    virtual bool question(const QString& text, const QString& title = {}) = 0;
+    /// Empty optional: cancelled.
+    virtual std::optional<QString> inputBox(const QString& prompt, const QString& title = {}, const QString& initial = {}) = 0;
+
+    virtual void show(Form& form) = 0;      ///< shows it, or brings it forward
+    virtual void showModal(Form& form) = 0; ///< returns when the form has closed
+    virtual void closed(Form& form) = 0;    ///< the form has unloaded: take its window away
+    virtual void setBusy(bool busy) = 0;
+    virtual void processEvents() = 0;
+
+    virtual void printForm(Form& form) = 0; ///< the form as it stands, on the default printer, or a dialog's choice
+    /// A list report: `file` is the layout's name, `title` the window title.
+    virtual void viewReport(const QString& file, const QString& title, const Recordset& rows) = 0;
+    /// A saved workbook is opened with the desktop's program.
+    virtual void exported(const QString& file) = 0;
+    virtual void playSound(const QString& file) = 0;
+    virtual QDateTime now() const = 0;      ///< the workstation's clock
+    virtual void quit() = 0;                ///< ends the program after the current event
+};
+
+} // namespace orvane

@@ -1,0 +1,7 @@
+#include "receipts/Forms.h"
+
+namespace orvane {
+
+void registerReceiptForms(Program&) {}
+
+} // namespace orvane

@@ -1,0 +1,7 @@
+#include "session/Forms.h"
+
+namespace orvane {
+
+void registerSessionForms(Program&) {}
+
+} // namespace orvane

@@ -1,0 +1,94 @@
+#include "session/Program.h"
+
+#include "data/Assert.h"
+
+namespace orvane {
+
+Program::Program(const QString& homeFolder, Ui& ui) : m_homeFolder(homeFolder), m_ui(ui), m_data(homeFolder) {}
+
+Program::~Program() = default;
+
+void Program::registerForm(const QString& name, FormFactory factory) {
+    m_factories[name.toLower()] = std::move(factory);
+}
+
+bool Program::isRegistered(const QString& name) const {
+    return m_factories.contains(name.toLower());
+}
+
+QStringList Program::formNames() const {
+    QStringList names;
+    for (const auto& entry : m_factories)
+        names << entry.first;
+    return names;
+}
+
+Form* Program::loadedForm(const QString& name) {
+    const auto found = m_forms.find(name.toLower());
+    return found == m_forms.end() ? nullptr : found->second.get();
+}
+
+Form& Program::form(const QString& name) {
+    deleteClosedForms();
+    if (Form* loaded = loadedForm(name))
+        return *loaded;
+    const QString key = name.toLower();
+    ORVANE_ASSERT(m_factories.contains(key));
+    std::unique_ptr<Form> made = m_factories[key](*this);
+    made->onClosed = [this, key](Form&) {
+        const auto found = m_forms.find(key);
+        m_closedForms.push_back(std::move(found->second));
+        m_forms.erase(found);
+    };
+    return *(m_forms[key] = std::move(made));
+}
+
+void Program::open(const QString& name) {
+    if (!isRegistered(name)) {
+        box(QStringLiteral("The screen %1 is not part of this version yet.").arg(name), Icon::Information);
+        return;
+    }
+    Form& opened = form(name);
+    opened.load();
+    if (!opened.isClosed())
+        m_ui.show(opened);
+}
+
+void Program::openModal(const QString& name) {
+    if (!isRegistered(name)) {
+        open(name);
+        return;
+    }
+    Form& opened = form(name);
+    opened.load();
+    if (!opened.isClosed())
+        m_ui.showModal(opened);
+}
+
+void Program::deleteClosedForms() {
+    std::erase_if(m_closedForms, [](const std::unique_ptr<Form>& closed) { return !closed->isRunning(); });
+}
+
+void Program::box(const QString& text, Icon icon, const QString& title) {
+    ORVANE_ASSERT(m_data.openTransactions() == 0);
+    m_ui.box(text, icon, title);
+}
+
+void Program::boxAfterTransaction(const QString& text) {
+    m_pendingBoxes << text;
+    if (m_data.openTransactions() == 0)
+        flushBoxes();
+}
+
+void Program::flushBoxes() {
+    const QStringList boxes = std::exchange(m_pendingBoxes, {});
+    for (const QString& text : boxes)
+        box(text);
+}
+
+bool Program::question(const QString& text, const QString& title) {
+    ORVANE_ASSERT(m_data.openTransactions() == 0);
+    return m_ui.question(text, title);
+}
+
+} // namespace orvane

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "data/Connection.h"
+#include "data/Recordset.h"
+#include "data/Transaction.h"
+#include "forms/Form.h"
+#include "session/Session.h"
+
+#include <map>
+
+namespace orvane {
+
+class Program;
+
+/// Makes a form of its class; registered under the form's own name.
+using FormFactory = std::function<std::unique_ptr<Form>(Program&)>;
+
+/// One run of the program on one workstation: the session, the data source, the user interface and the forms. No global state, so two
+/// workstations can run in one process.
+class Program {
+public:
+    /// `homeFolder`: the program's folder with made.sys, sysdoc.sys, orvane.ini, pictures and sound.
+    Program(const QString& homeFolder, Ui& ui);
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    Session session;
+    DataSource& data() { return m_data; }
+    Ui& ui() { return m_ui; }
+    const QString& homeFolder() const { return m_homeFolder; }
+
+    /// A connection to the billing database / the Accounting database. Raises DataError.
+    Connection openBilling() { return m_data.open(session.gConnStr); }
+    Connection openAccounting() { return m_data.open(session.gAcctConnStr); }
+
+    void registerForm(const QString& name, FormFactory factory);
+    bool isRegistered(const QString& name) const;
+    QStringList formNames() const; ///< every registered form, for tests that walk them
+    /// The loaded form of this name, or a new one (made, not yet loaded or shown). An unregistered name is asserted.
+    Form& form(const QString& name);
+    Form* loadedForm(const QString& name); ///< null when it is not open
+    /// Loads and shows a form, bringing it forward if loaded. A screen that is not built yet says so in a box.
+    void open(const QString& name);
+    /// Loads and shows a form modally; returns when it has closed.
+    void openModal(const QString& name);
+    /// Closed forms are deleted here, when no handler of theirs runs any more.
+    void deleteClosedForms();
+
+    /// A message with an OK button. Asserts that no transaction is open.
+    void box(const QString& text, Icon icon = Icon::None, const QString& title = {});
+    /// As box, but a message that comes up while a transaction is open shows after it has ended, from flushBoxes.
+    void boxAfterTransaction(const QString& text);
+    void flushBoxes();
+    bool question(const QString& text, const QString& title = {});
+
+    // Shared routines of the session (session/*.cpp).
+    /// The server's date and time from qrySysDateTime; invalid when the view is empty. A fault is shown and gives the invalid date.
+    QDateTime getServerDateTime();
+    /// One audit row over a connection of its own, stamped with the shell's clock. A fault is shown, never raised.
+    void writeAuditTrail(const QString& userName, const QString& action, const QString& tranCode, const QString& remarks, const QString& source);
+    void openUserActivity(bool isLogout, bool autoLogoff, const QString& remarks);
+    void closeUserActivity(bool isLogout, bool autoLogoff, const QString& remarks);
+    void readEnvironmentIdentity();
+    /// The next number of a counter from the procedure getIDNo into session.gIDNo; empty when there is none.
+    void fetchIDNo(Connection& connection, const QString& destName);
+    /// dBillTotal in upper-case words into session.sAmountWords.
+    void amountToUpperWords();
+
+private:
+    QString m_homeFolder;
+    Ui& m_ui;
+    DataSource m_data;
+    std::map<QString, FormFactory> m_factories;      ///< by lower-cased name
+    std::map<QString, std::unique_ptr<Form>> m_forms; ///< loaded, by lower-cased name
+    std::vector<std::unique_ptr<Form>> m_closedForms;
+    QStringList m_pendingBoxes;
+};
+
+/// A form of the program: knows the session and the data source.
+class Screen : public Form {
+public:
+    Screen(Program& owner, const QString& name, const QString& caption)
+        : Form(owner.ui(), name, caption), program(owner), session(owner.session) {}
+    void afterEvent() override { program.flushBoxes(); }
+
+protected:
+    Program& program;
+    Session& session;
+};
+
+} // namespace orvane

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QDate>
+#include <QDateTime>
+#include <QString>
+
+namespace orvane {
+
+/// The session variables: read by every screen, alive for the run of the program, under their given names.
+struct Session {
+    // Who, where and with which servers.
+    QString gServerName, gHospID, gHospIDName;
+    int iHNO = 0;
+    QString sHospitalNoStr;
+    QString gConnStr, gAcctConnStr, gPatientsFolder;
+    QString gModuleName;
+    QString gUsername, gFullName, gEmpID;
+    QString gHospName, gHospName2;
+
+    // Settings read once at the start.
+    QString billSetting1, billSetting2, billSetting3, billSetting4;
+    QString gRctPicture, gRctPictureLab, gRctPictureDen;
+    QString labSetting1, labSetting2, labSetting3, labSetting5;
+    QString gRctPictureLab2;
+    QString gPrivateTariff, gLockPrice, gRevTypeRpt, gNHISFee, gOldPNo, gBillTo, gCoyCode;
+    bool gAcctPostOn = false, gAcctPostAuto = false;
+    QString gAcctPostType = QStringLiteral("AUTO"), gAutoTranNo, gAcctCostCenter;
+    QString gAcctNoPOS, gAcctNoCheque, gAcctNoTransfer, gAcctNoCash, gAcctNoOthers;
+    QString gAcctNoSales, gAcctNoSalesInv, gAcctNoSales2, gAcctNoSalesInv2;
+    qlonglong gCashAccountIndex = 0, gARAccountIndex = 0;
+    QString gAcctSusp, gAcctSuspDesc;
+    QString gCurrentPeriod, gPeriod;
+
+    // The shell's state.
+    bool bFirstShow = false, bAutoLogoff = false, bAlertOn = false, bBillSound = false, bReceiptHeadLoaded = false;
+    QDate dPostDate;
+    QDate gServerDate; ///< the date of the shell's clock
+    QTime gServerTime; ///< the time of the shell's clock
+    QString sComputerName, sEnvUserName;
+    qlonglong gActivitySNo = 0;
+
+    // The alternative entry with a password.
+    QString sLoginName, sLoginPassword, sUserPassword, sLoginBranch;
+    QString sLoginTrailAction, sLoginTrailTime;
+    QDate dLoginTrailDate;
+
+    // Numbers and words.
+    QString gIDNo;        ///< what fetchIDNo returned last; empty means failure
+    double dBillTotal = 0; ///< naira; what amountToUpperWords words
+    QString sAmountWords;
+
+    // The bill in hand.
+    QString gConsultID, sBillPno, sBillPatName, sBillCoy, sBillPatLabel;
+    double dAmountGen = 0, dAmountBal = 0, dAmountPaid = 0; ///< naira
+    double dDebtBF = 0;   ///< naira
+    QString sPrintBillNo; ///< the receipt or bill to print
+    QString gSearchBillNo; ///< handed to the collation screen by the worklist
+    QString sWorkPno;
+    qlonglong lWorkSNo = 0;
+    QDate dWorkDate;
+    QString sAdjustItem;
+    QString sAuditCoy;
+    QString sClientName;  ///< the purpose of a visit, on the attendance screen
+    QString sDebtMode, sRptPanelMode, sRptKind;
+    QString sRctLine1, sRctLine2, sRctLine3, sRctLine4, sRctLine5;
+    QString sBatchNo, sBatchMonth, sBatchYear;
+};
+
+} // namespace orvane

@@ -1,0 +1,4 @@
+// The heavy headers of the tests.
+#pragma once
+#include "data/precompiled.h"
+#include <gtest/gtest.h>
