@@ -3,10 +3,12 @@
 #include "forms/Controls.h"
 #include "forms/Grid.h"
 #include "forms/Layout.h"
+#include "forms/Page.h"
 #include "forms/Ui.h"
 
 #include <QObject>
 #include <functional>
+#include <optional>
 
 namespace orvane {
 
@@ -29,6 +31,8 @@ public:
     Control* find(const QString& name) const;
 
     virtual Layout layout() const = 0;
+    /// A form that is a document gives its page as it stands now: shown as a preview and printed the same. Nothing: a plain screen.
+    virtual std::optional<Page> page() const { return std::nullopt; }
     virtual void Form_Load() {}
     virtual bool Form_Unload() { return true; } ///< false refuses to close
     /// Pressed by Enter and by Esc; null when there is none.
