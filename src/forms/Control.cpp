@@ -85,4 +85,9 @@ void Control::touch() {
     Q_EMIT changed();
 }
 
+void Control::touchContent() {
+    ++m_contentRevision;
+    touch();
+}
+
 } // namespace orvane

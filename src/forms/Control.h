@@ -50,6 +50,10 @@ public:
     void setColor(std::optional<unsigned> rgb);
     void setFocus();        ///< asks the desktop for the focus; the form remembers it for scripts
 
+    /// Counts the changes of a list's entries, a tree's nodes or a grid's rows and columns, so that a view that shows them knows
+    /// whether it must read them anew or whether only the choice has moved.
+    unsigned contentRevision() const { return m_contentRevision; }
+
     /// The value as the script player prints it and expects it.
     virtual QString valueText() const { return m_caption; }
 
@@ -70,6 +74,7 @@ Q_SIGNALS:
 protected:
     void raise(const Handler& handler); ///< runs it at the form's edge, where faults are caught
     void touch();           ///< something shown has changed
+    void touchContent();    ///< as touch, for entries, nodes, rows and columns
 
 private:
     Form& m_form;
@@ -81,6 +86,7 @@ private:
     bool m_visible = true;
     Control* m_frame = nullptr;
     std::optional<unsigned> m_color;
+    unsigned m_contentRevision = 0;
 };
 
 } // namespace orvane

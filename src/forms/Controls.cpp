@@ -33,18 +33,18 @@ void ComboBox::clear() {
     m_items.clear();
     m_index = -1;
     m_text.clear();
-    touch();
+    touchContent();
 }
 
 void ComboBox::addItem(const QString& text, const QVariant& data) {
     m_items.append({text, data});
-    touch();
+    touchContent();
 }
 
 void ComboBox::addItems(const QStringList& texts) {
     for (const QString& text : texts)
         m_items.append({text, {}});
-    touch();
+    touchContent();
 }
 
 QStringList ComboBox::items() const {
@@ -109,12 +109,12 @@ void OptionButton::setChecked(bool checked) {
 
 void ListBox::clear() {
     m_items.clear();
-    touch();
+    touchContent();
 }
 
 void ListBox::addItem(const QString& text, const QVariant& data) {
     m_items.append({text, data, false});
-    touch();
+    touchContent();
 }
 
 void ListBox::setSelected(int index, bool selected) {
@@ -168,12 +168,12 @@ void TabStrip::setTab(int tab) {
 void Tree::clear() {
     m_nodes.clear();
     m_selected.clear();
-    touch();
+    touchContent();
 }
 
 void Tree::addNode(const Node& node) {
     m_nodes.append(node);
-    touch();
+    touchContent();
 }
 
 const Tree::Node* Tree::selectedNode() const {

@@ -10,7 +10,7 @@ namespace orvane {
 void Grid::load(const Recordset& rows) {
     m_rows = rows;
     m_row = m_rows.count() > 0 ? 0 : -1;
-    touch();
+    touchContent();
 }
 
 void Grid::clear() {
@@ -44,12 +44,12 @@ bool Grid::isHidden(int column) const {
 void Grid::hide(const QStringList& columns) {
     for (const QString& column : columns)
         m_looks[column.toLower()].hidden = true;
-    touch();
+    touchContent();
 }
 
 void Grid::setFormat(const QString& column, const QString& format) {
     m_looks[column.toLower()].format = format;
-    touch();
+    touchContent();
 }
 
 QString Grid::format(int column) const {
@@ -58,7 +58,7 @@ QString Grid::format(int column) const {
 
 void Grid::setWidth(const QString& column, int characters) {
     m_looks[column.toLower()].width = characters;
-    touch();
+    touchContent();
 }
 
 int Grid::width(int column) const {
@@ -170,14 +170,14 @@ void EntryGrid::addRow() {
     QStringList cells;
     cells.resize(m_heads.size());
     m_cells.append(cells);
-    touch();
+    touchContent();
 }
 
 void EntryGrid::removeRow(int row) {
     ORVANE_ASSERT(row >= 1 && row < rows());
     m_cells.removeAt(row - 1);
     m_row = -1;
-    touch();
+    touchContent();
 }
 
 void EntryGrid::clear() {
@@ -208,7 +208,7 @@ bool EntryGrid::isMoney(int column) const {
 
 void EntryGrid::setMoney(const QList<int>& columns) {
     m_money = columns;
-    touch();
+    touchContent();
 }
 
 QString EntryGrid::valueText() const {
