@@ -14,11 +14,16 @@ Layout container(Layout::Kind kind, const QString& text, std::initializer_list<L
     return layout;
 }
 
-Layout single(Layout::Kind kind, const QString& text, Control* control, int characters) {
+// A form states its layout without changing itself; whoever shows the layout drives the controls.
+Control* shown(const Control* control) {
+    return const_cast<Control*>(control);
+}
+
+Layout single(Layout::Kind kind, const QString& text, const Control* control, int characters) {
     Layout layout;
     layout.kind = kind;
     layout.text = text;
-    layout.control = control;
+    layout.control = shown(control);
     layout.characters = characters;
     return layout;
 }
@@ -33,21 +38,21 @@ Layout column(std::initializer_list<Layout> items) {
     return container(Layout::Column, {}, items);
 }
 
-Layout field(const QString& label, Control& control, int characters) {
+Layout field(const QString& label, const Control& control, int characters) {
     return single(Layout::Field, label, &control, characters);
 }
 
-Layout cell(Control& control, int characters) {
+Layout cell(const Control& control, int characters) {
     return single(Layout::Cell, {}, &control, characters);
 }
 
-Layout large(const QString& label, Control& control) {
+Layout large(const QString& label, const Control& control) {
     Layout layout = field(label, control);
     layout.emphasis = true;
     return layout;
 }
 
-Layout facts(std::initializer_list<std::pair<QString, Control*>> items) {
+Layout facts(std::initializer_list<std::pair<QString, const Control*>> items) {
     Layout layout = container(Layout::Facts, {}, {});
     for (const auto& [label, control] : items)
         layout.children.append(single(Layout::Field, label, control, 0));
@@ -58,15 +63,15 @@ Layout card(std::initializer_list<Layout> items) {
     return container(Layout::Card, {}, items);
 }
 
-Layout group(const QString& heading, std::initializer_list<Layout> items, Control* frame) {
+Layout group(const QString& heading, std::initializer_list<Layout> items, const Control* frame) {
     Layout layout = container(Layout::Group, heading, items);
-    layout.control = frame;
+    layout.control = shown(frame);
     return layout;
 }
 
-Layout tabs(TabStrip& strip, std::initializer_list<Layout> pages) {
+Layout tabs(const TabStrip& strip, std::initializer_list<Layout> pages) {
     Layout layout = container(Layout::Tabs, {}, pages);
-    layout.control = &strip;
+    layout.control = shown(&strip);
     return layout;
 }
 
@@ -74,11 +79,11 @@ Layout page(const QString& caption, std::initializer_list<Layout> items) {
     return container(Layout::Page, caption, items);
 }
 
-Layout buttons(std::initializer_list<Control*> left, std::initializer_list<Control*> right) {
+Layout buttons(std::initializer_list<const Control*> left, std::initializer_list<const Control*> right) {
     Layout sides = container(Layout::Buttons, {}, {});
     for (const auto& side : {left, right}) {
         Layout layout = container(Layout::Row, {}, {});
-        for (Control* control : side)
+        for (const Control* control : side)
             layout.children.append(single(Layout::Cell, {}, control, 0));
         sides.children.append(layout);
     }

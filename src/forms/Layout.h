@@ -39,15 +39,15 @@ namespace layout {
 
 Layout row(std::initializer_list<Layout> items);
 Layout column(std::initializer_list<Layout> items);
-Layout field(const QString& label, Control& control, int characters = 0);
-Layout cell(Control& control, int characters = 0);
-Layout large(const QString& label, Control& control); ///< a field shown large, for the one figure that matters
-Layout facts(std::initializer_list<std::pair<QString, Control*>> items);
+Layout field(const QString& label, const Control& control, int characters = 0);
+Layout cell(const Control& control, int characters = 0);
+Layout large(const QString& label, const Control& control); ///< a field shown large, for the one figure that matters
+Layout facts(std::initializer_list<std::pair<QString, const Control*>> items);
 Layout card(std::initializer_list<Layout> items);
-Layout group(const QString& heading, std::initializer_list<Layout> items, Control* frame = nullptr);
-Layout tabs(TabStrip& strip, std::initializer_list<Layout> pages);
+Layout group(const QString& heading, std::initializer_list<Layout> items, const Control* frame = nullptr);
+Layout tabs(const TabStrip& strip, std::initializer_list<Layout> pages);
 Layout page(const QString& caption, std::initializer_list<Layout> items);
-Layout buttons(std::initializer_list<Control*> left, std::initializer_list<Control*> right);
+Layout buttons(std::initializer_list<const Control*> left, std::initializer_list<const Control*> right);
 Layout stretch();
 Layout growing(Layout item); ///< the same item, taking the room that is left
 
