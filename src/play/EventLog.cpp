@@ -1,0 +1,70 @@
+#include "play/EventLog.h"
+
+#include <QFileDevice>
+
+namespace orvane {
+
+namespace {
+
+QString iconName(Icon icon) {
+    switch (icon) {
+    case Icon::None:
+        return QStringLiteral("none");
+    case Icon::Information:
+        return QStringLiteral("information");
+    case Icon::Exclamation:
+        return QStringLiteral("exclamation");
+    case Icon::Critical:
+        return QStringLiteral("critical");
+    case Icon::Question:
+        return QStringLiteral("question");
+    }
+    return {};
+}
+
+} // namespace
+
+void EventLog::write(const QString& line) {
+    if (m_failed)
+        return;
+    m_output.write(line.toUtf8() + '\n');
+    // Whoever feeds the script step by step waits for what a step has written.
+    if (auto* file = qobject_cast<QFileDevice*>(&m_output))
+        file->flush();
+}
+
+void EventLog::box(Icon icon, const QString& title, const QString& text) {
+    write(QStringLiteral("box ") + iconName(icon) + QLatin1Char(' ') + quoted(title) + QLatin1Char(' ') + quoted(text));
+    m_boxes.push_back(text);
+}
+
+std::optional<QString> EventLog::takeBox() {
+    if (m_boxes.empty())
+        return std::nullopt;
+    const QString text = m_boxes.front();
+    m_boxes.pop_front();
+    return text;
+}
+
+void EventLog::fail(const QString& reason) {
+    write(QStringLiteral("FAIL line %1: ").arg(m_line) + oneLine(reason));
+    m_failed = true;
+}
+
+QString EventLog::quoted(const QString& text) {
+    QString inside = text;
+    inside.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
+    inside.replace(QLatin1Char('"'), QStringLiteral("\\\""));
+    return QLatin1Char('"') + oneLine(inside) + QLatin1Char('"');
+}
+
+QString EventLog::oneLine(const QString& text) {
+    QString line = text;
+    line.replace(QStringLiteral("\r\n"), QStringLiteral("\\n"));
+    line.replace(QLatin1Char('\n'), QStringLiteral("\\n"));
+    line.replace(QLatin1Char('\r'), QStringLiteral("\\n"));
+    line.replace(QLatin1Char('\t'), QStringLiteral("\\t"));
+    return line;
+}
+
+} // namespace orvane
