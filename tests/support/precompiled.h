@@ -2,3 +2,4 @@
 #pragma once
 #include "data/precompiled.h"
 #include <gtest/gtest.h>
+#include "support/Print.h"

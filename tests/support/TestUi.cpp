@@ -1,0 +1,112 @@
+#include "support/TestUi.h"
+
+#include "data/Recordset.h"
+#include "forms/Form.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+
+TestUi::~TestUi() {
+    for (const Box& box : m_boxes)
+        ADD_FAILURE() << "nobody looked at the box: " << box.text.toStdString();
+    for (const Answer& answer : m_answers)
+        ADD_FAILURE() << "nothing asked for the answer: " << answer.kind << ' ' << answer.text.toStdString();
+    for (const Modal& modal : m_modals)
+        ADD_FAILURE() << "the modal form never came up: " << modal.formName.toStdString();
+}
+
+void TestUi::answer(bool yes) {
+    m_answers.push_back({yes ? Answer::Yes : Answer::No, {}});
+}
+
+void TestUi::answer(const QString& text) {
+    m_answers.push_back({Answer::Text, text});
+}
+
+void TestUi::answerCancel() {
+    m_answers.push_back({Answer::Cancel, {}});
+}
+
+void TestUi::inModal(const QString& formName, std::function<void(Form&)> acts) {
+    m_modals.push_back({formName, std::move(acts)});
+}
+
+QStringList TestUi::takeBoxes() {
+    QStringList texts;
+    for (const Box& box : takeBoxesWithTitles())
+        texts << box.text;
+    return texts;
+}
+
+QList<TestUi::Box> TestUi::takeBoxesWithTitles() {
+    return std::exchange(m_boxes, {});
+}
+
+QStringList TestUi::takeQuestions() {
+    return std::exchange(m_questions, {});
+}
+
+void TestUi::box(const QString& text, Icon icon, const QString& title) {
+    m_boxes.append({text, title, icon});
+}
+
+std::optional<TestUi::Answer> TestUi::takeAnswer(const QString& asked) {
+    m_questions << asked;
+    if (m_answers.empty()) {
+        ADD_FAILURE() << "unexpected question: " << asked.toStdString();
+        return std::nullopt;
+    }
+    const Answer answer = m_answers.front();
+    m_answers.pop_front();
+    return answer;
+}
+
+bool TestUi::question(const QString& text, const QString&) {
+    const std::optional<Answer> answer = takeAnswer(text);
+    if (answer && answer->kind != Answer::Yes && answer->kind != Answer::No)
+        ADD_FAILURE() << "a question is answered yes or no: " << text.toStdString();
+    return answer && answer->kind == Answer::Yes;
+}
+
+std::optional<QString> TestUi::inputBox(const QString& prompt, const QString&, const QString&) {
+    const std::optional<Answer> answer = takeAnswer(prompt);
+    if (answer && answer->kind != Answer::Text && answer->kind != Answer::Cancel)
+        ADD_FAILURE() << "an input box is answered by a text or cancelled: " << prompt.toStdString();
+    return answer && answer->kind == Answer::Text ? std::optional(answer->text) : std::nullopt;
+}
+
+void TestUi::show(Form& form) {
+    opened << form.name();
+}
+
+void TestUi::showModal(Form& form) {
+    opened << form.name();
+    if (m_modals.empty()) {
+        ADD_FAILURE() << "unexpected modal form: " << form.name().toStdString();
+        form.unload();
+        return;
+    }
+    const Modal modal = std::move(m_modals.front());
+    m_modals.pop_front();
+    EXPECT_EQ(form.name(), modal.formName);
+    modal.acts(form);
+    if (!form.isClosed()) {
+        ADD_FAILURE() << "the test left the modal form open: " << form.name().toStdString();
+        form.abandon();
+    }
+}
+
+void TestUi::closed(Form& form) {
+    closedForms << form.name();
+}
+
+void TestUi::printForm(Form& form) {
+    printed << form.name();
+}
+
+void TestUi::viewReport(const QString& file, const QString& title, const Recordset& rows) {
+    reports.append({file, title, rows.count()});
+}
+
+} // namespace orvane
