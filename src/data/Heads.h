@@ -1,0 +1,15 @@
+#pragma once
+
+#include "data/Lexer.h"
+
+#include <QStringList>
+
+namespace orvane {
+
+/// The names of a result's columns as the statement's select list writes them, then as its views and tables do.
+QStringList properHeads(const QStringList& names, const Tokens& statement, const QStringList& sources);
+
+/// The one table of a "select ... from T ..." whose rows can be written; empty for anything else.
+QString writableTable(const Tokens& statement);
+
+} // namespace orvane

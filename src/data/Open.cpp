@@ -1,0 +1,192 @@
+#include "data/Physical.h"
+
+#include "data/Schema.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSqlDriver>
+#include <QSqlError>
+#include <QLocale>
+#include <QUrl>
+#include <sqlite3.h>
+
+namespace orvane {
+
+namespace {
+
+using Physical = std::shared_ptr<PhysicalConnection>;
+
+QString uniqueName() {
+    static std::atomic<qint64> last = 0;
+    return QStringLiteral("orvane-%1").arg(++last);
+}
+
+[[noreturn]] void cannotOpen(const QString& what, const QSqlError& error) {
+    const QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
+    throw DataError(QStringLiteral("%1 cannot be opened: %2").arg(what, text.trimmed()));
+}
+
+// SQLite
+
+sqlite3* handleOf(const QSqlDatabase& database) {
+    const QVariant handle = database.driver()->handle();
+    return *static_cast<sqlite3* const*>(handle.constData());
+}
+
+void giveText(sqlite3_context* context, const QString& text) {
+    const QByteArray utf8 = text.toUtf8();
+    sqlite3_result_text(context, utf8.constData(), static_cast<int>(utf8.size()), SQLITE_TRANSIENT);
+}
+
+/// getdate(): the source's fixed clock, or the machine's.
+void getDate(sqlite3_context* context, int, sqlite3_value**) {
+    const auto* source = static_cast<const DataSource::Private*>(sqlite3_user_data(context));
+    giveText(context, source->clock().value_or(QDateTime::currentDateTime()).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+}
+
+/// orvane_text(x): a number as T-SQL writes it, without ".0" behind a whole one; a text as it is.
+void textOf(sqlite3_context* context, int, sqlite3_value** arguments) {
+    if (sqlite3_value_type(arguments[0]) == SQLITE_FLOAT) {
+        giveText(context, QString::number(sqlite3_value_double(arguments[0]), 'f', QLocale::FloatingPointShortest));
+    } else {
+        sqlite3_result_value(context, arguments[0]);
+    }
+}
+
+void prepareSqlite(const Physical& physical, const std::shared_ptr<DataSource::Private>& source) {
+    sqlite3* handle = handleOf(physical->database);
+    // A misspelt name in double quotes is a fault, not a text.
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    sqlite3_create_function(handle, "getdate", 0, SQLITE_UTF8, source.get(), getDate, nullptr, nullptr);
+    sqlite3_create_function(handle, "orvane_text", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, textOf, nullptr, nullptr);
+}
+
+void openSqlite(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target, bool create) {
+    const QString path = QDir(entry.folder).filePath(target.database + QStringLiteral(".db"));
+    const bool exists = QFileInfo(path).size() > 0;
+    if (create && exists) {
+        throw DataError(QStringLiteral("The database file %1 exists already.").arg(path));
+    }
+    if (!create && !QFileInfo::exists(path)) {
+        throw DataError(QStringLiteral("The database file %1 does not exist.").arg(path));
+    }
+    if (create && !QDir().mkpath(entry.folder)) {
+        throw DataError(QStringLiteral("The folder %1 cannot be made.").arg(entry.folder));
+    }
+    physical->gate = path;
+    physical->database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), physical->name);
+    physical->database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=60000"));
+    physical->database.setDatabaseName(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded) +
+                                       (create ? QStringLiteral("?mode=rwc") : QStringLiteral("?mode=rw")));
+    if (!physical->database.open()) {
+        cannotOpen(QStringLiteral("The database file %1").arg(path), physical->database.lastError());
+    }
+    prepareSqlite(physical, physical->source);
+    if (sqlite3_db_readonly(handleOf(physical->database), "main") == 1) {
+        throw DataError(QStringLiteral("The database file %1 is read-only.").arg(path));
+    }
+    QSqlQuery query(physical->database);
+    if (!query.exec(QStringLiteral("pragma user_version")) || !query.next()) {
+        throw DataError(QStringLiteral("The file %1 is not a database.").arg(path));
+    }
+    const int version = query.value(0).toInt();
+    query.finish();
+    if (!create && version != kSchemaVersion) {
+        throw DataError(QStringLiteral("The database file %1 has the schema version %2; this program needs %3.")
+                            .arg(path).arg(version).arg(kSchemaVersion));
+    }
+    for (const char* pragma : {"pragma journal_mode=wal", "pragma synchronous=full", "pragma foreign_keys=on"}) {
+        physical->sendNative(QLatin1StringView(pragma));
+    }
+}
+
+// PostgreSQL and SQL Server
+
+QString fromEnvironment(const char* name, const QString& otherwise) {
+    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariable(name) : otherwise;
+}
+
+QString serverDatabase(const ServerEntry& entry, const ConnectionTarget& target) {
+    const QString name = entry.prefix + target.database;
+    return entry.engine == Engine::Postgresql ? name.toLower() : name;
+}
+
+void connectServer(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target, const QString& database) {
+    const bool postgresql = entry.engine == Engine::Postgresql;
+    physical->database = QSqlDatabase::addDatabase(postgresql ? QStringLiteral("QPSQL") : QStringLiteral("QODBC"), physical->name);
+    physical->database.setUserName(fromEnvironment("ORVANE_DB_USER", target.user));
+    physical->database.setPassword(fromEnvironment("ORVANE_DB_PASSWORD", target.password));
+    if (postgresql) {
+        physical->database.setHostName(entry.host);
+        physical->database.setPort(entry.port > 0 ? entry.port : 5432);
+        physical->database.setDatabaseName(database);
+        physical->database.setConnectOptions(
+            QStringLiteral("connect_timeout=10;tcp_user_timeout=30000;"
+                           "options='-c lock_timeout=60000 -c client_min_messages=warning'"));
+    } else {
+        physical->database.setDatabaseName(
+            QStringLiteral("Driver={%1};Server=%2,%3;Database=%4;TrustServerCertificate=yes")
+                .arg(entry.driver, entry.host).arg(entry.port > 0 ? entry.port : 1433).arg(database));
+    }
+    if (!physical->database.open()) {
+        cannotOpen(QStringLiteral("The database %1 on %2").arg(database, entry.host), physical->database.lastError());
+    }
+}
+
+void disconnect(const Physical& physical) {
+    physical->database.close();
+    physical->database = QSqlDatabase();
+    QSqlDatabase::removeDatabase(physical->name);
+}
+
+void createOnServer(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target, const QString& database) {
+    const bool postgresql = entry.engine == Engine::Postgresql;
+    connectServer(physical, entry, target, postgresql ? QStringLiteral("postgres") : QStringLiteral("master"));
+    // The plain collation makes texts sort and compare as on the other engines, and prefix searches use their index.
+    physical->sendNative(postgresql ? QStringLiteral("create database \"%1\" template template0 encoding 'UTF8' "
+                                                     "lc_collate 'C' lc_ctype 'C.UTF-8'").arg(database)
+                                    : QStringLiteral("create database [%1]").arg(database));
+    disconnect(physical);
+}
+
+void openServer(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target, bool create) {
+    const QString database = serverDatabase(entry, target);
+    physical->gate = QStringLiteral("%1:%2/%3").arg(entry.host).arg(entry.port).arg(database);
+    if (create) {
+        createOnServer(physical, entry, target, database);
+    }
+    connectServer(physical, entry, target, database);
+    if (entry.engine == Engine::SqlServer) {
+        physical->sendNative(QStringLiteral("set dateformat ymd"));
+    }
+    if (create) {
+        return;
+    }
+    QSqlQuery query(physical->database);
+    const int version = query.exec(QStringLiteral("select version from orvaneSchema")) && query.next() ? query.value(0).toInt() : 0;
+    if (version != kSchemaVersion) {
+        throw DataError(QStringLiteral("The database %1 on %2 has the schema version %3; this program needs %4.")
+                            .arg(database, entry.host).arg(version).arg(kSchemaVersion));
+    }
+}
+
+} // namespace
+
+Physical openPhysical(const std::shared_ptr<DataSource::Private>& source, const QString& connectionString, bool create) {
+    const ConnectionTarget target = parseConnectionString(connectionString);
+    const ServerEntry entry = source->servers.entry(target.server);
+    const Physical physical = std::make_shared<PhysicalConnection>();
+    physical->source = source;
+    physical->engine = entry.engine;
+    physical->connectionString = connectionString;
+    physical->name = uniqueName();
+    if (entry.engine == Engine::Sqlite) {
+        openSqlite(physical, entry, target, create);
+    } else {
+        openServer(physical, entry, target, create);
+    }
+    return physical;
+}
+
+} // namespace orvane

@@ -1,0 +1,297 @@
+#include "data/Physical.h"
+
+#include "data/Assert.h"
+#include "data/Translator.h"
+
+#include <QSqlDriver>
+#include <QSqlError>
+#include <QThread>
+
+namespace orvane {
+
+namespace {
+
+constexpr auto kBusy = "The database is in use by another workstation. Nothing was saved; please try again.";
+
+/// The database's own words, without the marks that its client library puts around them.
+QString cleanText(const QSqlError& error) {
+    QString text = error.databaseText().trimmed();
+    if (text.isEmpty()) {
+        text = error.driverText().trimmed();
+    }
+    if (text.startsWith(QStringLiteral("ERROR:"))) {
+        text = text.mid(6).trimmed().section(QStringLiteral("\nLINE "), 0, 0);
+    }
+    return text;
+}
+
+/// SQLite 5, 6: busy, locked. PostgreSQL 55P03, 40001, 40P01: lock not had in time, serialization, deadlock.
+bool isBusy(const QString& code) {
+    static const QStringList codes = {"5", "6", "261", "517", "55P03", "40001", "40P01"};
+    return codes.contains(code);
+}
+
+/// What the engine itself has undone, so that sending it once more writes it once.
+bool mayBeSentAgain(const QString& code) {
+    return code == QStringLiteral("40001") || code == QStringLiteral("40P01");
+}
+
+quintptr thisThread() {
+    return reinterpret_cast<quintptr>(QThread::currentThreadId());
+}
+
+bool changesRows(const QString& text) {
+    const QString start = text.trimmed().left(6).toLower();
+    return start.startsWith(QStringLiteral("insert")) || start.startsWith(QStringLiteral("update")) ||
+           start.startsWith(QStringLiteral("delete")) || start.startsWith(QStringLiteral("create"));
+}
+
+} // namespace
+
+PhysicalConnection::~PhysicalConnection() {
+    database.close();
+    database = QSqlDatabase();
+    QSqlDatabase::removeDatabase(name);
+}
+
+QSqlQuery PhysicalConnection::send(const QString& tsql, const QVariantList& bound) {
+    if (inTransaction && poisoned) {
+        throw DataError(QStringLiteral("An earlier statement of this transaction failed. Nothing of it is saved."), tsql);
+    }
+    try {
+        source->callHook(tsql);
+        tellClock();
+    } catch (...) {
+        poisoned = inTransaction;
+        throw;
+    }
+    const QString text = translate(tsql, engine);
+    refuseSelfLock(text);
+    QSqlQuery query(database);
+    query.setForwardOnly(true);
+    for (int attempt = 1; !execute(query, text, bound); ++attempt) {
+        if (inTransaction || attempt == 3 || !mayBeSentAgain(query.lastError().nativeErrorCode())) {
+            fail(query.lastError(), text);
+        }
+    }
+    return query;
+}
+
+bool PhysicalConnection::execute(QSqlQuery& query, const QString& text, const QVariantList& bound) {
+    ++source->statementsSent;
+    if (bound.isEmpty()) {
+        return query.exec(text);
+    }
+    if (!query.prepare(text)) {
+        return false;
+    }
+    for (const QVariant& value : bound) {
+        query.addBindValue(value);
+    }
+    return query.exec();
+}
+
+QSqlQuery PhysicalConnection::sendNative(const QString& text) {
+    QSqlQuery query(database);
+    query.setForwardOnly(true);
+    if (!query.exec(text)) {
+        fail(query.lastError(), text);
+    }
+    return query;
+}
+
+/// A write beside this workstation's own open transaction would wait for that transaction, which waits for the write.
+void PhysicalConnection::refuseSelfLock(const QString& text) const {
+    if (engine == Engine::Sqlite && !inTransaction && changesRows(text) && source->insideGate(gate)) {
+        throw DataError(QStringLiteral("This workstation has a transaction open on another connection."), text);
+    }
+}
+
+/// On PostgreSQL getdate() reads the fixed clock from a setting of the connection; on SQLite it asks the source itself.
+void PhysicalConnection::tellClock() {
+    if (engine != Engine::Postgresql || clockVersion == source->clockVersion) {
+        return;
+    }
+    const auto clock = source->clock();
+    const QString text = clock ? clock->toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")) : QString();
+    sendNative(QStringLiteral("select set_config('orvane.clock', '%1', false)").arg(text));
+    clockVersion = source->clockVersion;
+}
+
+void PhysicalConnection::fail(const QSqlError& error, const QString& text) {
+    poisoned = inTransaction;
+    const QString code = error.nativeErrorCode();
+    broken = broken || !database.isOpen() || code.startsWith(QStringLiteral("57P0")) || code.startsWith(QStringLiteral("08"));
+    if (broken) {
+        throw DataError(QStringLiteral("The connection to the database server is lost. %1").arg(cleanText(error)), text);
+    }
+    throw DataError(isBusy(code) ? QString::fromUtf8(kBusy) : cleanText(error), text);
+}
+
+void PhysicalConnection::begin() {
+    ORVANE_ASSERT(!inTransaction);
+    source->enterGate(gate);
+    try {
+        source->callHook(QStringLiteral("begin transaction"));
+        tellClock();
+        if (engine == Engine::Sqlite) {
+            sendNative(QStringLiteral("begin immediate"));
+        } else if (engine == Engine::Postgresql) {
+            sendNative(QStringLiteral("begin isolation level read committed"));
+            sendNative(QStringLiteral("select pg_advisory_xact_lock(7461)"));
+        } else {
+            sendNative(QStringLiteral("begin transaction"));
+            QSqlQuery gateResult = sendNative(QStringLiteral(
+                "declare @r int; exec @r = sp_getapplock 'orvane', 'Exclusive', 'Transaction', 60000; select @r"));
+            if (!gateResult.next() || gateResult.value(0).toInt() < 0) {
+                throw DataError(QString::fromUtf8(kBusy));
+            }
+        }
+    } catch (...) {
+        if (engine != Engine::Sqlite) {
+            QSqlQuery(database).exec(QStringLiteral("rollback"));
+        }
+        source->leaveGate(gate);
+        throw;
+    }
+    inTransaction = true;
+    poisoned = false;
+    ++source->openTransactions;
+}
+
+void PhysicalConnection::commit() {
+    if (poisoned) {
+        rollback();
+        throw DataError(QStringLiteral("An earlier statement of this transaction failed. Nothing of it is saved."));
+    }
+    try {
+        source->callHook(QStringLiteral("commit transaction"));
+    } catch (...) {
+        rollback();
+        throw;
+    }
+    QSqlQuery query(database);
+    const bool done = query.exec(engine == Engine::SqlServer ? QStringLiteral("commit transaction") : QStringLiteral("commit"));
+    if (!done) {
+        const QSqlError error = query.lastError();
+        try {
+            fail(error, QStringLiteral("commit"));
+        } catch (const DataError& fault) {
+            const bool unknown = broken;
+            rollback();
+            if (unknown) {
+                throw CommitUnknown(QStringLiteral("The connection broke while saving. Check whether the entry was saved before "
+                                                   "entering it again. ") + fault.description(), fault.statement());
+            }
+            throw;
+        }
+    }
+    endTransaction();
+    try {
+        source->callHook(QStringLiteral("transaction committed"));
+    } catch (const DataError& fault) {
+        throw CommitUnknown(fault.description(), fault.statement());
+    }
+}
+
+void PhysicalConnection::rollback() noexcept {
+    QSqlQuery query(database);
+    // SQLite has rolled back by itself after some faults; then there is nothing left to undo.
+    if (!query.exec(engine == Engine::SqlServer ? QStringLiteral("rollback transaction") : QStringLiteral("rollback"))) {
+        broken = broken || engine != Engine::Sqlite;
+    }
+    endTransaction();
+}
+
+void PhysicalConnection::endTransaction() {
+    inTransaction = false;
+    poisoned = false;
+    --source->openTransactions;
+    source->leaveGate(gate);
+}
+
+// The source's pool.
+
+std::shared_ptr<PhysicalConnection> DataSource::Private::take(const QString& connectionString) {
+    const QString key = QStringLiteral("%1\n%2").arg(thisThread()).arg(connectionString);
+    for (;;) {
+        std::shared_ptr<PhysicalConnection> physical;
+        {
+            const QMutexLocker lock(&m_mutex);
+            auto& idle = m_idle[key];
+            if (idle.isEmpty()) {
+                break;
+            }
+            physical = idle.takeLast();
+        }
+        // A server that was restarted has closed its idle connections.
+        const bool alive = physical->engine == Engine::Sqlite || QSqlQuery(physical->database).exec(QStringLiteral("select 1"));
+        if (alive) {
+            physical->source = shared_from_this();
+            ++physical->lease;
+            return physical;
+        }
+    }
+    std::shared_ptr<PhysicalConnection> physical = openPhysical(shared_from_this(), connectionString, false);
+    physical->poolKey = key;
+    return physical;
+}
+
+void DataSource::Private::giveBack(std::shared_ptr<PhysicalConnection> physical) noexcept {
+    if (physical->inTransaction) {
+        physical->rollback();
+    }
+    ++physical->lease;
+    const std::shared_ptr<Private> self = std::move(physical->source);
+    if (!physical->broken && !physical->poolKey.isEmpty()) {
+        const QMutexLocker lock(&m_mutex);
+        m_idle[physical->poolKey].append(std::move(physical));
+    }
+}
+
+void DataSource::Private::callHook(const QString& tsql) {
+    std::function<void(const QString&)> hook;
+    {
+        const QMutexLocker lock(&m_mutex);
+        hook = m_hook;
+    }
+    if (hook) {
+        hook(tsql);
+    }
+}
+
+void DataSource::Private::setHook(std::function<void(const QString&)> hook) {
+    const QMutexLocker lock(&m_mutex);
+    m_hook = std::move(hook);
+}
+
+std::optional<QDateTime> DataSource::Private::clock() const {
+    const QMutexLocker lock(&m_mutex);
+    return m_clock;
+}
+
+void DataSource::Private::setClock(std::optional<QDateTime> at) {
+    const QMutexLocker lock(&m_mutex);
+    m_clock = std::move(at);
+    ++clockVersion;
+}
+
+void DataSource::Private::enterGate(const QString& gate) {
+    const QMutexLocker lock(&m_mutex);
+    if (m_gates.contains({gate, thisThread()})) {
+        throw DataError(QStringLiteral("This workstation has a transaction open on another connection."));
+    }
+    m_gates.insert({gate, thisThread()});
+}
+
+void DataSource::Private::leaveGate(const QString& gate) {
+    const QMutexLocker lock(&m_mutex);
+    m_gates.remove({gate, thisThread()});
+}
+
+bool DataSource::Private::insideGate(const QString& gate) const {
+    const QMutexLocker lock(&m_mutex);
+    return m_gates.contains({gate, thisThread()});
+}
+
+} // namespace orvane

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "data/Connection.h"
+#include "data/ServerList.h"
+
+#include <QHash>
+#include <QMutex>
+#include <QSet>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QVariantList>
+#include <atomic>
+
+namespace orvane {
+
+/// One open connection of the engine. Lives in its source's pool while no Connection uses it.
+struct PhysicalConnection {
+    ~PhysicalConnection();
+
+    std::shared_ptr<DataSource::Private> source; ///< set while it is in use
+    Engine engine = Engine::Sqlite;
+    QString connectionString;
+    QString poolKey;    ///< connection string and thread
+    QString gate;       ///< the database that a transaction on it locks
+    QString name;       ///< Qt's name of it
+    QSqlDatabase database;
+    qint64 lease = 0;   ///< counts the uses; a recordset of an earlier use cannot write any more
+    bool broken = false;
+    bool inTransaction = false;
+    bool poisoned = false; ///< a statement of the open transaction failed
+    int clockVersion = 0;  ///< of the server clock that PostgreSQL was told
+
+    /// Sends one T-SQL statement, with ? for each bound value. Raises DataError; a failure poisons an open transaction.
+    QSqlQuery send(const QString& tsql, const QVariantList& bound = {});
+    /// Sends text in the engine's own words, outside the rules for statements: begin, commit, settings.
+    QSqlQuery sendNative(const QString& text);
+
+    void begin();
+    void commit();
+    void rollback() noexcept;
+
+private:
+    bool execute(QSqlQuery& query, const QString& text, const QVariantList& bound);
+    void refuseSelfLock(const QString& text) const;
+    void tellClock();
+    [[noreturn]] void fail(const QSqlError& error, const QString& text);
+    void endTransaction();
+};
+
+struct DataSource::Private : std::enable_shared_from_this<DataSource::Private> {
+    explicit Private(const QString& home) : homeFolder(home), servers(home) {}
+
+    QString homeFolder;
+    ServerList servers;
+    std::atomic<int> openTransactions = 0;
+    std::atomic<qint64> statementsSent = 0;
+    std::atomic<int> clockVersion = 0;
+
+    std::shared_ptr<PhysicalConnection> take(const QString& connectionString);
+    void giveBack(std::shared_ptr<PhysicalConnection> physical) noexcept;
+
+    void callHook(const QString& tsql);
+    void setHook(std::function<void(const QString&)> hook);
+    std::optional<QDateTime> clock() const;
+    void setClock(std::optional<QDateTime> at);
+
+    void enterGate(const QString& gate); ///< raises DataError when this thread is in it already
+    void leaveGate(const QString& gate);
+    bool insideGate(const QString& gate) const;
+
+private:
+    mutable QMutex m_mutex;
+    QHash<QString, QList<std::shared_ptr<PhysicalConnection>>> m_idle;
+    std::function<void(const QString&)> m_hook;
+    std::optional<QDateTime> m_clock;
+    QSet<std::pair<QString, quintptr>> m_gates; ///< database and thread of each open transaction
+};
+
+/// Opens a new connection; `create` makes the database where it is missing, and no schema version is asked for.
+std::shared_ptr<PhysicalConnection> openPhysical(const std::shared_ptr<DataSource::Private>& source,
+                                                 const QString& connectionString, bool create);
+
+} // namespace orvane

@@ -1,0 +1,95 @@
+#include "data/RecordsetRows.h"
+
+#include "data/Catalog.h"
+#include "data/Value.h"
+
+namespace orvane {
+
+namespace {
+
+QString quotedName(const QString& name) {
+    return QStringLiteral("[") + name + QStringLiteral("]");
+}
+
+} // namespace
+
+void Recordset::Private::dropChanges() {
+    adding = false;
+    changes.clear();
+}
+
+std::shared_ptr<PhysicalConnection> Recordset::Private::connection() const {
+    const std::shared_ptr<PhysicalConnection> target = physical.lock();
+    if (!target || target->lease != lease) {
+        throw DataError(QStringLiteral("The connection of this recordset is closed."));
+    }
+    return target;
+}
+
+void Recordset::Private::write() {
+    const std::shared_ptr<PhysicalConnection> target = connection();
+    if (table.isEmpty()) {
+        throw DataError(QStringLiteral("The rows of this recordset cannot be written."));
+    }
+    if (adding) {
+        insert(*target);
+    } else if (!changes.isEmpty()) {
+        change(*target);
+    }
+    dropChanges();
+}
+
+void Recordset::Private::insert(PhysicalConnection& target) {
+    QStringList names, marks;
+    QVariantList bound;
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        names += quotedName(rows.columns[change.key()]);
+        marks += QStringLiteral("?");
+        bound += valueForBinding(change.value());
+    }
+    target.send(names.isEmpty() ? QStringLiteral("insert into %1 default values").arg(quotedName(table))
+                                : QStringLiteral("insert into %1 (%2) values (%3)")
+                                      .arg(quotedName(table), names.join(QStringLiteral(", ")), marks.join(QStringLiteral(", "))),
+                bound);
+    row = static_cast<int>(rows.count());
+    for (int i = 0; i < rows.columns.size(); ++i) {
+        rows.values.push_back(changes.value(i));
+    }
+}
+
+/// The key finds the row; the old values of the changed columns prove that nobody else has changed them since.
+void Recordset::Private::change(PhysicalConnection& target) {
+    QStringList assignments, conditions;
+    QVariantList bound, oldValues;
+    const auto addCondition = [&](const QString& name, const QVariant& old) {
+        conditions += quotedName(name) + (old.isNull() ? QStringLiteral(" is null") : QStringLiteral(" = ?"));
+        if (!old.isNull()) {
+            oldValues += valueForBinding(old);
+        }
+    };
+    for (const QString& key : Catalog::instance().table(table)->key) {
+        const int index = rows.indexOf(key);
+        if (index < 0) {
+            throw DataError(QStringLiteral("The row cannot be written: its key %1 was not read.").arg(key));
+        }
+        addCondition(key, rows.at(row, index));
+    }
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        const QString& name = rows.columns[change.key()];
+        assignments += quotedName(name) + QStringLiteral(" = ?");
+        bound += valueForBinding(change.value());
+        addCondition(name, rows.at(row, change.key()));
+    }
+    const QString tsql = QStringLiteral("update %1 set %2 where %3")
+                             .arg(quotedName(table), assignments.join(QStringLiteral(", ")), conditions.join(QStringLiteral(" and ")));
+    if (target.send(tsql, bound + oldValues).numRowsAffected() != 1) {
+        target.poisoned = target.inTransaction;
+        throw DataError(QStringLiteral("Row cannot be located for updating. Some values may have been changed since it was last read."),
+                        tsql);
+    }
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        rows.at(row, change.key()) = change.value();
+    }
+}
+
+} // namespace orvane

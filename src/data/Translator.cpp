@@ -1,0 +1,46 @@
+#include "data/Translator.h"
+
+#include "data/Ddl.h"
+#include "data/Lexer.h"
+#include "data/Render.h"
+#include "data/Rewrite.h"
+
+namespace orvane {
+
+QString translate(const QString& tsql, Engine engine) {
+    Tokens tokens = tokenize(tsql);
+    if (isDefinition(tokens)) {
+        return translateDefinition(tokens, engine);
+    }
+    if (engine != Engine::SqlServer) {
+        rewriteNotIn(tokens);
+        rewriteTextJoins(tokens);
+        rewriteLiterals(tokens);
+    }
+    if (engine == Engine::Postgresql) {
+        rewriteLikeForPostgresql(tokens);
+    }
+    return render(tokens, 0, tokens.size(), engine);
+}
+
+QStringList splitScript(const QString& script) {
+    QStringList statements;
+    QString current;
+    const auto finish = [&] {
+        if (!tokenize(current).isEmpty()) {
+            statements += current.trimmed();
+        }
+        current.clear();
+    };
+    for (const QString& line : script.split(u'\n')) {
+        if (line.trimmed().compare(u"go", Qt::CaseInsensitive) == 0) {
+            finish();
+        } else {
+            current += line + u'\n';
+        }
+    }
+    finish();
+    return statements;
+}
+
+} // namespace orvane

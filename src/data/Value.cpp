@@ -1,0 +1,153 @@
+#include "data/Value.h"
+
+#include "data/DataError.h"
+#include "data/Sql.h"
+
+#include <QLocale>
+#include <QTime>
+#include <cmath>
+
+namespace orvane {
+
+namespace {
+
+const auto kDateTime = QStringLiteral("yyyy-MM-dd HH:mm:ss");
+
+[[noreturn]] void refuse(const QVariant& value, const QString& column, const char* what) {
+    throw DataError(QStringLiteral("\"%1\" is no %2: column %3.").arg(valueText(value), QLatin1StringView(what), column));
+}
+
+bool isEmptyValue(const QVariant& value) {
+    if (!value.isValid() || value.isNull()) {
+        return true;
+    }
+    const int type = value.typeId();
+    return (type == QMetaType::QDate && !value.toDate().isValid()) || (type == QMetaType::QDateTime && !value.toDateTime().isValid());
+}
+
+double numberFor(const QVariant& value, const QString& column) {
+    bool ok = false;
+    const double number = value.typeId() == QMetaType::QString ? value.toString().trimmed().toDouble(&ok) : value.toDouble(&ok);
+    if (!ok || !std::isfinite(number)) {
+        refuse(value, column, "number");
+    }
+    return number;
+}
+
+qlonglong integerFor(const QVariant& value, const QString& column) {
+    bool ok = false;
+    const qlonglong integer = value.typeId() == QMetaType::Double ? 0 : value.toString().trimmed().toLongLong(&ok);
+    if (ok) {
+        return integer;
+    }
+    const double number = numberFor(value, column);
+    if (number != std::trunc(number) || std::abs(number) > 9e15) {
+        refuse(value, column, "whole number");
+    }
+    return static_cast<qlonglong>(number);
+}
+
+QVariant dateFor(const QVariant& value, const QString& column) {
+    const QVariant date = value.typeId() == QMetaType::QString ? dateFromText(value.toString().trimmed()) : value;
+    if (date.typeId() != QMetaType::QDate && date.typeId() != QMetaType::QDateTime) {
+        refuse(value, column, "date");
+    }
+    return date.toDate();
+}
+
+QVariant dateTimeFor(const QVariant& value, const QString& column) {
+    switch (value.typeId()) {
+    case QMetaType::QDate:
+        return value.toDate().startOfDay();
+    case QMetaType::QDateTime:
+        return value;
+    case QMetaType::QTime:
+        // A time of day alone stands on the first day that the server counts from.
+        return QDateTime(QDate(1900, 1, 1), value.toTime());
+    default: {
+        const QVariant dateTime = dateTimeFromText(value.toString().trimmed());
+        if (dateTime.typeId() != QMetaType::QDateTime) {
+            refuse(value, column, "date and time");
+        }
+        return dateTime;
+    }
+    }
+}
+
+} // namespace
+
+QString valueText(const QVariant& value) {
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
+        return {};
+    case QMetaType::Double:
+    case QMetaType::Float: {
+        const double number = value.toDouble();
+        const bool plain = number == 0 || (std::abs(number) < 1e15 && std::abs(number) >= 1e-9);
+        return value.isNull() ? QString() : QString::number(number, plain ? 'f' : 'g', QLocale::FloatingPointShortest);
+    }
+    case QMetaType::Bool:
+        return value.isNull() ? QString() : value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+    case QMetaType::QDate:
+        return value.toDate().toString(Qt::ISODate);
+    case QMetaType::QDateTime:
+        return value.toDateTime().toString(kDateTime);
+    case QMetaType::QTime:
+        return value.toTime().toString(QStringLiteral("HH:mm:ss"));
+    default:
+        return value.isNull() ? QString() : value.toString();
+    }
+}
+
+QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind kind) {
+    const bool isText = kind == ColumnKind::Text || kind == ColumnKind::Time;
+    if (isEmptyValue(value) || (!isText && value.typeId() == QMetaType::QString && value.toString().trimmed().isEmpty())) {
+        return {};
+    }
+    switch (kind) {
+    case ColumnKind::Number:
+        return numberFor(value, column);
+    case ColumnKind::Integer:
+    case ColumnKind::Flag:
+        return value.typeId() == QMetaType::Bool ? QVariant(value.toBool() ? 1LL : 0LL) : QVariant(integerFor(value, column));
+    case ColumnKind::Date:
+        return dateFor(value, column);
+    case ColumnKind::DateTime:
+        return dateTimeFor(value, column);
+    case ColumnKind::Text:
+    case ColumnKind::Time:
+        break;
+    }
+    if (value.typeId() == QMetaType::Double) {
+        return sqlNumber(value.toDouble(), QStringLiteral("The value of column %1").arg(column));
+    }
+    const QString text = valueText(value);
+    sqlQuotedText(text, QStringLiteral("The text of column %1").arg(column)); // raises for what no text may hold
+    return text;
+}
+
+QVariant valueForBinding(const QVariant& value) {
+    const int type = value.typeId();
+    return type == QMetaType::QDate || type == QMetaType::QDateTime ? QVariant(valueText(value)) : value;
+}
+
+QVariant dateFromText(const QString& text) {
+    if (text.size() < 10 || text.at(4) != u'-') {
+        return text;
+    }
+    const QDate date = QDate::fromString(text.left(10), Qt::ISODate);
+    return date.isValid() ? QVariant(date) : QVariant(text);
+}
+
+QVariant dateTimeFromText(const QString& text) {
+    if (text.size() < 10 || text.at(4) != u'-') {
+        return text;
+    }
+    QDateTime at = QDateTime::fromString(text.left(19).replace(u'T', u' '), kDateTime);
+    if (!at.isValid() && text.size() == 10) {
+        at = QDate::fromString(text, Qt::ISODate).startOfDay();
+    }
+    return at.isValid() ? QVariant(at) : QVariant(text);
+}
+
+} // namespace orvane
