@@ -1,0 +1,38 @@
+#include "session/RoleLog.h"
+
+namespace orvane {
+
+namespace {
+
+const QString separator = QStringLiteral("  |  ");
+
+void appendLine(Program& program, const QString& fileName, QString line) {
+    // One message is one line, whatever it holds.
+    line.replace(QLatin1Char('\n'), QLatin1Char(' ')).replace(QLatin1Char('\r'), QLatin1Char(' '));
+    QFile file(program.homeFolder() + QLatin1Char('/') + fileName);
+    const bool isNew = !file.exists();
+    if (!file.open(QIODevice::Append | QIODevice::Text))
+        throw DataError(QStringLiteral("%1 cannot be written: %2").arg(fileName, file.errorString()));
+    if (isNew)
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    file.write(line.toUtf8() + '\n');
+}
+
+QString stamp(const QDateTime& at) {
+    return at.toString(QStringLiteral("dd/MM/yyyy HH:mm:ss"));
+}
+
+} // namespace
+
+void logUserActivity(Program& program, const QString& message, const QString& who) {
+    appendLine(program, QStringLiteral("ServerUserActivities.txt"),
+               stamp(program.getServerDateTime()) + separator + message + separator + who);
+}
+
+void logServerError(Program& program, const QString& operation, const DataError& fault) {
+    appendLine(program, QStringLiteral("ServerErrorLog.txt"),
+               stamp(program.ui().now()) + separator + operation + separator + fault.code() + separator +
+                   fault.description() + separator + QStringLiteral("billing database"));
+}
+
+} // namespace orvane

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "session/Program.h"
+
+namespace orvane {
+
+/// One allotment of a user to a role and its database work. It tells its outcomes by events; a fault goes to the error
+/// log.
+class UserRole {
+public:
+    explicit UserRole(Program& program) : m_program(program) {}
+
+    std::function<void()> EmptyRoleID, InvalidRoleID, EmptyUsername, InvalidUsername, AllocationComplete, RecordExists;
+
+    qlonglong RoleID() const { return m_roleID; }
+    void setRoleID(const QString& text); ///< a whole number of at most 9 digits
+    const QString& username() const { return m_username; }
+    void setUsername(const QString& text); ///< at most 18 characters
+
+    void Submit();
+    Recordset LoadData();
+    Recordset LoadRoleID();
+    Recordset LoadUsername();
+    Recordset UserRoleMatch(const QString& id); ///< the users of one role; `id` is the head of a tree node, digits only
+
+private:
+    Recordset load(const QString& operation, const Sql& sql);
+
+    Program& m_program;
+    qlonglong m_roleID = 0;
+    QString m_username;
+};
+
+} // namespace orvane

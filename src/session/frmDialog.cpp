@@ -1,0 +1,40 @@
+#include "session/frmDialog.h"
+
+#include "session/Accounts.h"
+
+namespace orvane {
+
+frmDialog::frmDialog(Program& owner) : Screen(owner, QStringLiteral("frmDialog"), QStringLiteral("Change Password")) {
+    for (TextBox* box : {&txtPass, &txtPassN, &txtPassC})
+        box->masked();
+    txtPassC.onLeave = [this] { txtPassC_LostFocus(); };
+    OKButton.onClick = [this] { OKButton_Click(); };
+    CancelButton.onClick = [this] { unload(); };
+}
+
+Layout frmDialog::layout() const {
+    using namespace orvane::layout;
+    return column({field("User Name", txtUser, 24), field("Old Password", txtPass, 24),
+                   field("New Password", txtPassN, 24), field("Confirm Password", txtPassC, 24),
+                   buttons({}, {&CancelButton, &OKButton})});
+}
+
+void frmDialog::txtPassC_LostFocus() {
+    if (txtPassC.text() == txtPassN.text())
+        return;
+    program.box(QStringLiteral("Alert! Unmatched password. Kindly re-type to go on."), Icon::Critical);
+    txtPassC.setFocus();
+}
+
+void frmDialog::OKButton_Click() {
+    // Pressed by Enter the box never lost the focus, so the same test stands here too.
+    if (txtPassC.text() != txtPassN.text()) {
+        txtPassC_LostFocus();
+        return;
+    }
+    changeUserPassword(program, txtUser.text(), txtPass.text(), txtPassN.text());
+    for (TextBox* box : {&txtUser, &txtPass, &txtPassN, &txtPassC})
+        box->clear();
+}
+
+} // namespace orvane

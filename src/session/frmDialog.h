@@ -1,0 +1,28 @@
+#pragma once
+
+#include "session/Program.h"
+
+namespace orvane {
+
+/// "Change Password".
+class frmDialog : public Screen {
+public:
+    explicit frmDialog(Program& program);
+
+    TextBox txtUser{*this, "txtUser"};
+    TextBox txtPass{*this, "txtPass"};
+    TextBox txtPassN{*this, "txtPassN"};
+    TextBox txtPassC{*this, "txtPassC"};
+    Button OKButton{*this, "OKButton", "&OK"};
+    Button CancelButton{*this, "CancelButton", "&Cancel"};
+
+    Layout layout() const override;
+    Button* defaultButton() override { return &OKButton; }
+    Button* cancelButton() override { return &CancelButton; }
+
+private:
+    void txtPassC_LostFocus();
+    void OKButton_Click();
+};
+
+} // namespace orvane

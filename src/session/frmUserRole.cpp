@@ -1,0 +1,64 @@
+#include "session/frmUserRole.h"
+
+namespace orvane {
+
+frmUserRole::frmUserRole(Program& owner)
+    : Screen(owner, QStringLiteral("frmUserRole"), QStringLiteral("User Allocation To Roles")), oNewUserRole(owner) {
+    answerEvents();
+    cboRoleID.onClick = [this] { oNewUserRole.setRoleID(cboRoleID.text()); };
+    cboUsername.onClick = [this] { oNewUserRole.setUsername(cboUsername.text()); };
+    cboUsername.onLeave = [this] { oNewUserRole.setUsername(cboUsername.text()); };
+    TreeView1.onClick = [this] { TreeView1_NodeClick(); };
+    cmdSubmit.onClick = [this] { cmdSubmit_Click(); };
+    cmdCancel.onClick = [this] { unload(); };
+}
+
+void frmUserRole::answerEvents() {
+    const auto tell = [this](const QString& text) { return [this, text] { program.box(text, Icon::Information); }; };
+    oNewUserRole.AllocationComplete = tell(QStringLiteral("Submission Successful."));
+    oNewUserRole.EmptyRoleID = tell(QStringLiteral("RoleID cannot be empty. Matching Record Exists."));
+    oNewUserRole.EmptyUsername = tell(QStringLiteral("Username cannot be empty."));
+    oNewUserRole.InvalidRoleID = tell(QStringLiteral("Invalid RoleID."));
+    oNewUserRole.InvalidUsername = tell(QStringLiteral("Invalid Username."));
+    oNewUserRole.RecordExists = tell(QStringLiteral("Submission Failed! Matching Record Exists."));
+}
+
+Layout frmUserRole::layout() const {
+    using namespace orvane::layout;
+    return column({row({field("RoleID", cboRoleID, 12), field("Username", cboUsername, 24), stretch()}),
+                   growing(row({growing(cell(TreeView1)), growing(cell(ListView1))})),
+                   buttons({}, {&cmdCancel, &cmdSubmit})});
+}
+
+void frmUserRole::Form_Load() {
+    TreeView1.clear();
+    TreeView1.addNode({QStringLiteral("root"), QStringLiteral("Available Roles"), {}, true});
+    for (Recordset roles = oNewUserRole.LoadRoleID(); !roles.eof(); roles.moveNext()) {
+        const QString id = roles.text(QStringLiteral("RoleID"));
+        cboRoleID.addItem(id);
+        TreeView1.addNode({id + QStringLiteral("abc"),
+                           id + QStringLiteral(" : ") + roles.text(QStringLiteral("LoginRole")), QStringLiteral("root"),
+                           false});
+    }
+    for (Recordset users = oNewUserRole.LoadUsername(); !users.eof(); users.moveNext())
+        cboUsername.addItem(users.text(QStringLiteral("Username")));
+}
+
+void frmUserRole::cmdSubmit_Click() {
+    if (cboRoleID.text().isEmpty() || cboUsername.text().isEmpty()) {
+        program.box(QStringLiteral("Please enter values into both fields above"));
+        return;
+    }
+    oNewUserRole.Submit();
+}
+
+void frmUserRole::TreeView1_NodeClick() {
+    ListView1.clear();
+    const Tree::Node* node = TreeView1.selectedNode();
+    // The root names no role.
+    if (!node || node->parentKey.isEmpty())
+        return;
+    ListView1.load(oNewUserRole.UserRoleMatch(node->text.left(3)));
+}
+
+} // namespace orvane

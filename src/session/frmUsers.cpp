@@ -1,0 +1,128 @@
+#include "session/frmUsers.h"
+
+namespace orvane {
+
+frmUsers::frmUsers(Program& owner) : Screen(owner, QStringLiteral("frmUsers"), QStringLiteral("Application Users")) {
+    txtPassword.masked();
+    txtConfirmPWD.masked();
+    cmdApply.setEnabled(false);
+    TreeView1.onClick = [this] { TreeView1_NodeClick(); };
+    txtUserName.onChange = [this] { cmdApply.setEnabled(!txtUserName.text().trimmed().isEmpty()); };
+    txtConfirmPWD.onLeave = [this] { txtConfirmPWD_LostFocus(); };
+    cmdApply.onClick = [this] { cmdApply_Click(); };
+    cmdRefresh.onClick = [this] { clearFields(); };
+    cmdCancel.onClick = [this] { unload(); };
+}
+
+Layout frmUsers::layout() const {
+    using namespace orvane::layout;
+    return column(
+        {growing(row({growing(cell(TreeView1)),
+                      column({field("Username", txtUserName, 24), field("Full Name", txtFullName, 32),
+                              field("Password", txtPassword, 24), field("Confirm Password", txtConfirmPWD, 24),
+                              field("Account Status", cboAcctStatus, 16), field("Branch Code", cboBranchCode, 16),
+                              stretch()})})),
+         buttons({&cmdRefresh}, {&cmdCancel, &cmdApply})});
+}
+
+void frmUsers::Form_Load() {
+    cboAcctStatus.addItems({QStringLiteral("Enabled"), QStringLiteral("Disabled")});
+    Connection connection = program.openBilling();
+    for (Recordset branches(connection, Sql("SELECT BranchCode FROM LagosBranches ORDER BY BranchCode ASC"));
+         !branches.eof(); branches.moveNext())
+        cboBranchCode.addItem(branches.text(QStringLiteral("BranchCode")));
+    buildTree();
+}
+
+void frmUsers::buildTree() {
+    TreeView1.clear();
+    TreeView1.addNode({QStringLiteral("zpt"), QStringLiteral("Zelmont Trust Bank Plc"), {}, true});
+    Connection connection = program.openBilling();
+    Recordset users(
+        connection,
+        Sql("SELECT Distinct Username, Fullname, Password, AccountStatus, BranchCode FROM ApplicationUsers"));
+    for (; !users.eof(); users.moveNext())
+        TreeView1.addNode({users.text(QStringLiteral("Username")) + QStringLiteral("ijkl"),
+                           users.text(QStringLiteral("Fullname")), QStringLiteral("zpt"), false});
+}
+
+void frmUsers::clearFields() {
+    for (TextBox* box : {&txtUserName, &txtFullName, &txtPassword, &txtConfirmPWD})
+        box->clear();
+    cboAcctStatus.setListIndex(-1);
+    cboBranchCode.setListIndex(-1);
+}
+
+void frmUsers::TreeView1_NodeClick() {
+    const Tree::Node* node = TreeView1.selectedNode();
+    if (!node || node->parentKey.isEmpty())
+        return;
+    Connection connection = program.openBilling();
+    const Recordset user(connection, Sql("SELECT Username, Fullname, Password, AccountStatus, BranchCode FROM "
+                                         "ApplicationUsers WHERE FullName ='")
+                                         << node->text << "'");
+    if (user.eof())
+        return;
+    txtUserName.setText(user.text(QStringLiteral("Username")));
+    txtFullName.setText(user.text(QStringLiteral("Fullname")));
+    txtPassword.setText(user.text(QStringLiteral("Password")));
+    cboAcctStatus.setText(user.text(QStringLiteral("AccountStatus")));
+    cboBranchCode.setText(user.text(QStringLiteral("BranchCode")));
+}
+
+void frmUsers::txtConfirmPWD_LostFocus() {
+    if (txtConfirmPWD.text() == txtPassword.text())
+        return;
+    program.box(QStringLiteral("Alert! Unmatched password. Kindly re-type to go on."), Icon::Critical);
+    txtConfirmPWD.setFocus();
+}
+
+void frmUsers::cmdApply_Click() {
+    if (cboAcctStatus.text().isEmpty()) {
+        program.box(QStringLiteral("Alert! Account Status is required."));
+        cboAcctStatus.setFocus();
+        return;
+    }
+    if (cboBranchCode.text().isEmpty()) {
+        program.box(QStringLiteral("Alert! Branch Code is required."));
+        cboBranchCode.setFocus();
+        return;
+    }
+    // Pressed by Enter the box never lost the focus, so the passwords are compared here too.
+    if (txtConfirmPWD.text() != txtPassword.text()) {
+        txtConfirmPWD_LostFocus();
+        return;
+    }
+    if (!addAccount()) {
+        program.box(QStringLiteral("Alert! Username already assigned to someone else."), Icon::Critical);
+        return;
+    }
+    program.box(QStringLiteral("Account creation succeeded."));
+    buildTree();
+    clearFields();
+    cmdApply.setEnabled(false);
+    txtUserName.setFocus();
+}
+
+bool frmUsers::addAccount() {
+    Connection connection = program.openBilling();
+    Transaction transaction(connection);
+    Recordset account(
+        connection,
+        Sql("SELECT Username, Fullname, Password, AccountStatus, BranchCode FROM ApplicationUsers WHERE Username = '")
+            << txtUserName.text().trimmed() << "'");
+    if (!account.eof())
+        return false;
+    account.addNew();
+    account.set(QStringLiteral("Username"), txtUserName.text().trimmed());
+    account.set(QStringLiteral("Fullname"), txtFullName.text());
+    // Stored as typed: the way in by password compares the scrambled form, which is given by other means.
+    account.set(QStringLiteral("Password"), txtPassword.text().trimmed());
+    account.set(QStringLiteral("AccountStatus"), cboAcctStatus.text());
+    account.set(QStringLiteral("BranchCode"), cboBranchCode.text());
+    account.update();
+    transaction.commit();
+    return true;
+}
+
+} // namespace orvane
