@@ -64,13 +64,14 @@ void ComboBox::setListIndex(int index) {
 
 void ComboBox::setText(const QString& text) {
     const QString value = m_upper ? text.toUpper() : text;
+    // Of two entries with one text, the chosen one stays chosen.
+    if (m_index >= 0 && value.compare(m_text, Qt::CaseInsensitive) == 0)
+        return;
     const auto found = std::find_if(m_items.cbegin(), m_items.cend(), [&](const Item& item) {
         return item.text.compare(value, Qt::CaseInsensitive) == 0;
     });
     if (found != m_items.cend()) {
-        const int index = int(found - m_items.cbegin());
-        if (index != m_index)
-            setListIndex(index);
+        setListIndex(int(found - m_items.cbegin()));
         return;
     }
     if (m_style == ListOnly || (value == m_text && m_index == -1))
@@ -217,8 +218,10 @@ void Timer::tick() {
 MenuItem::MenuItem(Form& form, const QString& name, const QString& caption, MenuItem* menu)
     : Control(form, ControlKind::Menu, name), m_menu(menu) {
     setCaption(caption);
-    if (menu)
-        menu->m_entries.append(this);
+    if (!menu)
+        return;
+    menu->m_entries.append(this);
+    setParentFrame(menu); // an entry of a hidden or disabled menu cannot be reached
 }
 
 } // namespace orvane

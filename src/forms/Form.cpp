@@ -32,36 +32,79 @@ bool Form::unload() {
         return true;
     bool accepted = false;
     run([&] { accepted = Form_Unload(); });
-    if (!accepted)
-        return false;
+    // Form_Unload may have ended the program, which closes every form.
+    if (m_closed)
+        return true;
+    if (accepted)
+        close();
+    return accepted;
+}
+
+void Form::abandon() {
+    if (!m_closed)
+        close();
+}
+
+void Form::close() {
     m_closed = true;
     m_ui.closed(*this);
     if (onClosed)
         onClosed(*this);
-    return true;
+}
+
+void Form::activated() {
+    if (onActivated)
+        onActivated(*this);
 }
 
 void Form::run(const std::function<void()>& handler) {
     if (m_running)
         handler();
     else
-        userEvent(handler);
+        runOutermost(handler);
 }
 
+namespace {
+
+/// Puts a value back when its scope ends, with or without a fault.
+template <typename T>
+class Restorer {
+public:
+    Restorer(T& value, T during) : m_value(value), m_before(value) { value = during; }
+    ~Restorer() { m_value = m_before; }
+    Restorer(const Restorer&) = delete;
+    Restorer& operator=(const Restorer&) = delete;
+
+private:
+    T& m_value;
+    T m_before;
+};
+
+} // namespace
+
 void Form::userEvent(const std::function<void()>& event) {
-    if (m_running)
-        return;
-    m_running = true;
+    if (!m_running && !m_closed)
+        runOutermost(event);
+}
+
+void Form::runOutermost(const std::function<void()>& event) {
+    const Restorer onStack(m_events, m_events + 1);
+    if (!runCatching(event))
+        afterFault();
+    afterEvent();
+}
+
+bool Form::runCatching(const std::function<void()>& event) {
+    // The form still counts as running while its user reads the fault, so that its timers do not pile up boxes.
+    const Restorer running(m_running, true);
     try {
         event();
-        m_running = false;
+        return true;
     } catch (const DataError& fault) {
-        m_running = false;
         m_ui.setBusy(false);
         m_ui.box(fault.description());
-        afterFault();
+        return false;
     }
-    afterEvent();
 }
 
 void Form::add(Control* control) {

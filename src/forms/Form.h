@@ -43,15 +43,20 @@ public:
     bool isLoaded() const { return m_loaded; }
     /// Closes the form: Form_Unload may refuse; then `onClosed` and Ui::closed. The form object is deleted later by its owner.
     bool unload();
+    /// Closes the form without asking Form_Unload: the program ends.
+    void abandon();
     bool isClosed() const { return m_closed; }
-    bool isRunning() const { return m_running; } ///< a handler of this form is under way
+    bool isRunning() const { return m_events > 0; } ///< a handler of this form, or what follows it, is under way
     std::function<void(Form&)> onClosed;
+    /// The desktop calls it when its user has brought the form's window to the front.
+    void activated();
+    std::function<void(Form&)> onActivated;
 
     /// Runs a handler. Outermost, it is the edge: a DataError is shown once in a plain box and the screen stays. Inside another handler of
     /// this form the fault rises to that one.
     void run(const std::function<void()>& handler);
     /// What the desktop and the script player call for everything that a user does: as run, but while a handler of this form still
-    /// runs (a save under way) it does nothing, so that no button can be pressed twice.
+    /// runs (a save under way) and when the form has closed it does nothing, so that no button can be pressed twice.
     void userEvent(const std::function<void()>& event);
     /// Runs last, after a fault was shown: put the pointer and the like back.
     virtual void afterFault() {}
@@ -67,6 +72,9 @@ private:
     friend class Control;
     void add(Control* control);
     void focus(Control* control);
+    void close();
+    void runOutermost(const std::function<void()>& event);
+    bool runCatching(const std::function<void()>& event); ///< false: a fault was shown
 
     Ui& m_ui;
     QString m_name;
@@ -76,7 +84,8 @@ private:
     Control* m_focused = nullptr;
     bool m_loaded = false;
     bool m_closed = false;
-    bool m_running = false;
+    bool m_running = false; ///< a handler is under way: the user's events are dropped
+    int m_events = 0;       ///< user events whose end has not come
 };
 
 } // namespace orvane

@@ -8,7 +8,8 @@
 namespace orvane {
 
 void Grid::load(const Recordset& rows) {
-    m_rows = rows;
+    // The screen may still be walking through its rows while the grid is painted.
+    m_rows = rows.detached();
     m_row = m_rows.count() > 0 ? 0 : -1;
     touchContent();
 }
@@ -44,6 +45,12 @@ bool Grid::isHidden(int column) const {
 void Grid::hide(const QStringList& columns) {
     for (const QString& column : columns)
         m_looks[column.toLower()].hidden = true;
+    touchContent();
+}
+
+void Grid::showAllColumns() {
+    for (ColumnLook& look : m_looks)
+        look.hidden = false;
     touchContent();
 }
 

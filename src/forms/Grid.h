@@ -19,6 +19,7 @@ public:
     int columnIndex(const QString& name) const; ///< -1 when there is none
     bool isHidden(int column) const;
     void hide(const QStringList& columns);
+    void showAllColumns(); ///< undoes every hide, for a grid that shows now this query, now that
     void setFormat(const QString& column, const QString& format); ///< "#,###.00" and the like; see data/Money.h
     QString format(int column) const;
     void setWidth(const QString& column, int characters); ///< 0: from the content

@@ -22,6 +22,12 @@ QString iconName(Icon icon) {
     return {};
 }
 
+QString withoutLineBreaks(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\\n"));
+    text.replace(QLatin1Char('\n'), QStringLiteral("\\n"));
+    return text.replace(QLatin1Char('\r'), QStringLiteral("\\n"));
+}
+
 } // namespace
 
 void EventLog::write(const QString& line) {
@@ -55,16 +61,11 @@ QString EventLog::quoted(const QString& text) {
     QString inside = text;
     inside.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
     inside.replace(QLatin1Char('"'), QStringLiteral("\\\""));
-    return QLatin1Char('"') + oneLine(inside) + QLatin1Char('"');
+    return QLatin1Char('"') + withoutLineBreaks(inside) + QLatin1Char('"');
 }
 
 QString EventLog::oneLine(const QString& text) {
-    QString line = text;
-    line.replace(QStringLiteral("\r\n"), QStringLiteral("\\n"));
-    line.replace(QLatin1Char('\n'), QStringLiteral("\\n"));
-    line.replace(QLatin1Char('\r'), QStringLiteral("\\n"));
-    line.replace(QLatin1Char('\t'), QStringLiteral("\\t"));
-    return line;
+    return withoutLineBreaks(text).replace(QLatin1Char('\t'), QStringLiteral("\\t"));
 }
 
 } // namespace orvane

@@ -24,6 +24,11 @@ QString shell() {
     return QStringLiteral("MdiTolmek");
 }
 
+/// A value as a script can write it, which knows one line end only.
+QString comparable(QString value) {
+    return value.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
 } // namespace
 
 const Player::Command* Player::findCommand(const QString& name) {
@@ -283,7 +288,7 @@ void Player::expect(const Words& words) {
     const QString wanted = words.at(1).text;
     if (what == QLatin1String("box"))
         return expectBox(wanted);
-    const QString value = control(words.first()).valueText();
+    const QString value = comparable(control(words.first()).valueText());
     if (value != wanted)
         throw PlayError(
             QStringLiteral("expected %1, but %2 is %3").arg(EventLog::quoted(wanted), what, EventLog::quoted(value)));
@@ -293,7 +298,7 @@ void Player::expectBox(const QString& text) {
     const std::optional<QString> box = m_log.takeBox();
     if (!box)
         throw PlayError(QStringLiteral("expected a box %1, but none has come up").arg(EventLog::quoted(text)));
-    if (*box != text)
+    if (comparable(*box) != text)
         throw PlayError(
             QStringLiteral("expected a box %1, but it said %2").arg(EventLog::quoted(text), EventLog::quoted(*box)));
 }
@@ -305,9 +310,10 @@ void Player::expectSql(const Words& words) {
     const Recordset rows = query(words.at(1).text, words.at(2).text);
     if (rows.columns().isEmpty() || rows.eof())
         throw PlayError(QStringLiteral("expected %1, but there is no row").arg(EventLog::quoted(wanted)));
-    if (rows.text(0) != wanted)
+    const QString value = comparable(rows.text(0));
+    if (value != wanted)
         throw PlayError(
-            QStringLiteral("expected %1, but it is %2").arg(EventLog::quoted(wanted), EventLog::quoted(rows.text(0))));
+            QStringLiteral("expected %1, but it is %2").arg(EventLog::quoted(wanted), EventLog::quoted(value)));
 }
 
 Recordset Player::query(const QString& database, const QString& statement) {
