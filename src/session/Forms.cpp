@@ -1,7 +1,26 @@
 #include "session/Forms.h"
 
+#include "session/MdiTolmek.h"
+#include "session/frmLogin.h"
+#include "session/frmStart.h"
+#include "session/frmWelcome.h"
+
 namespace orvane {
 
-void registerSessionForms(Program&) {}
+namespace {
+
+template <typename FormClass>
+std::unique_ptr<Form> make(Program& program) {
+    return std::make_unique<FormClass>(program);
+}
+
+} // namespace
+
+void registerSessionForms(Program& program) {
+    program.registerForm(QStringLiteral("MdiTolmek"), make<MdiTolmek>);
+    program.registerForm(QStringLiteral("frmLogin"), make<frmLogin>);
+    program.registerForm(QStringLiteral("frmWelcome"), make<frmWelcome>);
+    program.registerForm(QStringLiteral("frmStart"), make<frmStart>);
+}
 
 } // namespace orvane

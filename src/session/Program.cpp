@@ -4,9 +4,15 @@
 
 namespace orvane {
 
-Program::Program(const QString& homeFolder, Ui& ui) : m_homeFolder(homeFolder), m_ui(ui), m_data(homeFolder) {}
+Program::Program(const QString& homeFolder, Ui& ui) : m_homeFolder(homeFolder), m_ui(ui) {}
 
 Program::~Program() = default;
+
+DataSource& Program::data() {
+    if (!m_data)
+        m_data = std::make_unique<DataSource>(m_homeFolder);
+    return *m_data;
+}
 
 void Program::registerForm(const QString& name, FormFactory factory) {
     m_factories[name.toLower()] = std::move(factory);
@@ -35,7 +41,12 @@ Form& Program::form(const QString& name) {
     const QString key = name.toLower();
     ORVANE_ASSERT(m_factories.contains(key));
     std::unique_ptr<Form> made = m_factories[key](*this);
-    made->onClosed = [this, key](Form&) {
+    made->onActivated = [this](Form& active) {
+        if (m_shown.removeOne(&active))
+            m_shown.append(&active);
+    };
+    made->onClosed = [this, key](Form& closed) {
+        m_shown.removeOne(&closed);
         const auto found = m_forms.find(key);
         m_closedForms.push_back(std::move(found->second));
         m_forms.erase(found);
@@ -50,8 +61,13 @@ void Program::open(const QString& name) {
     }
     Form& opened = form(name);
     opened.load();
-    if (!opened.isClosed())
-        m_ui.show(opened);
+    if (opened.isClosed())
+        return;
+    if (name.compare(QLatin1String("MdiTolmek"), Qt::CaseInsensitive) != 0) {
+        m_shown.removeOne(&opened);
+        m_shown.append(&opened);
+    }
+    m_ui.show(opened);
 }
 
 void Program::openModal(const QString& name) {
@@ -65,29 +81,40 @@ void Program::openModal(const QString& name) {
         m_ui.showModal(opened);
 }
 
+void Program::end() {
+    QList<Form*> open;
+    for (const auto& entry : m_forms)
+        open << entry.second.get();
+    for (Form* form : open)
+        form->abandon();
+    m_lock.reset();
+    m_ui.quit();
+}
+
 void Program::deleteClosedForms() {
     std::erase_if(m_closedForms, [](const std::unique_ptr<Form>& closed) { return !closed->isRunning(); });
 }
 
 void Program::box(const QString& text, Icon icon, const QString& title) {
-    ORVANE_ASSERT(m_data.openTransactions() == 0);
+    ORVANE_ASSERT(!isInTransaction());
     m_ui.box(text, icon, title);
 }
 
 void Program::boxAfterTransaction(const QString& text) {
     m_pendingBoxes << text;
-    if (m_data.openTransactions() == 0)
-        flushBoxes();
+    flushBoxes();
 }
 
 void Program::flushBoxes() {
+    if (isInTransaction())
+        return;
     const QStringList boxes = std::exchange(m_pendingBoxes, {});
     for (const QString& text : boxes)
         box(text);
 }
 
 bool Program::question(const QString& text, const QString& title) {
-    ORVANE_ASSERT(m_data.openTransactions() == 0);
+    ORVANE_ASSERT(!isInTransaction());
     return m_ui.question(text, title);
 }
 

@@ -6,6 +6,7 @@
 #include "forms/Form.h"
 #include "session/Session.h"
 
+#include <QLockFile>
 #include <map>
 
 namespace orvane {
@@ -26,13 +27,14 @@ public:
     Program& operator=(const Program&) = delete;
 
     Session session;
-    DataSource& data() { return m_data; }
+    /// Raises DataError when the home folder's orvane.ini is broken.
+    DataSource& data();
     Ui& ui() { return m_ui; }
     const QString& homeFolder() const { return m_homeFolder; }
 
     /// A connection to the billing database / the Accounting database. Raises DataError.
-    Connection openBilling() { return m_data.open(session.gConnStr); }
-    Connection openAccounting() { return m_data.open(session.gAcctConnStr); }
+    Connection openBilling() { return data().open(session.gConnStr); }
+    Connection openAccounting() { return data().open(session.gAcctConnStr); }
 
     void registerForm(const QString& name, FormFactory factory);
     bool isRegistered(const QString& name) const;
@@ -44,6 +46,10 @@ public:
     void open(const QString& name);
     /// Loads and shows a form modally; returns when it has closed.
     void openModal(const QString& name);
+    /// The screen that was shown or brought forward last, modal ones and the shell aside; null when there is none.
+    Form* activeForm() const { return m_shown.isEmpty() ? nullptr : m_shown.last(); }
+    /// Ends the program: closes every form without asking it, and quits.
+    void end();
     /// Closed forms are deleted here, when no handler of theirs runs any more.
     void deleteClosedForms();
 
@@ -67,13 +73,21 @@ public:
     /// dBillTotal in upper-case words into session.sAmountWords.
     void amountToUpperWords();
 
+    /// Holds the lock that keeps a second copy on this home folder and machine away; false when another one holds it.
+    /// Raises DataError when no lock can be made.
+    bool lockInstance();
+
 private:
+    bool isInTransaction() const { return m_data && m_data->openTransactions() > 0; }
+
     QString m_homeFolder;
     Ui& m_ui;
-    DataSource m_data;
+    std::unique_ptr<DataSource> m_data; ///< made on first use, so that its faults show where the program starts
+    std::unique_ptr<QLockFile> m_lock;
     std::map<QString, FormFactory> m_factories;      ///< by lower-cased name
     std::map<QString, std::unique_ptr<Form>> m_forms; ///< loaded, by lower-cased name
     std::vector<std::unique_ptr<Form>> m_closedForms;
+    QList<Form*> m_shown; ///< open screens inside the shell, the active one last
     QStringList m_pendingBoxes;
 };
 

@@ -62,6 +62,7 @@ struct Session {
     QString sAuditCoy;
     QString sClientName;  ///< the purpose of a visit, on the attendance screen
     QString sDebtMode, sRptPanelMode, sRptKind;
+    QString sRptPanelLabel; ///< what the label of rptPanelSummary asks for
     QString sRctLine1, sRctLine2, sRctLine3, sRctLine4, sRctLine5;
     QString sBatchNo, sBatchMonth, sBatchYear;
 };

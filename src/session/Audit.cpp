@@ -1,0 +1,91 @@
+#include "session/Program.h"
+
+#include <QSysInfo>
+
+namespace orvane {
+
+namespace {
+
+const QString shortTime = QStringLiteral("HH:mm");
+
+} // namespace
+
+/// Where the environment does not name the workstation or its user, the host's name and the system's own user variable
+/// stand in.
+void Program::readEnvironmentIdentity() {
+    session.sComputerName = qEnvironmentVariable("computername");
+    if (session.sComputerName.isEmpty())
+        session.sComputerName = QSysInfo::machineHostName();
+    session.sEnvUserName = qEnvironmentVariable("username");
+    if (session.sEnvUserName.isEmpty())
+        session.sEnvUserName = qEnvironmentVariable("USER");
+}
+
+void Program::writeAuditTrail(const QString& /*userName*/, const QString& action, const QString& tranCode,
+                              const QString& remarks, const QString& source) {
+    try {
+        readEnvironmentIdentity();
+        Connection connection = openBilling();
+        connection.call(QStringLiteral("SpAudiTrail"),
+                        {{QStringLiteral("@userName"), session.gUsername},
+                         {QStringLiteral("@userAction"), action},
+                         {QStringLiteral("@ActionDate"), session.gServerDate},
+                         {QStringLiteral("@ActionTime"), session.gServerTime.toString(shortTime)},
+                         {QStringLiteral("@TranCode"), tranCode},
+                         {QStringLiteral("@Remarks"), remarks},
+                         {QStringLiteral("@Src"), session.gModuleName + QStringLiteral(": from ") + source}});
+    } catch (const DataError& fault) {
+        boxAfterTransaction(fault.description());
+    }
+}
+
+void Program::openUserActivity(bool isLogout, bool autoLogoff, const QString& remarks) {
+    const QDateTime now = getServerDateTime();
+    session.dWorkDate = now.date();
+    try {
+        Connection connection = openBilling();
+        Transaction transaction(connection);
+        Recordset activity(connection, Sql("select * from UserActivities where 1=2"));
+        activity.addNew();
+        activity.set(QStringLiteral("username"), session.gUsername);
+        activity.set(QStringLiteral("LoginDate"), now.date());
+        activity.set(QStringLiteral("LoginTime"), now.toString(shortTime));
+        activity.set(QStringLiteral("islogout"), int(isLogout));
+        if (isLogout) {
+            activity.set(QStringLiteral("LogoutDate"), now.date());
+            activity.set(QStringLiteral("LogoutTime"), now.toString(shortTime));
+        }
+        activity.set(QStringLiteral("AutoLogoff"), int(autoLogoff));
+        activity.set(QStringLiteral("Remarks"), remarks);
+        activity.update();
+        const Recordset last(connection, Sql("select top 1 SNO from UserActivities order by SNO desc"));
+        session.gActivitySNo = last.integer(QStringLiteral("SNo"));
+        transaction.commit();
+    } catch (const DataError& fault) {
+        boxAfterTransaction(fault.description());
+    }
+}
+
+void Program::closeUserActivity(bool isLogout, bool autoLogoff, const QString& remarks) {
+    session.bAutoLogoff = false;
+    const QDateTime now = getServerDateTime();
+    session.dWorkDate = now.date();
+    try {
+        Connection connection = openBilling();
+        Recordset activity(connection, Sql("select * from UserActivities where SNO=") << session.gActivitySNo);
+        if (activity.eof())
+            return;
+        activity.set(QStringLiteral("islogout"), int(isLogout));
+        if (isLogout) {
+            activity.set(QStringLiteral("LogoutDate"), now.date());
+            activity.set(QStringLiteral("LogoutTime"), now.toString(shortTime));
+        }
+        activity.set(QStringLiteral("AutoLogoff"), int(autoLogoff));
+        activity.set(QStringLiteral("Remarks"), remarks);
+        activity.update();
+    } catch (const DataError& fault) {
+        boxAfterTransaction(fault.description());
+    }
+}
+
+} // namespace orvane

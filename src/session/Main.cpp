@@ -1,0 +1,124 @@
+#include "session/Main.h"
+
+#include "session/Settings.h"
+#include "session/StartFiles.h"
+
+namespace orvane {
+
+namespace {
+
+QString connectionString(const QString& server, const QString& database) {
+    return QStringLiteral("Driver={SQL Server};Server=") + server + QStringLiteral(";Database=") + database +
+           QStringLiteral(";UID=zorva;PWD=vexlarin");
+}
+
+bool refuseSecondCopy(Program& program) {
+    if (program.lockInstance())
+        return false;
+    program.box(program.session.gModuleName + QStringLiteral(" Module is Already Running !"), Icon::Critical,
+                QStringLiteral("Error"));
+    return true;
+}
+
+bool proveUser(Program& program, Connection& connection) {
+    Session& session = program.session;
+    const Recordset user(connection,
+                         Sql("SELECT EmpID, Fullname,username,loginrole,hname,hospID FROM vwUsers WHERE Username = '")
+                             << session.gUsername << "'  and loginrole='" << session.gModuleName << "'");
+    if (user.eof()) {
+        program.box(QStringLiteral("Invalid Login OR session has expired!!! Please Re-login"));
+        return false;
+    }
+    session.gEmpID = user.text(QStringLiteral("empID"));
+    session.gUsername = user.text(QStringLiteral("username"));
+    session.gFullName = user.text(QStringLiteral("fullName"));
+    session.gHospName = user.text(QStringLiteral("hname"));
+    session.gHospID = user.text(QStringLiteral("hospID"));
+    session.gHospIDName = session.gHospID;
+    if (!session.gHospID.isEmpty())
+        return true;
+    program.box(QStringLiteral("Value needed for Hospital ID/Name"));
+    return false;
+}
+
+bool takeHospitalNames(Program& program, Connection& connection) {
+    Session& session = program.session;
+    const Recordset hospital(connection, Sql("SELECT hospID,Hname,HName2 FROM HospList WHERE hospID = '")
+                                             << session.gHospID << "'");
+    if (hospital.eof())
+        return true;
+    session.gHospName2 = hospital.text(QStringLiteral("hname2"));
+    if (!session.gHospName.isEmpty() && !session.gHospName2.isEmpty())
+        return true;
+    program.box(QStringLiteral("Value needed for Hospital ID/Name"));
+    return false;
+}
+
+/// A fault of the start is shown, and the start is over.
+bool showingFaults(Program& program, const std::function<bool()>& steps) {
+    try {
+        return steps();
+    } catch (const DataError& fault) {
+        program.box(fault.description());
+        return false;
+    }
+}
+
+} // namespace
+
+bool prepareServer(Program& program) {
+    Session& session = program.session;
+    session.dPostDate = session.gServerDate;
+    const std::optional<qint16> number = readMadeSys(program);
+    if (!number)
+        return false;
+    session.iHNO = *number;
+    session.sHospitalNoStr = QString::number(*number);
+    if (session.gServerName.isEmpty())
+        session.gServerName = QStringLiteral("SERVER");
+    session.gConnStr = connectionString(session.gServerName, QStringLiteral("Dunmarch"));
+    session.gAcctConnStr = connectionString(session.gServerName, QStringLiteral("Accounting"));
+    session.bReceiptHeadLoaded = false;
+    session.gPatientsFolder = QStringLiteral("\\\\") + session.gServerName + QStringLiteral("\\Patients\\");
+    session.bFirstShow = true;
+    session.bAutoLogoff = false;
+    session.gModuleName = QStringLiteral("BILLING");
+    session.bAlertOn = false;
+    session.bBillSound = false;
+    return true;
+}
+
+bool prepareSession(Program& program) {
+    {
+        Connection connection = program.openBilling();
+        if (!proveUser(program, connection) || !takeHospitalNames(program, connection))
+            return false;
+    }
+    return readSettings(program);
+}
+
+bool Main(Program& program, const std::optional<QString>& userName) {
+    return showingFaults(program, [&] {
+        if (!prepareServer(program) || refuseSecondCopy(program))
+            return false;
+        if (userName)
+            program.session.gUsername = *userName;
+        else if (!readSysDoc(program))
+            return false;
+        if (!prepareSession(program))
+            return false;
+        program.open(QStringLiteral("MdiTolmek"));
+        return true;
+    });
+}
+
+bool MainWithLogin(Program& program) {
+    return showingFaults(program, [&] {
+        if (!prepareServer(program) || refuseSecondCopy(program))
+            return false;
+        program.open(QStringLiteral("frmWelcome"));
+        return true;
+    });
+}
+
+} // namespace orvane

@@ -1,0 +1,131 @@
+#include "session/MdiTolmek.h"
+
+#include <QDir>
+
+namespace orvane {
+
+namespace {
+
+constexpr unsigned restColor = 0xff8080;
+constexpr unsigned alarmColor = 0xff0000;
+
+} // namespace
+
+MdiTolmek::MdiTolmek(Program& owner) : Screen(owner, QStringLiteral("MdiTolmek"), QStringLiteral("Billing : Orvane")) {
+    Frame1.holds({&lblServer, &lblDate, &lblTime});
+    buildMenus();
+    Picture1.onDblClick = [this] { Picture1_DblClick(); };
+    cmdView.onClick = [this] { program.open(QStringLiteral("frmFlash")); };
+    Timer2.onTimer = [this] { refreshServerClock(); };
+    Timer1.onTimer = [this] { checkWaitingVisits(); };
+    tmrMDI.onTimer = [this] { tmrMDI_Timer(); };
+    tmrSound.onTimer = [this] { tmrSound_Timer(); };
+}
+
+/// The clock stands in the middle of the strip, cmdView at its right edge.
+Layout MdiTolmek::layout() const {
+    using namespace orvane::layout;
+    return row({cell(Picture1), cell(Picture2), stretch(), cell(lblServer), cell(lblDate), cell(lblTime), stretch(),
+                cell(cmdView)});
+}
+
+void MdiTolmek::Form_Load() {
+    Control* accounts = find(QStringLiteral("mnuAccts"));
+    accounts->setVisible(false);
+    refreshServerClock();
+    SbrTolmek.setPanel(3, session.gFullName);
+    find(QStringLiteral("mnuEPE"))->setCaption(QStringLiteral("Log Off ") + session.gUsername);
+    program.readEnvironmentIdentity();
+    program.writeAuditTrail(session.gUsername, QStringLiteral("Login Billing"), {}, {}, session.sComputerName);
+    {
+        Connection connection = program.openBilling();
+        const Recordset user(connection, Sql("select username from UsersForAccts where username ='")
+                                             << session.gUsername << "'");
+        accounts->setVisible(!user.eof());
+    }
+    program.openUserActivity(false, false, session.gModuleName);
+}
+
+bool MdiTolmek::Form_Unload() {
+    if (session.bAutoLogoff) {
+        endSession(true);
+        return true;
+    }
+    if (!program.question(QStringLiteral(" Do you want to Exit the Application?"), QStringLiteral("Exit Application")))
+        return false;
+    endSession(false);
+    return true;
+}
+
+void MdiTolmek::endSession(bool autoLogoff) {
+    program.closeUserActivity(true, autoLogoff, session.gModuleName);
+    program.writeAuditTrail(session.gUsername, QStringLiteral("Login Out"), {}, {}, session.sComputerName);
+    program.end();
+}
+
+void MdiTolmek::refreshServerClock() {
+    program.ui().processEvents();
+    const QDateTime now = program.getServerDateTime();
+    // No reading, or the server's date went back: the clock stays.
+    if (!now.isValid() || (session.gServerDate.isValid() && now.date() < session.gServerDate))
+        return;
+    session.gServerDate = now.date();
+    session.gServerTime = QTime(now.time().hour(), now.time().minute());
+    lblDate.setText(session.gServerDate.toString(QStringLiteral("dd/MM/yyyy")));
+    lblTime.setText(session.gServerTime.toString(QStringLiteral("HH:mm")));
+    program.ui().processEvents();
+}
+
+void MdiTolmek::checkWaitingVisits() {
+    program.ui().processEvents();
+    {
+        Connection connection = program.openBilling();
+        const Recordset waiting(connection,
+                                Sql("SELECT Fullname,Date,Time,Client from vwhConsultingVisitsForBilling where date='")
+                                    << session.gServerDate << "' order by fullname ");
+        tmrMDI.setEnabled(!waiting.eof());
+        session.bBillSound = !waiting.eof();
+    }
+    tmrSound.setEnabled(session.bBillSound);
+    program.ui().processEvents();
+}
+
+void MdiTolmek::tmrMDI_Timer() {
+    session.bAlertOn = false;
+    Picture1.setColor(flashToggle ? alarmColor : restColor);
+    flashToggle = !flashToggle;
+}
+
+void MdiTolmek::tmrSound_Timer() {
+    if (soundTicks < 5) {
+        ++soundTicks;
+        return;
+    }
+    soundTicks = 0;
+    program.ui().playSound(QDir(program.homeFolder()).filePath(QStringLiteral("ring1.wav")));
+}
+
+/// Silences the alert, or lets it sound again.
+void MdiTolmek::Picture1_DblClick() {
+    const bool silence = session.bFirstShow;
+    session.bFirstShow = !session.bFirstShow;
+    if (silence)
+        Picture1.setColor(restColor);
+    Timer1.setEnabled(!silence);
+    tmrMDI.setEnabled(!silence);
+    tmrSound.setEnabled(!silence);
+}
+
+void MdiTolmek::VerifyApptDate() {
+    Connection connection = program.openBilling();
+    if (!Recordset(connection, Sql("select * from qryhNextAppt")).eof())
+        sPrompt.prepend(QStringLiteral("--Some Patients Appt Date is Due Today--\n"));
+}
+
+void MdiTolmek::VerifyVisitsToday() {
+    Connection connection = program.openBilling();
+    if (!Recordset(connection, Sql("select * from qryhVisitsForToday")).eof())
+        sPrompt.prepend(QStringLiteral("--There are Visits to the clinic Today--\n"));
+}
+
+} // namespace orvane

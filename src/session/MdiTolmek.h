@@ -1,0 +1,84 @@
+#pragma once
+
+#include "session/Program.h"
+
+#include <memory>
+#include <vector>
+
+namespace orvane {
+
+/// The main window: the menus that open every screen, the server's clock, and the alert while visits wait for billing.
+class MdiTolmek : public Screen {
+public:
+    explicit MdiTolmek(Program& owner);
+
+    Layout layout() const override;
+    void Form_Load() override;
+    bool Form_Unload() override;
+
+    // Prompts of the day; each puts its line in front of sPrompt when there is something to say.
+    void VerifyApptDate();
+    void VerifyVisitsToday();
+    void VerifyDueDischDate() {}
+    void VerifyDueDelivery() {}
+    QString sPrompt;
+
+private:
+    enum class Look { Shown, Hidden, HiddenAndDisabled };
+    /// A menu (`inMenu` false), or an entry of the menu above it. An entry opens a screen or runs a handler, or has no
+    /// action.
+    struct MenuEntry {
+        bool inMenu;
+        const char* name;
+        const char* caption;
+        Look look = Look::Shown;
+        const char* opens = nullptr;
+        void (MdiTolmek::*run)() = nullptr;
+    };
+    static const QVector<MenuEntry>& menuTable();
+    void buildMenus();
+    void act(const MenuEntry& entry);
+
+    void refreshServerClock();
+    void checkWaitingVisits();
+    void tmrMDI_Timer();
+    void tmrSound_Timer();
+    void Picture1_DblClick();
+    void endSession(bool autoLogoff);
+
+    void mnuPrint_Click();
+    void mnuEPE_Click();
+    void mnuRPtES_Click();
+    void mnuPCB_Click();
+    void mnuTB_Click();
+    void mnuTBBP_Click();
+    void mnuGL_Click();
+    void mnuBFT_Click();
+    void mnuINC_Click();
+    void mnuCR_Click();
+    void mnuAcctEnable_Click();
+    void mnuAcctDisable_Click();
+    void openTrialBalance(const QString& kind);
+    void openPanel(const QString& mode, const QString& label);
+    void viewToday(const Sql& sql, const QString& emptyMessage, const QString& report, const QString& title);
+
+    Picture Picture1{*this, QStringLiteral("Picture1")};
+    Picture Picture2{*this, QStringLiteral("Picture2")};
+    Frame Frame1{*this, QStringLiteral("Frame1")};
+    Label lblServer{*this, QStringLiteral("lblServer"), QStringLiteral("Server Date && Time: ")};
+    Label lblDate{*this, QStringLiteral("lblDate")};
+    Label lblTime{*this, QStringLiteral("lblTime")};
+    Button cmdView{*this, QStringLiteral("cmdView"), QStringLiteral("Patients from Doctor")};
+    StatusBar SbrTolmek{*this, QStringLiteral("SbrTolmek"), 3};
+    Timer Timer2{*this, QStringLiteral("Timer2"), 60000, true};
+    Timer Timer1{*this, QStringLiteral("Timer1"), 60000, true};
+    Timer tmrMDI{*this, QStringLiteral("tmrMDI"), 500, false};
+    Timer tmrSound{*this, QStringLiteral("tmrSound"), 60000, false};
+    Timer tmrIdle{*this, QStringLiteral("tmrIdle"), 10000, false}; ///< the hook of an idle rule; it does nothing
+    std::vector<std::unique_ptr<MenuItem>> m_menus;
+
+    bool flashToggle = false;
+    qint16 soundTicks = 0;
+};
+
+} // namespace orvane

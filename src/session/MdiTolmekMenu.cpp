@@ -1,0 +1,219 @@
+#include "session/MdiTolmek.h"
+
+#include "session/StartFiles.h"
+#include "session/Accounts.h"
+
+namespace orvane {
+
+/// The menus in display order. A hidden entry is reached only where the section [menu] of orvane.ini turns it on.
+const QVector<MdiTolmek::MenuEntry>& MdiTolmek::menuTable() {
+    constexpr Look shown = Look::Shown;
+    constexpr Look hidden = Look::Hidden;
+    using M = MdiTolmek;
+    static const QVector<MenuEntry> table = {
+        {false, "mnuFile", "&File"},
+        {true, "mnuApprvCode", "HMO Approval Code", shown, "frmApprvCode"},
+        {true, "mnuCoyInfo", "Client/Company Information", shown, "frmRetainership"},
+        {true, "mnuSupp", "Suppliers Information", shown, "frmSupplers"},
+        {true, "mnuEII", "Expense Items Information", shown, "frmExpenseItems"},
+        {true, "mnuRevCat", "Revenue Type/Category", shown, "frmRevCat"},
+        {true, "mnuUPC", "Update Patient Company", hidden, "frmCoyUpdate"},
+        {true, "mnuBanks", "Banks", hidden, "frmBanks"},
+        {true, "mnuOffAttd", "Offline Attendance", shown, "frmRecordsOffline"},
+        {true, "mnuPrint", "Print", shown, nullptr, &M::mnuPrint_Click},
+        {true, "mnuEPE", "E&xit", shown, nullptr, &M::mnuEPE_Click},
+
+        {false, "mnuActivities", "&Activities"},
+        {true, "mnuVerify", "Collate / Verify Bill", shown, "frmBillingVerify"},
+        {true, "mnuViewColl", "View Revenue from Collated Bills ", shown, "frmBillProcess"},
+        {true, "mnuPayVouch", "Payment Voucher", shown, "frmExpensePay"},
+        {true, "mnuMIGFC", "Monthly Bill Processing For Clients (Batch Processing)", shown, "frmBillProcessing"},
+        {true, "mnuSBTAPP", "Shift UnProcessed Bills to Another Period / Month", shown, "frmBillProcessingShift"},
+        {true, "mnuLastBatch", "Reverse Processed Batch", shown, "frmBillReverseProcessing"},
+        {true, "mnuAdmDepo", "Advance Receipt / Deposit", hidden, "frmReceiptDeposit"},
+        {true, "mnuRct", " Receipt Entry", hidden, "frmReceiptTemp"},
+        {true, "mnuDisc", "Discount", hidden, "frmBillDiscount"},
+        {true, "mnuPrintB", "Print Patient Invoice", shown, "FrmRptBillsByPat"},
+        {true, "mnuRPtES", "Print Patient Receipt", shown, nullptr, &M::mnuRPtES_Click},
+        {true, "mnuOffline", "Offline Payment Entries", shown, "frmReceiptManual"},
+        {true, "mnuPCR", "Clients' Payment Update ", hidden},
+        {true, "mnuPSITC", "Prepare Manual  Bill", hidden, "frmExistBill"},
+        {true, "mnuPCBILL", "Prepare Client Bill", hidden},
+        {true, "mnuPCB", "Generate Client Bill", hidden, nullptr, &M::mnuPCB_Click},
+
+        {false, "mnuAccts", "A&ccounts"},
+        {true, "mnuTB", "Trial Balance", shown, nullptr, &M::mnuTB_Click},
+        {true, "mnuTBBP", "Trial Balance by Period (Actual)", shown, nullptr, &M::mnuTBBP_Click},
+        {true, "mnuGL", "General ledger", shown, nullptr, &M::mnuGL_Click},
+        {true, "mnuCTTA", "Cash Transfer to Accounts", shown, "frmRevCashAcct"},
+        {true, "mnuCRD", "Cash Receipt Details/Distribution", shown, "frmRevCashAdjust"},
+        {true, "mnuRHFCB", "View Revenue from Collated Bills", shown, "frmRevCatEdit"},
+        {true, "mnuSuppAcctUpdate", "Post Suppliers Entries (Payables)", shown, "frmSuppliersAcct"},
+        {true, "mnuPMPBFC", "Post Monthly Proceessed bill for Clients (Receivables)", shown, "frmBillProcessingPost"},
+        {true, "mnuPCOB", "Preprocessing Checks on Bills (Convert Unprocessed Bills to Capitated && Vice versa)", shown,
+         "frmBillToCapitated"},
+
+        {false, "mnuOutlets", "&Service Outlets"},
+        {true, "mnuReqEntrt", "Request Entries", shown, "frmInvestigatePublic"},
+        {true, "mnuDFO", "Part Payment [Deposit]", hidden},
+        {true, "mnuCBFSO", "Collate Bill forService Outlets", shown, "frmBillingVerify"},
+        {true, "mnuCBFHPC", "Collate Bill for Hospital Patients (Cash)", hidden},
+
+        {false, "mnuSearch", "Searc&h", hidden},
+        {true, "mnuEditFind", "Find if a Patient Record Exists", shown, "frmFind"},
+        {true, "mnuEditArecord", "&Cancel a Bill/Receipt"},
+
+        {false, "mnuView", "&View", hidden},
+        {true, "mnuVSII", "Patient Information", shown, "frmPatientInfo"},
+
+        {false, "mnuReport", "&Report"},
+        {true, "mnuABCBAC", "Attendance by Company (Bills && Capitation)", shown, "FrmRptAttendByCoy"},
+        {true, "AYTBABBO", "Attendance Yet to be AttendedTo By Bills Officer", shown, "FrmRptBillsUnAttendedTo"},
+        {true, "mnuBFT", "Unpaid Private Bills for Today", shown, nullptr, &M::mnuBFT_Click},
+        {true, "mnuPDI", "Patients' Debt Information", shown, "frmDebtInfo"},
+        {true, "mnuBNIPSL", "Bills Not In Processed Summary List", shown, "frmVerifyBillsInSummary"},
+        {true, "mnuPIBP", "Print Invoice (By Patient)", shown, "FrmRptBillsByPat"},
+        {true, "mnuLabRes", "Lab Result", shown, "FrmRptSummQVR"},
+        {true, "mnuPrintBMonthly", "Print Monthly Processed Bill (By Company)", shown, "FrmProcessedBill"},
+        {true, "mnuReal", "Real Time Bill Generation/Income", hidden, "frmBillGen"},
+        {true, "mnuINC", "Receipts for Today", shown, nullptr, &M::mnuINC_Click},
+        {true, "mnuPRBC", "Payments Received by Cashier", shown, "FrmRptPaymentsByCashier"},
+        {true, "mnuPayVBC", "Payment Voucher from Cashier"},
+        {true, "mnuBCBBO", "Bills Collated by Billing Officers", shown, "FrmRptBillsByBillingOfficers"},
+        {true, "mnuABR", "Amended Bills Report"},
+        {true, "mnuBIBC", "Bill Incurred by Clients", hidden, "FrmRptBillsByClient"},
+        {true, "mnuRemnd", "Reminders", hidden, "frmReminder"},
+        {true, "mnuCR", "Cancelled Receipts for Today", hidden, nullptr, &M::mnuCR_Click},
+        {true, "mnuMRpts", "More Reports....", shown, "rptPanelForFinancial"},
+
+        {false, "mnusecurity", "Sec&urity", Look::HiddenAndDisabled},
+        {true, "mnuUsers", "&User Accounts", shown, "frmUsers"},
+        {true, "mnuUserRoles", "&Assign Users To Roles", shown, "frmUserRole"},
+        {true, "mnuChangePWD", "Change &Password...", shown, "frmDialog"},
+        {true, "mnuCreateRoles", "Create &Roles", shown, "frmRole"},
+        {true, "mnuAcctEnable", "&Enable Account...", shown, nullptr, &M::mnuAcctEnable_Click},
+        {true, "mnuAcctDisable", "&Disable Account...", shown, nullptr, &M::mnuAcctDisable_Click},
+        {true, "mnuDSP", "Drug/Service Pricing"},
+        {true, "mnuLR", "Login Report", hidden},
+        {true, "mnuAuto", "Auto ID Generator", hidden},
+
+        // The desktop arranges its windows and lists them below these.
+        {false, "mnuWindow", "&Window"},
+        {true, "mnuWindowTV", "Tile Vertical"},
+        {true, "mnuWindowTH", "Tile Horizontal"},
+        {true, "mnuWindowCascade", "Cascade"},
+    };
+    return table;
+}
+
+void MdiTolmek::buildMenus() {
+    const QSet<QString> turnedOn = readMenuEntriesTurnedOn(program.homeFolder());
+    MenuItem* menu = nullptr;
+    for (const MenuEntry& entry : menuTable()) {
+        const QString name = QString::fromLatin1(entry.name);
+        m_menus.push_back(
+            std::make_unique<MenuItem>(*this, name, QString::fromLatin1(entry.caption), entry.inMenu ? menu : nullptr));
+        MenuItem* item = m_menus.back().get();
+        if (!entry.inMenu)
+            menu = item;
+        if (!turnedOn.contains(name.toLower())) {
+            item->setVisible(entry.look == Look::Shown);
+            item->setEnabled(entry.look != Look::HiddenAndDisabled);
+        }
+        if (entry.opens || entry.run)
+            item->onClick = [this, &entry] { act(entry); };
+    }
+}
+
+void MdiTolmek::act(const MenuEntry& entry) {
+    if (entry.opens)
+        program.open(QString::fromLatin1(entry.opens));
+    else
+        (this->*entry.run)();
+}
+
+void MdiTolmek::mnuPrint_Click() {
+    if (Form* active = program.activeForm())
+        program.ui().printForm(*active);
+    else
+        program.box(QStringLiteral("There is no open screen to print."), Icon::Information);
+}
+
+void MdiTolmek::mnuEPE_Click() {
+    unload();
+}
+
+void MdiTolmek::mnuRPtES_Click() {
+    openPanel(QStringLiteral("Receipt"), QStringLiteral("select a receipt No"));
+}
+
+void MdiTolmek::mnuPCB_Click() {
+    openPanel(QStringLiteral("Coy"), QStringLiteral("select a Company Name"));
+}
+
+void MdiTolmek::openPanel(const QString& mode, const QString& label) {
+    session.sRptPanelMode = mode;
+    session.sRptPanelLabel = label;
+    program.open(QStringLiteral("rptPanelSummary"));
+}
+
+void MdiTolmek::mnuTB_Click() {
+    openTrialBalance(QStringLiteral("TB"));
+}
+
+void MdiTolmek::mnuTBBP_Click() {
+    openTrialBalance(QStringLiteral("TB2"));
+}
+
+void MdiTolmek::mnuGL_Click() {
+    openTrialBalance(QStringLiteral("GL"));
+}
+
+void MdiTolmek::openTrialBalance(const QString& kind) {
+    session.sRptKind = kind;
+    program.open(QStringLiteral("frmRptTB"));
+}
+
+void MdiTolmek::mnuBFT_Click() {
+    viewToday(Sql("select * from qryhBillingbalanceForPrivate where bdate = '")
+                  << session.gServerDate << "' order by bdate desc,fullname asc",
+              QStringLiteral("No Bills for Today"), QStringLiteral("rptCompanyBill"),
+              QStringLiteral("Unpaid Bills for Today"));
+}
+
+/// Receipts are those of the workstation's today.
+void MdiTolmek::mnuINC_Click() {
+    viewToday(Sql("select * from qryhBillingIncome where receiptdate = '")
+                  << program.ui().now().date() << "' order by receiptNo",
+              QStringLiteral("No Income between these two dates"), QStringLiteral("rptBillingIncome"),
+              QStringLiteral("Income for Today"));
+}
+
+void MdiTolmek::mnuCR_Click() {
+    viewToday(Sql("select * from qryreceiptCancelled where receiptdate ='")
+                  << program.ui().now().date() << "' order by receiptdate desc",
+              QStringLiteral("No Cancelled Receipts"), QStringLiteral("rptCancelledReceipt"),
+              QStringLiteral("Cancelled Receipts"));
+}
+
+void MdiTolmek::viewToday(const Sql& sql, const QString& emptyMessage, const QString& report, const QString& title) {
+    Recordset rows;
+    {
+        Connection connection = program.openBilling();
+        rows = Recordset(connection, sql);
+    }
+    if (rows.eof())
+        program.box(emptyMessage);
+    else
+        program.ui().viewReport(report, title, rows);
+}
+
+void MdiTolmek::mnuAcctEnable_Click() {
+    enableUserAccount(program);
+}
+
+void MdiTolmek::mnuAcctDisable_Click() {
+    disableUserAccount(program);
+}
+
+} // namespace orvane

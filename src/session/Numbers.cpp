@@ -1,0 +1,10 @@
+#include "session/Program.h"
+
+namespace orvane {
+
+void Program::fetchIDNo(Connection& connection, const QString& destName) {
+    const Recordset next = connection.call(QStringLiteral("getIDNo"), {{QStringLiteral("DestName"), destName}});
+    session.gIDNo = next.eof() ? QString() : next.text(0);
+}
+
+} // namespace orvane

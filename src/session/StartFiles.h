@@ -1,0 +1,23 @@
+#pragma once
+
+#include "session/Program.h"
+
+#include <QSet>
+#include <optional>
+
+namespace orvane {
+
+/// Reads made.sys: the last "SVR" line gives session.gServerName, the last "HNO" line session.gHospID; a value starts
+/// at the fifth character. Gives 0, which is what the session keeps as the hospital's number; nothing when the file is
+/// missing, which its box has said then. Raises DataError when the file cannot be read as text.
+std::optional<qint16> readMadeSys(Program& program);
+
+/// Reads sysdoc.sys: its last line, taken as it stands, is session.gUsername. False when the file is missing, which its
+/// box has said then. Raises DataError when the file cannot be read as text.
+bool readSysDoc(Program& program);
+
+/// The names, in lower case, of the menu entries that the section [menu] of orvane.ini turns on ("mnuRct = 1"). None
+/// without the file. Raises DataError when the file cannot be read as text.
+QSet<QString> readMenuEntriesTurnedOn(const QString& homeFolder);
+
+} // namespace orvane

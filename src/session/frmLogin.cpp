@@ -1,0 +1,81 @@
+#include "session/frmLogin.h"
+
+#include "session/LoginTrail.h"
+#include "session/Main.h"
+#include "session/Scramble.h"
+
+namespace orvane {
+
+frmLogin::frmLogin(Program& owner) : Screen(owner, QStringLiteral("frmLogin"), QStringLiteral("Login")) {
+    txtPassword.masked();
+    cmdOK.onClick = [this] { cmdOK_Click(); };
+    cmdCancel.onClick = [this] { program.end(); };
+}
+
+Layout frmLogin::layout() const {
+    return layout::column({layout::field(QStringLiteral("&User Name"), txtUserName, 24),
+                           layout::field(QStringLiteral("&Password"), txtPassword, 24),
+                           layout::buttons({}, {&cmdCancel, &cmdOK})});
+}
+
+void frmLogin::cmdOK_Click() {
+    if (m_attempts >= 3) {
+        program.end();
+        return;
+    }
+    session.sLoginName = txtUserName.text().trimmed();
+    session.sLoginPassword = scramblePassword(program, txtPassword.text().trimmed());
+    Recordset user;
+    {
+        Connection connection = program.openBilling();
+        user = Recordset(
+            connection,
+            Sql("SELECT Username,Branchcode, Fullname,EmpID,loginRole, Password FROM vwUsers WHERE Username =  '")
+                << session.sLoginName << "'  And Password = '" << session.sLoginPassword
+                << "' AND AccountStatus = 'Enabled' and loginrole='" << session.gModuleName << "'");
+    }
+    if (user.eof()) {
+        refuse();
+        return;
+    }
+    takeUser(user);
+    // The server may compare without regard to case; a password does not.
+    if (session.sLoginPassword != session.sUserPassword)
+        program.box(QStringLiteral("Invalid Login details"));
+    else
+        enter();
+}
+
+void frmLogin::refuse() {
+    trailLogonFailure(program, m_attempts);
+    program.box(QStringLiteral("Alert! Invalid Login details."), Icon::Information);
+    txtUserName.clear();
+    txtPassword.clear();
+    txtUserName.setFocus();
+    ++m_attempts;
+}
+
+void frmLogin::takeUser(const Recordset& user) {
+    session.gEmpID = user.text(QStringLiteral("empID"));
+    session.gUsername = user.text(QStringLiteral("username"));
+    session.gFullName = user.text(QStringLiteral("fullName"));
+    session.sUserPassword = user.text(QStringLiteral("Password"));
+    session.sLoginBranch = user.text(QStringLiteral("branchcode"));
+}
+
+void frmLogin::enter() {
+    program.box(QStringLiteral("You're welcome, ") + session.gFullName + QStringLiteral("."), Icon::Information);
+    program.openUserActivity(false, false, session.gModuleName);
+    trailLogonSuccess(program, m_attempts);
+    // Nobody may work before the hospital and the settings are known; a start by the launcher has them already.
+    if (session.gHospID.isEmpty() && !prepareSession(program)) {
+        program.end();
+        return;
+    }
+    program.open(QStringLiteral("MdiTolmek"));
+    if (Form* welcome = program.loadedForm(QStringLiteral("frmWelcome")))
+        welcome->unload();
+    unload();
+}
+
+} // namespace orvane

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "session/Program.h"
+
+namespace orvane {
+
+/// The log-on by name and password, for a place without a launcher.
+class frmLogin : public Screen {
+public:
+    explicit frmLogin(Program& owner);
+
+    Layout layout() const override;
+    Button* defaultButton() override { return &cmdOK; }
+    Button* cancelButton() override { return &cmdCancel; }
+
+private:
+    void cmdOK_Click();
+    void refuse();
+    void takeUser(const Recordset& user);
+    void enter();
+
+    TextBox txtUserName{*this, QStringLiteral("txtUserName")};
+    TextBox txtPassword{*this, QStringLiteral("txtPassword")};
+    Button cmdOK{*this, QStringLiteral("cmdOK"), QStringLiteral("OK")};
+    Button cmdCancel{*this, QStringLiteral("cmdCancel"), QStringLiteral("Exit")};
+    int m_attempts = 0;
+};
+
+} // namespace orvane

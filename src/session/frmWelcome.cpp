@@ -1,0 +1,29 @@
+#include "session/frmWelcome.h"
+
+namespace orvane {
+
+frmWelcome::frmWelcome(Program& owner) : Screen(owner, QStringLiteral("frmWelcome"), QStringLiteral("Welcome")) {
+    cmdEnter.onClick = [this] { program.open(QStringLiteral("frmLogin")); };
+    cmdExit.onClick = [this] { program.end(); };
+    Timer1.onTimer = [this] { Timer1_Timer(); };
+}
+
+Layout frmWelcome::layout() const {
+    using namespace orvane::layout;
+    return column({stretch(), row({stretch(), cell(Label1), stretch()}), row({stretch(), cell(Label2), stretch()}),
+                   row({stretch(), cell(Label3), stretch()}),
+                   row({stretch(), cell(Label4), cell(Label6), cell(Label5), stretch()}),
+                   row({stretch(), cell(cmdExit), cell(cmdEnter), stretch()}), stretch()});
+}
+
+void frmWelcome::Form_Load() {
+    const QDate today = program.ui().now().date();
+    Label6.setText(QLocale(QLocale::English).toString(today, QStringLiteral("dddd, d MMMM yyyy")));
+    Timer1_Timer();
+}
+
+void frmWelcome::Timer1_Timer() {
+    Label5.setText(QLocale(QLocale::English).toString(program.ui().now().time(), QStringLiteral("hh:mm AP")));
+}
+
+} // namespace orvane
