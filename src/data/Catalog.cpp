@@ -12,11 +12,11 @@ namespace {
 /// Type words of the schema files and what they hold. Flags are the smallest whole numbers.
 const QHash<QString, ColumnKind>& typeKinds() {
     static const QHash<QString, ColumnKind> kinds = {
-        {"varchar", ColumnKind::Text},      {"nvarchar", ColumnKind::Text},   {"char", ColumnKind::Text},
-        {"nchar", ColumnKind::Text},        {"text", ColumnKind::Text},       {"float", ColumnKind::Number},
-        {"real", ColumnKind::Number},       {"money", ColumnKind::Number},    {"decimal", ColumnKind::Number},
-        {"numeric", ColumnKind::Number},    {"int", ColumnKind::Integer},     {"bigint", ColumnKind::Integer},
-        {"smallint", ColumnKind::Flag},     {"bit", ColumnKind::Flag},        {"date", ColumnKind::Date},
+        {"varchar", ColumnKind::Text},      {"nvarchar", ColumnKind::Text}, {"char", ColumnKind::Text},
+        {"nchar", ColumnKind::Text},        {"text", ColumnKind::Text},     {"float", ColumnKind::Number},
+        {"real", ColumnKind::Number},       {"money", ColumnKind::Number},  {"decimal", ColumnKind::Number},
+        {"numeric", ColumnKind::Number},    {"int", ColumnKind::Integer},   {"bigint", ColumnKind::Integer},
+        {"smallint", ColumnKind::Flag},     {"bit", ColumnKind::Flag},      {"date", ColumnKind::Date},
         {"datetime", ColumnKind::DateTime}, {"time", ColumnKind::Time},
     };
     return kinds;
@@ -100,10 +100,10 @@ struct Catalog::Private {
         QStringList tables, views;
     };
     QHash<QString, Database> databases;
-    QHash<QString, Table> tables;                       ///< by lower-cased name
-    QHash<QString, QHash<QString, QString>> viewWords;  ///< by lower-cased view: spelling by lower-cased word
-    QHash<QString, QString> spelling;                   ///< of all columns and view words
-    QHash<QString, const Column*> unanimous;            ///< by lower-cased name; null where tables disagree
+    QHash<QString, Table> tables;                      ///< by lower-cased name
+    QHash<QString, QHash<QString, QString>> viewWords; ///< by lower-cased view: spelling by lower-cased word
+    QHash<QString, QString> spelling;                  ///< of all columns and view words
+    QHash<QString, const Column*> unanimous;           ///< by lower-cased name; null where tables disagree
 
     void read(const QString& database);
     void readView(const Tokens& tokens);

@@ -31,15 +31,17 @@ class Catalog {
 public:
     static const Catalog& instance();
 
-    const Table* table(const QString& name) const; ///< null when there is none
+    const Table* table(const QString& name) const;             ///< null when there is none
     QList<const Table*> tables(const QString& database) const; ///< "billing", "accounting" or "audit", in file order
     QStringList views(const QString& database) const;          ///< in file order
-    /// A column name as the schema writes it, for engines that fold names to lower case; unknown names come back as they are.
+    /// A column name as the schema writes it, for engines that fold names to lower case; unknown names come back as
+    /// they are.
     QString properCase(const QString& name) const;
-    /// The same within what a statement reads: the spelling of the view or table among `sources` that has the name comes first.
+    /// The same within what a statement reads: the spelling of the view or table among `sources` that has the name
+    /// comes first.
     QString properCase(const QString& name, const QStringList& sources) const;
-    /// The column of that name in the tables among `sources`; where they do not settle it, the column of all tables, if all tables
-    /// that have the name agree on its kind. Null when nothing settles it.
+    /// The column of that name in the tables among `sources`; where they do not settle it, the column of all tables, if
+    /// all tables that have the name agree on its kind. Null when nothing settles it.
     const Column* findColumn(const QString& name, const QStringList& sources) const;
     /// The schema's statements in T-SQL in order of execution: tables, indexes, views.
     QStringList statements(const QString& database) const;

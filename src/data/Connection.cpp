@@ -39,7 +39,8 @@ bool Connection::inTransaction() const {
 }
 
 Connection Connection::beside(const QString& database) const {
-    return Connection(d->source->take(database.isEmpty() ? d->connectionString : withDatabase(d->connectionString, database)));
+    return Connection(
+        d->source->take(database.isEmpty() ? d->connectionString : withDatabase(d->connectionString, database)));
 }
 
 void Connection::execute(const Sql& sql) {
@@ -59,7 +60,8 @@ Recordset Connection::call(const QString& procedure, const QVariantMap& paramete
     QVariantMap known;
     for (const QString& name : entry->parameters) {
         if (!byName.contains(bare(name))) {
-            throw DataError(QStringLiteral("Procedure '%1' expects parameter '%2', which was not supplied.").arg(procedure, name));
+            throw DataError(
+                QStringLiteral("Procedure '%1' expects parameter '%2', which was not supplied.").arg(procedure, name));
         }
         known.insert(name, byName.take(bare(name)));
     }

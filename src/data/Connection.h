@@ -32,8 +32,8 @@ public:
     /// An unknown name or parameter is a DataError.
     Recordset call(const QString& procedure, const QVariantMap& parameters = {});
     bool inTransaction() const;
-    /// Another connection to the same server: to `database`, or to this one's own when it is empty. It has no part in this one's
-    /// transaction.
+    /// Another connection to the same server: to `database`, or to this one's own when it is empty. It has no part in
+    /// this one's transaction.
     Connection beside(const QString& database = {}) const;
 
     /// Runs T-SQL text that stands in a schema or script file, not in the source: for orvane-db, the script player and
@@ -55,29 +55,32 @@ private:
 /// A connection string names a server; without an ini section the embedded engine serves it.
 class DataSource {
 public:
-    /// `homeFolder`: where orvane.ini lies and embedded database files are found. Raises DataError for a broken orvane.ini.
+    /// `homeFolder`: where orvane.ini lies and embedded database files are found. Raises DataError for a broken
+    /// orvane.ini.
     explicit DataSource(QString homeFolder);
     ~DataSource();
     DataSource(const DataSource&) = delete;
     DataSource& operator=(const DataSource&) = delete;
 
-    /// A connection for "Driver={SQL Server};Server=...;Database=...;UID=...;PWD=...". On the embedded engine a missing, foreign or
-    /// read-only file is a DataError and nothing is created. Raises DataError when the server cannot be reached.
+    /// A connection for "Driver={SQL Server};Server=...;Database=...;UID=...;PWD=...". On the embedded engine a
+    /// missing, foreign or read-only file is a DataError and nothing is created. Raises DataError when the server
+    /// cannot be reached.
     Connection open(const QString& connectionString);
     Engine engineOf(const QString& connectionString) const;
-    /// Creates what `open` refuses to create: the embedded database file, or the server's database. For orvane-db and tests.
+    /// Creates what `open` refuses to create: the embedded database file, or the server's database. For orvane-db and
+    /// tests.
     Connection create(const QString& connectionString);
-    /// Fixes what the server's clock shows to this workstation's connections; nothing frees it again. For scripts and tests.
-    /// SQL Server's own clock cannot be fixed.
+    /// Fixes what the server's clock shows to this workstation's connections; nothing frees it again. For scripts and
+    /// tests. SQL Server's own clock cannot be fixed.
     void setServerClock(std::optional<QDateTime> at);
     std::optional<QDateTime> serverClock() const;
     /// Open transactions of this source: while there is one, no box may show.
     int openTransactions() const;
     /// Statements sent to the engine so far, for benchmarks and tests.
     qint64 statementsSent() const;
-    /// Called before every statement with its T-SQL, and with "begin transaction", "commit transaction" (before it) and "transaction
-    /// committed" (after it); for tests that break things. A DataError that it raises stands for the engine's: before a statement the
-    /// statement failed, before a commit all was rolled back, after it CommitUnknown.
+    /// Called before every statement with its T-SQL, and with "begin transaction", "commit transaction" (before it) and
+    /// "transaction committed" (after it); for tests that break things. A DataError that it raises stands for the
+    /// engine's: before a statement the statement failed, before a commit all was rolled back, after it CommitUnknown.
     void setStatementHook(std::function<void(const QString&)> hook);
     QString homeFolder() const;
 

@@ -42,13 +42,15 @@ public:
                 lines += line;
             }
         }
-        return QStringLiteral("create table %1 (\n    %2\n)").arg(renderName(m_tokens[2], m_engine), lines.join(QStringLiteral(",\n    ")));
+        return QStringLiteral("create table %1 (\n    %2\n)")
+            .arg(renderName(m_tokens[2], m_engine), lines.join(QStringLiteral(",\n    ")));
     }
 
 private:
     bool isConstraint(qsizetype i) const {
         const Token& token = m_tokens[i];
-        return token.is("constraint") || token.is("primary") || token.is("unique") || token.is("foreign") || token.is("check");
+        return token.is("constraint") || token.is("primary") || token.is("unique") || token.is("foreign") ||
+               token.is("check");
     }
 
     /// "name type(size) [identity(1,1)] ...", or "name as (expression) persisted".
@@ -160,7 +162,8 @@ QString translateIndex(const Tokens& original, Engine engine) {
         ++on;
     }
     if (on + 2 >= tokens.size() || !tokens[on + 2].isSymbol("(")) {
-        throw DataError(QStringLiteral("An index definition names no columns."), render(tokens, 0, tokens.size(), engine));
+        throw DataError(QStringLiteral("An index definition names no columns."),
+                        render(tokens, 0, tokens.size(), engine));
     }
     const bool prefix = tokens[on - 1].text.endsWith(QStringLiteral("Prefix"), Qt::CaseInsensitive);
     const qsizetype close = closingParenthesis(tokens, on + 2);

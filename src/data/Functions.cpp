@@ -14,7 +14,8 @@ struct CallRule {
     const char* postgresql;
 };
 
-// On SQLite what a function gives has no collation of its own, so text functions name it: T-SQL compares without regard to case.
+// On SQLite what a function gives has no collation of its own, so text functions name it: T-SQL compares without regard
+// to case.
 const CallRule callRules[] = {
     {"isnull", 2, "coalesce(%1, %2) collate nocase", "coalesce(%1, %2)"},
     {"substring", 3, "substr(%1, %2, %3) collate nocase", nullptr},
@@ -41,8 +42,7 @@ const CallRule addRules[] = {
 // datediff(part, from, to) counts the boundaries crossed.
 const CallRule differenceRules[] = {
     {"day", 2, "cast(julianday(date(%2)) - julianday(date(%1)) as integer)", "(cast(%2 as date) - cast(%1 as date))"},
-    {"month", 2,
-     "((strftime('%Y', %2) - strftime('%Y', %1)) * 12 + strftime('%m', %2) - strftime('%m', %1))",
+    {"month", 2, "((strftime('%Y', %2) - strftime('%Y', %1)) * 12 + strftime('%m', %2) - strftime('%m', %1))",
      "cast((extract(year from cast(%2 as timestamp)) - extract(year from cast(%1 as timestamp))) * 12 + "
      "extract(month from cast(%2 as timestamp)) - extract(month from cast(%1 as timestamp)) as integer)"},
     {"year", 2, "(strftime('%Y', %2) - strftime('%Y', %1))",
@@ -57,8 +57,9 @@ struct StyleRule {
 };
 
 const StyleRule styleRules[] = {
-    {101, "%m/%d/%Y", "MM/DD/YYYY"}, {103, "%d/%m/%Y", "DD/MM/YYYY"},          {105, "%d-%m-%Y", "DD-MM-YYYY"},
-    {108, "%H:%M:%S", "HH24:MI:SS"}, {111, "%Y/%m/%d", "YYYY/MM/DD"},          {112, "%Y%m%d", "YYYYMMDD"},
+    {101, "%m/%d/%Y", "MM/DD/YYYY"}, {103, "%d/%m/%Y", "DD/MM/YYYY"},
+    {105, "%d-%m-%Y", "DD-MM-YYYY"}, {108, "%H:%M:%S", "HH24:MI:SS"},
+    {111, "%Y/%m/%d", "YYYY/MM/DD"}, {112, "%Y%m%d", "YYYYMMDD"},
     {23, "%Y-%m-%d", "YYYY-MM-DD"},  {120, "%Y-%m-%d %H:%M:%S", "YYYY-MM-DD HH24:MI:SS"},
 };
 
@@ -79,9 +80,11 @@ QString fill(const char* pattern, const QStringList& arguments) {
 }
 
 template <std::size_t N>
-std::optional<QString> apply(const CallRule (&rules)[N], const QString& name, const QStringList& arguments, Engine engine) {
+std::optional<QString> apply(const CallRule (&rules)[N], const QString& name, const QStringList& arguments,
+                             Engine engine) {
     for (const CallRule& rule : rules) {
-        if (name.compare(QLatin1StringView(rule.name), Qt::CaseInsensitive) == 0 && rule.arguments == arguments.size()) {
+        if (name.compare(QLatin1StringView(rule.name), Qt::CaseInsensitive) == 0 &&
+            rule.arguments == arguments.size()) {
             const char* pattern = engine == Engine::Sqlite ? rule.sqlite : rule.postgresql;
             return pattern ? std::optional(fill(pattern, arguments)) : std::nullopt;
         }
@@ -129,8 +132,9 @@ QString translateCast(const QString& value, const QString& type, Engine engine) 
         return QStringLiteral("cast(%1 as %2)").arg(value, type);
     }
     if (engine == Engine::Postgresql) {
-        return word == QStringLiteral("bigint") ? QStringLiteral("orvane_bigint(%1)").arg(value)
-                                                : QStringLiteral("cast(%1 as %2)").arg(value, translateType(type, engine));
+        return word == QStringLiteral("bigint")
+                   ? QStringLiteral("orvane_bigint(%1)").arg(value)
+                   : QStringLiteral("cast(%1 as %2)").arg(value, translateType(type, engine));
     }
     if (word == QStringLiteral("date")) {
         return QStringLiteral("date(%1)").arg(value);
@@ -150,13 +154,20 @@ QString translateType(const QString& type, Engine engine) {
         const char* postgresql;
     };
     static const QHash<QString, TypeRule> rules = {
-        {"varchar", {"text collate nocase", "citext"}},  {"nvarchar", {"text collate nocase", "citext"}},
-        {"char", {"text collate nocase", "citext"}},     {"nchar", {"text collate nocase", "citext"}},
-        {"float", {"real", "double precision"}},         {"real", {"real", "double precision"}},
-        {"money", {"real", "double precision"}},         {"decimal", {"real", "double precision"}},
-        {"numeric", {"real", "double precision"}},       {"int", {"integer", "integer"}},
-        {"bigint", {"integer", "bigint"}},               {"smallint", {"integer", "smallint"}},
-        {"bit", {"integer", "smallint"}},                {"datetime", {"datetime", "timestamp(0)"}},
+        {"varchar", {"text collate nocase", "citext"}},
+        {"nvarchar", {"text collate nocase", "citext"}},
+        {"char", {"text collate nocase", "citext"}},
+        {"nchar", {"text collate nocase", "citext"}},
+        {"float", {"real", "double precision"}},
+        {"real", {"real", "double precision"}},
+        {"money", {"real", "double precision"}},
+        {"decimal", {"real", "double precision"}},
+        {"numeric", {"real", "double precision"}},
+        {"int", {"integer", "integer"}},
+        {"bigint", {"integer", "bigint"}},
+        {"smallint", {"integer", "smallint"}},
+        {"bit", {"integer", "smallint"}},
+        {"datetime", {"datetime", "timestamp(0)"}},
         {"date", {"date", "date"}},
     };
     const auto rule = rules.constFind(type.section(u'(', 0, 0).trimmed().toLower());

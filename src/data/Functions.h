@@ -7,8 +7,9 @@
 
 namespace orvane {
 
-/// A call of a T-SQL function whose arguments are already in the words of `engine`; null when the engine knows the function by the
-/// same name and order. `isnull`, `len`, `right`, `month`, `convert` and their like; one table per function.
+/// A call of a T-SQL function whose arguments are already in the words of `engine`; null when the engine knows the
+/// function by the same name and order. `isnull`, `len`, `right`, `month`, `convert` and their like; one table per
+/// function.
 std::optional<QString> translateCall(const QString& name, const QStringList& arguments, Engine engine);
 
 /// "cast(value as type)"; `type` is the T-SQL type's words.

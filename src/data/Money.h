@@ -10,6 +10,11 @@ namespace orvane {
 /// second section serves negatives). Rounded half away from zero, as round2.
 QString formatNumber(double value, QStringView format);
 
+/// The same with two decimals and grouping, 0 as "0.00": fees and prices on the screens.
+inline QString formatTwoDecimals(double value) {
+    return formatNumber(value, u"#,##0.00");
+}
+
 /// The number that a text states, its grouping commas stripped; none for an empty text, for anything else than a plain
 /// decimal number, and for one that no amount can hold (infinite).
 std::optional<double> parseAmount(const QString& text);

@@ -4,9 +4,9 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSqlDriver>
 #include <QSqlError>
-#include <QLocale>
 #include <QUrl>
 #include <sqlite3.h>
 
@@ -41,7 +41,8 @@ void giveText(sqlite3_context* context, const QString& text) {
 /// getdate(): the source's fixed clock, or the machine's.
 void getDate(sqlite3_context* context, int, sqlite3_value**) {
     const auto* source = static_cast<const DataSource::Private*>(sqlite3_user_data(context));
-    giveText(context, source->clock().value_or(QDateTime::currentDateTime()).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+    giveText(context,
+             source->clock().value_or(QDateTime::currentDateTime()).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
 }
 
 /// orvane_text(x): a number as T-SQL writes it, without ".0" behind a whole one; a text as it is.
@@ -59,7 +60,8 @@ void prepareSqlite(const Physical& physical, const std::shared_ptr<DataSource::P
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     sqlite3_create_function(handle, "getdate", 0, SQLITE_UTF8, source.get(), getDate, nullptr, nullptr);
-    sqlite3_create_function(handle, "orvane_text", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, textOf, nullptr, nullptr);
+    sqlite3_create_function(handle, "orvane_text", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, textOf, nullptr,
+                            nullptr);
 }
 
 void openSqlite(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target, bool create) {
@@ -94,7 +96,9 @@ void openSqlite(const Physical& physical, const ServerEntry& entry, const Connec
     query.finish();
     if (!create && version != kSchemaVersion) {
         throw DataError(QStringLiteral("The database file %1 has the schema version %2; this program needs %3.")
-                            .arg(path).arg(version).arg(kSchemaVersion));
+                            .arg(path)
+                            .arg(version)
+                            .arg(kSchemaVersion));
     }
     for (const char* pragma : {"pragma journal_mode=wal", "pragma synchronous=full", "pragma foreign_keys=on"}) {
         physical->sendNative(QLatin1StringView(pragma));
@@ -112,9 +116,11 @@ QString serverDatabase(const ServerEntry& entry, const ConnectionTarget& target)
     return entry.engine == Engine::Postgresql ? name.toLower() : name;
 }
 
-void connectServer(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target, const QString& database) {
+void connectServer(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target,
+                   const QString& database) {
     const bool postgresql = entry.engine == Engine::Postgresql;
-    physical->database = QSqlDatabase::addDatabase(postgresql ? QStringLiteral("QPSQL") : QStringLiteral("QODBC"), physical->name);
+    physical->database =
+        QSqlDatabase::addDatabase(postgresql ? QStringLiteral("QPSQL") : QStringLiteral("QODBC"), physical->name);
     physical->database.setUserName(fromEnvironment("ORVANE_DB_USER", target.user));
     physical->database.setPassword(fromEnvironment("ORVANE_DB_PASSWORD", target.password));
     if (postgresql) {
@@ -127,7 +133,9 @@ void connectServer(const Physical& physical, const ServerEntry& entry, const Con
     } else {
         physical->database.setDatabaseName(
             QStringLiteral("Driver={%1};Server=%2,%3;Database=%4;TrustServerCertificate=yes")
-                .arg(entry.driver, entry.host).arg(entry.port > 0 ? entry.port : 1433).arg(database));
+                .arg(entry.driver, entry.host)
+                .arg(entry.port > 0 ? entry.port : 1433)
+                .arg(database));
     }
     if (!physical->database.open()) {
         cannotOpen(QStringLiteral("The database %1 on %2").arg(database, entry.host), physical->database.lastError());
@@ -140,12 +148,14 @@ void disconnect(const Physical& physical) {
     QSqlDatabase::removeDatabase(physical->name);
 }
 
-void createOnServer(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target, const QString& database) {
+void createOnServer(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target,
+                    const QString& database) {
     const bool postgresql = entry.engine == Engine::Postgresql;
     connectServer(physical, entry, target, postgresql ? QStringLiteral("postgres") : QStringLiteral("master"));
     // The plain collation makes texts sort and compare as on the other engines, and prefix searches use their index.
     physical->sendNative(postgresql ? QStringLiteral("create database \"%1\" template template0 encoding 'UTF8' "
-                                                     "lc_collate 'C' lc_ctype 'C.UTF-8'").arg(database)
+                                                     "lc_collate 'C' lc_ctype 'C.UTF-8'")
+                                          .arg(database)
                                     : QStringLiteral("create database [%1]").arg(database));
     disconnect(physical);
 }
@@ -164,16 +174,20 @@ void openServer(const Physical& physical, const ServerEntry& entry, const Connec
         return;
     }
     QSqlQuery query(physical->database);
-    const int version = query.exec(QStringLiteral("select version from orvaneSchema")) && query.next() ? query.value(0).toInt() : 0;
+    const int version =
+        query.exec(QStringLiteral("select version from orvaneSchema")) && query.next() ? query.value(0).toInt() : 0;
     if (version != kSchemaVersion) {
         throw DataError(QStringLiteral("The database %1 on %2 has the schema version %3; this program needs %4.")
-                            .arg(database, entry.host).arg(version).arg(kSchemaVersion));
+                            .arg(database, entry.host)
+                            .arg(version)
+                            .arg(kSchemaVersion));
     }
 }
 
 } // namespace
 
-Physical openPhysical(const std::shared_ptr<DataSource::Private>& source, const QString& connectionString, bool create) {
+Physical openPhysical(const std::shared_ptr<DataSource::Private>& source, const QString& connectionString,
+                      bool create) {
     const ConnectionTarget target = parseConnectionString(connectionString);
     const ServerEntry entry = source->servers.entry(target.server);
     const Physical physical = std::make_shared<PhysicalConnection>();

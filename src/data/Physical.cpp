@@ -56,7 +56,8 @@ PhysicalConnection::~PhysicalConnection() {
 
 QSqlQuery PhysicalConnection::send(const QString& tsql, const QVariantList& bound) {
     if (inTransaction && poisoned) {
-        throw DataError(QStringLiteral("An earlier statement of this transaction failed. Nothing of it is saved."), tsql);
+        throw DataError(QStringLiteral("An earlier statement of this transaction failed. Nothing of it is saved."),
+                        tsql);
     }
     try {
         source->callHook(tsql);
@@ -121,9 +122,11 @@ void PhysicalConnection::tellClock() {
 void PhysicalConnection::fail(const QSqlError& error, const QString& text) {
     poisoned = inTransaction;
     const QString code = error.nativeErrorCode();
-    broken = broken || !database.isOpen() || code.startsWith(QStringLiteral("57P0")) || code.startsWith(QStringLiteral("08"));
+    broken = broken || !database.isOpen() || code.startsWith(QStringLiteral("57P0")) ||
+             code.startsWith(QStringLiteral("08"));
     if (broken) {
-        throw DataError(QStringLiteral("The connection to the database server is lost. %1").arg(cleanText(error)), text);
+        throw DataError(QStringLiteral("The connection to the database server is lost. %1").arg(cleanText(error)),
+                        text);
     }
     throw DataError(isBusy(code) ? QString::fromUtf8(kBusy) : cleanText(error), text);
 }
@@ -171,7 +174,8 @@ void PhysicalConnection::commit() {
         throw;
     }
     QSqlQuery query(database);
-    const bool done = query.exec(engine == Engine::SqlServer ? QStringLiteral("commit transaction") : QStringLiteral("commit"));
+    const bool done =
+        query.exec(engine == Engine::SqlServer ? QStringLiteral("commit transaction") : QStringLiteral("commit"));
     if (!done) {
         const QSqlError error = query.lastError();
         try {
@@ -180,8 +184,11 @@ void PhysicalConnection::commit() {
             const bool unknown = broken;
             rollback();
             if (unknown) {
-                throw CommitUnknown(QStringLiteral("The connection broke while saving. Check whether the entry was saved before "
-                                                   "entering it again. ") + fault.description(), fault.statement());
+                throw CommitUnknown(
+                    QStringLiteral("The connection broke while saving. Check whether the entry was saved before "
+                                   "entering it again. ") +
+                        fault.description(),
+                    fault.statement());
             }
             throw;
         }
@@ -197,7 +204,8 @@ void PhysicalConnection::commit() {
 void PhysicalConnection::rollback() noexcept {
     QSqlQuery query(database);
     // SQLite has rolled back by itself after some faults; then there is nothing left to undo.
-    if (!query.exec(engine == Engine::SqlServer ? QStringLiteral("rollback transaction") : QStringLiteral("rollback"))) {
+    if (!query.exec(engine == Engine::SqlServer ? QStringLiteral("rollback transaction")
+                                                : QStringLiteral("rollback"))) {
         broken = broken || engine != Engine::Sqlite;
     }
     endTransaction();
@@ -225,7 +233,8 @@ std::shared_ptr<PhysicalConnection> DataSource::Private::take(const QString& con
             physical = idle.takeLast();
         }
         // A server that was restarted has closed its idle connections.
-        const bool alive = physical->engine == Engine::Sqlite || QSqlQuery(physical->database).exec(QStringLiteral("select 1"));
+        const bool alive =
+            physical->engine == Engine::Sqlite || QSqlQuery(physical->database).exec(QStringLiteral("select 1"));
         if (alive) {
             physical->source = shared_from_this();
             ++physical->lease;

@@ -20,11 +20,11 @@ struct PhysicalConnection {
     std::shared_ptr<DataSource::Private> source; ///< set while it is in use
     Engine engine = Engine::Sqlite;
     QString connectionString;
-    QString poolKey;    ///< connection string and thread
-    QString gate;       ///< the database that a transaction on it locks
-    QString name;       ///< Qt's name of it
+    QString poolKey; ///< connection string and thread
+    QString gate;    ///< the database that a transaction on it locks
+    QString name;    ///< Qt's name of it
     QSqlDatabase database;
-    qint64 lease = 0;   ///< counts the uses; a recordset of an earlier use cannot write any more
+    qint64 lease = 0; ///< counts the uses; a recordset of an earlier use cannot write any more
     bool broken = false;
     bool inTransaction = false;
     bool poisoned = false; ///< a statement of the open transaction failed

@@ -22,6 +22,12 @@ Recordset& Recordset::operator=(Recordset&&) noexcept = default;
 Recordset::Recordset(const Recordset&) = default;
 Recordset& Recordset::operator=(const Recordset&) = default;
 
+Recordset Recordset::detached() const {
+    Recordset copy;
+    copy.d->rows = d->rows;
+    return copy;
+}
+
 void Recordset::read(Connection& connection, const QString& tsql) {
     QSqlQuery query = connection.d->send(tsql);
     const Tokens tokens = tokenize(tsql);
@@ -36,7 +42,9 @@ void Recordset::read(Connection& connection, const QString& tsql) {
 int Recordset::columnIndex(const QString& column) const {
     const int index = d->rows.indexOf(column);
     if (index < 0) {
-        throw DataError(QStringLiteral("Item cannot be found in the collection corresponding to the requested name: %1.").arg(column));
+        throw DataError(
+            QStringLiteral("Item cannot be found in the collection corresponding to the requested name: %1.")
+                .arg(column));
     }
     return index;
 }

@@ -21,7 +21,7 @@ Declared declaredAs(sqlite3_stmt* statement, int column) {
     if (type.isEmpty()) {
         return Declared::Nothing;
     }
-    return type == QStringLiteral("date") ? Declared::Date
+    return type == QStringLiteral("date")       ? Declared::Date
            : type == QStringLiteral("datetime") ? Declared::DateTime
                                                 : Declared::Other;
 }

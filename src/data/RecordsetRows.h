@@ -18,10 +18,13 @@ struct Rows {
     const QVariant& at(qsizetype row, qsizetype column) const {
         return values[static_cast<std::size_t>(row * columns.size() + column)];
     }
-    QVariant& at(qsizetype row, qsizetype column) { return values[static_cast<std::size_t>(row * columns.size() + column)]; }
+    QVariant& at(qsizetype row, qsizetype column) {
+        return values[static_cast<std::size_t>(row * columns.size() + column)];
+    }
 };
 
-/// Reads a query to its end. Dates become QDate and QDateTime, flags and whole numbers qlonglong, all other numbers double.
+/// Reads a query to its end. Dates become QDate and QDateTime, flags and whole numbers qlonglong, all other numbers
+/// double.
 Rows readRows(QSqlQuery& query, Engine engine);
 
 struct Recordset::Private {

@@ -47,9 +47,10 @@ void Recordset::Private::insert(PhysicalConnection& target) {
         marks += QStringLiteral("?");
         bound += valueForBinding(change.value());
     }
-    target.send(names.isEmpty() ? QStringLiteral("insert into %1 default values").arg(quotedName(table))
-                                : QStringLiteral("insert into %1 (%2) values (%3)")
-                                      .arg(quotedName(table), names.join(QStringLiteral(", ")), marks.join(QStringLiteral(", "))),
+    target.send(names.isEmpty()
+                    ? QStringLiteral("insert into %1 default values").arg(quotedName(table))
+                    : QStringLiteral("insert into %1 (%2) values (%3)")
+                          .arg(quotedName(table), names.join(QStringLiteral(", ")), marks.join(QStringLiteral(", "))),
                 bound);
     row = static_cast<int>(rows.count());
     for (int i = 0; i < rows.columns.size(); ++i) {
@@ -80,12 +81,15 @@ void Recordset::Private::change(PhysicalConnection& target) {
         bound += valueForBinding(change.value());
         addCondition(name, rows.at(row, change.key()));
     }
-    const QString tsql = QStringLiteral("update %1 set %2 where %3")
-                             .arg(quotedName(table), assignments.join(QStringLiteral(", ")), conditions.join(QStringLiteral(" and ")));
+    const QString tsql =
+        QStringLiteral("update %1 set %2 where %3")
+            .arg(quotedName(table), assignments.join(QStringLiteral(", ")), conditions.join(QStringLiteral(" and ")));
     if (target.send(tsql, bound + oldValues).numRowsAffected() != 1) {
         target.poisoned = target.inTransaction;
-        throw DataError(QStringLiteral("Row cannot be located for updating. Some values may have been changed since it was last read."),
-                        tsql);
+        throw DataError(
+            QStringLiteral(
+                "Row cannot be located for updating. Some values may have been changed since it was last read."),
+            tsql);
     }
     for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
         rows.at(row, change.key()) = change.value();

@@ -72,7 +72,8 @@ private:
         return last;
     }
 
-    /// T-SQL sorts nulls first. PostgreSQL is told so, except for a column that is never null, whose index then serves the order.
+    /// T-SQL sorts nulls first. PostgreSQL is told so, except for a column that is never null, whose index then serves
+    /// the order.
     qsizetype orderBy(qsizetype i, qsizetype end) {
         write(QStringLiteral("order by"), true);
         i += 2;
@@ -118,8 +119,8 @@ private:
         for (qsizetype start = i + 2; start < close;) {
             qsizetype argumentEnd = start;
             while (argumentEnd < close && !m_tokens[argumentEnd].isSymbol(",")) {
-                argumentEnd =
-                    m_tokens[argumentEnd].isSymbol("(") ? closingParenthesis(m_tokens, argumentEnd) + 1 : argumentEnd + 1;
+                argumentEnd = m_tokens[argumentEnd].isSymbol("(") ? closingParenthesis(m_tokens, argumentEnd) + 1
+                                                                  : argumentEnd + 1;
             }
             arguments += inner(start, argumentEnd).trimmed();
             start = argumentEnd + 1;
@@ -146,7 +147,8 @@ private:
         const QString text = renderText(m_tokens[i].text, m_engine);
         const bool named = i + 1 < end && m_tokens[i + 1].is("as");
         const bool branch = i > 0 && (m_tokens[i - 1].is("then") || m_tokens[i - 1].is("else"));
-        const bool joined = (i > 0 && m_tokens[i - 1].isSymbol("||")) || (i + 1 < end && m_tokens[i + 1].isSymbol("||"));
+        const bool joined =
+            (i > 0 && m_tokens[i - 1].isSymbol("||")) || (i + 1 < end && m_tokens[i + 1].isSymbol("||"));
         if (m_engine == Engine::Postgresql && (named || branch)) {
             return text + QStringLiteral("::citext");
         }
@@ -167,7 +169,9 @@ private:
     QString inner(qsizetype begin, qsizetype end) const { return Renderer(m_tokens, m_engine).run(begin, end); }
 
     void write(const QString& text, bool space) {
-        const auto binds = [](QChar c) { return c.isLetterOrNumber() || c == u'_' || c == u'\'' || c == u'"' || c == u'['; };
+        const auto binds = [](QChar c) {
+            return c.isLetterOrNumber() || c == u'_' || c == u'\'' || c == u'"' || c == u'[';
+        };
         if (!m_out.isEmpty() && !text.isEmpty()) {
             const QChar last = m_out.back();
             const bool runsTogether = (binds(last) || last == u')' || last == u']') && binds(text.front());
@@ -200,8 +204,8 @@ QString renderName(const Token& name, Engine engine) {
 QString renderText(const QString& content, Engine engine) {
     QString text = content;
     text.replace(u'\'', QStringLiteral("''"));
-    const bool wide = engine == Engine::SqlServer &&
-                      std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() > 127; });
+    const bool wide =
+        engine == Engine::SqlServer && std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() > 127; });
     return (wide ? QStringLiteral("N'") : QStringLiteral("'")) + text + QStringLiteral("'");
 }
 

@@ -14,8 +14,9 @@ bool isOneOf(const Token& token, std::initializer_list<const char*> words) {
 
 /// A word in front of a parenthesis that is no function's name.
 bool isKeywordBeforeParenthesis(const Token& token) {
-    return isOneOf(token, {"and", "or", "not", "in", "where", "on", "select", "from", "exists", "when", "then", "else", "having",
-                           "by", "values", "as", "union", "all", "any", "between", "like", "set", "case", "distinct", "top"});
+    return isOneOf(token, {"and",  "or",      "not",  "in",     "where", "on",       "select", "from",  "exists",
+                           "when", "then",    "else", "having", "by",    "values",   "as",     "union", "all",
+                           "any",  "between", "like", "set",    "case",  "distinct", "top"});
 }
 
 bool isComparison(const Token& token) {
@@ -36,7 +37,8 @@ QStringList sourcesOf(const Tokens& tokens) {
             // The next comma belongs to the list of sources unless a keyword ends it.
             qsizetype next = i + 1;
             while (next < tokens.size() && tokens[next].isName() &&
-                   !isOneOf(tokens[next], {"where", "set", "order", "group", "inner", "left", "join", "on", "union", "values"})) {
+                   !isOneOf(tokens[next],
+                            {"where", "set", "order", "group", "inner", "left", "join", "on", "union", "values"})) {
                 ++next;
             }
             expected = next < tokens.size() && tokens[next].isSymbol(",");
@@ -94,7 +96,8 @@ qsizetype operandEnd(const Tokens& tokens, qsizetype first) {
 
 void rewriteNotIn(Tokens& tokens) {
     for (qsizetype i = 1; i + 3 < tokens.size(); ++i) {
-        if (!tokens[i].is("not") || !tokens[i + 1].is("in") || !tokens[i + 2].isSymbol("(") || !tokens[i + 3].is("select")) {
+        if (!tokens[i].is("not") || !tokens[i + 1].is("in") || !tokens[i + 2].isSymbol("(") ||
+            !tokens[i + 3].is("select")) {
             continue;
         }
         const qsizetype start = operandStart(tokens, i - 1);
@@ -130,7 +133,8 @@ bool isTextType(const Token& token) {
 
 bool callGivesText(const Tokens& tokens, qsizetype name, qsizetype end, const QStringList& sources) {
     const Token& function = tokens[name];
-    if (isOneOf(function, {"substring", "right", "left", "ltrim", "rtrim", "upper", "lower", "replace", "replicate", "str"})) {
+    if (isOneOf(function,
+                {"substring", "right", "left", "ltrim", "rtrim", "upper", "lower", "replace", "replicate", "str"})) {
         return true;
     }
     if (function.is("convert")) {

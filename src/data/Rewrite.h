@@ -9,26 +9,27 @@ namespace orvane {
 /// Names of the tables and views that a statement reads or writes, in order of appearance.
 QStringList sourcesOf(const Tokens& tokens);
 
-/// The start of the operand that ends at `last`: a name with its qualifiers, a literal, a call, or a parenthesised part.
+/// The start of the operand that ends at `last`: a name with its qualifiers, a literal, a call, or a parenthesised
+/// part.
 qsizetype operandStart(const Tokens& tokens, qsizetype last);
 /// The end (one behind) of the operand that starts at `first`.
 qsizetype operandEnd(const Tokens& tokens, qsizetype first);
 
-/// "x not in (select k from t ...)" as "(x is not null and not exists (select 1 from (select k as orvane_key from t ...) orvane_in
-/// where orvane_in.orvane_key = x))": a null among the keys hides no row, and an index on k serves it.
+/// "x not in (select k from t ...)" as "(x is not null and not exists (select 1 from (select k as orvane_key from t
+/// ...) orvane_in where orvane_in.orvane_key = x))": a null among the keys hides no row, and an index on k serves it.
 void rewriteNotIn(Tokens& tokens);
 
-/// "+" between texts as "||". A chain of "+" joins texts when one of its operands is a text: a literal, a text function or a
-/// column that the schema declares as text.
+/// "+" between texts as "||". A chain of "+" joins texts when one of its operands is a text: a literal, a text function
+/// or a column that the schema declares as text.
 void rewriteTextJoins(Tokens& tokens);
 
-/// "x like 'ab%'" as "lower(x) like 'ab%'" with the literal in lower case, for PostgreSQL: an index on lower(x) serves the search.
-/// A backslash is no escape in T-SQL and is doubled.
+/// "x like 'ab%'" as "lower(x) like 'ab%'" with the literal in lower case, for PostgreSQL: an index on lower(x) serves
+/// the search. A backslash is no escape in T-SQL and is doubled.
 void rewriteLikeForPostgresql(Tokens& tokens);
 
-/// Literals that stand beside a column or a comparison, as T-SQL understands them: trailing blanks of a compared text do not
-/// count; an empty text is 0 for a number column and null for a date column; a date column takes the date part only, a date-time
-/// column the full form; a number beside a text column is its text.
+/// Literals that stand beside a column or a comparison, as T-SQL understands them: trailing blanks of a compared text
+/// do not count; an empty text is 0 for a number column and null for a date column; a date column takes the date part
+/// only, a date-time column the full form; a number beside a text column is its text.
 void rewriteLiterals(Tokens& tokens);
 
 } // namespace orvane

@@ -51,7 +51,8 @@ void createSchema(Connection& connection, const QString& database) {
     connection.runNative(schemaStatements(connection.engine(), database));
 }
 
-void createDatabases(DataSource& source, const QString& billingConnectionString, const QString& accountingConnectionString) {
+void createDatabases(DataSource& source, const QString& billingConnectionString,
+                     const QString& accountingConnectionString) {
     Connection billing = source.create(billingConnectionString);
     createSchema(billing, QStringLiteral("billing"));
     Connection accounting = source.create(accountingConnectionString);

@@ -30,7 +30,8 @@ struct ServerEntry {
     QString driver = QStringLiteral("ODBC Driver 18 for SQL Server");
 };
 
-/// The servers of orvane.ini in the home folder; a server that it does not name is the embedded engine with the folder "data".
+/// The servers of orvane.ini in the home folder; a server that it does not name is the embedded engine with the folder
+/// "data".
 class ServerList {
 public:
     /// Raises DataError naming file and line when the file is broken.

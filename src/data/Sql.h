@@ -42,8 +42,8 @@ public:
     Sql& operator<<(const QDateTime& value); ///< as yyyy-MM-dd HH:mm:ss
     Sql& operator<<(const Sql& other);       ///< a whole statement part; both must stand outside quotes
     template <std::integral T>
-        requires(!std::same_as<T, char> && !std::same_as<T, char16_t> && !std::same_as<T, wchar_t>)
-    Sql& operator<<(T value) {
+    requires(!std::same_as<T, char> && !std::same_as<T, char16_t> && !std::same_as<T, wchar_t>) Sql&
+    operator<<(T value) {
         return appendInteger(static_cast<qlonglong>(value));
     }
 
@@ -62,7 +62,8 @@ private:
     bool m_swallowQuote = false; ///< an empty date took the opening quote; the closing one goes too
 };
 
-/// A text as the inside of a single-quoted SQL literal. Refuses what no text column may hold, naming `what` in the DataError.
+/// A text as the inside of a single-quoted SQL literal. Refuses what no text column may hold, naming `what` in the
+/// DataError.
 QString sqlQuotedText(const QString& value, const QString& what);
 /// A number as a plain decimal that reads back to the same double. Refuses NaN and infinities, naming `what`.
 QString sqlNumber(double value, const QString& what);

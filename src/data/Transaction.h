@@ -4,9 +4,9 @@
 
 namespace orvane {
 
-/// One transaction on a connection, rolled back unless committed; the destructor never throws; nesting is asserted against.
-/// It begins by taking the one money gate of the database, so that "read the last number or balance, then add a row" of two
-/// workstations cannot interleave. Never show a box while one is open.
+/// One transaction on a connection, rolled back unless committed; the destructor never throws; nesting is asserted
+/// against. It begins by taking the one money gate of the database, so that "read the last number or balance, then add
+/// a row" of two workstations cannot interleave. Never show a box while one is open.
 class Transaction {
 public:
     explicit Transaction(Connection& connection); ///< raises DataError when the gate is not had within 60 seconds
@@ -14,8 +14,8 @@ public:
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
 
-    /// Raises DataError when a statement of this transaction failed before (it is then rolled back), or when the commit fails;
-    /// CommitUnknown when the connection broke during the commit.
+    /// Raises DataError when a statement of this transaction failed before (it is then rolled back), or when the commit
+    /// fails; CommitUnknown when the connection broke during the commit.
     void commit();
     void rollback(); ///< does nothing after commit or rollback
 

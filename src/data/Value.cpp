@@ -14,7 +14,8 @@ namespace {
 const auto kDateTime = QStringLiteral("yyyy-MM-dd HH:mm:ss");
 
 [[noreturn]] void refuse(const QVariant& value, const QString& column, const char* what) {
-    throw DataError(QStringLiteral("\"%1\" is no %2: column %3.").arg(valueText(value), QLatin1StringView(what), column));
+    throw DataError(
+        QStringLiteral("\"%1\" is no %2: column %3.").arg(valueText(value), QLatin1StringView(what), column));
 }
 
 bool isEmptyValue(const QVariant& value) {
@@ -22,12 +23,14 @@ bool isEmptyValue(const QVariant& value) {
         return true;
     }
     const int type = value.typeId();
-    return (type == QMetaType::QDate && !value.toDate().isValid()) || (type == QMetaType::QDateTime && !value.toDateTime().isValid());
+    return (type == QMetaType::QDate && !value.toDate().isValid()) ||
+           (type == QMetaType::QDateTime && !value.toDateTime().isValid());
 }
 
 double numberFor(const QVariant& value, const QString& column) {
     bool ok = false;
-    const double number = value.typeId() == QMetaType::QString ? value.toString().trimmed().toDouble(&ok) : value.toDouble(&ok);
+    const double number =
+        value.typeId() == QMetaType::QString ? value.toString().trimmed().toDouble(&ok) : value.toDouble(&ok);
     if (!ok || !std::isfinite(number)) {
         refuse(value, column, "number");
     }
@@ -101,7 +104,8 @@ QString valueText(const QVariant& value) {
 
 QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind kind) {
     const bool isText = kind == ColumnKind::Text || kind == ColumnKind::Time;
-    if (isEmptyValue(value) || (!isText && value.typeId() == QMetaType::QString && value.toString().trimmed().isEmpty())) {
+    if (isEmptyValue(value) ||
+        (!isText && value.typeId() == QMetaType::QString && value.toString().trimmed().isEmpty())) {
         return {};
     }
     switch (kind) {
@@ -109,7 +113,8 @@ QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind
         return numberFor(value, column);
     case ColumnKind::Integer:
     case ColumnKind::Flag:
-        return value.typeId() == QMetaType::Bool ? QVariant(value.toBool() ? 1LL : 0LL) : QVariant(integerFor(value, column));
+        return value.typeId() == QMetaType::Bool ? QVariant(value.toBool() ? 1LL : 0LL)
+                                                 : QVariant(integerFor(value, column));
     case ColumnKind::Date:
         return dateFor(value, column);
     case ColumnKind::DateTime:

@@ -6,12 +6,12 @@
 
 namespace orvane {
 
-/// A value as text, the same on every engine: null as "", dates yyyy-MM-dd, date-times yyyy-MM-dd HH:mm:ss, times HH:mm:ss, numbers
-/// in plain decimals (with an exponent only beyond 15 digits), flags 0 or 1.
+/// A value as text, the same on every engine: null as "", dates yyyy-MM-dd, date-times yyyy-MM-dd HH:mm:ss, times
+/// HH:mm:ss, numbers in plain decimals (with an exponent only beyond 15 digits), flags 0 or 1.
 QString valueText(const QVariant& value);
 
-/// A value as a column of that kind holds it: null, QString, double, qlonglong, QDate or QDateTime. Raises DataError naming the column
-/// for what it may not hold.
+/// A value as a column of that kind holds it: null, QString, double, qlonglong, QDate or QDateTime. Raises DataError
+/// naming the column for what it may not hold.
 QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind kind);
 
 /// A value as it is bound into a statement: dates as ISO text.

@@ -19,13 +19,14 @@ Sql withoutType() {
 
 /// "(select max(m.revType) from MASTER m where m.ITEM = TARGET.drgName and m.revType <> '')"
 Sql typeOf(const Master& master, SqlLiteral target) {
-    return Sql("(select max(m.revType) from ") << master.table << " m where m." << master.item << "=" << target
-                                               << ".drgName and m.revType <> '')";
+    return Sql("(select max(m.revType) from ")
+           << master.table << " m where m." << master.item << "=" << target << ".drgName and m.revType <> '')";
 }
 
 void fill(Connection& connection, const Master& master, SqlLiteral target, const Sql& rows) {
-    connection.execute(Sql("update ") << target << " set revType=" << typeOf(master, target) << " where " << rows << " and "
-                                      << withoutType() << " and " << typeOf(master, target) << " is not null");
+    connection.execute(Sql("update ") << target << " set revType=" << typeOf(master, target) << " where " << rows
+                                      << " and " << withoutType() << " and " << typeOf(master, target)
+                                      << " is not null");
 }
 
 void fillAll(Connection& connection, const QString& visit) {
@@ -42,8 +43,9 @@ void fillAll(Connection& connection, const QString& visit) {
 Recordset fillRevenueTypes(Connection& connection, const QVariantMap& parameters) {
     const QString visit = parameters.value(QStringLiteral("@ConsultID")).toString();
     const Recordset open(connection, Sql("select SNo from BillAccum where consultID='")
-                                         << visit << "' and " << withoutType() << " union all select SNo from BillingDetails where billNo='"
-                                         << visit << "' and " << withoutType());
+                                         << visit << "' and " << withoutType()
+                                         << " union all select SNo from BillingDetails where billNo='" << visit
+                                         << "' and " << withoutType());
     if (open.eof()) {
         return {};
     }

@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# A private PostgreSQL cluster for tests and benchmarks.
+#   scripts/pg-cluster.sh start DIR   starts one in DIR (made if it is missing) and prints the line for the environment
+#   scripts/pg-cluster.sh stop DIR    stops it and removes its files
+# It listens on a free port of 127.0.0.1 and writes nothing safely (fsync off): for tests only.
+set -euo pipefail
+
+usage="usage: $0 start|stop DIR"
+action=${1:?$usage}
+directory=$(realpath -m "${2:?$usage}")
+binaries=$(ls -d /usr/lib/postgresql/*/bin 2>/dev/null | sort -V | tail -1)
+[ -n "$binaries" ] || { echo "PostgreSQL is not installed" >&2; exit 1; }
+
+# The server refuses to run as root; the package's own user serves then.
+as_owner() {
+    if [ "$(id -u)" = 0 ]; then
+        runuser -u postgres -- "$@"
+    else
+        "$@"
+    fi
+}
+
+free_port() {
+    python3 -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])'
+}
+
+start() {
+    mkdir -p "$directory"
+    if [ "$(id -u)" = 0 ]; then
+        chown postgres "$directory"
+    fi
+    if [ ! -d "$directory/data" ]; then
+        as_owner "$binaries/initdb" --pgdata="$directory/data" --username=zorva --auth=trust --encoding=UTF8 \
+            --locale=C.UTF-8 --no-sync >"$directory.log" 2>&1 || { cat "$directory.log" >&2; exit 1; }
+        rm -f "$directory.log"
+        echo "$(free_port)" >"$directory/port"
+    fi
+    local port
+    port=$(cat "$directory/port")
+    as_owner "$binaries/pg_ctl" --pgdata="$directory/data" --log="$directory/data/server.log" --wait --silent start \
+        -o "-p $port -c listen_addresses=127.0.0.1 -c unix_socket_directories=$directory -c fsync=off \
+            -c synchronous_commit=off -c full_page_writes=off -c max_connections=200 -c autovacuum=off" >&2
+    echo "ORVANE_TEST_PG=host=127.0.0.1 port=$port"
+}
+
+stop() {
+    as_owner "$binaries/pg_ctl" --pgdata="$directory/data" --mode=immediate --silent stop >&2 || true
+    rm -rf "$directory"
+}
+
+case "$action" in
+start) start ;;
+stop) stop ;;
+*) echo "$usage" >&2; exit 1 ;;
+esac

@@ -1,0 +1,176 @@
+#include "support/TestHome.h"
+
+#include "data/Recordset.h"
+#include "data/Schema.h"
+
+#include <QCoreApplication>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <atomic>
+#include <stdexcept>
+
+namespace orvane {
+
+namespace {
+
+const QString kServer = QStringLiteral("SERVER");
+
+void writeFile(const QString& path, const QString& text) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0) {
+        throw std::runtime_error("cannot write " + path.toStdString());
+    }
+}
+
+QString clusterValue(const QString& key) {
+    for (const QString& part : qEnvironmentVariable("ORVANE_TEST_PG").split(u' ', Qt::SkipEmptyParts)) {
+        if (part.section(u'=', 0, 0) == key) {
+            return part.section(u'=', 1);
+        }
+    }
+    return {};
+}
+
+QString iniText(Engine engine, const QString& prefix) {
+    if (engine == Engine::Sqlite) {
+        return QStringLiteral("[server %1]\nengine = sqlite\nfolder = data\n").arg(kServer);
+    }
+    return QStringLiteral("[server %1]\nengine = postgresql\nhost = %2\nport = %3\nprefix = %4\n")
+        .arg(kServer, clusterValue(QStringLiteral("host")), clusterValue(QStringLiteral("port")), prefix);
+}
+
+void writeHome(const QString& folder, Engine engine, const QString& prefix) {
+    writeFile(folder + QStringLiteral("/made.sys"), QStringLiteral("SVR=%1\nHNO=001\n").arg(kServer));
+    writeFile(folder + QStringLiteral("/sysdoc.sys"), QStringLiteral("amina.b\n"));
+    writeFile(folder + QStringLiteral("/orvane.ini"), iniText(engine, prefix));
+}
+
+/// Runs statements on the cluster's maintenance database.
+void onCluster(const QStringList& statements) {
+    const QString name = QStringLiteral("tests-maintenance");
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), name);
+        database.setHostName(clusterValue(QStringLiteral("host")));
+        database.setPort(clusterValue(QStringLiteral("port")).toInt());
+        database.setUserName(QStringLiteral("zorva"));
+        database.setDatabaseName(QStringLiteral("postgres"));
+        if (!database.open()) {
+            throw std::runtime_error(database.lastError().text().toStdString());
+        }
+        for (const QString& statement : statements) {
+            QSqlQuery query(database);
+            if (!query.exec(statement)) {
+                throw std::runtime_error(query.lastError().text().toStdString());
+            }
+        }
+    }
+    QSqlDatabase::removeDatabase(name);
+}
+
+QStringList forBothDatabases(const QString& statement, const QString& prefix) {
+    return {statement.arg(prefix + QStringLiteral("dunmarch")), statement.arg(prefix + QStringLiteral("accounting"))};
+}
+
+void dropDatabases(const QString& prefix) {
+    onCluster(forBothDatabases(QStringLiteral("drop database if exists \"%1\" with (force)"), prefix));
+}
+
+/// Databases with the schema, made once a process and copied for each test.
+class Original {
+public:
+    explicit Original(Engine engine)
+        : m_engine(engine), m_prefix(QStringLiteral("t%1_").arg(QCoreApplication::applicationPid())) {
+        writeHome(m_folder.path(), engine, m_prefix);
+        DataSource source(m_folder.path());
+        createDatabases(source, TestHome::billing(), TestHome::accounting());
+    }
+    ~Original() {
+        if (m_engine == Engine::Postgresql) {
+            dropDatabases(m_prefix);
+        }
+    }
+
+    void copyFiles(const QString& folder) const {
+        QDir().mkpath(folder + QStringLiteral("/data"));
+        for (const char* name : {"Dunmarch.db", "Accounting.db", "Audit.db"}) {
+            const QString file = QStringLiteral("/data/") + QLatin1StringView(name);
+            if (!QFile::copy(m_folder.path() + file, folder + file)) {
+                throw std::runtime_error("cannot copy " + file.toStdString());
+            }
+        }
+    }
+
+    /// Clones the databases under a new prefix, which it gives.
+    QString clone() const {
+        static std::atomic<int> last = 0;
+        const QString prefix = m_prefix + QStringLiteral("%1_").arg(++last);
+        onCluster({QStringLiteral("create database \"%1dunmarch\" template \"%2dunmarch\"").arg(prefix, m_prefix),
+                   QStringLiteral("create database \"%1accounting\" template \"%2accounting\"").arg(prefix, m_prefix)});
+        return prefix;
+    }
+
+private:
+    QTemporaryDir m_folder;
+    Engine m_engine;
+    QString m_prefix;
+};
+
+const Original& original(Engine engine) {
+    if (engine == Engine::Sqlite) {
+        static const Original sqlite(Engine::Sqlite);
+        return sqlite;
+    }
+    static const Original postgresql(Engine::Postgresql);
+    return postgresql;
+}
+
+QString connectionString(const char* database) {
+    return QStringLiteral("Driver={SQL Server};Server=%1;Database=%2;UID=zorva;PWD=vexlarin")
+        .arg(kServer, QLatin1StringView(database));
+}
+
+} // namespace
+
+QList<Engine> testEngines() {
+    QList<Engine> engines = {Engine::Sqlite};
+    if (qEnvironmentVariableIsSet("ORVANE_TEST_PG")) {
+        engines += Engine::Postgresql;
+    }
+    return engines;
+}
+
+std::string engineName(Engine engine) {
+    return engine == Engine::Sqlite ? "Sqlite" : engine == Engine::Postgresql ? "Postgresql" : "SqlServer";
+}
+
+TestHome::TestHome(Engine engine) : m_engine(engine) {
+    const Original& source = original(engine);
+    if (engine == Engine::Sqlite) {
+        source.copyFiles(folder());
+    } else {
+        m_prefix = source.clone();
+    }
+    writeHome(folder(), engine, m_prefix);
+}
+
+TestHome::~TestHome() {
+    if (m_engine == Engine::Postgresql) {
+        dropDatabases(m_prefix);
+    }
+}
+
+QString TestHome::billing() {
+    return connectionString("Dunmarch");
+}
+
+QString TestHome::accounting() {
+    return connectionString("Accounting");
+}
+
+QString EngineTest::scalar(const QString& tsql) {
+    const Recordset rows = billing.run(tsql);
+    return rows.eof() ? QString() : rows.text(0);
+}
+
+} // namespace orvane

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "data/Connection.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <ostream>
+
+namespace orvane {
+
+/// The engines that this run tests: the embedded one always, PostgreSQL when ORVANE_TEST_PG="host=... port=..." names a
+/// cluster (see scripts/pg-cluster.sh).
+QList<Engine> testEngines();
+std::string engineName(Engine engine);
+
+/// The program's folder with made.sys, sysdoc.sys, orvane.ini and fresh databases that hold the schema and no rows.
+/// All of it goes away with the object.
+class TestHome {
+public:
+    explicit TestHome(Engine engine = Engine::Sqlite);
+    ~TestHome();
+    TestHome(const TestHome&) = delete;
+    TestHome& operator=(const TestHome&) = delete;
+
+    QString folder() const { return m_folder.path(); }
+    Engine engine() const { return m_engine; }
+    static QString billing();    ///< the connection string of the billing database, as the program builds it
+    static QString accounting(); ///< the same of the Accounting database
+
+private:
+    QTemporaryDir m_folder;
+    Engine m_engine;
+    QString m_prefix; ///< of the databases on the server
+};
+
+/// A test on one workstation's data source, run on each engine.
+class EngineTest : public ::testing::TestWithParam<Engine> {
+protected:
+    TestHome home{GetParam()};
+    DataSource data{home.folder()};
+    Connection billing = data.open(TestHome::billing());
+
+    /// The first column of the first row; "" without a row.
+    QString scalar(const QString& tsql);
+};
+
+inline void PrintTo(Engine engine, std::ostream* out) {
+    *out << engineName(engine);
+}
+
+} // namespace orvane
+
+/// Runs the tests of a suite (a class over EngineTest or any TestWithParam<Engine>) on each engine.
+#define ORVANE_ON_EACH_ENGINE(suite)                                                                                   \
+    INSTANTIATE_TEST_SUITE_P(On, suite, ::testing::ValuesIn(::orvane::testEngines()),                                  \
+                             [](const auto& instance) { return ::orvane::engineName(instance.param); })
