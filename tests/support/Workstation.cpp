@@ -6,6 +6,7 @@
 #include "screens/Screens.h"
 #include "session/Main.h"
 
+#include <QFile>
 #include <stdexcept>
 
 namespace orvane {
@@ -29,6 +30,7 @@ QString firstValue(const Recordset& rows) {
 
 Workstation::Workstation(const QString& homeFolder) : program(homeFolder, ui) {
     registerScreens(program);
+    program.data().setServerClock(ui.clock);
     if (!prepareServer(program))
         fail(QStringLiteral("no made.sys in ") + homeFolder);
 }
@@ -138,6 +140,22 @@ QString Workstation::accountingScalar(const QString& tsql) {
 
 int Workstation::tableCount(const QString& tableAndFilter) {
     return scalar(QStringLiteral("select count(*) as n from ") + tableAndFilter).toInt();
+}
+
+SecondHome::SecondHome(const TestHome& first) {
+    for (const char* name : {"made.sys", "sysdoc.sys", "orvane.ini"}) {
+        QFile source(first.folder() + QLatin1Char('/') + QLatin1String(name));
+        QFile copy(folder() + QLatin1Char('/') + QLatin1String(name));
+        if (!source.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly))
+            fail(QStringLiteral("cannot copy ") + source.fileName());
+        copy.write(source.readAll().replace("folder = data", "folder = " + first.folder().toUtf8() + "/data"));
+    }
+}
+
+void WorkstationTest::SetUp() {
+    ws.layHospital();
+    prepare();
+    ASSERT_TRUE(ws.start());
 }
 
 } // namespace orvane

@@ -2,6 +2,7 @@
 
 #include "session/Program.h"
 #include "support/Hospital.h"
+#include "support/TestHome.h"
 #include "support/TestUi.h"
 
 namespace orvane {
@@ -10,7 +11,8 @@ namespace orvane {
 /// what is hidden, disabled or locked is refused by an exception that fails the test.
 class Workstation {
 public:
-    /// `homeFolder`: made.sys and databases with their schema lie there. Registers every screen; starts nothing.
+    /// `homeFolder`: made.sys and databases with their schema lie there. Registers every screen and starts nothing;
+    /// both clocks stand at 2026-03-14 09:30.
     explicit Workstation(const QString& homeFolder);
 
     TestUi ui;
@@ -56,6 +58,28 @@ public:
 
 private:
     Control& usable(const QString& name);
+};
+
+/// A home folder of another machine, on the databases of the first one.
+class SecondHome {
+public:
+    explicit SecondHome(const TestHome& first);
+    QString folder() const { return m_folder.path(); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// A test of the started program, with the rows of layHospital, on each engine: ORVANE_ON_EACH_ENGINE(YourTest). What a
+/// test adds to its databases before the program starts is put into `prepare`.
+class WorkstationTest : public ::testing::TestWithParam<Engine> {
+protected:
+    void SetUp() override;
+    virtual void prepare() {}
+
+    TestHome home{GetParam()};
+    Workstation ws{home.folder()};
+    TestUi& ui = ws.ui;
 };
 
 } // namespace orvane
