@@ -47,8 +47,8 @@ QString grouped(QString whole) {
 
 } // namespace
 
-QString formatNumber(double value, QStringView format) {
-    const auto sections = format.split(QLatin1Char(';'));
+QString formatNumber(double value, const QString& format) {
+    const auto sections = QStringView(format).split(QLatin1Char(';'));
     const bool ownNegative = value < 0 && sections.size() > 1;
     const QStringView section = ownNegative ? sections.at(1) : sections.at(0);
     const auto point = section.indexOf(QLatin1Char('.'));

@@ -8,7 +8,7 @@ namespace orvane {
 
 /// A number in one of the screens' formats: "#,###.00" (zero shows as ".00"), "#,##0.00", "0.00", "#,##;(#,##0)" (the
 /// second section serves negatives). Rounded half away from zero, as round2.
-QString formatNumber(double value, QStringView format);
+QString formatNumber(double value, const QString& format);
 
 /// The same with two decimals and grouping, 0 as "0.00": fees and prices on the screens.
 inline QString formatTwoDecimals(double value) {
