@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 #include <optional>
 
 namespace orvane {
@@ -12,7 +11,7 @@ QString formatNumber(double value, const QString& format);
 
 /// The same with two decimals and grouping, 0 as "0.00": fees and prices on the screens.
 inline QString formatTwoDecimals(double value) {
-    return formatNumber(value, u"#,##0.00");
+    return formatNumber(value, QStringLiteral("#,##0.00"));
 }
 
 /// The number that a text states, its grouping commas stripped; none for an empty text, for anything else than a plain
