@@ -9,10 +9,6 @@ namespace {
 /// Every hospital receipt bears the heading of this row; outlets have rows of their own.
 const QString hospitalCode = "00";
 
-QString twoDecimals(double amount) {
-    return formatNumber(amount, u"#,###.00");
-}
-
 } // namespace
 
 frmCashReceipt::Copy::Copy(Form& form, const QString& fieldSuffix, const QString& headSuffix)
@@ -39,10 +35,10 @@ void frmCashReceipt::Copy::fill(const Recordset& receipt) {
     txtRecFrom.setText(receipt.text("fullName"));
     txtSumOf.setText(receipt.text("AmountInWord"));
     txtBeingPayFor.setText(receipt.text("PaymentFor"));
-    txtAmount.setText(twoDecimals(paid));
+    txtAmount.setText(formatTwoDecimals(paid));
     txtChequeNo.setText(receipt.text("PayType"));
-    txtBill.setText(twoDecimals(billed));
-    txtBal.setText(twoDecimals(billed - paid));
+    txtBill.setText(formatTwoDecimals(billed));
+    txtBal.setText(formatTwoDecimals(billed - paid));
     lblName.setText(receipt.text("ReceivedBy"));
 }
 

@@ -1,0 +1,43 @@
+#include "billing/BillDate.h"
+
+namespace orvane {
+
+namespace {
+
+QDate firstOfNextMonth(QDate date) {
+    return QDate(date.year(), date.month(), 1).addMonths(1);
+}
+
+int yearMonth(QDate date) {
+    return date.year() * 100 + date.month();
+}
+
+} // namespace
+
+QDate billDateFor(QDate recDate, QDate billDate, int billEndDay, int newestBatch) {
+    QDate date = billDate;
+    if (!billDate.isValid() || billDate == recDate) {
+        const bool pastEnd = billEndDay > 0 && recDate.day() > billEndDay;
+        date = pastEnd ? firstOfNextMonth(recDate) : recDate;
+    }
+    const QDate batchMonth(newestBatch / 100, newestBatch % 100, 1);
+    if (date.isValid() && batchMonth.isValid() && yearMonth(date) <= newestBatch)
+        date = firstOfNextMonth(batchMonth);
+    return date;
+}
+
+void settleBillDate(Connection& connection, const BillInHand& bill) {
+    const Recordset visit(connection, Sql("select recDate,BillDate from vwhrecords where consultID = '")
+                                          << bill.consultID << "'");
+    if (visit.eof())
+        return;
+    const Recordset batch(connection,
+                          Sql("select  top 1 batchVal,coyCode  from vwBillsForClientsBatchVal where coycode='")
+                              << bill.retainCode << "' order by batchval desc ");
+    const int newestBatch = batch.eof() ? 0 : int(batch.integer("batchVal"));
+    const QDate date = billDateFor(visit.date("recDate"), visit.date("BillDate"), bill.billEndDay, newestBatch);
+    connection.execute(Sql("update  hrecords set BillDate='")
+                       << date << "'  where consultID = '" << bill.consultID << "'");
+}
+
+} // namespace orvane
