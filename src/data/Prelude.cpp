@@ -18,7 +18,7 @@ const char* const postgresql[] = {
     "0 end) $$",
     "create function orvane_bigint(double precision) returns bigint language sql immutable parallel safe as "
     "$$ select trunc($1)::bigint $$",
-    "create function substring(citext, integer, integer) returns citext language sql immutable parallel safe as "
+    "create function \"substring\"(citext, integer, integer) returns citext language sql immutable parallel safe as "
     "$$ select substr($1::text, $2, $3)::citext $$",
     "create function \"right\"(citext, integer) returns citext language sql immutable parallel safe as "
     "$$ select pg_catalog.right($1::text, $2)::citext $$",
