@@ -1,0 +1,12 @@
+-- One audited action of a user. It lies apart from the billing tables, so that it survives a rollback there.
+create table AuditTrail (
+    SNo int identity(1,1) not null primary key,
+    userName nvarchar(50),
+    userAction nvarchar(1000),
+    ActionDate date,
+    ActionTime varchar(20),
+    TranCode varchar(50),
+    Remarks nvarchar(1000),
+    Src nvarchar(100)
+)
+go
