@@ -1,0 +1,12 @@
+#pragma once
+
+#include "data/Connection.h"
+
+namespace orvane {
+
+/// The next consultation id of a hospital: its three-character code, "OFL" and a serial of seven digits. Goes on from
+/// the highest serial in use, or from the ids of the older form without a hospital code. Nothing is reserved: called
+/// inside the transaction that writes the visit, whose gate keeps other workstations out. Raises DataError.
+QString genConsultID(Connection& connection, const QString& hospital);
+
+} // namespace orvane

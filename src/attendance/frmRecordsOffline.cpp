@@ -1,0 +1,174 @@
+#include "attendance/frmRecordsOffline.h"
+
+#include "attendance/ConsultID.h"
+
+#include <QScopedValueRollback>
+
+namespace orvane {
+
+frmRecordsOffline::frmRecordsOffline(Program& owner) : Screen(owner, "frmRecordsOffline", "OFFLINE ATTENDANCE :") {
+    cmdOK.onClick = [this] { cmdOK_Click(); };
+    txtName.onEnter = [this] { cmdOK_Click(); };
+    cboVehNo.onClick = [this] { cboVehNo_Click(); };
+    cboClient.onClick = [this] { cboClient_Click(); };
+    cboRef.onClick = [this] { cboRef_Click(); };
+    cboAppr.onClick = [this] { cboAppr_Click(); };
+    tmrBill.onTimer = [this] { tmrBill_Timer(); };
+    cmdAdd.onClick = [this] { cmdAdd_Click(); };
+    cmdEdit.onClick = [this] { cmdEdit_Click(); };
+    cmdDel.onClick = [this] { cmdDel_Click(); };
+    cmdRefresh.onClick = [this] { cmdRefresh_Click(); };
+    cmdCancel.onClick = [this] { cmdCancel_Click(); };
+    CancelButton.onClick = [this] { unload(); };
+    OKButton.onClick = [this] { OKButton_Click(); };
+}
+
+Layout frmRecordsOffline::layout() const {
+    using namespace orvane::layout;
+    return column({row({field("Search by Name", txtName, 28), cell(cmdOK), cell(lblFound, 8), stretch()}),
+                   row({growing(column({field("Patient", cboVehNo, 40), field("Clinic", cboType),
+                                        field("Purpose of Visit", cboClient), field("Records Officer", cboAppr)})),
+                        column({field("Attendance Date", dtDate), field("Next Appointment", dtNext),
+                                field("Billing Category", cboBilling), field("On Referral", cboRef)}),
+                        cell(piX)}),
+                   row({field("Remarks", txtRem, 40), cell(Label5), cell(chkCon)}),
+                   facts({{"Consult No", &lblBill},
+                          {"Patient No", &lblNo},
+                          {"Old No", &lblOld},
+                          {"Company", &lblCoy},
+                          {"Policy", &lblPolicy},
+                          {"Occupation", &LblOccup},
+                          {"Card Expires", &lblExpire}}),
+                   growing(cell(grdData)),
+                   buttons({&cmdAdd, &cmdEdit, &cmdDel, &cmdRefresh}, {&CancelButton, &cmdCancel, &OKButton})});
+}
+
+void frmRecordsOffline::Form_Load() {
+    Label5.setVisible(false);
+    fillLists();
+    cmdRefresh_Click();
+}
+
+void frmRecordsOffline::fillLists() {
+    Connection connection = program.openBilling();
+    cboType.addItem("OUT-PATIENT");
+    for (Recordset row(connection, Sql("select distinct * from clinicTypes")); !row.eof(); row.moveNext())
+        cboType.addItem(row.text("ClinicID"));
+    cboClient.addItems({"CONSULTATION", "REVIEW", "FOLLOW-UP"});
+    cboRef.addItems({"YES", "NO"});
+    for (Recordset row(connection, Sql("select clientcatID from billingprice")); !row.eof(); row.moveNext())
+        cboBilling.addItem(row.text("clientcatID"));
+    Recordset officer(connection, Sql("select distinct empID,lastname,firstname from employees "));
+    for (; !officer.eof(); officer.moveNext())
+        cboAppr.addItem(officer.text("lastname") + " " + officer.text("firstname") + " [" + officer.text("empID") +
+                        "]");
+}
+
+void frmRecordsOffline::cmdOK_Click() {
+    if (txtName.text().isEmpty())
+        return;
+    Connection connection = program.openBilling();
+    const Recordset found(connection, Sql("select distinct * from vwhpatients where fullname like '")
+                                          << txtName.text() << "%'");
+    grdData.showAllColumns();
+    grdData.load(found);
+    grdData.hide({"expired"});
+    lblFound.setText(found.eof() ? "***" : QString::number(found.count()));
+    cboVehNo.clear();
+    for (Recordset row = found; !row.eof(); row.moveNext())
+        cboVehNo.addItem(row.text("fullName") + " [" + row.text("PNo") + "]");
+}
+
+void frmRecordsOffline::cmdRefresh_Click() {
+    Connection connection = program.openBilling();
+    grdData.showAllColumns();
+    grdData.load(Recordset(connection, Sql("select * from qryhVisitsOffline")));
+    grdData.hide({"recID", "attendedTo", "referal", "Surname", "empID"});
+    const QString title = "OFFLINE ATTENDANCE:";
+    setCaption(grdData.rowCount() == 0 ? title : title + QString::number(grdData.rowCount()));
+}
+
+void frmRecordsOffline::cmdAdd_Click() {
+    if (bEditing)
+        clearForm();
+    setButtons(false);
+    dtDate.setDate(ui().now().date());
+    dtNext.clear();
+    Connection connection = program.openBilling();
+    lblBill.setText(genConsultID(connection, session.gHospID));
+    txtName.setFocus();
+}
+
+bool frmRecordsOffline::isSearchResult() const {
+    return grdData.columnIndex("recID") < 0 ||
+           (grdData.columnIndex("Surname") >= 0 && !grdData.text("Surname").isEmpty());
+}
+
+void frmRecordsOffline::cmdEdit_Click() {
+    if (grdData.currentRow() < 0) {
+        program.box("Select the attendance in the list first", Icon::Information);
+        return;
+    }
+    if (isSearchResult()) {
+        program.box("Search Result cannot be Edited, Only Attendance");
+        return;
+    }
+    clearForm();
+    const QScopedValueRollback filling(bFilling, true);
+    lRecID = grdData.text("recID").toLongLong();
+    sPatientNo = sEditedPatientNo = grdData.text("patno");
+    cboVehNo.clear();
+    cboVehNo.addItem(grdData.text("fullname") + " [" + sPatientNo + "]");
+    cboVehNo.setListIndex(0);
+    Connection connection = program.openBilling();
+    showPatient(connection);
+    cboClient.setText(grdData.text("Remarks"));
+    cboRef.setText(grdData.text("Referal"));
+    cboType.setText(grdData.text("clinicType"));
+    lblBill.setText(grdData.text("consultID"));
+    cboBilling.setText(grdData.text("clientCat"));
+    dtDate.setDate(grdData.date("Date"));
+    setButtons(true);
+}
+
+void frmRecordsOffline::cmdDel_Click() {
+    if (grdData.currentRow() < 0 || isSearchResult()) {
+        program.box("Select the attendance in the list first", Icon::Information);
+        return;
+    }
+    const QString id = grdData.text("recID");
+    if (!program.question("Are you sure to Delete Record", "Delete"))
+        return;
+    Connection connection = program.openBilling();
+    connection.execute(Sql("delete from hrecords where recID = '") << id << "'");
+    program.box(" Record successfully deleted ");
+    cmdRefresh_Click();
+}
+
+void frmRecordsOffline::cmdCancel_Click() {
+    clearForm();
+    setButtons(false);
+}
+
+void frmRecordsOffline::clearForm() {
+    for (ComboBox* box : {&cboVehNo, &cboType, &cboClient, &cboRef, &cboBilling, &cboAppr})
+        box->setListIndex(-1);
+    txtName.clear();
+    txtRem.clear();
+    lblFound.clear();
+    lblBill.clear();
+    chkCon.setChecked(false);
+    dtDate.clear();
+    dtNext.clear();
+    sPatientNo.clear();
+    clearPatient();
+}
+
+/// A visit under edit is saved or cancelled before another one is added, edited or deleted.
+void frmRecordsOffline::setButtons(bool editing) {
+    bEditing = editing;
+    for (Button* button : {&cmdAdd, &cmdEdit, &cmdDel})
+        button->setEnabled(!editing);
+}
+
+} // namespace orvane

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "session/Program.h"
+
+namespace orvane {
+
+/// Attendance entry: a records officer enters a patient's visit. Saving gives the visit its consultation id and puts
+/// the consultation charge into BillAccum.
+class frmRecordsOffline : public Screen {
+public:
+    explicit frmRecordsOffline(Program& owner);
+
+    Layout layout() const override;
+    void Form_Load() override;
+    Button* defaultButton() override { return &OKButton; }
+    Button* cancelButton() override { return &CancelButton; }
+
+private:
+    // The list (frmRecordsOffline.cpp).
+    void fillLists();
+    void cmdOK_Click();
+    void cmdRefresh_Click();
+    void cmdAdd_Click();
+    void cmdEdit_Click();
+    void cmdDel_Click();
+    void cmdCancel_Click();
+    void clearForm();
+    void setButtons(bool editing);
+    bool isSearchResult() const;
+
+    // The patient in hand (frmRecordsOfflinePatient.cpp).
+    void cboVehNo_Click();
+    void cboClient_Click();
+    void cboRef_Click();
+    void cboAppr_Click();
+    void tmrBill_Timer();
+    bool hasOpenVisit(Connection& connection) const;
+    void refuseDuplicate();
+    void clearPatient();
+    QDate showPatient(Connection& connection);
+    void checkAppointment(Connection& connection);
+
+    // Saving (frmRecordsOfflineSave.cpp).
+    void OKButton_Click();
+    bool isComplete();
+    void saveEdited();
+    void saveNew();
+    void setVisitColumns(Recordset& visit) const;
+    void addVisit(Connection& connection, QTime at);
+    void updatePatientAndAppointment(Connection& connection);
+
+    TextBox txtName{*this, "txtName"};
+    Button cmdOK{*this, "cmdOK", "Searc&h"};
+    Label lblFound{*this, "lblFound"};
+    ComboBox cboVehNo{*this, "cboVehNo", ComboBox::ListOnly};
+    DatePicker dtDate{*this, "dtDate"};
+    DatePicker dtNext{*this, "dtNext"};
+    ComboBox cboType{*this, "cboType", ComboBox::ListOnly};
+    ComboBox cboClient{*this, "cboClient", ComboBox::ListOnly};
+    ComboBox cboRef{*this, "cboRef", ComboBox::ListOnly};
+    Label Label5{*this, "Label5", "Patient on referral"};
+    ComboBox cboBilling{*this, "cboBilling", ComboBox::ListOnly};
+    ComboBox cboAppr{*this, "cboAppr", ComboBox::ListOnly};
+    TextBox txtRem{*this, "txtRem"};
+    CheckBox chkCon{*this, "chkCon", "tick this box only if Attendee is getting a card without seeing the Doctor"};
+    Label lblBill{*this, "lblBill"};
+    Label lblNo{*this, "lblNo"};
+    Label lblOld{*this, "lblOld"};
+    Label lblCoy{*this, "lblCoy"};
+    Label lblPolicy{*this, "lblPolicy"};
+    Label LblOccup{*this, "LblOccup"};
+    Label lblExpire{*this, "lblExpire"};
+    Picture piX{*this, "piX"};
+    Grid grdData{*this, "grdData"};
+    Timer tmrBill{*this, "tmrBill", 500, false};
+    Button cmdAdd{*this, "cmdAdd", "&Add"};
+    Button cmdEdit{*this, "cmdEdit", "&Edit"};
+    Button cmdDel{*this, "cmdDel", "&Delete"};
+    Button cmdRefresh{*this, "cmdRefresh", "&Refresh"};
+    Button cmdCancel{*this, "cmdCancel", "Ca&ncel"};
+    Button CancelButton{*this, "CancelButton", "&Close"};
+    Button OKButton{*this, "OKButton", "&Save"};
+
+    QString sPatientNo;         ///< the number taken from the picker
+    QString sReferralConsultID; ///< the consult id of a follow-up appointment, else empty
+    QString sOfficerEmpID;
+    bool bCardExpired = false; ///< of the patient picked last: he cannot be saved
+    bool bEditing = false;
+    bool bFilling = false;    ///< a row goes into the fields: their events are not the user's
+    qlonglong lRecID = 0;     ///< the visit under edit
+    QString sEditedPatientNo; ///< its patient
+};
+
+} // namespace orvane

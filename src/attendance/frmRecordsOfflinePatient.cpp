@@ -1,0 +1,125 @@
+#include "attendance/frmRecordsOffline.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr unsigned FlashColor = 0xFFB300;
+constexpr qint64 ReviewHours = 12;
+
+} // namespace
+
+void frmRecordsOffline::cboVehNo_Click() {
+    if (bFilling || cboVehNo.listIndex() < 0)
+        return;
+    const QString picked = cboVehNo.text();
+    const qsizetype bracket = picked.lastIndexOf("[");
+    sPatientNo = picked.mid(bracket + 1, picked.lastIndexOf("]") - bracket - 1);
+    clearPatient();
+    if (dtDate.isEmpty()) {
+        program.box("Specify Attendance Date");
+        // Without its facts a patient is not in hand: picked again after the date.
+        cboVehNo.setListIndex(-1);
+        dtDate.setFocus();
+        return;
+    }
+    Connection connection = program.openBilling();
+    const bool ownVisit = bEditing && sPatientNo == sEditedPatientNo;
+    if (!ownVisit && hasOpenVisit(connection)) {
+        refuseDuplicate();
+        return;
+    }
+    const QDate expiry = showPatient(connection);
+    bCardExpired = expiry.isValid() && expiry <= ui().now().date();
+    if (bCardExpired) {
+        program.box("Patient's Card has Expired");
+        return;
+    }
+    piX.setFile(session.gPatientsFolder + QString(sPatientNo).remove("/") + ".JPG");
+    checkAppointment(connection);
+}
+
+/// A visit of this patient on this date that is still open.
+bool frmRecordsOffline::hasOpenVisit(Connection& connection) const {
+    return !Recordset(connection, Sql("select pno from qryhVisitsForToday where recdate='")
+                                      << dtDate.date() << "' and pno='" << sPatientNo << "' and attendedTo = 0")
+                .eof();
+}
+
+void frmRecordsOffline::refuseDuplicate() {
+    program.box("Patient Attendance already entered!!! Duplicate not allowed");
+    setButtons(false);
+    clearForm();
+}
+
+void frmRecordsOffline::clearPatient() {
+    for (Label* label : {&lblNo, &lblOld, &lblCoy, &lblPolicy, &LblOccup, &lblExpire})
+        label->clear();
+    piX.setFile({});
+    bCardExpired = false;
+    sReferralConsultID.clear();
+}
+
+/// Gives the day on which the patient's card expires; empty: never.
+QDate frmRecordsOffline::showPatient(Connection& connection) {
+    const Recordset patient(
+        connection,
+        Sql("select clientcatID,coyname,occupation,pno,oldpNo,policytype,ref,expirydate from hpatients where pNo='")
+            << sPatientNo << "'");
+    if (patient.eof())
+        return {};
+    // A category that is no longer offered must not leave the one of the patient before.
+    cboBilling.setListIndex(-1);
+    cboBilling.setText(patient.text("clientcatID"));
+    lblCoy.setText(patient.text("coyName"));
+    lblNo.setText(patient.text("PNo"));
+    lblOld.setText(patient.text("OldPNo"));
+    LblOccup.setText(patient.text("occupation"));
+    lblPolicy.setText(patient.text("policyType"));
+    const QDate expiry = patient.date("expirydate");
+    lblExpire.setText(expiry.toString("dd/MM/yyyy"));
+    cboRef.setListIndex(-1);
+    cboRef.setText(patient.isNull("ref") ? "NO" : patient.text("ref"));
+    return expiry;
+}
+
+void frmRecordsOffline::checkAppointment(Connection& connection) {
+    const Recordset appointment(connection,
+                                Sql("select ApptDate,pno,clinictype,remarks,consultID from qryhAppt where pno='")
+                                    << sPatientNo << "' and attendedto =0  ");
+    if (appointment.eof())
+        return;
+    program.box(" This Patient has " + appointment.text("clinicType") + " Appointment Today");
+    sReferralConsultID = appointment.text("Remarks") == "FOLLOW-UP" ? appointment.text("consultID") : QString();
+}
+
+void frmRecordsOffline::cboClient_Click() {
+    session.sClientName = cboClient.text();
+    if (bFilling || cboClient.text() != "REVIEW")
+        return;
+    Connection connection = program.openBilling();
+    const Recordset last(connection, Sql("select top 1 consultID,recDate from hrecords where pNo='")
+                                         << sPatientNo << "' order by consultID desc");
+    if (last.eof() || last.dateTime("recDate").secsTo(ui().now()) / 3600 <= ReviewHours)
+        return;
+    program.box(" This patient last visit to clinic is beyond time limit of 12HRS for Review. \n"
+                "The system will Enter 'CONSULTATION' for purpose of visit");
+    cboClient.setText("CONSULTATION");
+}
+
+void frmRecordsOffline::cboRef_Click() {
+    const bool onReferral = cboRef.text() == "YES";
+    tmrBill.setEnabled(onReferral);
+    Label5.setVisible(onReferral);
+    Label5.setColor({});
+}
+
+void frmRecordsOffline::tmrBill_Timer() {
+    Label5.setColor(Label5.color() ? std::optional<unsigned>() : FlashColor);
+}
+
+void frmRecordsOffline::cboAppr_Click() {
+    sOfficerEmpID = cboAppr.text().mid(cboAppr.text().lastIndexOf("[") + 1).remove("]");
+}
+
+} // namespace orvane
