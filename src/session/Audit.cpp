@@ -24,6 +24,7 @@ void Program::readEnvironmentIdentity() {
 void Program::writeAuditTrail(const QString& /*userName*/, const QString& action, const QString& tranCode,
                               const QString& remarks, const QString& source) {
     try {
+        // `source` is mostly session.sComputerName itself, which this refreshes.
         readEnvironmentIdentity();
         Connection connection = openBilling();
         connection.call(QStringLiteral("SpAudiTrail"),

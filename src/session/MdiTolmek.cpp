@@ -35,7 +35,6 @@ void MdiTolmek::Form_Load() {
     refreshServerClock();
     SbrTolmek.setPanel(3, session.gFullName);
     find(QStringLiteral("mnuEPE"))->setCaption(QStringLiteral("Log Off ") + session.gUsername);
-    program.readEnvironmentIdentity();
     program.writeAuditTrail(session.gUsername, QStringLiteral("Login Billing"), {}, {}, session.sComputerName);
     {
         Connection connection = program.openBilling();

@@ -13,7 +13,7 @@ namespace {
 constexpr qint64 longestLine = 64 * 1024;
 
 QString decode(const QByteArray& line) {
-    QStringDecoder utf8(QStringConverter::Utf8);
+    QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QString text = utf8(line);
     return utf8.hasError() ? QString::fromLatin1(line) : text;
 }
@@ -27,12 +27,12 @@ QStringList readTextLines(const QString& path) {
         throw DataError(QStringLiteral("The file %1 cannot be read: %2").arg(name, file.errorString()));
     QStringList lines;
     while (!file.atEnd()) {
-        QByteArray line = file.readLine(longestLine + 1);
+        QByteArray line = file.readLine(longestLine + 8); // its end and a byte order mark do not count
         if (line.isEmpty())
             throw DataError(QStringLiteral("The file %1 cannot be read: %2").arg(name, file.errorString()));
         if (line.endsWith('\n'))
             line.chop(line.endsWith("\r\n") ? 2 : 1);
-        else if (line.size() >= longestLine)
+        if (line.size() > longestLine)
             throw DataError(QStringLiteral("The file %1 has a line of more than 64 KB.").arg(name));
         if (line.contains('\0'))
             throw DataError(QStringLiteral("The file %1 is not a text file.").arg(name));

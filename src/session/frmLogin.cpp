@@ -68,7 +68,7 @@ void frmLogin::enter() {
     program.openUserActivity(false, false, session.gModuleName);
     trailLogonSuccess(program, m_attempts);
     // Nobody may work before the hospital and the settings are known; a start by the launcher has them already.
-    if (session.gHospID.isEmpty() && !prepareSession(program)) {
+    if (session.gHospIDName.isEmpty() && !prepareSession(program)) {
         program.end();
         return;
     }

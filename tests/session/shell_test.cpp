@@ -1,0 +1,321 @@
+#include "session/MdiTolmek.h"
+#include "support/TestHome.h"
+#include "support/Workstation.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace orvane {
+namespace {
+
+class Shell : public ::testing::TestWithParam<Engine> {
+protected:
+    Shell() {
+        station.layHospital();
+        serverClock(QStringLiteral("2026-03-14 09:30:45"));
+    }
+
+    void SetUp() override { ASSERT_TRUE(station.start()); }
+
+    void serverClock(const QString& at) {
+        station.program.data().setServerClock(QDateTime::fromString(at, QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+    }
+    QString state(const char* control) { return station.state(QStringLiteral("MdiTolmek.") + QLatin1String(control)); }
+    QString value(const char* control) { return station.value(QStringLiteral("MdiTolmek.") + QLatin1String(control)); }
+    void tick(const char* timer) { station.timer(QStringLiteral("MdiTolmek.") + QLatin1String(timer)); }
+    bool isOn(const char* timer) {
+        return station.control(QStringLiteral("MdiTolmek.") + QLatin1String(timer)).isEnabled();
+    }
+    std::optional<unsigned> stripColor() { return station.control(QStringLiteral("MdiTolmek.Picture1")).color(); }
+    void makeWaitingVisit(const QString& consultID, QDate date) {
+        Connection billing = station.billing();
+        makeVisit(billing, {.consultID = consultID, .date = date});
+        makeConsultation(billing, {.consultID = consultID, .date = date});
+    }
+
+    TestHome home{GetParam()};
+    Workstation station{home.folder()};
+    Session& session = station.program.session;
+    TestUi& ui = station.ui;
+};
+ORVANE_ON_EACH_ENGINE(Shell);
+
+TEST_P(Shell, clockIsTheServersAndItsDateNeverGoesBack) {
+    ui.clock = QDateTime(QDate(2020, 1, 1), QTime(1, 2));
+    const struct {
+        const char* server;
+        const char* date;
+        const char* time;
+    } steps[] = {
+        {"2026-03-14 09:30:45", "14/03/2026", "09:30"},
+        {"2026-03-14 08:15:00", "14/03/2026", "08:15"},
+        {"2026-03-13 23:59:59", "14/03/2026", "08:15"},
+        {"2026-03-15 00:00:10", "15/03/2026", "00:00"},
+    };
+    for (const auto& step : steps) {
+        serverClock(QLatin1String(step.server));
+        tick("Timer2");
+        EXPECT_EQ(value("lblDate"), QLatin1String(step.date));
+        EXPECT_EQ(value("lblTime"), QLatin1String(step.time));
+    }
+    EXPECT_EQ(session.gServerDate, QDate(2026, 3, 15));
+    EXPECT_EQ(session.gServerTime, QTime(0, 0));
+    station.run(QStringLiteral("drop view qrySysDateTime"));
+    tick("Timer2");
+    EXPECT_EQ(value("lblDate"), QStringLiteral("15/03/2026"));
+    EXPECT_EQ(ui.takeBoxes().size(), 1);
+}
+
+TEST_P(Shell, alertFollowsTheVisitsThatWaitToday) {
+    const auto alertIs = [&](bool on) {
+        return isOn("tmrMDI") == on && isOn("tmrSound") == on && session.bBillSound == on;
+    };
+    {
+        Connection billing = station.billing();
+        makePatient(billing);
+    }
+    makeWaitingVisit(QStringLiteral("001OFL0000001"), QDate(2026, 3, 13));
+    tick("Timer1");
+    EXPECT_TRUE(alertIs(false));
+    makeWaitingVisit(QStringLiteral("001OFL0000002"), QDate(2026, 3, 14));
+    tick("Timer1");
+    EXPECT_TRUE(alertIs(true));
+
+    session.bAlertOn = true;
+    for (const unsigned color : {0xff8080u, 0xff0000u, 0xff8080u}) {
+        tick("tmrMDI");
+        EXPECT_EQ(stripColor(), color);
+    }
+    EXPECT_FALSE(session.bAlertOn);
+    for (int minute = 1; minute <= 13; ++minute) {
+        tick("tmrSound");
+        EXPECT_EQ(ui.sounds.size(), minute / 6) << minute;
+    }
+    EXPECT_EQ(ui.sounds.first(), QDir(home.folder()).filePath(QStringLiteral("ring1.wav")));
+
+    station.run(QStringLiteral("update hRecords set BillDate='2026-03-14' where consultID='001OFL0000002'"));
+    tick("Timer1");
+    EXPECT_TRUE(alertIs(false));
+    station.run(QStringLiteral("drop view vwhConsultingVisitsForBilling"));
+    tick("Timer1");
+    EXPECT_EQ(ui.takeBoxes().size(), 1);
+    EXPECT_TRUE(isOn("Timer1"));
+}
+
+TEST_P(Shell, doubleClickOnTheStripSilencesUntilTheNextOne) {
+    for (const bool sounds : {false, true, false}) {
+        station.dblClick(QStringLiteral("MdiTolmek.Picture1"));
+        EXPECT_EQ(session.bFirstShow, sounds);
+        for (const char* timer : {"Timer1", "tmrMDI", "tmrSound"})
+            EXPECT_EQ(isOn(timer), sounds) << timer;
+        if (!sounds) {
+            EXPECT_EQ(stripColor(), 0xff8080u);
+        }
+        tick("tmrMDI");
+        tick("tmrMDI"); // while it sounds, the strip is left red
+    }
+    EXPECT_TRUE(isOn("Timer2"));
+    EXPECT_FALSE(isOn("tmrIdle"));
+}
+
+TEST_P(Shell, namesItsUser) {
+    EXPECT_EQ(value("SbrTolmek"), QStringLiteral("||AMINA BELLO"));
+    EXPECT_EQ(value("mnuEPE"), QStringLiteral("Log Off amina.b"));
+    EXPECT_EQ(value("lblServer"), QStringLiteral("Server Date && Time: "));
+}
+
+TEST_P(Shell, onlyUsersForAcctsSeeTheAccounts) {
+    EXPECT_EQ(state("mnuAccts"), QStringLiteral("visible enabled"));
+    ui.answer(true);
+    station.menu(QStringLiteral("mnuEPE"));
+    station.run(QStringLiteral("delete from UsersForAccts"));
+    ASSERT_TRUE(station.start());
+    EXPECT_EQ(state("mnuAccts"), QStringLiteral("hidden enabled"));
+}
+
+TEST_P(Shell, hiddenEntriesAreTurnedOnByTheIniAlone) {
+    QStringList hidden;
+    for (Control* control : station.form(QStringLiteral("MdiTolmek")).controls())
+        if (control->kind() == ControlKind::Menu && !control->isVisible())
+            hidden << control->name();
+    EXPECT_EQ(hidden,
+              QStringLiteral("mnuUPC mnuBanks mnuAdmDepo mnuRct mnuDisc mnuPCR mnuPSITC mnuPCBILL mnuPCB mnuDFO "
+                             "mnuCBFHPC mnuSearch mnuView mnuReal mnuBIBC mnuRemnd mnuCR mnusecurity mnuLR mnuAuto")
+                  .split(QLatin1Char(' ')));
+    EXPECT_FALSE(station.control(QStringLiteral("MdiTolmek.mnusecurity")).isEnabled());
+
+    ui.answer(true);
+    station.menu(QStringLiteral("mnuEPE"));
+    station.run(QStringLiteral("delete from UsersForAccts"));
+    QFile ini(QDir(home.folder()).filePath(QStringLiteral("orvane.ini")));
+    ASSERT_TRUE(ini.open(QIODevice::Append));
+    ini.write("\n[menu]\nmnuRct = 1\nmnuSecurity = 1\nmnuAccts = 1\nmnuDisc = 0\nmnuVerify = 0\n");
+    ini.close();
+    Workstation restarted(home.folder());
+    ASSERT_TRUE(restarted.start());
+    const struct {
+        const char* name;
+        bool visible;
+    } cases[] = {{"mnuRct", true}, {"mnusecurity", true}, {"mnuAccts", false}, {"mnuDisc", false}, {"mnuVerify", true}};
+    for (const auto& each : cases) {
+        const Control& entry = restarted.control(QStringLiteral("MdiTolmek.") + QLatin1String(each.name));
+        EXPECT_EQ(entry.isVisible(), each.visible) << each.name;
+        EXPECT_TRUE(entry.isEnabled()) << each.name;
+    }
+}
+
+TEST_P(Shell, everyEntryActsButTheEmptyOnes) {
+    const QStringList silent =
+        QStringLiteral(
+            "mnuPCR mnuPCBILL mnuDFO mnuCBFHPC mnuEditArecord mnuPayVBC mnuABR mnuDSP mnuLR mnuAuto mnuWindowTV "
+            "mnuWindowTH mnuWindowCascade")
+            .split(QLatin1Char(' '));
+    QStringList quiet;
+    for (Control* control : station.form(QStringLiteral("MdiTolmek")).controls()) {
+        auto* item = dynamic_cast<MenuItem*>(control);
+        if (!item || !item->menu() || item->name() == QLatin1String("mnuEPE"))
+            continue;
+        if (item->name().startsWith(QLatin1String("mnuAcct")))
+            ui.answerCancel();
+        const qsizetype opened = ui.opened.size();
+        control->form().userEvent([&] { item->click(); });
+        if (ui.takeBoxes().isEmpty() && ui.takeQuestions().isEmpty() && ui.opened.size() == opened)
+            quiet << item->name();
+        if (Form* active = station.program.activeForm())
+            active->abandon();
+    }
+    EXPECT_EQ(quiet, silent);
+}
+
+TEST_P(Shell, entriesHandTheirPurposeToTheScreen) {
+    station.menu(QStringLiteral("mnuRPtES"));
+    EXPECT_EQ(session.sRptPanelMode, QStringLiteral("Receipt"));
+    EXPECT_EQ(session.sRptPanelLabel, QStringLiteral("select a receipt No"));
+    for (const auto& [entry, kind] :
+         {std::pair("mnuTB", "TB"), std::pair("mnuTBBP", "TB2"), std::pair("mnuGL", "GL")}) {
+        station.menu(QLatin1String(entry));
+        EXPECT_EQ(session.sRptKind, QLatin1String(kind));
+    }
+    ui.forgetBoxes();
+    station.menu(QStringLiteral("mnuSupp"));
+    EXPECT_BOXES(ui, {QStringLiteral("The screen frmSupplers is not part of this version yet.")});
+}
+
+TEST_P(Shell, reportsOfTodayTakeTheirOwnDate) {
+    // The server is a day behind the workstation: bills are the server's today, receipts the workstation's.
+    ui.clock = QDateTime(QDate(2026, 3, 15), QTime(7, 0));
+    const auto viewAll = [&] {
+        for (const char* entry : {"mnuBFT", "mnuINC", "mnuCR"}) {
+            Control& item = station.control(QStringLiteral("MdiTolmek.") + QLatin1String(entry));
+            item.form().userEvent([&] { item.click(); });
+        }
+    };
+    const QStringList nothing{QStringLiteral("No Bills for Today"), QStringLiteral("No Income between these two dates"),
+                              QStringLiteral("No Cancelled Receipts")};
+    const auto layDay = [&](int id, const QString& billDay, const QString& receiptDay) {
+        Connection billing = station.billing();
+        const QString bill = QStringLiteral("001OFL000000%1").arg(id);
+        makeVisit(billing, {.consultID = bill});
+        billing.run(QStringLiteral("insert into Billing (billNo, PNo, bdate, Amountbilled, AmountPaid) values ('%1', "
+                                   "'P/0001', '%2', 500, 0)")
+                        .arg(bill, billDay));
+        for (const char* amount : {"500", "-500"})
+            billing.run(QStringLiteral("insert into Payments (ReceiptNo, ReceiptDate, billNo, PNo, AmountPaid) values "
+                                       "('R%1%2', '%3', '%4', 'P/0001', %2)")
+                            .arg(QString::number(id), QLatin1String(amount), receiptDay, bill));
+    };
+    {
+        Connection billing = station.billing();
+        makePatient(billing);
+    }
+    layDay(1, QStringLiteral("2026-03-15"), QStringLiteral("2026-03-14"));
+    viewAll();
+    EXPECT_EQ(ui.takeBoxes(), nothing);
+    layDay(2, QStringLiteral("2026-03-14"), QStringLiteral("2026-03-15"));
+    viewAll();
+    EXPECT_BOXES(ui, {});
+    ASSERT_EQ(ui.reports.size(), 3);
+    const struct {
+        const char* file;
+        const char* title;
+        int rows;
+    } expected[] = {{"rptCompanyBill", "Unpaid Bills for Today", 1},
+                    {"rptBillingIncome", "Income for Today", 2},
+                    {"rptCancelledReceipt", "Cancelled Receipts", 1}};
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(ui.reports[i].file, QLatin1String(expected[i].file));
+        EXPECT_EQ(ui.reports[i].title, QLatin1String(expected[i].title));
+        EXPECT_EQ(ui.reports[i].rows, expected[i].rows);
+    }
+}
+
+TEST_P(Shell, printsTheActiveScreen) {
+    station.menu(QStringLiteral("mnuPrint"));
+    EXPECT_BOXES(ui, {QStringLiteral("There is no open screen to print.")});
+    station.open(QStringLiteral("frmRole"));
+    station.open(QStringLiteral("frmDialog"));
+    station.menu(QStringLiteral("mnuPrint"));
+    station.form(QStringLiteral("frmRole")).activated();
+    station.menu(QStringLiteral("mnuPrint"));
+    station.close(QStringLiteral("frmRole"));
+    station.menu(QStringLiteral("mnuPrint"));
+    EXPECT_EQ(ui.printed,
+              (QStringList{QStringLiteral("frmDialog"), QStringLiteral("frmRole"), QStringLiteral("frmDialog")}));
+}
+
+TEST_P(Shell, exitAsksAndEndsEverything) {
+    const QString question = QStringLiteral(" Do you want to Exit the Application?");
+    const QString row = QStringLiteral("UserActivities where SNo=%1 and ").arg(session.gActivitySNo);
+    station.open(QStringLiteral("frmRole"));
+    ui.answer(false);
+    station.close(QStringLiteral("MdiTolmek"));
+    EXPECT_QUESTIONS(ui, {question});
+    EXPECT_FALSE(ui.hasQuit);
+    EXPECT_EQ(station.tableCount(row + QStringLiteral("islogout=0 and LogoutDate is null")), 1);
+
+    serverClock(QStringLiteral("2026-03-15 17:05:00"));
+    ui.answer(true);
+    station.close(QStringLiteral("MdiTolmek"));
+    EXPECT_QUESTIONS(ui, {question});
+    EXPECT_TRUE(ui.hasQuit);
+    EXPECT_EQ(ui.closedForms.size(), 2);
+    EXPECT_EQ(station.program.loadedForm(QStringLiteral("frmRole")), nullptr);
+    EXPECT_EQ(station.program.loadedForm(QStringLiteral("MdiTolmek")), nullptr);
+    EXPECT_EQ(station.tableCount(row + QStringLiteral("islogout=1 and AutoLogoff=0 and LogoutDate='2026-03-15' and "
+                                                      "LogoutTime='17:05' and LoginDate='2026-03-14'")),
+              1);
+}
+
+TEST_P(Shell, anAutomaticLogOffAsksNothing) {
+    session.bAutoLogoff = true;
+    station.close(QStringLiteral("MdiTolmek"));
+    EXPECT_TRUE(ui.hasQuit);
+    EXPECT_EQ(station.tableCount(QStringLiteral("UserActivities where islogout=1 and AutoLogoff=1")), 1);
+}
+
+TEST_P(Shell, endsEvenWhenItsTrailCannotBeWritten) {
+    station.run(QStringLiteral("drop table UserActivities"));
+    ui.answer(true);
+    station.close(QStringLiteral("MdiTolmek"));
+    EXPECT_EQ(ui.takeBoxes().size(), 1);
+    EXPECT_TRUE(ui.hasQuit);
+}
+
+TEST_P(Shell, promptsStandInFrontOfEachOther) {
+    auto& shell = dynamic_cast<MdiTolmek&>(station.form(QStringLiteral("MdiTolmek")));
+    shell.VerifyApptDate();
+    EXPECT_EQ(shell.sPrompt, QString());
+    station.run(QStringLiteral("insert into hreferal (PNo, ApptDate, attendedTo) values ('P/0001', '2026-03-14', 0)"));
+    {
+        Connection billing = station.billing();
+        makePatient(billing);
+        makeVisit(billing);
+    }
+    shell.VerifyApptDate();
+    shell.VerifyVisitsToday();
+    EXPECT_EQ(shell.sPrompt, QStringLiteral("--There are Visits to the clinic Today--\n"
+                                            "--Some Patients Appt Date is Due Today--\n"));
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,128 @@
+#include "session/Scramble.h"
+#include "session/StartFiles.h"
+#include "session/TextFile.h"
+#include "support/TestUi.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+/// A home folder without a database, and a program that stands in it.
+class StartFiles : public ::testing::Test {
+protected:
+    void write(const QString& name, const QByteArray& content) {
+        QFile file(home.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        ASSERT_EQ(file.write(content), content.size());
+    }
+
+    QTemporaryDir home;
+    TestUi ui;
+    Program program{home.path(), ui};
+};
+
+TEST_F(StartFiles, madeSysGivesTheLastServerAndHospital) {
+    const struct {
+        const char* content;
+        const char* server;
+        const char* hospital;
+    } cases[] = {
+        {"SVR=HALL1\nHNO=007\n", "HALL1", "007"},
+        {"SVR HALL1\r\nHNO 007\r\n", "HALL1", "007"},                 // the fourth character may be anything
+        {"\xEF\xBB\xBFSVR=HALL1\nHNO=007", "HALL1", "007"},           // byte order mark, no last line end
+        {"SVR=ONE\nSVR=TWO\nHNO=1\nHNO=2\n", "TWO", "2"},             // the last one wins
+        {"SVR=ONE\nSVR\n", "", ""},                                   // even an empty one
+        {"svr=ONE\n SVR=TWO\nDB=x\n\n", "", ""},                      // other lines are skipped
+        {"SVR= A B \n", " A B ", ""},                                 // not trimmed
+        {"SVR=H\xC3\xB4tel\nHNO=\xF4\n", "H\xC3\xB4tel", "\xC3\xB4"}, // UTF-8, and a line that is not
+        {"", "", ""},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.content);
+        program.session = Session();
+        write(QStringLiteral("made.sys"), each.content);
+        EXPECT_EQ(readMadeSys(program), qint16(0));
+        EXPECT_EQ(program.session.gServerName, QString::fromUtf8(each.server));
+        EXPECT_EQ(program.session.gHospID, QString::fromUtf8(each.hospital));
+    }
+}
+
+TEST_F(StartFiles, sysdocGivesItsLastLineAsItStands) {
+    const struct {
+        const char* content;
+        const char* user;
+    } cases[] = {
+        {"amina.b\n", "amina.b"}, {"amina.b", "amina.b"},       {"one\r\ntwo\r\namina.b\r\n", "amina.b"},
+        {"amina.b\n\n", ""},      {" amina.b \n", " amina.b "}, {"", ""},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.content);
+        program.session = Session();
+        write(QStringLiteral("sysdoc.sys"), each.content);
+        EXPECT_TRUE(readSysDoc(program));
+        EXPECT_EQ(program.session.gUsername, QString::fromUtf8(each.user));
+    }
+}
+
+TEST_F(StartFiles, missingFilesSayWhichAreMissing) {
+    EXPECT_EQ(readMadeSys(program), std::nullopt);
+    EXPECT_FALSE(readSysDoc(program));
+    EXPECT_BOXES(ui, {QStringLiteral("A System inifile bAccum required for this Application is MISSING"),
+                      QStringLiteral("A System file UName required for this Application is MISSING")});
+}
+
+TEST_F(StartFiles, filesThatAreNoTextAreRefusedInOneLine) {
+    const struct {
+        QByteArray content;
+        const char* reason;
+    } cases[] = {
+        {QByteArray("SVR=\0\1\2", 7), "is not a text file"},
+        {QByteArray(64 * 1024 + 1, 'x'), "has a line of more than 64 KB"},
+        {"SVR=A\n" + QByteArray(1024 * 1024, 'x'), "has a line of more than 64 KB"},
+    };
+    for (const auto& each : cases) {
+        write(QStringLiteral("made.sys"), each.content);
+        try {
+            readMadeSys(program);
+            ADD_FAILURE() << "no fault: " << each.reason;
+        } catch (const DataError& fault) {
+            EXPECT_EQ(fault.description().count(QLatin1Char('\n')), 0);
+            EXPECT_TRUE(fault.description().contains(QLatin1String(each.reason))) << fault.what();
+            EXPECT_TRUE(fault.description().contains(QLatin1String("made.sys"))) << fault.what();
+        }
+    }
+    EXPECT_THROW(readTextLines(home.path()), DataError);
+    write(QStringLiteral("longest"), QByteArray(64 * 1024 - 1, 'x') + "\r\nend");
+    EXPECT_EQ(readTextLines(home.filePath(QStringLiteral("longest"))).last(), QStringLiteral("end"));
+}
+
+TEST_F(StartFiles, onlyTheMenuSectionTurnsEntriesOn) {
+    EXPECT_TRUE(readMenuEntriesTurnedOn(home.path()).isEmpty());
+    write(QStringLiteral("orvane.ini"), "mnuA = 1\n[server SERVER]\nmnuB = 1\n[Menu]\r\n; mnuC = 1\nmnuRct = 1 ; on\n"
+                                        "mnuDisc=0\nmnuBanks\nmnuMixed=1\n[server X]\nmnuD=1\n");
+    EXPECT_EQ(readMenuEntriesTurnedOn(home.path()),
+              (QSet<QString>{QStringLiteral("mnurct"), QStringLiteral("mnumixed")}));
+}
+
+TEST_F(StartFiles, passwordsAreScrambledOneForOne) {
+    QString printable;
+    for (char16_t code = 33; code < 127; ++code)
+        printable += QChar(code);
+    const QString scrambled = scramblePassword(program, printable);
+    EXPECT_EQ(QSet<QChar>(scrambled.begin(), scrambled.end()).size(), 94);
+    EXPECT_EQ(QSet<QChar>(scrambled.begin(), scrambled.end()), QSet<QChar>(printable.begin(), printable.end()));
+    EXPECT_EQ(scramblePassword(program, QStringLiteral("cba")), scrambled.mid(printable.indexOf(u'c'), 1) +
+                                                                    scrambled.mid(printable.indexOf(u'b'), 1) +
+                                                                    scrambled.mid(printable.indexOf(u'a'), 1));
+    EXPECT_BOXES(ui, {});
+    EXPECT_EQ(scramblePassword(program, QStringLiteral("a b\x7f\u00e9")),
+              scramblePassword(program, QStringLiteral("ab")));
+    const QString invalid = QStringLiteral("Invalid character detected!");
+    EXPECT_BOXES(ui, {invalid, invalid, invalid});
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,205 @@
+#include "session/Scramble.h"
+#include "session/Words.h"
+#include "support/TestHome.h"
+#include "support/Workstation.h"
+
+#include <QSysInfo>
+
+namespace orvane {
+namespace {
+
+class Trail : public ::testing::TestWithParam<Engine> {
+protected:
+    Trail() {
+        qputenv("computername", "CASH-01");
+        qputenv("username", "till");
+        station.layHospital();
+        station.program.data().setServerClock(QDateTime(QDate(2026, 3, 14), QTime(9, 30, 45)));
+    }
+    ~Trail() override {
+        qunsetenv("computername");
+        qunsetenv("username");
+    }
+
+    /// The rows of the audit trail, which lies in a file of its own on the embedded engine.
+    QStringList auditRows() {
+        Connection audit = station.billing().beside(GetParam() == Engine::Sqlite ? QStringLiteral("Audit") : QString());
+        QStringList rows;
+        for (Recordset row = audit.run(QStringLiteral("select * from AuditTrail order by SNo")); !row.eof();
+             row.moveNext()) {
+            QStringList cells;
+            for (int column = 1; column < row.columns().size(); ++column)
+                cells << row.text(column);
+            rows << cells.join(QLatin1Char('|'));
+        }
+        return rows;
+    }
+
+    void logIn(const QString& user, const QString& password) {
+        station.set(QStringLiteral("frmLogin.txtUserName"), user);
+        station.set(QStringLiteral("frmLogin.txtPassword"), password);
+        station.click(QStringLiteral("frmLogin.cmdOK"));
+    }
+    void storePassword(const QString& stored) {
+        station.run(QStringLiteral("update ApplicationUsers set Password='%1'")
+                        .arg(QString(stored).replace(u'\'', QStringLiteral("''"))));
+    }
+
+    TestHome home{GetParam()};
+    Workstation station{home.folder()};
+    Session& session = station.program.session;
+    TestUi& ui = station.ui;
+};
+ORVANE_ON_EACH_ENGINE(Trail);
+
+TEST_P(Trail, auditBearsTheShellsClockAndTheUserOfTheSession) {
+    ASSERT_TRUE(station.start());
+    // The stamp is the clock of the shell's last tick.
+    station.program.data().setServerClock(QDateTime(QDate(2026, 3, 15), QTime(11, 0)));
+    station.program.writeAuditTrail(QStringLiteral("someone"), QStringLiteral("Deleted O'NEILL's bill"),
+                                    QStringLiteral("B1"), QStringLiteral("why"), session.sComputerName);
+    qunsetenv("computername"); // the host's name stands in
+    station.timer(QStringLiteral("MdiTolmek.Timer2"));
+    ui.answer(true);
+    station.close(QStringLiteral("MdiTolmek"));
+    EXPECT_EQ(
+        auditRows(),
+        (QStringList{QStringLiteral("amina.b|Login Billing|2026-03-14|09:30|||BILLING: from CASH-01"),
+                     QStringLiteral("amina.b|Deleted O'NEILL's bill|2026-03-14|09:30|B1|why|BILLING: from CASH-01"),
+                     QStringLiteral("amina.b|Login Out|2026-03-15|11:00|||BILLING: from ") +
+                         QSysInfo::machineHostName()}));
+    EXPECT_EQ(session.sEnvUserName, QStringLiteral("till"));
+}
+
+TEST_P(Trail, eachSessionHasItsOwnActivityRow) {
+    ASSERT_TRUE(station.start());
+    const qlonglong own = session.gActivitySNo;
+    station.program.openUserActivity(true, true, QStringLiteral("other"));
+    EXPECT_EQ(session.gActivitySNo, own + 1);
+    EXPECT_EQ(session.dWorkDate, QDate(2026, 3, 14));
+    EXPECT_EQ(
+        station.tableCount(QStringLiteral("UserActivities where LoginTime='09:30' and islogout=0 and AutoLogoff=0 "
+                                          "and Remarks='BILLING' and LogoutTime is null and SNo=%1")
+                               .arg(own)),
+        1);
+    EXPECT_EQ(station.tableCount(QStringLiteral("UserActivities where LogoutDate='2026-03-14' and islogout=1 and "
+                                                "AutoLogoff=1 and SNo=%1")
+                                     .arg(own + 1)),
+              1);
+    // A row that is gone is neither written anew nor complained of.
+    station.run(QStringLiteral("delete from UserActivities where SNo=%1").arg(own + 1));
+    session.bAutoLogoff = true;
+    station.program.closeUserActivity(true, false, QStringLiteral("BILLING"));
+    EXPECT_FALSE(session.bAutoLogoff);
+    EXPECT_EQ(station.tableCount(QStringLiteral("UserActivities")), 1);
+}
+
+TEST_P(Trail, aFaultOfATrailWaitsForTheEndOfTheTransaction) {
+    ASSERT_TRUE(station.start());
+    station.run(QStringLiteral("drop view qrySysDateTime"));
+    {
+        Connection billing = station.billing();
+        Transaction transaction(billing);
+        EXPECT_FALSE(station.program.getServerDateTime().isValid());
+        EXPECT_BOXES(ui, {});
+    }
+    station.program.flushBoxes();
+    EXPECT_EQ(ui.takeBoxes().size(), 1);
+}
+
+TEST_P(Trail, threeWrongPasswordsEndTheProgramAtTheFourthPress) {
+    storePassword(scramblePassword(station.program, QStringLiteral("Secret1")));
+    station.open(QStringLiteral("frmLogin"));
+    for (const char* password : {"", "secret2", "' or '1'='1"}) {
+        logIn(QStringLiteral(" amina.b "), QLatin1String(password));
+        QStringList boxes = ui.takeBoxes();
+        EXPECT_EQ(boxes.takeLast(), QStringLiteral("Alert! Invalid Login details."));
+        EXPECT_EQ(station.value(QStringLiteral("frmLogin.txtUserName")) +
+                      station.value(QStringLiteral("frmLogin.txtPassword")),
+                  QString());
+    }
+    EXPECT_FALSE(ui.hasQuit);
+    logIn(QStringLiteral("amina.b"), QStringLiteral("Secret1"));
+    EXPECT_BOXES(ui, {});
+    EXPECT_TRUE(ui.hasQuit);
+    EXPECT_EQ(
+        station.tableCount(QStringLiteral("LoginTrail where LoginName='amina.b' and LoginAction='Failed Logon' and "
+                                          "LoginDate='2026-03-14' and LoginTime='09:30:00'")),
+        3);
+    EXPECT_EQ(station.tableCount(QStringLiteral("LoginTrail")), 3);
+}
+
+TEST_P(Trail, onlyAnEnabledAccountOfTheModuleWithTheExactPasswordLogsIn) {
+    const QString stored = scramblePassword(station.program, QStringLiteral("abcXYZ"));
+    QString otherCase;
+    for (const QChar letter : stored)
+        otherCase += letter.isUpper() ? letter.toLower() : letter.toUpper();
+    ASSERT_NE(stored, otherCase);
+    station.open(QStringLiteral("frmLogin"));
+
+    // The server's comparison lets it through; it costs no attempt.
+    storePassword(otherCase);
+    for (int i = 0; i < 4; ++i) {
+        logIn(QStringLiteral("amina.b"), QStringLiteral("abcXYZ"));
+        EXPECT_BOXES(ui, {QStringLiteral("Invalid Login details")});
+    }
+    storePassword(stored);
+    const QStringList refused{QStringLiteral("Alert! Invalid Login details.")};
+    station.run(QStringLiteral("update ApplicationUsers set AccountStatus='Disabled'"));
+    logIn(QStringLiteral("amina.b"), QStringLiteral("abcXYZ"));
+    EXPECT_EQ(ui.takeBoxes(), refused);
+    station.run(QStringLiteral("update ApplicationUsers set AccountStatus='Enabled'"));
+    station.run(QStringLiteral("update Roles set LoginRole='RECORDS' where LoginRole='BILLING'"));
+    logIn(QStringLiteral("amina.b"), QStringLiteral("abcXYZ"));
+    EXPECT_EQ(ui.takeBoxes(), refused);
+    station.run(QStringLiteral("update Roles set LoginRole='BILLING' where LoginRole='RECORDS'"));
+
+    logIn(QStringLiteral("AMINA.B"), QStringLiteral("abcXYZ"));
+    EXPECT_EQ(ui.takeBoxesWithTitles(),
+              (QList<TestUi::Box>{{QStringLiteral("You're welcome, AMINA BELLO."), {}, Icon::Information}}));
+    EXPECT_EQ(ui.opened, (QStringList{QStringLiteral("frmLogin"), QStringLiteral("MdiTolmek")}));
+    EXPECT_EQ(ui.closedForms, QStringList{QStringLiteral("frmLogin")});
+    EXPECT_EQ(session.gUsername, QStringLiteral("amina.b"));
+    EXPECT_EQ(session.sLoginBranch, QStringLiteral("HQ"));
+    EXPECT_EQ(station.scalar(QStringLiteral("select LoginAction from LoginTrail order by SNo desc")),
+              QStringLiteral("Successful Logon"));
+}
+
+TEST_P(Trail, welcomeShowsTheWorkstationsClock) {
+    station.open(QStringLiteral("frmWelcome"));
+    EXPECT_EQ(station.value(QStringLiteral("frmWelcome.Label6")), QStringLiteral("Saturday, 14 March 2026"));
+    ui.clock = QDateTime(QDate(2026, 3, 14), QTime(15, 5));
+    station.timer(QStringLiteral("frmWelcome.Timer1"));
+    EXPECT_EQ(station.value(QStringLiteral("frmWelcome.Label5")), QStringLiteral("03:05 PM"));
+    station.click(QStringLiteral("frmWelcome.cmdEnter"));
+    station.click(QStringLiteral("frmLogin.cmdCancel"));
+    EXPECT_TRUE(ui.hasQuit);
+    EXPECT_EQ(ui.closedForms.size(), 2);
+}
+
+TEST_P(Trail, theSplashGoesWhenItsBarIsFull) {
+    station.open(QStringLiteral("frmStart"));
+    for (int i = 0; i < 99; ++i)
+        station.timer(QStringLiteral("frmStart.Timer1"));
+    EXPECT_EQ(station.value(QStringLiteral("frmStart.ProgressBar1")), QStringLiteral("99"));
+    station.timer(QStringLiteral("frmStart.Timer1"));
+    EXPECT_EQ(ui.closedForms, QStringList{QStringLiteral("frmStart")});
+}
+
+TEST_P(Trail, numbersAndWordsReachTheSession) {
+    Connection billing = station.billing();
+    for (const char* number : {"1", "2"}) {
+        station.program.fetchIDNo(billing, QStringLiteral("RECEIPT2"));
+        EXPECT_EQ(session.gIDNo, QLatin1String(number));
+    }
+    station.program.fetchIDNo(billing, QStringLiteral("UNKNOWN"));
+    EXPECT_EQ(session.gIDNo, QString());
+    session.dBillTotal = 2531.5;
+    station.program.amountToUpperWords();
+    EXPECT_EQ(session.sAmountWords,
+              QStringLiteral("TWO THOUSAND, FIVE HUNDRED AND THIRTY ONE NAIRA AND FIFTY KOBO ONLY"));
+    EXPECT_EQ(getValInWord(0), QStringLiteral(" NAIRA"));
+}
+
+} // namespace
+} // namespace orvane
