@@ -152,6 +152,8 @@ QString Grid::cellText(int row, int column) const {
 }
 
 int Grid::findRow(const QString& column, const QString& wanted) const {
+    if (rowCount() == 0)
+        return -1;
     Recordset rows = m_rows;
     rows.moveFirst();
     return rows.find(column, wanted) ? rows.row() : -1;

@@ -5,12 +5,12 @@
 
 namespace orvane {
 
-/// A printed page in words: what stands where, in millimetres from its upper left corner. The desktop paints it alike on
-/// the screen, on a printer and into a PDF.
+/// A printed page in words: what stands where, in millimetres from its upper left corner. The desktop paints it alike
+/// on the screen, on a printer and into a PDF.
 enum class PageAlign { Left, Center, Right };
 
-/// A text inside a box. One line stands on the top edge of its box; with `wraps` it breaks at blanks and goes on below. A text
-/// that is wider than its box is shown smaller, never cut off: an amount must not lose a digit on paper.
+/// A text inside a box. One line stands on the top edge of its box; with `wraps` it breaks at blanks and goes on below.
+/// A text that is wider than its box is shown smaller, never cut off: an amount must not lose a digit on paper.
 struct PageText {
     double x = 0, y = 0;          ///< upper left corner of the box, mm
     double width = 0, height = 0; ///< of the box, mm; height 0: as many lines as it takes

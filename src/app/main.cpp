@@ -1,0 +1,129 @@
+#include "session/Main.h"
+#include "desktop/DesktopUi.h"
+#include "desktop/Look.h"
+#include "desktop/WindowDriver.h"
+#include "play/Play.h"
+#include "screens/Screens.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFile>
+#include <cstdio>
+
+namespace {
+
+using namespace orvane;
+
+constexpr QSize pictureSize(1366, 768); ///< of the main window in a script run
+
+struct Options {
+    QString home;
+    std::optional<QString> user;
+    bool login = false;
+    QString play;
+    bool window = false;
+    QString out;
+};
+
+/// The demonstration hospital beside the program, or where the program was started.
+QString usualHome() {
+    const QDir demo(QCoreApplication::applicationDirPath() + QStringLiteral("/../var/demo"));
+    return demo.exists(QStringLiteral("made.sys")) ? demo.canonicalPath() : QDir::currentPath();
+}
+
+Options readOptions(const QCoreApplication& application) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Billing and accounts of a hospital."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption home(QStringLiteral("home"), QStringLiteral("The program's folder."),
+                                  QStringLiteral("DIR"));
+    const QCommandLineOption user(QStringLiteral("user"), QStringLiteral("The user, instead of the one in sysdoc.sys."),
+                                  QStringLiteral("NAME"));
+    const QCommandLineOption login(QStringLiteral("login"), QStringLiteral("Ask for the user's name and password."));
+    const QCommandLineOption play(QStringLiteral("play"), QStringLiteral("Play a script ('-': standard input)."),
+                                  QStringLiteral("FILE"));
+    const QCommandLineOption window(QStringLiteral("window"), QStringLiteral("Play the script on the real windows."));
+    const QCommandLineOption out(QStringLiteral("out"), QStringLiteral("Where a script's pictures and prints go."),
+                                 QStringLiteral("DIR"));
+    parser.addOptions({home, user, login, play, window, out});
+    parser.process(application);
+    Options options;
+    options.home = parser.isSet(home) ? QDir(parser.value(home)).absolutePath() : usualHome();
+    if (parser.isSet(user))
+        options.user = parser.value(user);
+    options.login = parser.isSet(login);
+    options.play = parser.value(play);
+    options.window = parser.isSet(window);
+    options.out = parser.isSet(out) ? QDir(parser.value(out)).absolutePath() : QDir::currentPath();
+    return options;
+}
+
+int complain(const QString& message) {
+    std::fprintf(stderr, "%s\n", qPrintable(message));
+    return 2;
+}
+
+int play(const Options& options, Driver* driver, Shower* shower) {
+    QFile script(options.play), output;
+    const bool opened =
+        options.play == QLatin1String("-") ? script.open(stdin, QIODevice::ReadOnly) : script.open(QIODevice::ReadOnly);
+    if (!opened)
+        return complain(options.play + QStringLiteral(": ") + script.errorString());
+    if (!output.open(stdout, QIODevice::WriteOnly))
+        return complain(QStringLiteral("The standard output cannot be written."));
+    return runPlay(options.home, script, output, {options.user, driver, shower});
+}
+
+int playOnWindows(const Options& options) {
+    if (!QDir().mkpath(options.out))
+        return complain(options.out + QStringLiteral(": the folder cannot be made"));
+    DesktopUi desktop;
+    desktop.windows().setMainSize(pictureSize);
+    desktop.windows().setScripted(true);
+    desktop.windows().setPrintFolder(options.out);
+    DesktopShower shower(desktop);
+    WindowDriver driver(desktop.windows(), options.out);
+    return play(options, &driver, &shower);
+}
+
+int runDesktop(const Options& options) {
+    DesktopUi desktop;
+    Program program(options.home, desktop);
+    registerScreens(program);
+    const bool started = options.login ? MainWithLogin(program) : Main(program, options.user);
+    return started ? QApplication::exec() : 1;
+}
+
+/// Whether a window will be shown is known before there is an application object: without one no display is needed.
+bool needsWindow(int argc, char** argv) {
+    bool plain = false, window = false;
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray argument(argv[i]);
+        plain = plain || argument.startsWith("--play") || argument == "--help" || argument == "-h" ||
+                argument == "--version" || argument == "-v";
+        window = window || argument == "--window";
+    }
+    return window || !plain;
+}
+
+void nameProgram() {
+    QCoreApplication::setApplicationName(QStringLiteral("Billing"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.0"));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!needsWindow(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        nameProgram();
+        return play(readOptions(application), nullptr, nullptr);
+    }
+    QApplication application(argc, argv);
+    nameProgram();
+    look::apply(application);
+    const Options options = readOptions(application);
+    return options.play.isEmpty() ? runDesktop(options) : playOnWindows(options);
+}

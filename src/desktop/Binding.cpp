@@ -1,0 +1,136 @@
+#include "desktop/Binding.h"
+
+#include "desktop/FormView.h"
+
+#include <QKeyEvent>
+
+namespace orvane {
+
+Binding::Binding(FormView& view, Control& control, QWidget* widget)
+    : QObject(&view), m_view(view), m_control(&control), m_widget(widget) {
+    view.add(this);
+    if (widget) {
+        widget->setObjectName(control.name());
+        watch(widget);
+    }
+    connect(&control, &Control::changed, this, &Binding::schedule);
+    connect(&control, &Control::focusWanted, this, [this] {
+        m_focusWanted = true;
+        schedule();
+    });
+}
+
+void Binding::watch(QWidget* widget) {
+    widget->installEventFilter(this);
+}
+
+void Binding::schedule() {
+    if (m_scheduled)
+        return;
+    m_scheduled = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_scheduled)
+                refreshNow();
+        },
+        Qt::QueuedConnection);
+}
+
+void Binding::refreshNow() {
+    m_scheduled = false;
+    if (!m_control)
+        return;
+    showState();
+    refresh();
+    takeFocus();
+}
+
+void Binding::showState() {
+    if (!m_widget)
+        return;
+    const bool shown = m_control->isShown();
+    m_widget->setVisible(shown);
+    for (const QPointer<QWidget>& companion : m_companions)
+        if (companion)
+            companion->setVisible(shown);
+    const bool usable = m_control->isUsable() && !(m_control->kind() == ControlKind::Button && m_view.isBusy());
+    m_widget->setEnabled(usable);
+    m_widget->setToolTip(m_control->toolTip());
+}
+
+void Binding::takeFocus() {
+    if (!m_focusWanted || !m_widget)
+        return;
+    m_focusWanted = false;
+    if (QWidget* target = editor(); target && target->isEnabled())
+        target->setFocus(Qt::OtherFocusReason);
+}
+
+void Binding::release() {
+    if (m_control)
+        disconnect(m_control, nullptr, this, nullptr);
+    m_control = nullptr;
+    released();
+}
+
+void Binding::user(const std::function<void()>& act) {
+    if (!m_control)
+        return;
+    // The event may close the form and with it this view.
+    const QPointer<Binding> self(this);
+    m_control->form().userEvent(act);
+    // A refused or corrected entry leaves no change behind: show the control's state in any case.
+    if (self)
+        schedule();
+}
+
+void Binding::focusLeft() {
+    if (!m_control || !m_control->onLeave || m_view.isScripted())
+        return;
+    // After the press that took the focus away: a box raised inside it would swallow that press.
+    QMetaObject::invokeMethod(
+        this, [this] { user([this] { m_control->leave(); }); }, Qt::QueuedConnection);
+}
+
+bool Binding::acceptsKey(const QKeyEvent& event) {
+    if (!m_control || !m_control->onKeyPress || event.text().size() != 1)
+        return true;
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const QChar typed = enter ? QLatin1Char('\n') : event.text().at(0);
+    if (!enter && !typed.isPrint())
+        return true;
+    bool accepted = false;
+    user([&] { accepted = m_control->keyPress(typed); });
+    return accepted;
+}
+
+bool Binding::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::FocusOut: {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason && reason != Qt::MenuBarFocusReason)
+            focusLeft();
+        break;
+    }
+    case QEvent::KeyPress: {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool typing = (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
+        if (typing && !acceptsKey(*key))
+            return true;
+        break;
+    }
+    case QEvent::Wheel:
+        // Turning the wheel over a form scrolls it; it must not change a choice that merely lies under the pointer.
+        if (m_control && m_control->kind() == ControlKind::ComboBox && !static_cast<QWidget*>(watched)->hasFocus()) {
+            event->ignore();
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace orvane

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "forms/Controls.h"
+
+#include <QPointer>
+#include <QVector>
+#include <QWidget>
+
+class QKeyEvent;
+
+namespace orvane {
+
+class FormView;
+
+/// Where a control stands, for what looks different there.
+enum class Place { Plain, Facts, Card, Large };
+
+/// Ties a widget to its control in both directions: what changes in the control is shown (once an event, however often
+/// it changed), what the user does goes to the control as an event of its form. It lets go of the control when the form
+/// closes.
+class Binding : public QObject {
+    Q_OBJECT
+
+public:
+    Binding(FormView& view, Control& control, QWidget* widget);
+
+    Control* control() const { return m_control; } ///< null once released
+    QWidget* widget() const { return m_widget; }   ///< null for what has no widget of its own
+    /// The widget that takes the focus and the keys.
+    virtual QWidget* editor() const { return m_widget; }
+    /// A label or the like that is seen only with the control.
+    void addCompanion(QWidget* companion) { m_companions << companion; }
+    void refreshNow();
+    /// Takes over what is typed and not yet taken. False: it is no value, and the widget has said so.
+    virtual bool settle() { return true; }
+    void release();
+    /// Lets the user's act run as an event of the form, then shows what came of it.
+    void user(const std::function<void()>& act);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    virtual void refresh() = 0; ///< shows the control's state
+    virtual void released() {}
+    void watch(QWidget* widget); ///< its focus and its keys belong to the control
+    FormView& view() const { return m_view; }
+
+private:
+    void schedule();
+    void showState();
+    void takeFocus();
+    void focusLeft();
+    bool acceptsKey(const QKeyEvent& event);
+
+    FormView& m_view;
+    QPointer<Control> m_control;
+    QPointer<QWidget> m_widget;
+    QVector<QPointer<QWidget>> m_companions;
+    bool m_scheduled = false;
+    bool m_focusWanted = false;
+};
+
+/// Makes the widget of a control below `parent` and ties them together. A menu entry, a tab strip and a timer are tied
+/// elsewhere.
+Binding* bindControl(FormView& view, Control& control, QWidget* parent, Place place, int characters);
+
+} // namespace orvane

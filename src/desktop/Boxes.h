@@ -1,0 +1,15 @@
+#pragma once
+
+#include "forms/Ui.h"
+
+class QWidget;
+
+/// Message boxes in one manner: plain texts, the program's name where no title is given.
+namespace orvane::boxes {
+
+void message(QWidget* parent, const QString& text, Icon icon, const QString& title);
+/// Yes or No; Esc and the close button are No.
+bool question(QWidget* parent, const QString& text, const QString& title);
+std::optional<QString> input(QWidget* parent, const QString& prompt, const QString& title, const QString& initial);
+
+} // namespace orvane::boxes

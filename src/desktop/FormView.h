@@ -1,0 +1,64 @@
+#pragma once
+
+#include "desktop/Binding.h"
+#include "desktop/Mnemonics.h"
+#include "forms/Form.h"
+
+#include <QHash>
+#include <QWidget>
+
+namespace orvane {
+
+/// What a view is told about where it stands.
+struct ViewSetting {
+    QString reservedLetters; ///< letters that the menu bar above the form answers to
+    bool scripted = false;   ///< a script says when a timer ticks and when a control is left
+};
+
+/// The widgets of a form, laid out as the form says in words, each tied to its control.
+class FormView : public QWidget {
+    Q_OBJECT
+
+public:
+    FormView(Form& form, const Layout& layout, const ViewSetting& setting, QWidget* parent = nullptr);
+    ~FormView() override;
+
+    Form* form() const { return m_form; }             ///< null once released
+    Binding* bindingOf(const Control& control) const; ///< null when the form does not show it
+    QWidget* widgetOf(const Control& control) const;
+    Mnemonics& mnemonics() { return m_mnemonics; }
+
+    /// While a long event of the form runs its buttons cannot be pressed.
+    void setBusy(bool busy);
+    bool isBusy() const { return m_busy; }
+    bool isScripted() const { return m_scripted; }
+    void refreshNow(); ///< shows every change at once, before a picture is taken
+    /// Takes over what is typed in fields that are not left yet. False: one of them holds no value; it has the focus
+    /// and says so.
+    bool settle();
+    /// A button's press by its user: refused with a field that holds no value, except to leave the form.
+    void press(Button& button);
+    void focusFirst();
+    void setEscapeCloses(bool closes) { m_escapeCloses = closes; } ///< a form without a cancel button; true at first
+    void release(); ///< the form has closed: nothing here may touch it again
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    friend class Binding;
+    void add(Binding* binding);
+    void enterPressed();
+    void escapePressed();
+    void orderTabs();
+
+    Form* m_form;
+    bool m_scripted;
+    Mnemonics m_mnemonics;
+    QVector<Binding*> m_bindings; ///< in reading order
+    QHash<const Control*, Binding*> m_byControl;
+    bool m_busy = false, m_escapeCloses = true;
+    QPointer<QWidget> m_focusBeforeBusy;
+};
+
+} // namespace orvane

@@ -1,0 +1,131 @@
+#include "desktop/FormWindow.h"
+
+#include "desktop/Look.h"
+#include "desktop/PagePreview.h"
+#include "desktop/Printing.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+/// Of a document's form only the buttons are laid out; its page stands in for its fields.
+Layout buttonsOnly(const Layout& layout) {
+    Layout column;
+    for (const Layout& child : layout.children)
+        if (child.kind == Layout::Buttons)
+            column.children << child;
+    return column;
+}
+
+bool hasList(const Form& form) {
+    return std::any_of(form.controls().cbegin(), form.controls().cend(), [](const Control* control) {
+        return control->kind() == ControlKind::Grid || control->kind() == ControlKind::EntryGrid;
+    });
+}
+
+} // namespace
+
+FormWindow::FormWindow(Form& form, const ViewSetting& setting, QWidget* parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags), m_form(&form), m_scroll(new QScrollArea(this)) {
+    const bool document = form.page().has_value();
+    m_view = new FormView(form, document ? buttonsOnly(form.layout()) : form.layout(), setting);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    auto* box = new QVBoxLayout(this);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->setSpacing(0);
+    box->addWidget(m_scroll, 1);
+    if (document) {
+        m_preview = new PagePreview(m_scroll);
+        m_scroll->setWidget(m_preview);
+        auto* bottom = new QHBoxLayout;
+        bottom->addWidget(pageButtons());
+        bottom->addWidget(m_view, 1);
+        box->addLayout(bottom);
+        showPage();
+        for (Control* control : form.controls())
+            connect(control, &Control::changed, this, [this] {
+                if (std::exchange(m_pageScheduled, true))
+                    return;
+                QMetaObject::invokeMethod(this, &FormWindow::showPage, Qt::QueuedConnection);
+            });
+    } else {
+        m_scroll->setWidget(m_view);
+    }
+    setWindowTitle(form.caption());
+    connect(&form, &Form::captionChanged, this, [this] { setWindowTitle(m_form ? m_form->caption() : QString()); });
+}
+
+QWidget* FormWindow::pageButtons() {
+    auto* row = new QWidget(this);
+    auto* preview = new QPushButton(QStringLiteral("Print Pre&view"), row);
+    auto* save = new QPushButton(QStringLiteral("&Save as PDF..."), row);
+    auto* box = new QHBoxLayout(row);
+    box->setContentsMargins(look::margin, 0, 0, 0);
+    box->addWidget(preview);
+    box->addWidget(save);
+    connect(preview, &QPushButton::clicked, this, [this] {
+        if (m_form && m_form->page())
+            printing::preview(*m_form->page(), this);
+    });
+    connect(save, &QPushButton::clicked, this, [this] {
+        if (m_form && m_form->page())
+            printing::savePdf(*m_form->page(), m_form->caption(), this);
+    });
+    return row;
+}
+
+void FormWindow::showPage() {
+    m_pageScheduled = false;
+    if (m_form && m_form->page())
+        m_preview->setPage(*m_form->page());
+}
+
+QSize FormWindow::sizeFor(QSize room) const {
+    QSize wanted = m_view->sizeHint();
+    if (m_preview)
+        wanted = QSize(std::max(wanted.width() + 280, m_preview->sizeHint().width() + 24), room.height());
+    else if (m_form && hasList(*m_form))
+        wanted = wanted.expandedTo(QSize(room.width() * 8 / 10, room.height() * 9 / 10));
+    wanted = wanted.boundedTo(room);
+    // A narrower form needs more height where its rows break; a scroll bar at the side needs its width.
+    if (!m_preview && m_view->hasHeightForWidth())
+        wanted.setHeight(std::clamp(m_view->heightForWidth(wanted.width()), wanted.height(), room.height()));
+    const bool scrolls = !m_preview && m_view->minimumSizeHint().height() > wanted.height();
+    return QSize(wanted.width() + (scrolls ? m_scroll->verticalScrollBar()->sizeHint().width() : 0), wanted.height())
+        .boundedTo(room);
+}
+
+void FormWindow::release() {
+    if (!m_form)
+        return;
+    disconnect(m_form, nullptr, this, nullptr);
+    for (Control* control : m_form->controls())
+        disconnect(control, nullptr, this, nullptr);
+    m_form = nullptr;
+    m_view->release();
+    Q_EMIT formReleased();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    // While a handler runs the window stays: what is being saved must end first.
+    if (Form* form = m_form)
+        form->userEvent([form] { form->unload(); });
+    event->setAccepted(!m_form);
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        Q_EMIT activatedByUser();
+}
+
+} // namespace orvane

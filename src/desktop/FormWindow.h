@@ -1,0 +1,44 @@
+#pragma once
+
+#include "desktop/FormView.h"
+
+class QScrollArea;
+
+namespace orvane {
+
+class PagePreview;
+
+/// The window of a form, inside the main window or on its own: its view in a scroll area, so that nothing is ever out
+/// of reach. A form that is a document shows its page above its buttons.
+class FormWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    FormWindow(Form& form, const ViewSetting& setting, QWidget* parent = nullptr, Qt::WindowFlags flags = {});
+
+    FormView* view() const { return m_view; }
+    Form* form() const { return m_form; } ///< null once released
+    /// The size that shows everything; lists get more of the room where there is any.
+    QSize sizeFor(QSize room) const;
+    void release(); ///< the form has closed: the window may go
+
+Q_SIGNALS:
+    void formReleased();
+    void activatedByUser();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void showPage();
+    QWidget* pageButtons();
+
+    Form* m_form;
+    FormView* m_view;
+    QScrollArea* m_scroll;
+    PagePreview* m_preview = nullptr;
+    bool m_pageScheduled = false;
+};
+
+} // namespace orvane

@@ -1,0 +1,70 @@
+#include "desktop/GridBinding.h"
+
+#include "desktop/FormView.h"
+#include "desktop/GridModel.h"
+#include "desktop/TableView.h"
+
+#include <QKeyEvent>
+
+namespace orvane {
+
+GridBinding::GridBinding(FormView& view, Grid& grid, QWidget* parent)
+    : GridBinding(view, grid, parent, new GridModel(grid, nullptr)) {}
+
+GridBinding::GridBinding(FormView& view, EntryGrid& grid, QWidget* parent)
+    : GridBinding(view, grid, parent, new EntryGridModel(grid, nullptr)) {}
+
+GridBinding::GridBinding(FormView& view, Control& grid, QWidget* parent, TableModel* model)
+    : Binding(view, grid, new TableView(parent)), m_model(model), m_table(static_cast<TableView*>(widget())),
+      m_seen(grid.contentRevision()) {
+    m_model->setParent(this);
+    m_table->setTable(m_model);
+    connect(m_table, &TableView::rowPicked, this, &GridBinding::pick);
+    connect(m_table, &TableView::rowOpened, this, &GridBinding::open);
+}
+
+int GridBinding::currentRow() const {
+    return control()->kind() == ControlKind::Grid ? static_cast<Grid*>(control())->currentRow()
+                                                  : static_cast<EntryGrid*>(control())->currentRow();
+}
+
+void GridBinding::refresh() {
+    // An entry grid's cells change one by one and are few.
+    if (m_seen != control()->contentRevision() || control()->kind() == ControlKind::EntryGrid)
+        m_table->reload();
+    m_seen = control()->contentRevision();
+    m_table->showCurrent(m_model->viewRow(currentRow()));
+}
+
+void GridBinding::pick(int viewRow) {
+    if (!control())
+        return;
+    const int row = m_model->controlRow(viewRow);
+    user([this, row] {
+        if (control()->kind() == ControlKind::Grid)
+            static_cast<Grid*>(control())->selectRow(row);
+        else
+            static_cast<EntryGrid*>(control())->selectRow(row);
+    });
+}
+
+void GridBinding::open(int viewRow) {
+    if (!control())
+        return;
+    if (m_model->controlRow(viewRow) != currentRow())
+        pick(viewRow);
+    user([this] { control()->dblClick(); });
+}
+
+bool GridBinding::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && control() && control()->onDblClick) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && m_table->currentIndex().isValid()) {
+            open(m_table->currentIndex().row());
+            return true;
+        }
+    }
+    return Binding::eventFilter(watched, event);
+}
+
+} // namespace orvane

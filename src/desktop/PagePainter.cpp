@@ -1,0 +1,108 @@
+#include "desktop/PagePainter.h"
+
+#include <QFile>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QImageReader>
+#include <QPainter>
+#include <QPdfWriter>
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+// The page is painted in hundredths of a millimetre, in which a letter is some hundred units high: so its outline does
+// not depend on the dots of the device, and a text breaks at the same word everywhere.
+constexpr double unitsPerMm = 100;
+constexpr double mmPerPoint = 25.4 / 72;
+constexpr double smallestShare = 0.4; ///< a text is made smaller down to this share of its size
+
+QFont fontOf(const PageText& text, double share) {
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(std::max(1, int(text.points * mmPerPoint * unitsPerMm * share)));
+    font.setBold(text.bold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+int flagsOf(const PageText& text) {
+    const Qt::AlignmentFlag side = text.align == PageAlign::Left    ? Qt::AlignLeft
+                                   : text.align == PageAlign::Right ? Qt::AlignRight
+                                                                    : Qt::AlignHCenter;
+    return int(side) | int(Qt::AlignTop) | (text.wraps ? int(Qt::TextWordWrap) : int(Qt::TextSingleLine));
+}
+
+bool fits(const PageText& text, const QFont& font, const QRectF& box) {
+    const QFontMetricsF metrics(font);
+    if (!text.wraps)
+        return metrics.horizontalAdvance(text.text) <= box.width();
+    const QRectF taken =
+        metrics.boundingRect(QRectF(box.topLeft(), QSizeF(box.width(), 1e6)), flagsOf(text), text.text);
+    return taken.width() <= box.width() + 1 && (text.height <= 0 || taken.height() <= box.height());
+}
+
+void paintText(QPainter& painter, const PageText& text) {
+    if (text.text.isEmpty())
+        return;
+    const QRectF box(text.x * unitsPerMm, text.y * unitsPerMm, text.width * unitsPerMm,
+                     (text.height > 0 ? text.height : 200) * unitsPerMm);
+    double share = 1;
+    while (share > smallestShare && !fits(text, fontOf(text, share), box))
+        share -= 0.05;
+    painter.setFont(fontOf(text, share));
+    painter.setPen(Qt::black);
+    painter.drawText(box, flagsOf(text) | Qt::TextDontClip, text.text);
+}
+
+void paintPicture(QPainter& painter, const PagePicture& picture) {
+    const QImage image = picture.file.isEmpty() ? QImage() : QImageReader(picture.file).read();
+    if (image.isNull())
+        return;
+    const QRectF box(picture.x * unitsPerMm, picture.y * unitsPerMm, picture.width * unitsPerMm,
+                     picture.height * unitsPerMm);
+    QRectF target(QPointF(), QSizeF(image.size()).scaled(box.size(), Qt::KeepAspectRatio));
+    target.moveCenter(box.center());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(target, image);
+}
+
+void paintLine(QPainter& painter, const PageLine& line) {
+    painter.setPen(
+        QPen(Qt::black, line.thickness * unitsPerMm, line.dashed ? Qt::DashLine : Qt::SolidLine, Qt::FlatCap));
+    painter.drawLine(QLineF(line.x1 * unitsPerMm, line.y1 * unitsPerMm, line.x2 * unitsPerMm, line.y2 * unitsPerMm));
+}
+
+} // namespace
+
+void paintPage(QPainter& painter, const Page& page, const QRectF& target) {
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    const double scale = std::min(target.width() / page.widthMm, target.height() / page.heightMm) / unitsPerMm;
+    painter.translate(target.topLeft());
+    painter.scale(scale, scale);
+    for (const PagePicture& picture : page.pictures)
+        paintPicture(painter, picture);
+    for (const PageLine& line : page.lines)
+        paintLine(painter, line);
+    for (const PageText& text : page.texts)
+        paintText(painter, text);
+    painter.restore();
+}
+
+bool renderPdf(const Page& page, const QString& file) {
+    QFile device(file);
+    if (!device.open(QIODevice::WriteOnly))
+        return false;
+    QPdfWriter writer(&device);
+    writer.setResolution(1200);
+    writer.setPageSize(QPageSize(QSizeF(page.widthMm, page.heightMm), QPageSize::Millimeter));
+    writer.setPageMargins(QMarginsF());
+    QPainter painter;
+    if (!painter.begin(&writer))
+        return false;
+    paintPage(painter, page, QRectF(0, 0, writer.width(), writer.height()));
+    return painter.end() && device.error() == QFile::NoError;
+}
+
+} // namespace orvane

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "forms/Form.h"
+
+namespace orvane {
+
+/// The list of a report's rows in a window of its own.
+class ReportForm : public Form {
+public:
+    ReportForm(Ui& ui, const QString& file, const QString& title, const Recordset& rows);
+    Layout layout() const override;
+    Button* cancelButton() override { return &cmdClose; }
+
+private:
+    Grid grdRows{*this, QStringLiteral("grdRows")};
+    Label lblCount{*this, QStringLiteral("lblCount")};
+    Button cmdPrint{*this, QStringLiteral("cmdPrint"), QStringLiteral("&Print")};
+    Button cmdClose{*this, QStringLiteral("cmdClose"), QStringLiteral("&Close")};
+};
+
+} // namespace orvane

@@ -1,0 +1,287 @@
+#include "desktop/SmallBindings.h"
+
+#include "desktop/DateEdit.h"
+#include "desktop/FormView.h"
+#include "desktop/ListModels.h"
+#include "desktop/Look.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+namespace orvane {
+
+namespace {
+
+/// Click and double click of a control that is no input: a strip, a picture, a label.
+void raiseMouse(Binding& binding, QEvent* event) {
+    const QPointer<Control> control(binding.control());
+    if (!control)
+        return;
+    if (event->type() == QEvent::MouseButtonRelease && control->onClick)
+        binding.user([control] { control->click(); });
+    else if (event->type() == QEvent::MouseButtonDblClick && control->onDblClick)
+        binding.user([control] { control->dblClick(); });
+}
+
+bool isEnter(const QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent*>(event)->key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+} // namespace
+
+LabelBinding::LabelBinding(FormView& view, Label& label, QWidget* parent, Place place, int characters)
+    : Binding(view, label, new QLabel(parent)), m_label(&label), m_text(static_cast<QLabel*>(widget())) {
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setFocusPolicy(Qt::NoFocus);
+    look::mark(*m_text, "strong", place == Place::Facts || place == Place::Card);
+    look::mark(*m_text, "large", place == Place::Large);
+    if (place == Place::Large) {
+        QFont font = m_text->font();
+        font.setPointSizeF(font.pointSizeF() * 1.7);
+        m_text->setFont(font);
+    }
+    if (place == Place::Card || place == Place::Large)
+        m_text->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    if (characters > 0)
+        m_text->setMinimumWidth(look::charactersWidth(*m_text, characters));
+}
+
+void LabelBinding::refresh() {
+    m_text->setText(Mnemonics::plain(m_label->caption()));
+    QPalette palette;
+    if (const auto color = m_label->color())
+        palette.setColor(QPalette::Window, QColor(QRgb(*color)));
+    m_text->setPalette(palette);
+    m_text->setAutoFillBackground(m_label->color().has_value());
+}
+
+bool LabelBinding::eventFilter(QObject* watched, QEvent* event) {
+    raiseMouse(*this, event);
+    return Binding::eventFilter(watched, event);
+}
+
+CheckBinding::CheckBinding(FormView& view, CheckBox& box, QWidget* parent)
+    : Binding(view, box, new QCheckBox(parent)), m_box(&box), m_tick(static_cast<QCheckBox*>(widget())),
+      m_mnemonic(view.mnemonics().add(Mnemonics::Press, box.caption(),
+                                      [tick = m_tick](const QString& text) { tick->setText(text); })) {
+    m_tick->setAccessibleName(Mnemonics::plain(box.caption()));
+    connect(m_tick, &QCheckBox::clicked, this,
+            [this](bool checked) { user([this, checked] { m_box->setChecked(checked); }); });
+}
+
+void CheckBinding::refresh() {
+    m_tick->setChecked(m_box->isChecked());
+    view().mnemonics().captionChanged(m_mnemonic, m_box->caption());
+}
+
+OptionBinding::OptionBinding(FormView& view, OptionButton& option, QWidget* parent)
+    : Binding(view, option, new QRadioButton(parent)), m_option(&option), m_radio(static_cast<QRadioButton*>(widget())),
+      m_mnemonic(view.mnemonics().add(Mnemonics::Press, option.caption(),
+                                      [radio = m_radio](const QString& text) { radio->setText(text); })) {
+    m_radio->setAccessibleName(Mnemonics::plain(option.caption()));
+    // Which options exclude each other the form model knows; the widgets only show it.
+    m_radio->setAutoExclusive(false);
+    connect(m_radio, &QRadioButton::clicked, this, [this] { user([this] { m_option->setChecked(true); }); });
+}
+
+void OptionBinding::refresh() {
+    m_radio->setChecked(m_option->isChecked());
+    view().mnemonics().captionChanged(m_mnemonic, m_option->caption());
+}
+
+ButtonBinding::ButtonBinding(FormView& view, Button& button, QWidget* parent)
+    : Binding(view, button, new QPushButton(parent)), m_button(&button), m_push(static_cast<QPushButton*>(widget())),
+      m_mnemonic(view.mnemonics().add(Mnemonics::Press, button.caption(),
+                                      [push = m_push](const QString& text) { push->setText(text); })) {
+    m_push->setAutoDefault(false);
+    connect(m_push, &QPushButton::clicked, this, [this] {
+        if (m_button)
+            this->view().press(*m_button);
+    });
+}
+
+void ButtonBinding::refresh() {
+    view().mnemonics().captionChanged(m_mnemonic, m_button->caption());
+    m_push->setAccessibleName(Mnemonics::plain(m_button->caption()));
+}
+
+FrameBinding::FrameBinding(FormView& view, Frame& frame, QGroupBox* box)
+    : Binding(view, frame, box), m_frame(&frame), m_box(box) {}
+
+void FrameBinding::refresh() {
+    if (m_frame->caption().isEmpty())
+        return;
+    const QString caption = m_frame->caption();
+    m_box->setTitle(Mnemonics::marked(Mnemonics::plain(caption), {}));
+}
+
+bool FrameBinding::eventFilter(QObject* watched, QEvent* event) {
+    raiseMouse(*this, event);
+    return Binding::eventFilter(watched, event);
+}
+
+TabBinding::TabBinding(FormView& view, TabStrip& strip, QTabWidget* tabs)
+    : Binding(view, strip, tabs), m_strip(&strip), m_tabs(tabs) {
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this](int tab) {
+        if (m_strip && m_strip->tab() != tab)
+            user([this, tab] { m_strip->setTab(tab); });
+    });
+}
+
+void TabBinding::refresh() {
+    const QSignalBlocker quiet(m_tabs);
+    m_tabs->setCurrentIndex(m_strip->tab());
+}
+
+ListBinding::ListBinding(FormView& view, ListBox& list, QWidget* parent)
+    : Binding(view, list, new QListView(parent)), m_list(&list), m_rows(static_cast<QListView*>(widget())),
+      m_model(new TickModel(list, this)), m_seen(list.contentRevision()) {
+    m_rows->setModel(m_model);
+    m_rows->setUniformItemSizes(true);
+    m_rows->setAlternatingRowColors(true);
+    m_model->onTick = [this](int row, bool ticked) {
+        if (m_list)
+            user([this, row, ticked] { m_list->setSelected(row, ticked); });
+    };
+}
+
+void ListBinding::refresh() {
+    if (m_seen != m_list->contentRevision())
+        m_model->reload();
+    else
+        m_model->redraw();
+    m_seen = m_list->contentRevision();
+}
+
+DateBinding::DateBinding(FormView& view, DatePicker& picker, QWidget* parent)
+    : Binding(view, picker, new DateEdit(parent)), m_picker(&picker), m_edit(static_cast<DateEdit*>(widget())) {
+    watch(m_edit->lineEdit());
+    connect(m_edit, &DateEdit::dateEdited, this,
+            [this](QDate date) { user([this, date] { m_picker->setDate(date); }); });
+}
+
+QWidget* DateBinding::editor() const {
+    return m_edit->lineEdit();
+}
+
+bool DateBinding::settle() {
+    return m_edit->settle();
+}
+
+void DateBinding::refresh() {
+    m_edit->setLocked(m_picker->isLocked());
+    // What is being typed stays until the value itself changes.
+    if (m_edit->date() != m_picker->date())
+        m_edit->setDate(m_picker->date());
+}
+
+TreeBinding::TreeBinding(FormView& view, Tree& tree, QWidget* parent)
+    : Binding(view, tree, new QTreeWidget(parent)), m_tree(&tree), m_items(static_cast<QTreeWidget*>(widget())) {
+    m_items->setHeaderHidden(true);
+    m_items->setUniformRowHeights(true);
+    rebuild();
+    connect(m_items, &QTreeWidget::itemClicked, this, &TreeBinding::picked);
+}
+
+void TreeBinding::rebuild() {
+    m_seen = m_tree->contentRevision();
+    m_items->clear();
+    m_byKey.clear();
+    for (const Tree::Node& node : m_tree->nodes()) {
+        QTreeWidgetItem* above = m_byKey.value(node.parentKey);
+        auto* item = above ? new QTreeWidgetItem(above) : new QTreeWidgetItem(m_items);
+        item->setText(0, node.text);
+        item->setData(0, Qt::UserRole, node.key);
+        item->setExpanded(node.expanded);
+        m_byKey.insert(node.key, item);
+    }
+}
+
+void TreeBinding::refresh() {
+    const QSignalBlocker quiet(m_items);
+    if (m_seen != m_tree->contentRevision())
+        rebuild();
+    m_items->setCurrentItem(m_byKey.value(m_tree->selectedKey()));
+}
+
+void TreeBinding::picked() {
+    const QTreeWidgetItem* item = m_items->currentItem();
+    if (item && m_tree)
+        user([this, key = item->data(0, Qt::UserRole).toString()] { m_tree->select(key); });
+}
+
+bool TreeBinding::eventFilter(QObject* watched, QEvent* event) {
+    if (isEnter(event)) {
+        picked();
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
+        picked();
+        return true;
+    }
+    return Binding::eventFilter(watched, event);
+}
+
+PictureBinding::PictureBinding(FormView& view, Picture& picture, QWidget* parent)
+    : Binding(view, picture, new PictureBox(parent)), m_picture(&picture), m_box(static_cast<PictureBox*>(widget())) {}
+
+void PictureBinding::refresh() {
+    m_box->setColor(m_picture->color());
+    m_box->setFile(m_picture->file());
+}
+
+bool PictureBinding::eventFilter(QObject* watched, QEvent* event) {
+    raiseMouse(*this, event);
+    return Binding::eventFilter(watched, event);
+}
+
+ProgressBinding::ProgressBinding(FormView& view, ProgressBar& bar, QWidget* parent)
+    : Binding(view, bar, new QProgressBar(parent)), m_bar(&bar), m_progress(static_cast<QProgressBar*>(widget())) {
+    m_progress->setRange(0, 100);
+}
+
+void ProgressBinding::refresh() {
+    m_progress->setValue(m_bar->value());
+}
+
+StatusBinding::StatusBinding(FormView& view, StatusBar& bar, QWidget* row) : Binding(view, bar, row), m_bar(&bar) {
+    for (int panel = 0; panel < bar.panels(); ++panel) {
+        auto* label = new QLabel(row);
+        label->setTextFormat(Qt::PlainText);
+        row->layout()->addWidget(label);
+        m_panels << label;
+    }
+}
+
+void StatusBinding::refresh() {
+    for (int panel = 0; panel < int(m_panels.size()); ++panel) {
+        const QString text = m_bar->panel(panel + 1);
+        m_panels.at(panel)->setText(text);
+        m_panels.at(panel)->setVisible(!text.isEmpty());
+    }
+}
+
+TimerBinding::TimerBinding(FormView& view, Timer& timer) : Binding(view, timer, nullptr), m_timer(&timer) {
+    connect(&m_clock, &QTimer::timeout, this, [this] { user([this] { m_timer->tick(); }); });
+}
+
+void TimerBinding::refresh() {
+    if (view().isScripted())
+        return;
+    if (!m_timer->isEnabled())
+        m_clock.stop();
+    else if (!m_clock.isActive())
+        m_clock.start(m_timer->interval());
+}
+
+void TimerBinding::released() {
+    m_timer = nullptr;
+    m_clock.stop();
+}
+
+} // namespace orvane

@@ -1,0 +1,115 @@
+#include "desktop/TextBinding.h"
+
+#include "desktop/FormView.h"
+#include "desktop/Look.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScopedValueRollback>
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+void showLocked(QWidget& widget, bool locked) {
+    QPalette palette;
+    if (locked)
+        palette.setColor(QPalette::Base, look::readOnly());
+    widget.setPalette(palette);
+}
+
+} // namespace
+
+LineBinding::LineBinding(FormView& view, TextBox& box, QWidget* parent, Place place, int characters)
+    : Binding(view, box, new QLineEdit(parent)), m_box(&box), m_line(static_cast<QLineEdit*>(widget())), m_place(place),
+      m_characters(characters) {
+    if (box.isMasked())
+        m_line->setEchoMode(QLineEdit::Password);
+    if (box.isNumeric() || place == Place::Card || place == Place::Large)
+        m_line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    if (place == Place::Large) {
+        QFont font = m_line->font();
+        font.setPointSizeF(font.pointSizeF() * 1.4);
+        m_line->setFont(font);
+    }
+    connect(m_line, &QLineEdit::textEdited, this,
+            [this](const QString& text) { user([this, text] { m_box->setText(text); }); });
+}
+
+void LineBinding::refresh() {
+    const bool flat = m_place != Place::Plain && m_box->isLocked();
+    look::mark(*m_line, "flat", flat);
+    if (!flat)
+        showLocked(*m_line, m_box->isLocked());
+    m_line->setReadOnly(m_box->isLocked());
+    m_line->setFocusPolicy(flat ? Qt::NoFocus : Qt::StrongFocus);
+    // A limit below what code has put in would cut the text that is there.
+    const int limit = m_box->maxLength() > 0 ? std::max(m_box->maxLength(), int(m_box->text().size())) : 32767;
+    m_line->setMaxLength(limit);
+    if (m_line->text() != m_box->text()) {
+        const int cursor = m_line->cursorPosition();
+        const bool typing = m_line->hasFocus() && m_line->text().size() == m_box->text().size();
+        m_line->setText(m_box->text());
+        m_line->setCursorPosition(typing || (m_line->hasFocus() && cursor < m_box->text().size()) ? cursor : 0);
+        if (m_line->hasFocus() && !typing)
+            m_line->end(false);
+    }
+    if (m_place == Place::Facts && flat) {
+        QFont bold = m_line->font();
+        bold.setBold(true);
+        const int wide = QFontMetrics(bold).horizontalAdvance(m_line->text()) + 12;
+        m_line->setFixedWidth(std::clamp(wide, 60, 320));
+    } else if (m_characters > 0) {
+        m_line->setFixedWidth(look::charactersWidth(*m_line, m_characters) + 14);
+    }
+}
+
+bool LineBinding::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && m_box && m_box->onEnter) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            user([this] {
+                const Control::Handler entered = m_box->onEnter;
+                entered();
+            });
+            return true;
+        }
+    }
+    return Binding::eventFilter(watched, event);
+}
+
+TextBinding::TextBinding(FormView& view, TextBox& box, QWidget* parent)
+    : Binding(view, box, new QPlainTextEdit(parent)), m_box(&box), m_edit(static_cast<QPlainTextEdit*>(widget())) {
+    m_edit->setTabChangesFocus(true);
+    connect(m_edit, &QPlainTextEdit::textChanged, this, &TextBinding::edited);
+}
+
+void TextBinding::edited() {
+    if (m_showing || !m_box)
+        return;
+    QString text = m_edit->toPlainText();
+    if (m_box->maxLength() > 0)
+        text.truncate(m_box->maxLength());
+    user([this, text] { m_box->setText(text); });
+}
+
+void TextBinding::refresh() {
+    const QScopedValueRollback<bool> showing(m_showing, true);
+    showLocked(*m_edit, m_box->isLocked());
+    m_edit->setReadOnly(m_box->isLocked());
+    QString shown = m_box->text();
+    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    if (m_edit->toPlainText() == shown)
+        return;
+    const int cursor = m_edit->textCursor().position();
+    m_edit->setPlainText(shown);
+    if (m_edit->hasFocus()) {
+        QTextCursor place = m_edit->textCursor();
+        place.setPosition(std::min(cursor, int(shown.size())));
+        m_edit->setTextCursor(place);
+    }
+}
+
+} // namespace orvane

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "desktop/Binding.h"
+
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace orvane {
+
+/// A text of one line.
+class LineBinding : public Binding {
+    Q_OBJECT
+
+public:
+    LineBinding(FormView& view, TextBox& box, QWidget* parent, Place place, int characters);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void refresh() override;
+    void released() override { m_box = nullptr; }
+
+private:
+    TextBox* m_box;
+    QLineEdit* m_line;
+    Place m_place;
+    int m_characters;
+};
+
+/// A text of several lines.
+class TextBinding : public Binding {
+    Q_OBJECT
+
+public:
+    TextBinding(FormView& view, TextBox& box, QWidget* parent);
+
+protected:
+    void refresh() override;
+    void released() override { m_box = nullptr; }
+
+private:
+    void edited();
+
+    TextBox* m_box;
+    QPlainTextEdit* m_edit;
+    bool m_showing = false;
+};
+
+} // namespace orvane
