@@ -103,11 +103,9 @@ void HeadlessDriver::leave(Control& control) {
 
 void HeadlessDriver::key(Control& control, QChar character) {
     act(control, [&] {
-        if (!control.keyPress(character))
-            return;
         if (character == QLatin1Char('\n'))
             pressEnter(control);
-        else
+        else if (control.keyPress(character))
             typeCharacter(control, character);
     });
 }

@@ -86,7 +86,8 @@ ScriptLine parseScriptLine(const QByteArray& line) {
         return {{}, QStringLiteral("a line of more than %1 bytes").arg(maxScriptLine)};
     if (bytes.contains('\0'))
         return {{}, QStringLiteral("a zero byte")};
-    QStringDecoder decoder(QStringDecoder::Utf8); // leaves a byte order mark out
+    // Stateless: a character that is cut off at the end is an error. A byte order mark is left out.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder.decode(bytes);
     if (decoder.hasError())
         return {{}, QStringLiteral("bytes that are not UTF-8")};

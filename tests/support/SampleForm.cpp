@@ -10,10 +10,10 @@ SampleForm::SampleForm(Ui& ui, const QString& name) : Form(ui, name, QStringLite
     txtNote.multiline();
     cboTown.addItems({QStringLiteral("ABA"), QStringLiteral("IBADAN"), QStringLiteral("IBADAN NORTH")});
     cboColor.addItems({QStringLiteral("RED"), QStringLiteral("GREEN")});
-    radOne.setChecked(true);
-    radCash.setChecked(true);
     fraInner.holds({&radCash, &radBank});
     fraOuter.holds({&fraInner});
+    radOne.setChecked(true);
+    radCash.setChecked(true);
     for (const char* item : {"ONE", "TWO", "THREE"})
         lstItems.addItem(QString::fromLatin1(item));
     tree.addNode({QStringLiteral("root"), QStringLiteral("Root"), {}, true});
