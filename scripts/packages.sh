@@ -2,7 +2,7 @@
 build_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-multimedia-dev libqt6sql6-sqlite libqt6sql6-psql libqt6sql6-odbc
-    libsqlite3-dev libpq-dev libgtest-dev libbenchmark-dev
+    libsqlite3-dev libpq-dev libxlsxwriter-dev libgtest-dev libbenchmark-dev
     fonts-dejavu-core
 )
 test_packages=(postgresql-15)

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "session/Program.h"
+
+namespace orvane {
+
+/// "Advance Payment / Deposit": takes money before any bill exists; it opens the Billing row and stands on the running
+/// account.
+class frmReceiptDeposit : public Screen {
+public:
+    explicit frmReceiptDeposit(Program& program);
+
+    DatePicker DTPicker1{*this, "DTPicker1"};
+    DatePicker DTPicker2{*this, "DTPicker2"};
+    Button cmdInv{*this, "cmdInv", "&Get Patients"};
+    ComboBox cboPay{*this, "cboPay"};
+    ComboBox cboVehNo{*this, "cboVehNo"};
+    Label Label5{*this, "Label5"};
+    Label lblRct{*this, "lblRct"};
+    Label lblBill{*this, "lblBill"};
+    Label lblClinic2{*this, "lblClinic2"};
+    Label lblAdm{*this, "lblAdm"};
+    Label lblBF{*this, "lblBF"};
+    Label lblAmt{*this, "lblAmt"};
+    DatePicker dtDate{*this, "dtDate"};
+    ComboBox cboClinic{*this, "cboClinic"};
+    ComboBox cboPayFor{*this, "cboPayFor"};
+    TextBox txtDue{*this, "txtDue"};
+    TextBox txtHt{*this, "txtHt"};
+    TextBox txtDuty{*this, "txtDuty"};
+    TextBox txtDiag{*this, "txtDiag"};
+    Button cmdPrint{*this, "cmdPrint", "&Refresh"};
+    Button cmdAdd{*this, "cmdAdd", "&Add"};
+    Button cmdCancel{*this, "cmdCancel", "&Cancel"};
+    Button CancelButton{*this, "CancelButton", "E&xit"};
+    Button OKButton{*this, "OKButton", "&Save"};
+
+    Layout layout() const override;
+    void Form_Load() override;
+    Button* defaultButton() override { return OKButton.isEnabled() ? &OKButton : nullptr; }
+    Button* cancelButton() override { return &CancelButton; }
+
+private:
+    void cmdInv_Click();
+    void cmdAdd_Click();
+    void cmdCancel_Click();
+    void cboVehNo_Click();
+    void cboClinic_Click();
+    void txtHt_Change();
+    bool billExists(Connection& connection) const;
+    void sendToReceiptEntry();
+    QString loadPatient(Connection& connection); ///< gives what to tell of an admission; empty: nothing
+    void OKButton_Click();
+    bool checkFields();
+    void writeBill(Connection& connection);
+    void writePayment(Connection& connection);
+    void resetFields();
+    void setEntry(bool entering);
+
+    QString m_pno;
+    QString m_clientID;
+    QString m_clinicID;
+};
+
+} // namespace orvane

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "session/Program.h"
+
+namespace orvane {
+
+/// " Receipt Entry": takes money from a private patient against an existing bill and issues a receipt; reverses a
+/// receipt.
+class frmReceiptTemp : public Screen {
+public:
+    explicit frmReceiptTemp(Program& program);
+
+    DatePicker DTPicker1{*this, "DTPicker1"};
+    DatePicker DTPicker2{*this, "DTPicker2"};
+    Button cmdInv{*this, "cmdInv", "&Get Patients"};
+    ComboBox cboVehNo{*this, "cboVehNo"};
+    Label Label5{*this, "Label5", "Receipt Information"};
+    TextBox txtBill{*this, "txtBill"};
+    Label lblDate{*this, "lblDate"};
+    Label lblClinic{*this, "lblClinic", "Clinic Type"};
+    Label lblClinic2{*this, "lblClinic2"};
+    Label lblRct{*this, "lblRct"};
+    Label lblCurr{*this, "lblCurr"};
+    Label lblDep{*this, "lblDep"};
+    TextBox txtEmp{*this, "txtEmp"};
+    TextBox txtHt{*this, "txtHt"};
+    TextBox txtDuty{*this, "txtDuty"};
+    DatePicker dtDate{*this, "dtDate"};
+    ComboBox cboCat{*this, "cboCat"};
+    ComboBox cboPay{*this, "cboPay"};
+    TextBox txtDiag{*this, "txtDiag"};
+    CheckBox chkRev{*this, "chkRev", "&Reverse Entry"};
+    Grid grdData{*this, "grdData"};
+    Button cmdRev{*this, "cmdRev", "&Mgt"};
+    Button cmdPrint{*this, "cmdPrint", "&Print Receipt"};
+    Button cmdAdd{*this, "cmdAdd", "&Add"};
+    Button cmdCancel{*this, "cmdCancel", "&Cancel"};
+    Button CancelButton{*this, "CancelButton", "E&xit"};
+    Button OKButton{*this, "OKButton", "&Save"};
+
+    Layout layout() const override;
+    void Form_Load() override;
+    Button* defaultButton() override { return OKButton.isEnabled() ? &OKButton : nullptr; }
+    Button* cancelButton() override { return &CancelButton; }
+
+private:
+    void connectHandlers();
+    void cmdInv_Click();
+    void cboVehNo_Click();
+    void loadBillFigures();
+    void loadGrid(bool all);
+    void txtHt_Change();
+    void chkRev_Click();
+    void cmdAdd_Click();
+    void cmdCancel_Click();
+    void cmdPrint_Click();
+    void cmdRev_Click();
+    void resetFields();
+    void setEntry(bool entering); ///< enables the fields and Save, or Add
+
+    // Saving (frmReceiptTempSave.cpp).
+    void OKButton_Click();
+    bool checkFields();
+    QString save(); ///< the refusal of the number generator; empty when saved
+    void writePayment(Connection& connection, double amount);
+    void settleBill(Connection& connection, double amount);
+
+    QString m_pno;
+    QString m_reversedNo; ///< the receipt under reversal
+    bool m_reversal = false;
+};
+
+} // namespace orvane

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "forms/Grid.h"
+
+namespace orvane {
+
+/// Writes what a grid shows to a new .xlsx file with one sheet, "Sheet1": heads, number formats, dates and column
+/// widths; hidden columns are left out. A text is always a text cell, so that none can become a formula. A value too
+/// long for a cell is cut at the file format's limit. Raises DataError when the file cannot be written; nothing is left
+/// of it then.
+void exportWorkbook(const Grid& grid, const QString& file);
+
+/// A file name for an export in the user's document folder (made when missing): title and time of day, without
+/// characters that a file name cannot bear.
+QString exportFileName(const QString& title, const QDateTime& now);
+
+} // namespace orvane
