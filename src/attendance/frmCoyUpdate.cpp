@@ -1,0 +1,115 @@
+#include "attendance/frmCoyUpdate.h"
+
+namespace orvane {
+
+frmCoyUpdate::frmCoyUpdate(Program& owner)
+    : Screen(owner, QStringLiteral("frmCoyUpdate"), QStringLiteral("Company Profile")) {
+    txtNo.setLocked(true);
+    txtBill.setLocked(true);
+    cboPat.onClick = [this] { cboPat_Click(); };
+    OkButton.onClick = [this] { OkButton_Click(); };
+    CancelButton.onClick = [this] { unload(); };
+}
+
+Layout frmCoyUpdate::layout() const {
+    using namespace orvane::layout;
+    return column({field("Patient No", txtNo, 18), field("Bill No", txtBill, 18), field("Company Name", cboPat, 44),
+                   field("Billing Category", cboClient, 16), stretch(), buttons({}, {&CancelButton, &OkButton})});
+}
+
+void frmCoyUpdate::Form_Load() {
+    txtNo.setText(session.sBillPno);
+    txtBill.setText(session.gConsultID);
+    Connection connection = program.openBilling();
+    for (Recordset clients(connection,
+                           Sql("select distinct RetainID,ClientName from vwhRetainerShip order by ClientName"));
+         !clients.eof(); clients.moveNext())
+        cboPat.addItem(clients.text(QStringLiteral("ClientName")) + QStringLiteral(" [") +
+                       clients.text(QStringLiteral("RetainID")) + QStringLiteral("]"));
+}
+
+void frmCoyUpdate::cboPat_Click() {
+    if (cboPat.listIndex() < 0)
+        return;
+    const QString entry = cboPat.text();
+    // A client's name may hold a bracket of its own: the id stands in the last one.
+    const auto bracket = entry.lastIndexOf(QLatin1Char('['));
+    m_retainID = entry.mid(bracket + 1).chopped(1);
+    m_clientName = entry.left(bracket).trimmed();
+    cboClient.clear();
+    Connection connection = program.openBilling();
+    const Recordset client(connection, Sql("select distinct ClientType,retainCode from hRetainerShip where retainID='")
+                                           << m_retainID << "'");
+    if (client.eof())
+        return;
+    m_retainCode = client.text(QStringLiteral("retainCode"));
+    const QString clientType = client.text(QStringLiteral("ClientType"));
+    Recordset categories(connection, clientType.isEmpty()
+                                         ? Sql("select distinct clientCatID  from billingPrice")
+                                         : Sql("select distinct clientCatID  from billingPrice where clientType='")
+                                               << clientType << "'");
+    for (; !categories.eof(); categories.moveNext())
+        cboClient.addItem(categories.text(QStringLiteral("clientCatID")));
+}
+
+void frmCoyUpdate::OkButton_Click() {
+    if (isProcessed()) {
+        program.box(QStringLiteral("This Bill is already processed! to Modify, unProcess the Batch"));
+        return;
+    }
+    if (!checkFields())
+        return;
+    moveToClient();
+    program.writeAuditTrail(session.gUsername, QStringLiteral("Update Patients' Company Profile"), session.gConsultID,
+                            QStringLiteral("UpDate Patient Company Profile: ") + session.sBillCoy +
+                                QStringLiteral(" Now: ") + m_clientName + QStringLiteral("/") + cboClient.text(),
+                            session.sComputerName);
+    unload();
+}
+
+bool frmCoyUpdate::isProcessed() {
+    Connection connection = program.openBilling();
+    return !Recordset(connection, Sql("select * from billing where isprocess=1 and billNo='") << txtBill.text() << "'")
+                .eof();
+}
+
+bool frmCoyUpdate::checkFields() {
+    if (txtNo.text().isEmpty()) {
+        program.box(QStringLiteral("Invalid Patient No"));
+        unload();
+        return false;
+    }
+    if (txtBill.text().isEmpty()) {
+        program.box(QStringLiteral("Invalid Bill No"));
+        unload();
+        return false;
+    }
+    for (ComboBox* box : {&cboPat, &cboClient}) {
+        if (box->listIndex() < 0) {
+            program.box(QStringLiteral("Specify Company Name"));
+            box->setFocus();
+            return false;
+        }
+    }
+    return true;
+}
+
+// The prices of the items stay those of the tariff that they had. The columns that the screens call the client's name
+// hold its id.
+void frmCoyUpdate::moveToClient() {
+    const QString patient = txtNo.text(), bill = txtBill.text(), client = m_retainID, category = cboClient.text();
+    Connection connection = program.openBilling();
+    Transaction transaction(connection);
+    connection.execute(Sql("update hPatients set coyname='")
+                       << client << "', clientCatID ='" << category << "'   where pno ='" << patient << "'");
+    connection.execute(Sql("update hRecords set coyname='")
+                       << client << "', clientCat ='" << category << "'   where consultID ='" << bill << "'");
+    connection.execute(Sql("update billingDetails set coyname='")
+                       << client << "', billto ='" << m_retainCode << "'   where billno ='" << bill << "'");
+    connection.execute(Sql("update billing set ClientID='") << client << "'  where billno ='" << bill << "'");
+    connection.execute(Sql("update billAccum set coyname='")
+                       << client << "', billto ='" << m_retainCode << "'   where consultID ='" << bill << "'");
+    transaction.commit();
+}
+
+} // namespace orvane

@@ -1,0 +1,45 @@
+#include "attendance/frmFind.h"
+
+namespace orvane {
+
+frmFind::frmFind(Program& owner) : Screen(owner, QStringLiteral("frmFind"), QStringLiteral("Find a Record ")) {
+    txtName.setToolTip(QStringLiteral("enter the first few letters"));
+    TxtID.setToolTip(QStringLiteral("enter New File No and click OK"));
+    txtName.onChange = [this] { searchByName(); };
+    txtName.onEnter = [this] { searchByName(); };
+    cmdName.onClick = [this] { searchByName(); };
+    cmdID.onClick = [this] { cmdID_Click(); };
+    cmdRestore.onClick = [this] { cmdRestore_Click(); };
+    cmdClose.onClick = [this] { unload(); };
+}
+
+Layout frmFind::layout() const {
+    using namespace orvane::layout;
+    return column(
+        {row({field("Surname", txtName, 24), cell(cmdName), stretch(), field("File No", TxtID, 18), cell(cmdID)}),
+         cell(grdData), buttons({}, {&cmdRestore, &cmdClose})});
+}
+
+void frmFind::searchByName() {
+    Connection connection = program.openBilling();
+    grdData.load(Recordset(
+        connection, Sql("select pno as FileNo,oldpno as [Old FileNo],psurname as Surname,pfirstname as Firstname "
+                        ",homeAddress from hpatients where psurname like '")
+                        << txtName.text() << "%'"));
+}
+
+void frmFind::cmdID_Click() {
+    Connection connection = program.openBilling();
+    grdData.load(Recordset(
+        connection, Sql("select pno as FileNo,oldpno as [Old FileNo],psurname as Surname,pfirstname as Firstname "
+                        ",homeAddress from hpatients where pno like '")
+                        << TxtID.text() << "'"));
+}
+
+void frmFind::cmdRestore_Click() {
+    TxtID.clear();
+    txtName.clear();
+    grdData.clear();
+}
+
+} // namespace orvane

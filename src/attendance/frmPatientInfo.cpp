@@ -1,0 +1,135 @@
+#include "attendance/frmPatientInfo.h"
+
+namespace orvane {
+
+namespace {
+
+struct CardField {
+    const char* column;
+    const char* label;
+    bool isDate = false;
+};
+
+// The card of a patient as it is shown, in reading order; two columns of fields.
+constexpr CardField cardFields[] = {
+    {"pno", "File No"},
+    {"oldpno", "Old File No"},
+    {"regdate", "Registered", true},
+    {"expirydate", "Card Expires", true},
+    {"pSurname", "Surname"},
+    {"pFirstname", "First Name"},
+    {"homeAddress", "Home Address"},
+    {"officeAddress", "Office Address"},
+    {"pPhoneNo", "Phone"},
+    {"DOB", "Date of Birth", true},
+    {"email", "E-mail"},
+    {"sex", "Sex"},
+    {"pCatID", "Category"},
+    {"coyname", "Company"},
+    {"empNo", "Employee No"},
+    {"branch", "Branch"},
+    {"status", "Status"},
+    {"relationToStaff", "Relation to Staff"},
+    {"introducedby", "Introduced by"},
+    {"policyType", "Policy Type"},
+    {"cardType", "Card Type"},
+    {"pMembers", "Members"},
+    {"bloodGroup", "Blood Group"},
+    {"genotype", "Genotype"},
+    {"occupation", "Occupation"},
+    {"religion", "Religion"},
+    {"nextOfKin", "Next of Kin"},
+    {"relationToKin", "Relation to Kin"},
+    {"kinAddress", "Address of Kin"},
+    {"FileDuration", "File Duration"},
+};
+
+} // namespace
+
+frmPatientInfo::frmPatientInfo(Program& owner)
+    : Screen(owner, QStringLiteral("frmPatientInfo"), QStringLiteral("Patient Information")) {
+    for (const CardField& field : cardFields)
+        m_fields.push_back(std::make_unique<Label>(*this, QStringLiteral("lbl_") + QLatin1String(field.column)));
+    TreeView1.onClick = [this] { TreeView1_NodeClick(); };
+    cmdREpairs.onClick = [this] { cmdREpairs_Click(); };
+    cmdTyres.onClick = [this] { cmdTyres_Click(); };
+    CancelButton.onClick = [this] { unload(); };
+}
+
+frmPatientInfo::~frmPatientInfo() = default;
+
+Layout frmPatientInfo::layout() const {
+    using namespace orvane::layout;
+    Layout columns[3] = {column({}), column({}), column({})};
+    for (std::size_t i = 0; i < m_fields.size(); ++i)
+        columns[i * 3 / m_fields.size()].children.append(field(QLatin1String(cardFields[i].label), *m_fields[i]));
+    columns[2].children.append(field("Age", lblAge));
+    return column({row({cell(lblHeading), stretch(), cell(LabelCount)}),
+                   growing(row({cell(TreeView1, 34), growing(column({row({columns[0], columns[1], columns[2]}),
+                                                                     cell(lblDisplay), cell(grdData)}))})),
+                   buttons({&cmdREpairs, &cmdTyres}, {&CancelButton})});
+}
+
+void frmPatientInfo::Form_Load() {
+    TreeView1.clear();
+    TreeView1.addNode({QStringLiteral("qvr"), QStringLiteral("HALDEN HOSPITAL"), {}, true});
+    Connection connection = program.openBilling();
+    Recordset patients(connection, Sql("SELECT * FROM qryhCardNotExpired order by psurname"));
+    for (; !patients.eof(); patients.moveNext()) {
+        const QString number = patients.text(QStringLiteral("pNo"));
+        TreeView1.addNode({QStringLiteral("ijkl") + number,
+                           patients.text(QStringLiteral("psurname")) + QStringLiteral(" ") +
+                               patients.text(QStringLiteral("pfirstname")) + QStringLiteral(" [") + number +
+                               QStringLiteral("]"),
+                           QStringLiteral("qvr"), false});
+    }
+    LabelCount.setText(QStringLiteral("No of Patients : ") + QString::number(patients.count()));
+}
+
+void frmPatientInfo::TreeView1_NodeClick() {
+    const Tree::Node* node = TreeView1.selectedNode();
+    if (!node || node->parentKey.isEmpty())
+        return;
+    m_pno = node->key.mid(4);
+    m_name = node->text.left(node->text.lastIndexOf(QLatin1Char('['))).trimmed();
+    Connection connection = program.openBilling();
+    const Recordset patient(connection, Sql("SELECT * FROM hPatients WHERE pNo ='") << m_pno << "'");
+    if (patient.eof())
+        return;
+    showCard(patient);
+}
+
+void frmPatientInfo::showCard(const Recordset& patient) {
+    for (std::size_t i = 0; i < m_fields.size(); ++i) {
+        const QString name = QLatin1String(cardFields[i].column);
+        const bool starred = name == QLatin1String("pCatID") || name == QLatin1String("empNo");
+        QString text =
+            cardFields[i].isDate ? patient.date(name).toString(QStringLiteral("dd/MM/yyyy")) : patient.text(name);
+        if (text.isEmpty() && starred)
+            text = QStringLiteral("**");
+        m_fields[i]->setText(text);
+    }
+    lblHeading.setText(QStringLiteral("Patient Information  : ") + m_name);
+    const QDate born = patient.date(QStringLiteral("DOB"));
+    lblAge.setText(born.isValid()
+                       ? QString::number(program.ui().now().date().year() - born.year()) + QStringLiteral(" yrs")
+                       : QStringLiteral("--"));
+}
+
+void frmPatientInfo::cmdREpairs_Click() {
+    Connection connection = program.openBilling();
+    grdData.setFormat(QStringLiteral("Balance"), QStringLiteral("#,###.00"));
+    grdData.load(Recordset(
+        connection,
+        Sql("select bDate,BalanceDate,billNo,pNo,Fullname,Balance from qryhBillingbalanceForPrivate where pNo='")
+            << m_pno << "'"));
+    lblDisplay.setText(QStringLiteral("Balance to be paid by ") + m_name);
+}
+
+void frmPatientInfo::cmdTyres_Click() {
+    Connection connection = program.openBilling();
+    grdData.load(Recordset(connection, Sql("select * from qryhVisits where pNo='") << m_pno << "'"));
+    lblDisplay.setText(QStringLiteral("Frequency of Hospital Visits by ") + m_name);
+}
+
+} // namespace orvane
