@@ -1,0 +1,40 @@
+#include "billing/ItemAdjustment.h"
+
+#include "billing/BillingRow.h"
+
+namespace orvane {
+
+void traceAdjustment(Program& program, Connection& connection, const ItemChange& change, const QString& remarks) {
+    Recordset trace(connection, Sql("select * from BillingDetailsAdjust where 1=2"));
+    trace.addNew();
+    trace.set("AdjustDate", program.session.gServerDate);
+    trace.set("AdjustTime", program.session.gServerTime.toString("HH:mm"));
+    trace.set("billNo", change.billNo);
+    trace.set("BillItem", change.oldItem);
+    trace.set("OldQty", QString::number(change.oldQty));
+    trace.set("newQty", QString::number(change.newQty));
+    trace.set("OldPrice", change.oldPrice);
+    trace.set("newPrice", change.newPrice);
+    trace.set("AdjustBy", program.session.gUsername);
+    trace.set("Remarks", remarks);
+    trace.update();
+}
+
+void reviewCarriedBalance(Connection& connection, const QString& billNo, const QString& pno, QDate date, double debt) {
+    Recordset review(connection, Sql("select * from hDebtReview where 1=2"));
+    review.addNew();
+    review.set("billNo", billNo);
+    review.set("PNo", pno);
+    review.set("dtDate", date);
+    review.set("Debt", debt);
+    review.set("adjustTo", debt);
+    review.set("attendedto", 0);
+    review.update();
+}
+
+void refreshBillFromLines(Program& program, Connection& connection, const QString& billNo) {
+    const double total = billDetailsTotal(connection, billNo).value_or(0);
+    updateBillAmount(connection, billNo, total, getValInWord(program, total));
+}
+
+} // namespace orvane

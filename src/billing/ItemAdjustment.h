@@ -1,0 +1,28 @@
+#pragma once
+
+#include "session/Program.h"
+
+namespace orvane {
+
+/// One item of a bill before and after a change. Amounts in naira.
+struct ItemChange {
+    QString billNo;
+    QString oldItem, newItem;
+    double oldQty = 0, newQty = 0;
+    double oldPrice = 0, newPrice = 0;
+    double oldAmount() const { return oldQty * oldPrice; }
+    double newAmount() const { return newQty * newPrice; }
+};
+
+// These write on the caller's connection, inside the caller's transaction, and raise DataError.
+
+/// The trace of a change in BillingDetailsAdjust, stamped with the shell's clock and the user signed in.
+void traceAdjustment(Program& program, Connection& connection, const ItemChange& change, const QString& remarks);
+
+/// The correction of a brought-forward line in hDebtReview; `debt` as the line's price, minus for "PREVIOUS DEBT".
+void reviewCarriedBalance(Connection& connection, const QString& billNo, const QString& pno, QDate date, double debt);
+
+/// Amount and words of the Billing row as its lines now come to; without a line it becomes an empty bill.
+void refreshBillFromLines(Program& program, Connection& connection, const QString& billNo);
+
+} // namespace orvane

@@ -1,0 +1,171 @@
+#include "billing/frmApprvCode.h"
+
+namespace orvane {
+
+frmApprvCode::frmApprvCode(Program& owner) : Screen(owner, QStringLiteral("frmApprvCode"), QStringLiteral("HMO/NHIS")) {
+    cmdInv.onClick = [this] { cmdInv_Click(); };
+    cboVehNo.onClick = [this] { cboVehNo_Click(); };
+    cmdEdit.onClick = [this] { cmdEdit_Click(); };
+    cmdDel.onClick = [this] { cmdDel_Click(); };
+    cmdCancel.onClick = [this] { resetFields(); };
+    OKButton.onClick = [this] { OKButton_Click(); };
+    CancelButton.onClick = [this] { unload(); };
+}
+
+Layout frmApprvCode::layout() const {
+    using namespace orvane::layout;
+    return column({row({field("Attendance between", DTPicker1), field("and", DTPicker2), cell(cmdInv), stretch()}),
+                   field("Patient", cboVehNo),
+                   facts({{"Bill No", &lblBill},
+                          {"File No", &lblNo},
+                          {"Category", &lblDetails},
+                          {"Client", &lblCoy},
+                          {"Sex", &lblSex},
+                          {"Age", &lblAge},
+                          {"Fee for service", &lblRef}}),
+                   row({field("Date of Approval", dtDate), field("Approval Code", txtApprv, 24),
+                        field("Billing Category", cboBill, 20), stretch()}),
+                   field("Remarks", txtRem), cell(grdData),
+                   buttons({&cmdEdit, &cmdDel}, {&cmdCancel, &CancelButton, &OKButton})});
+}
+
+void frmApprvCode::Form_Load() {
+    const QDate today = program.getServerDateTime().date();
+    for (DatePicker* picker : {&DTPicker1, &DTPicker2, &dtDate})
+        picker->setDate(today);
+    cboBill.addItems({QStringLiteral("FEE-FOR-SERVICE"), QStringLiteral("CLAIMS"), QStringLiteral("COMPANY")});
+    grdData.hide({QStringLiteral("SNO")});
+}
+
+void frmApprvCode::cmdInv_Click() {
+    cboVehNo.clear();
+    Connection connection = program.openBilling();
+    Recordset visits(connection, Sql("select distinct  CoyName,Fullname,Date,consultID as billNo from "
+                                     "vwhConsultingVisits where   Date between '")
+                                     << DTPicker1.date() << "' and '" << DTPicker2.date() << "' and  clientCatID <> '"
+                                     << session.gPrivateTariff << "' order by fullname ");
+    for (; !visits.eof(); visits.moveNext())
+        cboVehNo.addItem(visits.text(QStringLiteral("Fullname")) + QStringLiteral(" @") +
+                         visits.date(QStringLiteral("Date")).toString(QStringLiteral("dd/MM/yyyy")) +
+                         QStringLiteral(" [") + visits.text(QStringLiteral("billNo")) + QStringLiteral("]"));
+}
+
+void frmApprvCode::cboVehNo_Click() {
+    if (cboVehNo.listIndex() < 0)
+        return;
+    const QString entry = cboVehNo.text();
+    const auto bracket = entry.lastIndexOf(QLatin1Char('['));
+    m_consultID = entry.mid(bracket + 1).chopped(1);
+    m_patient = entry.left(entry.indexOf(QLatin1String(" @")));
+    bEditing = false;
+    Connection connection = program.openBilling();
+    const Recordset visit(connection, Sql("select * from qryhPreConsultForClinics where consultID='")
+                                          << m_consultID << "'");
+    if (visit.eof()) {
+        resetFields();
+        return;
+    }
+    const struct {
+        Label& label;
+        const char* column;
+    } facts[] = {{lblDetails, "clientCat"}, {lblBill, "consultID"}, {lblNo, "PNo"}, {lblSex, "sex"},
+                 {lblAge, "Age"},           {lblCoy, "Company"},    {lblRef, "ref"}};
+    for (const auto& fact : facts)
+        fact.label.setText(visit.text(QLatin1String(fact.column)));
+    dtDate.setDate(visit.date(QStringLiteral("recDate")));
+    fillGrid();
+}
+
+void frmApprvCode::fillGrid() {
+    Connection connection = program.openBilling();
+    grdData.load(Recordset(
+        connection,
+        Sql("select  SNO,ApprvDate,ConsultID,ApprvCode,Pno,BillType,Remarks from hApprvCode where consultID='")
+            << m_consultID << "' ORDER BY Apprvdate asc"));
+}
+
+void frmApprvCode::OKButton_Click() {
+    if (dtDate.isEmpty()) {
+        program.box(QStringLiteral("Specify Date of Approval"));
+        dtDate.setFocus();
+        return;
+    }
+    if (m_consultID.isEmpty()) {
+        program.box(QStringLiteral("Select a Patient for this Approval"));
+        return;
+    }
+    if (txtApprv.text().trimmed().isEmpty()) {
+        program.box(QStringLiteral("Specify Approval Code for this Treatment"));
+        return;
+    }
+    if (cboBill.text().isEmpty()) {
+        program.box(QStringLiteral("Specify Billing Category for this Approval"));
+        return;
+    }
+    save();
+    program.box(QStringLiteral("Record Succesfully saved"));
+    program.writeAuditTrail(session.gUsername, QStringLiteral("Add Apprv Code for ") + m_patient, m_consultID,
+                            txtApprv.text(), session.sComputerName);
+    fillGrid();
+    txtApprv.clear();
+    txtRem.clear();
+    cboBill.setListIndex(-1);
+    bEditing = false;
+}
+
+// An edit finds its row by the visit: with several codes on one visit the first of them changes.
+void frmApprvCode::save() {
+    Connection connection = program.openBilling();
+    Recordset code(connection, bEditing ? Sql("select * from hApprvCode where consultID='") << m_consultID << "'"
+                                        : Sql("select * from hApprvCode where 1=2"));
+    if (bEditing && code.eof())
+        return;
+    if (!bEditing)
+        code.addNew();
+    code.set(QStringLiteral("ApprvDate"), dtDate.date());
+    code.set(QStringLiteral("consultID"), m_consultID);
+    code.set(QStringLiteral("ApprvCode"), txtApprv.text());
+    code.set(QStringLiteral("Remarks"), txtRem.text());
+    code.set(QStringLiteral("billType"), cboBill.text());
+    code.set(QStringLiteral("PNo"), lblNo.text());
+    code.update();
+}
+
+void frmApprvCode::cmdEdit_Click() {
+    if (grdData.currentRow() < 0)
+        return;
+    dtDate.setDate(grdData.date(QStringLiteral("ApprvDate")));
+    txtApprv.setText(grdData.text(QStringLiteral("ApprvCode")));
+    cboBill.setText(grdData.text(QStringLiteral("BillType")));
+    txtRem.setText(grdData.text(QStringLiteral("Remarks")));
+    bEditing = true;
+    txtApprv.setFocus();
+}
+
+void frmApprvCode::cmdDel_Click() {
+    if (grdData.currentRow() < 0)
+        return;
+    if (!program.question(QStringLiteral("Are you sure to Delete Record"), QStringLiteral("Delete")))
+        return;
+    {
+        Connection connection = program.openBilling();
+        connection.execute(Sql("delete from hApprvCode where sno = '") << grdData.text(QStringLiteral("SNO")) << "'");
+    }
+    program.box(QStringLiteral(" Record successfully deleted "));
+    fillGrid();
+}
+
+void frmApprvCode::resetFields() {
+    for (Label* label : {&lblDetails, &lblCoy, &lblBill, &lblNo, &lblSex, &lblAge, &lblRef})
+        label->clear();
+    cboVehNo.setListIndex(-1);
+    cboBill.setListIndex(-1);
+    txtApprv.clear();
+    txtRem.clear();
+    grdData.clear();
+    m_consultID.clear();
+    m_patient.clear();
+    bEditing = false;
+}
+
+} // namespace orvane

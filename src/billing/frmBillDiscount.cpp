@@ -1,0 +1,163 @@
+#include "billing/frmBillDiscount.h"
+
+#include "data/Money.h"
+
+namespace orvane {
+
+frmBillDiscount::frmBillDiscount(Program& owner)
+    : Screen(owner, QStringLiteral("frmBillDiscount"), QStringLiteral("Discounts")) {
+    txtDue.numeric();
+    txtDue.setLocked(true);
+    txtHt.numeric();
+    cmdInv.onClick = [this] { cmdInv_Click(); };
+    cboVehNo.onClick = [this] { cboVehNo_Click(); };
+    cboClinic.onClick = [this] { cboClinic_Click(); };
+    OKButton.onClick = [this] { OKButton_Click(); };
+    cmdCancel.onClick = [this] { clearFields(); };
+    CancelButton.onClick = [this] { unload(); };
+}
+
+Layout frmBillDiscount::layout() const {
+    using namespace orvane::layout;
+    return column({row({field("Bills between", DTPicker1), field("and", DTPicker2), cell(cmdInv), stretch()}),
+                   field("Patient", cboVehNo), cell(Label5), facts({{"Bill No", &lblBill}, {"Amount Paid", &lblAmt}}),
+                   field("Amount Due", txtDue, 16), field("Date", dtDate), field("Entry Type", cboClinic, 16),
+                   field("Remarks", cboCat, 16), field("Amount", txtHt, 16), field("Pay Type", cboPay, 16), stretch(),
+                   buttons({&cmdCancel}, {&CancelButton, &OKButton})});
+}
+
+void frmBillDiscount::Form_Load() {
+    const QDate today = program.getServerDateTime().date();
+    for (DatePicker* picker : {&DTPicker1, &DTPicker2, &dtDate})
+        picker->setDate(today);
+    cboClinic.addItems({QString(), QStringLiteral("BILL"), QStringLiteral("DISCOUNT")});
+    cboCat.addItems({QString(), QStringLiteral("ENT"), QStringLiteral("DENTAL"), QStringLiteral("EYE"),
+                     QStringLiteral("BILL"), QStringLiteral("DISCOUNT")});
+    cboPay.addItems({QString(), QStringLiteral("CASH"), QStringLiteral("CHEQUE")});
+    cboPay.setText(QStringLiteral("CASH"));
+}
+
+void frmBillDiscount::cboClinic_Click() {
+    if (isDiscount())
+        cboCat.setText(QStringLiteral("DISCOUNT"));
+    else if (cboClinic.text() == QLatin1String("BILL"))
+        cboCat.setListIndex(-1);
+}
+
+void frmBillDiscount::cmdInv_Click() {
+    cboVehNo.clear();
+    Connection connection = program.openBilling();
+    Recordset bills(connection, Sql("select distinct date,pno,fullname,billno from vwBilling where  date between '")
+                                    << DTPicker1.date() << "' and '" << DTPicker2.date() << " '");
+    for (; !bills.eof(); bills.moveNext())
+        cboVehNo.addItem(bills.text(QStringLiteral("fullname")) + QStringLiteral(" [") +
+                         bills.text(QStringLiteral("PNo")) + QStringLiteral("]#") +
+                         bills.text(QStringLiteral("billNo")));
+}
+
+void frmBillDiscount::cboVehNo_Click() {
+    if (cboVehNo.listIndex() < 0)
+        return;
+    const QString entry = cboVehNo.text();
+    const auto hash = entry.lastIndexOf(QLatin1Char('#'));
+    const auto bracket = entry.lastIndexOf(QLatin1Char('['), hash);
+    m_pno = entry.mid(bracket + 1, hash - bracket - 2);
+    lblBill.setText(entry.mid(hash + 1));
+    Label5.setText(QStringLiteral("Bill/Discount for: ") + entry.left(bracket).trimmed());
+    Connection connection = program.openBilling();
+    const Recordset bill(connection, Sql("select AmountBilled,Amountpaid,billno from Billing where billno='")
+                                         << lblBill.text() << "'");
+    const double billed = bill.eof() ? 0 : bill.number(QStringLiteral("AmountBilled"));
+    const double paid = bill.eof() ? 0 : bill.number(QStringLiteral("Amountpaid"));
+    txtDue.setText(formatNumber(billed - paid, QStringLiteral("0.00")));
+    lblAmt.setText(formatNumber(paid, QStringLiteral("0.00")));
+}
+
+void frmBillDiscount::OKButton_Click() {
+    if (!checkFields())
+        return;
+    const std::optional<double> amount = parseAmount(txtHt.text());
+    // A discount is a negative line by its type: a negative amount would turn it into a charge.
+    if (!amount || *amount < 0) {
+        program.box(QStringLiteral("Please enter  Amount"));
+        txtHt.setFocus();
+        return;
+    }
+    if (!program.question(QStringLiteral("Are you sure to save?"), QStringLiteral("About to save")))
+        return;
+    save(isDiscount() ? -*amount : *amount);
+    program.box(QStringLiteral("Record Succesfully saved"));
+    clearFields();
+}
+
+bool frmBillDiscount::checkFields() {
+    const struct {
+        bool missing;
+        const char* text;
+        Control& control;
+    } checks[] = {
+        {txtHt.text().isEmpty(), "Please enter  Amount", txtHt},
+        {txtDue.text().isEmpty(), "Please enter Amount Due", txtDue},
+        {cboVehNo.text().isEmpty(), "Please enter Patient No", cboVehNo},
+        {cboClinic.text().isEmpty(), "Please Specify Entry type", cboClinic},
+        {dtDate.isEmpty(), "Please enter date", dtDate},
+        {cboCat.text().isEmpty(), "Please enter Remarks", cboCat},
+    };
+    for (const auto& check : checks) {
+        if (check.missing) {
+            program.box(QLatin1String(check.text));
+            check.control.setFocus();
+            return false;
+        }
+    }
+    return true;
+}
+
+void frmBillDiscount::save(double amount) {
+    const QDateTime now = program.getServerDateTime();
+    Connection connection = program.openBilling();
+    Transaction transaction(connection);
+    Recordset line(connection, Sql("select * from BillingDetails where 1=2"));
+    line.addNew();
+    line.set(QStringLiteral("dtDate"), dtDate.date());
+    line.set(QStringLiteral("billNo"), lblBill.text());
+    line.set(QStringLiteral("PNo"), m_pno);
+    line.set(QStringLiteral("drgName"), cboCat.text());
+    line.set(QStringLiteral("billType"), QStringLiteral("SERVICE"));
+    line.set(QStringLiteral("conID"), 0);
+    line.set(QStringLiteral("Price"), amount);
+    line.set(QStringLiteral("Qty"), 1);
+    line.set(QStringLiteral("SubTotal"), amount);
+    line.update();
+    if (isDiscount()) {
+        Recordset discount(connection, Sql("select * from billDiscounts where 1=2"));
+        discount.addNew();
+        discount.set(QStringLiteral("dtDate"), now.date());
+        discount.set(QStringLiteral("dtTime"), now.time().toString(QStringLiteral("HH:mm")));
+        discount.set(QStringLiteral("billNo"), lblBill.text());
+        discount.set(QStringLiteral("Amount"), -amount);
+        discount.set(QStringLiteral("Remarks"), cboCat.text());
+        discount.set(QStringLiteral("entryBy"), session.gUsername);
+        discount.update();
+    }
+    Recordset bill(connection, Sql("select * from Billing where billno='") << lblBill.text() << "'");
+    if (!bill.eof()) {
+        const double billed = bill.number(QStringLiteral("Amountbilled")) + amount;
+        bill.set(QStringLiteral("Amountbilled"), billed);
+        bill.set(QStringLiteral("isPaid"), billed <= bill.number(QStringLiteral("AmountPaid")) ? 1 : 0);
+        bill.update();
+    }
+    transaction.commit();
+}
+
+void frmBillDiscount::clearFields() {
+    for (ComboBox* box : {&cboVehNo, &cboClinic, &cboCat})
+        box->setListIndex(-1);
+    txtHt.clear();
+    txtDue.clear();
+    for (Label* label : {&Label5, &lblBill, &lblAmt})
+        label->clear();
+    m_pno.clear();
+}
+
+} // namespace orvane
