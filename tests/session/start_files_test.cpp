@@ -4,6 +4,7 @@
 #include "support/TestUi.h"
 
 #include <QFile>
+#include <QSysInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -105,6 +106,26 @@ TEST_F(StartFiles, onlyTheMenuSectionTurnsEntriesOn) {
                                         "mnuDisc=0\nmnuBanks\nmnuMixed=1\n[server X]\nmnuD=1\n");
     EXPECT_EQ(readMenuEntriesTurnedOn(home.path()),
               (QSet<QString>{QStringLiteral("mnurct"), QStringLiteral("mnumixed")}));
+}
+
+TEST_F(StartFiles, aHomeThatCannotBeWrittenIsLockedElsewhere) {
+    const QString readOnly = QStringLiteral("/proc");
+    auto first = std::make_unique<Program>(readOnly, ui);
+    Program second(readOnly, ui);
+    Program otherHome(QStringLiteral("/proc/self"), ui);
+    EXPECT_TRUE(first->lockInstance());
+    EXPECT_TRUE(first->lockInstance());
+    EXPECT_FALSE(second.lockInstance());
+    EXPECT_TRUE(otherHome.lockInstance());
+    first.reset();
+    EXPECT_TRUE(second.lockInstance());
+}
+
+TEST_F(StartFiles, aLockOfADeadProcessDoesNotBlock) {
+    const QString file = QStringLiteral(".orvane-billing-%1.lock").arg(QSysInfo::machineHostName());
+    // No process has this number.
+    write(file, "4194305\norvane-billing\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    EXPECT_TRUE(program.lockInstance());
 }
 
 TEST_F(StartFiles, passwordsAreScrambledOneForOne) {
