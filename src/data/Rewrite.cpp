@@ -108,10 +108,11 @@ void rewriteNotIn(Tokens& tokens) {
         while (from < close && !tokens[from].is("from")) {
             from = tokens[from].isSymbol("(") ? closingParenthesis(tokens, from) + 1 : from + 1;
         }
+        const qsizetype keyEnd = from - key > 2 && tokens[from - 2].is("as") ? from - 2 : from;
         Tokens result = {symbolToken(QStringLiteral("("))};
         result += value;
         result += tokenize(QStringLiteral(" is not null and not exists (select 1 from (select"));
-        result += tokens.mid(key, from - key);
+        result += tokens.mid(key, keyEnd - key);
         result += tokenize(QStringLiteral(" as orvane_key"));
         result += tokens.mid(from, close - from);
         result += tokenize(QStringLiteral(") orvane_in where orvane_in.orvane_key ="));
