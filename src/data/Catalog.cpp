@@ -4,6 +4,7 @@
 #include "data/Translator.h"
 
 #include <QFile>
+#include <QMap>
 
 namespace orvane {
 
@@ -100,7 +101,8 @@ struct Catalog::Private {
         QStringList tables, views;
     };
     QHash<QString, Database> databases;
-    QHash<QString, Table> tables;                      ///< by lower-cased name
+    QHash<QString, QMap<QString, Table>>
+        tables; ///< by lower-cased name, then by database: two have a table of one name
     QHash<QString, QHash<QString, QString>> viewWords; ///< by lower-cased view: spelling by lower-cased word
     QHash<QString, QString> spelling;                  ///< of all columns and view words
     QHash<QString, const Column*> unanimous;           ///< by lower-cased name; null where tables disagree
@@ -108,6 +110,7 @@ struct Catalog::Private {
     void read(const QString& database);
     void readView(const Tokens& tokens);
     void indexColumns();
+    const Column* columnOf(const QString& table, const QString& column) const;
 };
 
 void Catalog::Private::read(const QString& database) {
@@ -120,7 +123,7 @@ void Catalog::Private::read(const QString& database) {
             if (tokens.size() > 4 && tokens[0].is("create") && tokens[1].is("table")) {
                 const Table table = readTable(tokens);
                 entry.tables += table.name;
-                tables.insert(table.name.toLower(), table);
+                tables[table.name.toLower()].insert(database, table);
             } else if (tokens.size() > 4 && tokens[0].is("create") && tokens[1].is("view")) {
                 entry.views += tokens[2].text;
                 readView(tokens);
@@ -145,31 +148,48 @@ void Catalog::Private::readView(const Tokens& tokens) {
 }
 
 void Catalog::Private::indexColumns() {
-    for (const Table& table : std::as_const(tables)) {
-        for (const Column& column : table.columns) {
-            const QString lower = column.name.toLower();
-            const auto known = unanimous.constFind(lower);
-            const bool disagree = known != unanimous.constEnd() && (!*known || (*known)->kind != column.kind);
-            unanimous.insert(lower, disagree ? nullptr : &column);
-        }
-    }
-    for (const char* database : {"billing", "accounting", "audit"}) {
-        for (const QString& name : std::as_const(databases[QLatin1StringView(database)].tables)) {
-            for (const Column& column : std::as_const(tables[name.toLower()].columns)) {
-                if (!spelling.contains(column.name.toLower())) {
-                    spelling.insert(column.name.toLower(), column.name);
-                }
-            }
-        }
-        for (const QString& view : std::as_const(databases[QLatin1StringView(database)].views)) {
-            const QHash<QString, QString> words = viewWords.value(view.toLower());
-            for (auto word = words.begin(); word != words.end(); ++word) {
-                if (!spelling.contains(word.key())) {
-                    spelling.insert(word.key(), word.value());
-                }
+    for (const auto& namesakes : std::as_const(tables)) {
+        for (const Table& table : namesakes) {
+            for (const Column& column : table.columns) {
+                const QString lower = column.name.toLower();
+                const auto known = unanimous.constFind(lower);
+                const bool disagree = known != unanimous.constEnd() && (!*known || (*known)->kind != column.kind);
+                unanimous.insert(lower, disagree ? nullptr : &column);
             }
         }
     }
+    const auto learn = [this](const QString& word) {
+        if (!spelling.contains(word.toLower())) {
+            spelling.insert(word.toLower(), word);
+        }
+    };
+    for (const char* name : {"billing", "accounting", "audit"}) {
+        const Database& database = databases[QLatin1StringView(name)];
+        for (const QString& table : database.tables) {
+            for (const Column& column : std::as_const(tables[table.toLower()])[QLatin1StringView(name)].columns) {
+                learn(column.name);
+            }
+        }
+        for (const QString& view : database.views) {
+            for (const QString& word : viewWords.value(view.toLower())) {
+                learn(word);
+            }
+        }
+    }
+}
+
+/// The column in whichever table of that name has it; null when none has.
+const Column* Catalog::Private::columnOf(const QString& table, const QString& column) const {
+    const auto namesakes = tables.constFind(table.toLower());
+    if (namesakes == tables.constEnd()) {
+        return nullptr;
+    }
+    for (const Table& namesake : *namesakes) {
+        if (const Column* found = namesake.column(column)) {
+            return found;
+        }
+    }
+    return nullptr;
 }
 
 Catalog::Catalog() : d(std::make_shared<Private>()) {
@@ -193,15 +213,19 @@ const Column* Table::column(const QString& columnName) const {
     return nullptr;
 }
 
-const Table* Catalog::table(const QString& name) const {
-    const auto found = d->tables.constFind(name.toLower());
-    return found == d->tables.constEnd() ? nullptr : &*found;
+const Table* Catalog::table(const QString& name, const QString& database) const {
+    const auto namesakes = d->tables.constFind(name.toLower());
+    if (namesakes == d->tables.constEnd()) {
+        return nullptr;
+    }
+    const auto found = namesakes->constFind(database);
+    return found == namesakes->constEnd() ? &*namesakes->constBegin() : &*found;
 }
 
 QList<const Table*> Catalog::tables(const QString& database) const {
     QList<const Table*> list;
     for (const QString& name : d->databases.value(database).tables) {
-        list += table(name);
+        list += table(name, database);
     }
     return list;
 }
@@ -220,8 +244,7 @@ QString Catalog::properCase(const QString& name, const QStringList& sources) con
         if (view != d->viewWords.constEnd() && view->contains(name.toLower())) {
             return view->value(name.toLower());
         }
-        const Table* known = table(source);
-        if (const Column* column = known ? known->column(name) : nullptr) {
+        if (const Column* column = d->columnOf(source, name)) {
             return column->name;
         }
     }
@@ -230,8 +253,7 @@ QString Catalog::properCase(const QString& name, const QStringList& sources) con
 
 const Column* Catalog::findColumn(const QString& name, const QStringList& sources) const {
     for (const QString& source : sources) {
-        const Table* known = table(source);
-        if (const Column* column = known ? known->column(name) : nullptr) {
+        if (const Column* column = d->columnOf(source, name)) {
             return column;
         }
     }

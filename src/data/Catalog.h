@@ -31,7 +31,9 @@ class Catalog {
 public:
     static const Catalog& instance();
 
-    const Table* table(const QString& name) const;             ///< null when there is none
+    /// The table of that name in "billing", "accounting" or "audit", else in whichever database has it; null when there
+    /// is none.
+    const Table* table(const QString& name, const QString& database = QStringLiteral("billing")) const;
     QList<const Table*> tables(const QString& database) const; ///< "billing", "accounting" or "audit", in file order
     QStringList views(const QString& database) const;          ///< in file order
     /// A column name as the schema writes it, for engines that fold names to lower case; unknown names come back as

@@ -1,6 +1,5 @@
 #include "data/Heads.h"
 
-#include "data/Catalog.h"
 #include "data/Rewrite.h"
 
 #include <QHash>
@@ -22,13 +21,10 @@ QStringList properHeads(const QStringList& names, const Tokens& statement, const
     return heads;
 }
 
-QString writableTable(const Tokens& statement) {
+const Table* writableTable(const Tokens& statement, const QString& database) {
     const QStringList sources = sourcesOf(statement);
-    if (statement.isEmpty() || !statement[0].is("select") || sources.size() != 1) {
-        return {};
-    }
-    const Table* table = Catalog::instance().table(sources.first());
-    return table ? table->name : QString();
+    const bool single = !statement.isEmpty() && statement[0].is("select") && sources.size() == 1;
+    return single ? Catalog::instance().table(sources.first(), database) : nullptr;
 }
 
 } // namespace orvane

@@ -26,6 +26,12 @@ QString uniqueName() {
     throw DataError(QStringLiteral("%1 cannot be opened: %2").arg(what, text.trimmed()));
 }
 
+/// Which tables a database of that name holds.
+QString schemaOf(const QString& database) {
+    const QString name = database.toLower();
+    return name == QStringLiteral("accounting") || name == QStringLiteral("audit") ? name : QStringLiteral("billing");
+}
+
 // SQLite
 
 sqlite3* handleOf(const QSqlDatabase& database) {
@@ -194,6 +200,7 @@ Physical openPhysical(const std::shared_ptr<DataSource::Private>& source, const 
     physical->source = source;
     physical->engine = entry.engine;
     physical->connectionString = connectionString;
+    physical->schema = schemaOf(target.database);
     physical->name = uniqueName();
     if (entry.engine == Engine::Sqlite) {
         openSqlite(physical, entry, target, create);

@@ -20,6 +20,7 @@ struct PhysicalConnection {
     std::shared_ptr<DataSource::Private> source; ///< set while it is in use
     Engine engine = Engine::Sqlite;
     QString connectionString;
+    QString schema;  ///< "billing", "accounting" or "audit": which tables it holds
     QString poolKey; ///< connection string and thread
     QString gate;    ///< the database that a transaction on it locks
     QString name;    ///< Qt's name of it

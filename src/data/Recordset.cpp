@@ -1,7 +1,6 @@
 #include "data/Recordset.h"
 
 #include "data/Assert.h"
-#include "data/Catalog.h"
 #include "data/Heads.h"
 #include "data/Physical.h"
 #include "data/RecordsetRows.h"
@@ -34,7 +33,7 @@ void Recordset::read(Connection& connection, const QString& tsql) {
     const QStringList sources = sourcesOf(tokens);
     d->rows = readRows(query, connection.d->engine);
     d->rows.columns = properHeads(d->rows.columns, tokens, sources);
-    d->table = writableTable(tokens);
+    d->table = writableTable(tokens, connection.d->schema);
     d->physical = connection.d;
     d->lease = connection.d->lease;
 }
@@ -158,8 +157,7 @@ void Recordset::set(const QString& column, const QVariant& value) {
     if (!d->adding && eof()) {
         throw DataError(QStringLiteral("Either BOF or EOF is True, or the current record has been deleted."));
     }
-    const Table* table = Catalog::instance().table(d->table);
-    const Column* known = table ? table->column(column) : nullptr;
+    const Column* known = d->table ? d->table->column(column) : nullptr;
     if (!known) {
         throw DataError(QStringLiteral("The column %1 of this recordset cannot be written.").arg(column));
     }

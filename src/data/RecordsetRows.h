@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/Catalog.h"
 #include "data/Physical.h"
 #include "data/Recordset.h"
 
@@ -30,7 +31,7 @@ Rows readRows(QSqlQuery& query, Engine engine);
 struct Recordset::Private {
     Rows rows;
     int row = 0;
-    QString table; ///< the table that rows are written to; empty when the statement names none or several
+    const Table* table = nullptr; ///< the table that rows are written to; null when the statement names none or several
     std::weak_ptr<PhysicalConnection> physical;
     qint64 lease = 0;
     bool adding = false;

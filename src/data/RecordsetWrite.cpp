@@ -1,6 +1,5 @@
 #include "data/RecordsetRows.h"
 
-#include "data/Catalog.h"
 #include "data/Value.h"
 
 namespace orvane {
@@ -28,7 +27,7 @@ std::shared_ptr<PhysicalConnection> Recordset::Private::connection() const {
 
 void Recordset::Private::write() {
     const std::shared_ptr<PhysicalConnection> target = connection();
-    if (table.isEmpty()) {
+    if (!table) {
         throw DataError(QStringLiteral("The rows of this recordset cannot be written."));
     }
     if (adding) {
@@ -47,10 +46,10 @@ void Recordset::Private::insert(PhysicalConnection& target) {
         marks += QStringLiteral("?");
         bound += valueForBinding(change.value());
     }
-    target.send(names.isEmpty()
-                    ? QStringLiteral("insert into %1 default values").arg(quotedName(table))
-                    : QStringLiteral("insert into %1 (%2) values (%3)")
-                          .arg(quotedName(table), names.join(QStringLiteral(", ")), marks.join(QStringLiteral(", "))),
+    target.send(names.isEmpty() ? QStringLiteral("insert into %1 default values").arg(quotedName(table->name))
+                                : QStringLiteral("insert into %1 (%2) values (%3)")
+                                      .arg(quotedName(table->name), names.join(QStringLiteral(", ")),
+                                           marks.join(QStringLiteral(", "))),
                 bound);
     row = static_cast<int>(rows.count());
     for (int i = 0; i < rows.columns.size(); ++i) {
@@ -68,7 +67,7 @@ void Recordset::Private::change(PhysicalConnection& target) {
             oldValues += valueForBinding(old);
         }
     };
-    for (const QString& key : Catalog::instance().table(table)->key) {
+    for (const QString& key : table->key) {
         const int index = rows.indexOf(key);
         if (index < 0) {
             throw DataError(QStringLiteral("The row cannot be written: its key %1 was not read.").arg(key));
@@ -81,9 +80,9 @@ void Recordset::Private::change(PhysicalConnection& target) {
         bound += valueForBinding(change.value());
         addCondition(name, rows.at(row, change.key()));
     }
-    const QString tsql =
-        QStringLiteral("update %1 set %2 where %3")
-            .arg(quotedName(table), assignments.join(QStringLiteral(", ")), conditions.join(QStringLiteral(" and ")));
+    const QString tsql = QStringLiteral("update %1 set %2 where %3")
+                             .arg(quotedName(table->name), assignments.join(QStringLiteral(", ")),
+                                  conditions.join(QStringLiteral(" and ")));
     if (target.send(tsql, bound + oldValues).numRowsAffected() != 1) {
         target.poisoned = target.inTransaction;
         throw DataError(

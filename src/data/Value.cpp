@@ -133,6 +133,9 @@ QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind
 
 QVariant valueForBinding(const QVariant& value) {
     const int type = value.typeId();
+    if (type == QMetaType::QString && value.toString().isNull()) {
+        return QStringLiteral(""); // an empty text is no null
+    }
     return type == QMetaType::QDate || type == QMetaType::QDateTime ? QVariant(valueText(value)) : value;
 }
 

@@ -1,0 +1,173 @@
+#include "data/DataError.h"
+#include "data/Recordset.h"
+#include "support/TestHome.h"
+
+#include <cmath>
+#include <limits>
+
+namespace orvane {
+
+namespace {
+
+const QString kChanged =
+    QStringLiteral("Row cannot be located for updating. Some values may have been changed since it was last read.");
+
+/// The description of the fault that the call raises; "" when it raises none.
+template <typename Call>
+QString fault(Call call) {
+    try {
+        call();
+    } catch (const DataError& error) {
+        return error.description();
+    }
+    return {};
+}
+
+} // namespace
+
+class RecordsetTest : public EngineTest {
+protected:
+    Recordset added(const QString& receipt, double amount) {
+        Recordset row(billing, Sql("select * from Payments where 1=2"));
+        row.addNew();
+        row.set(QStringLiteral("ReceiptNo"), receipt);
+        row.set(QStringLiteral("AmountPaid"), amount);
+        row.set(QStringLiteral("receiptdate"), QDate(2026, 3, 14));
+        row.update();
+        return row;
+    }
+};
+
+TEST_P(RecordsetTest, WalksRowsAndReadsThemTyped) {
+    added(QStringLiteral("R1"), 12);
+    added(QStringLiteral("R2"), 0.1);
+    billing.run(QStringLiteral("insert into Payments (ReceiptNo) values (null)"));
+    Recordset rows(billing, Sql("select SNo, ReceiptNo, AmountPaid, ReceiptDate, isPost from Payments order by SNo"));
+    ASSERT_EQ(rows.count(), 3);
+    EXPECT_EQ(rows.text(QStringLiteral("amountpaid")), QStringLiteral("12"));
+    EXPECT_EQ(rows.text(QStringLiteral("RECEIPTDATE")), QStringLiteral("2026-03-14"));
+    EXPECT_EQ(rows.value(QStringLiteral("ReceiptDate")).typeId(), int(QMetaType::QDate));
+    EXPECT_EQ(rows.value(QStringLiteral("isPost")), QVariant(0LL));
+    EXPECT_TRUE(rows.find(QStringLiteral("receiptno"), QStringLiteral("r2")));
+    EXPECT_EQ(rows.row(), 1);
+    EXPECT_EQ(rows.number(QStringLiteral("AmountPaid")), 0.1);
+    rows.moveNext();
+    EXPECT_TRUE(rows.isNull(QStringLiteral("ReceiptNo")));
+    EXPECT_EQ(rows.text(QStringLiteral("ReceiptDate")), QString());
+    EXPECT_EQ(rows.number(QStringLiteral("AmountPaid")), 0);
+    EXPECT_FALSE(rows.date(QStringLiteral("ReceiptDate")).isValid());
+    EXPECT_FALSE(rows.find(QStringLiteral("ReceiptNo"), QStringLiteral("R1"))) << "searches from here on";
+    EXPECT_TRUE(rows.eof());
+    EXPECT_THROW(rows.text(QStringLiteral("ReceiptNo")), DataError);
+    rows.moveFirst();
+    EXPECT_THROW(rows.text(QStringLiteral("NoSuchColumn")), DataError);
+    EXPECT_THROW(rows.number(QStringLiteral("ReceiptNo")), DataError);
+}
+
+TEST_P(RecordsetTest, GivesTheServersClockAsDateAndTime) {
+    data.setServerClock(QDateTime(QDate(2026, 3, 14), QTime(9, 30)));
+    const Recordset clock(billing, Sql("select sysDT from qrySysDateTime"));
+    EXPECT_EQ(clock.text(0), QStringLiteral("2026-03-14 09:30:00"));
+    EXPECT_EQ(clock.dateTime(QStringLiteral("sysdt")), QDateTime(QDate(2026, 3, 14), QTime(9, 30)));
+    EXPECT_EQ(clock.date(QStringLiteral("sysdt")), QDate(2026, 3, 14));
+    data.setServerClock({});
+    EXPECT_NEAR(double(Recordset(billing, Sql("select sysDT from qrySysDateTime"))
+                           .dateTime("sysDT")
+                           .secsTo(QDateTime::currentDateTime())),
+                0, 5);
+}
+
+TEST_P(RecordsetTest, ChangesTheRowThatWasReadAndOnlyThat) {
+    added(QStringLiteral("R1"), 10);
+    added(QStringLiteral("R2"), 10);
+    Recordset row(billing, Sql("select * from Payments where ReceiptNo='R2'"));
+    row.set(QStringLiteral("AmountPaid"), 0.1 + 0.2);
+    row.set(QStringLiteral("Remarks"), QStringLiteral("kept blanks  "));
+    row.update();
+    // Once more over the same recordset: the old values are those of the last update.
+    row.set(QStringLiteral("Remarks"), QVariant());
+    row.set(QStringLiteral("AmountPaid"), 5);
+    row.update();
+    EXPECT_EQ(scalar(QStringLiteral("select AmountPaid from Payments where ReceiptNo='R2' and Remarks is null")),
+              QStringLiteral("5"));
+    EXPECT_EQ(scalar(QStringLiteral("select AmountPaid from Payments where ReceiptNo='R1'")), QStringLiteral("10"));
+}
+
+TEST_P(RecordsetTest, ALostUpdateIsAFault) {
+    added(QStringLiteral("R1"), 10);
+    Recordset mine(billing, Sql("select * from Payments where ReceiptNo='R1'"));
+    const char* const changes[] = {"update Payments set AmountPaid=11 where ReceiptNo='R1'",
+                                   "update Payments set AmountPaid=null where ReceiptNo='R1'", "delete from Payments"};
+    for (const char* change : changes) {
+        Recordset fresh(billing, Sql("select * from Payments where ReceiptNo='R1'"));
+        billing.run(QString::fromUtf8(change));
+        fresh.set(QStringLiteral("AmountPaid"), 99);
+        EXPECT_EQ(fault([&] { fresh.update(); }), kChanged) << change;
+    }
+    EXPECT_EQ(scalar(QStringLiteral("select count(*) from Payments where AmountPaid=99")), QStringLiteral("0"));
+    mine.set(QStringLiteral("Remarks"), QStringLiteral("x"));
+    EXPECT_EQ(fault([&] { mine.update(); }), kChanged);
+}
+
+TEST_P(RecordsetTest, FitsValuesToTheColumn) {
+    Recordset row(billing, Sql("select * from Payments where 1=2"));
+    row.addNew();
+    row.set(QStringLiteral("AmountPaid"), QStringLiteral(" 12.50 "));
+    row.set(QStringLiteral("Amountbilled"), QString());
+    row.set(QStringLiteral("ReceiptDate"), QDateTime(QDate(2026, 3, 14), QTime(23, 59)));
+    row.set(QStringLiteral("isPost"), true);
+    row.set(QStringLiteral("ReceiptNo"), 42);
+    row.set(QStringLiteral("ChequeNo"), QString());
+    row.set(QStringLiteral("rTime"), QTime(9, 5));
+    row.set(QStringLiteral("billNo"), QDate());
+    row.update();
+    const Recordset stored(billing, Sql("select * from Payments"));
+    EXPECT_EQ(stored.number(QStringLiteral("AmountPaid")), 12.5);
+    EXPECT_TRUE(stored.isNull(QStringLiteral("Amountbilled")));
+    EXPECT_EQ(stored.text(QStringLiteral("ReceiptDate")), QStringLiteral("2026-03-14"));
+    EXPECT_EQ(stored.integer(QStringLiteral("isPost")), 1);
+    EXPECT_EQ(stored.text(QStringLiteral("ReceiptNo")), QStringLiteral("42"));
+    EXPECT_FALSE(stored.isNull(QStringLiteral("ChequeNo"))) << "an empty text stays a text";
+    EXPECT_EQ(stored.text(QStringLiteral("rTime")), QStringLiteral("09:05:00"));
+    EXPECT_TRUE(stored.isNull(QStringLiteral("billNo")));
+}
+
+TEST_P(RecordsetTest, RefusesWhatTheColumnMayNotHold) {
+    Recordset row(billing, Sql("select * from Payments where 1=2"));
+    row.addNew();
+    const struct {
+        const char* column;
+        QVariant value;
+    } cases[] = {{"AmountPaid", QStringLiteral("1,000")},
+                 {"AmountPaid", QStringLiteral("inf")},
+                 {"AmountPaid", std::nan("")},
+                 {"AmountPaid", std::numeric_limits<double>::infinity()},
+                 {"isPost", 1.5},
+                 {"ReceiptDate", QStringLiteral("14/03/2026")},
+                 {"ReceiptDate", QStringLiteral("2026-02-30")},
+                 {"Remarks", QString(QChar(0))},
+                 {"Remarks", QString(QChar(0xD83D))},
+                 {"Remarks", std::nan("")}};
+    for (const auto& one : cases) {
+        EXPECT_TRUE(
+            fault([&] { row.set(QString::fromUtf8(one.column), one.value); }).contains(QString::fromUtf8(one.column)))
+            << one.column << " " << one.value.toString().toStdString();
+    }
+    EXPECT_THROW(row.set(QStringLiteral("NoSuchColumn"), 1), DataError);
+    Recordset view(billing, Sql("select * from qrySysDateTime"));
+    EXPECT_THROW(view.set(QStringLiteral("sysDT"), QDate(2026, 1, 1)), DataError);
+}
+
+TEST_P(RecordsetTest, WritesNoMoreWhenItsConnectionIsClosed) {
+    Connection brief = data.open(TestHome::billing());
+    Recordset row(brief, Sql("select * from Payments where 1=2"));
+    { const Connection closed = std::move(brief); }
+    row.addNew();
+    row.set(QStringLiteral("ReceiptNo"), QStringLiteral("R1"));
+    EXPECT_THROW(row.update(), DataError);
+    EXPECT_EQ(scalar(QStringLiteral("select count(*) from Payments")), QStringLiteral("0"));
+}
+
+ORVANE_ON_EACH_ENGINE(RecordsetTest);
+
+} // namespace orvane
