@@ -1,0 +1,206 @@
+#include "demo/Check.h"
+
+#include "data/Catalog.h"
+#include "demo/IntegrityCheck.h"
+
+namespace orvane {
+
+namespace {
+
+/// Of one check at most so many findings are told; the rest is counted.
+constexpr int toldFindings = 20;
+
+/// One check: its statement gives a row for each fault; the sentence takes the row's columns in order as %1, %2, ...
+struct Check {
+    const char* name;
+    SqlLiteral statement;
+    const char* sentence;
+};
+
+constexpr Check billingChecks[] = {
+    {"visit number", "select top 1000 consultID,count(*) as N from hRecords group by consultID having count(*) > 1",
+     "%2 visits bear the number %1"},
+    {"outlet visit number",
+     "select top 1000 consultID,count(*) as N from hRecordsPublic group by consultID having count(*) > 1",
+     "%2 outlet visits bear the number %1"},
+    {"bill number", "select top 1000 billNo,count(*) as N from Billing group by billNo having count(*) > 1",
+     "%2 bills bear the number %1"},
+    {"receipt number",
+     "select top 1000 ReceiptNo,count(*) as N from Payments where ReceiptNo not like 'SN%' group by ReceiptNo having "
+     "count(*) > 1",
+     "%2 receipts bear the number %1"},
+    {"item billed twice",
+     "select top 1000 SNo,count(*) as N from BillingDetails where SNo is not null group by SNo having count(*) > 1",
+     "the item %1 is billed %2 times"},
+    {"running account",
+     "select top 1000 PNo,SNo,RunningTotal,Expected from (select PNo,SNo,RunningTotal,"
+     "Amount + isnull(lag(RunningTotal) over (partition by PNo order by SNo), 0) as Expected from Tranxaction) t "
+     "where abs(RunningTotal - Expected) > 0.005 order by SNo",
+     "patient %1: the balance of entry %2 is %3, but the balance before it and its amount make %4"},
+    {"patient's balance",
+     "select top 1000 p.PNo,p.DebtBF,t.RunningTotal from (select PNo,max(SNo) as SNo from Tranxaction group by PNo) l "
+     "inner join Tranxaction t on t.SNo = l.SNo inner join hPatients p on p.PNo = l.PNo "
+     "where abs(isnull(p.DebtBF, 0) - isnull(t.RunningTotal, 0)) > 0.005",
+     "patient %1: the balance in the patient's row is %2, but the last entry of the account says %3"},
+    {"account without patient",
+     "select top 1000 t.PNo,count(*) as N from Tranxaction t where not exists (select p.PNo from hPatients p where "
+     "p.PNo = t.PNo) "
+     "and not exists (select q.SNo from hPatientsPublic q where q.PNo = t.PNo) group by t.PNo",
+     "%2 account entries are of the patient %1, whom nobody registered"},
+    // A bill from a paper receipt (type CASH) states its amount without lines.
+    {"amount billed",
+     "select top 1000 b.billNo,b.Amountbilled,d.SubTotal from (select billNo,sum(SubTotal) as SubTotal from "
+     "BillingDetails "
+     "group by billNo) d inner join Billing b on b.billNo = d.billNo "
+     "where isnull(b.billType, '') <> 'CASH' and abs(isnull(b.Amountbilled, 0) - isnull(d.SubTotal, 0)) > 0.005",
+     "bill %1: billed %2, but its lines make %3"},
+    {"amount paid",
+     "select top 1000 b.billNo,b.AmountPaid,y.AmountPaid as Receipts from (select billNo,sum(AmountPaid) as AmountPaid "
+     "from Payments "
+     "group by billNo) y inner join Billing b on b.billNo = y.billNo "
+     "where abs(isnull(b.AmountPaid, 0) - isnull(y.AmountPaid, 0)) > 0.005",
+     "bill %1: paid %2, but its receipts make %3"},
+    // A paper receipt's number may come twice, so its parts cannot be told apart.
+    {"ways of payment",
+     "select top 1000 y.ReceiptNo,y.AmountPaid,t.AmountPaid as Parts from (select ReceiptNo,sum(AmountPaid) as "
+     "AmountPaid "
+     "from PaymentTypes group by ReceiptNo) t inner join Payments y on y.ReceiptNo = t.ReceiptNo "
+     "where y.ReceiptNo not like 'SN%' and abs(isnull(y.AmountPaid, 0) - isnull(t.AmountPaid, 0)) > 0.005",
+     "receipt %1: paid %2, but its ways of payment make %3"},
+    {"receipt's items",
+     "select top 1000 y.ReceiptNo,y.AmountPaid,t.AmountPaid as Parts from (select ReceiptNo,sum(AmountPaid) as "
+     "AmountPaid "
+     "from PaymentDetails group by ReceiptNo) t inner join Payments y on y.ReceiptNo = t.ReceiptNo "
+     "where y.ReceiptNo not like 'SN%' and abs(isnull(y.AmountPaid, 0) - isnull(t.AmountPaid, 0)) > 0.005",
+     "receipt %1: paid %2, but its items make %3"},
+    {"way of payment without receipt",
+     "select top 1000 t.SNo,t.ReceiptNo,t.AmountPaid from PaymentTypes t "
+     "where not exists (select y.SNo from Payments y where y.ReceiptNo = t.ReceiptNo)",
+     "payment %1 of %3 is of the receipt %2, which is not there"},
+    {"receipt's item without receipt",
+     "select top 1000 t.SNo,t.ReceiptNo,t.AmountPaid from PaymentDetails t "
+     "where not exists (select y.SNo from Payments y where y.ReceiptNo = t.ReceiptNo)",
+     "item %1 of %3 is of the receipt %2, which is not there"},
+    {"receipt without bill",
+     "select top 1000 y.ReceiptNo,y.billNo,y.AmountPaid from Payments y "
+     "where not exists (select b.ID from Billing b where b.billNo = y.billNo)",
+     "receipt %1 of %3 is for the bill %2, which is not there"},
+    // A line without an item of a visit (a discount) bears a negative number.
+    {"bill line without item",
+     "select top 1000 d.SNo,d.billNo,d.drgName from BillingDetails d "
+     "where d.SNo > 0 and not exists (select a.SNo from BillAccum a where a.SNo = d.SNo)",
+     "bill %2: the line %3 is of the item %1, which is not there"},
+    {"saved visit without bill",
+     "select top 1000 h.consultID from hRecords h where h.BillDate is not null "
+     "and exists (select d.detID from BillingDetails d where d.billNo = h.consultID) "
+     "and not exists (select b.ID from Billing b where b.billNo = h.consultID)",
+     "the visit %1 was saved with lines, but it has no bill"},
+};
+
+constexpr Check accountingChecks[] = {
+    {"ledger transaction",
+     "select top 1000 TranID,sum(Amount) as Total from (select TranID,Amount from Tranxaction union all "
+     "select TranID,Amount from TranxactionTemp) t group by TranID having abs(sum(Amount)) > 0.005",
+     "the legs of transaction %1 make %2 instead of nothing"},
+};
+
+/// Money that must be stated: without it a sum leaves the row out silently.
+constexpr const char* demandedMoney[][2] = {
+    {"Tranxaction", "Amount"},      {"Tranxaction", "RunningTotal"},  {"Payments", "AmountPaid"},
+    {"PaymentTypes", "AmountPaid"}, {"PaymentDetails", "AmountPaid"}, {"BillAccum", "SubTotal"},
+    {"BillingDetails", "SubTotal"},
+};
+
+const QString nullMoney = QStringLiteral("amount that is not stated");
+const QString noNumber = QStringLiteral("amount that is no number");
+
+class Checker {
+public:
+    Checker(Connection& connection, CheckReport& report) : m_connection(connection), m_report(report) {}
+
+    void run(const Check& check) {
+        const Recordset rows(m_connection, Sql(check.statement));
+        int told = 0;
+        for (Recordset row = rows; !row.eof() && told < toldFindings; row.moveNext(), ++told) {
+            QString sentence = QString::fromLatin1(check.sentence);
+            for (int column = 0; column < int(row.columns().size()); ++column)
+                sentence.replace(QLatin1Char('%') + QString::number(column + 1), shown(row, column));
+            m_report.findings.append(QStringLiteral("%1: %2").arg(QLatin1String(check.name), sentence));
+        }
+        if (rows.count() > told)
+            m_report.remarks.append(
+                QStringLiteral("%1: and %2 more").arg(QLatin1String(check.name)).arg(rows.count() - told));
+    }
+
+    /// Money and quantities of every table that are infinite or no number at all; a text in a number column sorts above
+    /// all numbers.
+    void runNumbers(const QString& database) {
+        for (const Table* table : Catalog::instance().tables(database)) {
+            for (const Column& column : table->columns) {
+                if (column.kind == ColumnKind::Number)
+                    count(noNumber, *table, QStringLiteral("[%1] > 1e300 or [%1] < -1e300").arg(column.name),
+                          column.name);
+            }
+        }
+    }
+
+    void runDemanded() {
+        for (const auto& [tableName, column] : demandedMoney) {
+            for (const Table* table : Catalog::instance().tables(QStringLiteral("billing")))
+                if (table->name == QLatin1String(tableName))
+                    count(nullMoney, *table, QStringLiteral("[%1] is null").arg(QLatin1String(column)),
+                          QLatin1String(column));
+        }
+    }
+
+private:
+    static QString shown(const Recordset& row, int column) {
+        return row.value(column).typeId() == QMetaType::Double ? QString::number(row.value(column).toDouble(), 'f', 2)
+                                                               : row.text(column);
+    }
+
+    void count(const QString& check, const Table& table, const QString& condition, const QString& column) {
+        const Recordset counted =
+            m_connection.run(QStringLiteral("select count(*) as N from [%1] where %2").arg(table.name, condition));
+        if (const qlonglong rows = counted.integer(QStringLiteral("N")); rows > 0)
+            m_report.findings.append(QStringLiteral("%1: %2.%3 in %4 row(s)").arg(check, table.name, column).arg(rows));
+    }
+
+    Connection& m_connection;
+    CheckReport& m_report;
+};
+
+} // namespace
+
+CheckReport checkDatabases(Program& program) {
+    CheckReport report;
+    Connection billing = program.openBilling();
+    Checker ofBilling(billing, report);
+    for (const Check& check : billingChecks)
+        ofBilling.run(check);
+    ofBilling.runNumbers(QStringLiteral("billing"));
+    ofBilling.runDemanded();
+    Connection accounting = program.openAccounting();
+    Checker ofAccounting(accounting, report);
+    for (const Check& check : accountingChecks)
+        ofAccounting.run(check);
+    ofAccounting.runNumbers(QStringLiteral("accounting"));
+    checkIntegrity(billing, QStringLiteral("billing database"), report);
+    checkIntegrity(accounting, QStringLiteral("accounting database"), report);
+    if (billing.engine() == Engine::Sqlite) { // elsewhere the audit trail lies in the billing database
+        Connection audit = billing.beside(QStringLiteral("Audit"));
+        checkIntegrity(audit, QStringLiteral("audit database"), report);
+    }
+    return report;
+}
+
+QStringList checkNames() {
+    QStringList names = {nullMoney, noNumber};
+    for (const Check& check : billingChecks)
+        names.append(QString::fromLatin1(check.name));
+    for (const Check& check : accountingChecks)
+        names.append(QString::fromLatin1(check.name));
+    return names;
+}
+
+} // namespace orvane

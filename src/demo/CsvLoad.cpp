@@ -1,0 +1,145 @@
+#include "demo/CsvLoad.h"
+
+#include "data/Recordset.h"
+#include "data/Transaction.h"
+#include "demo/Csv.h"
+
+#include <cmath>
+
+namespace orvane {
+
+namespace {
+
+/// A place in the file, in front of every message.
+struct Place {
+    QString file;
+    int line;
+    QString column; ///< empty: the whole record
+};
+
+[[noreturn]] void refuse(const Place& place, const QString& message) {
+    const QString column = place.column.isEmpty() ? QString() : QStringLiteral(" column %1:").arg(place.column);
+    throw DataError(QStringLiteral("%1:%2:%3 %4").arg(place.file).arg(place.line).arg(column, message));
+}
+
+[[noreturn]] void refuse(const QString& file, const CsvFault& fault, const QVector<const Column*>& columns) {
+    QString column;
+    if (fault.column > 0)
+        column = fault.column <= columns.size() ? columns.at(fault.column - 1)->name : QString::number(fault.column);
+    refuse(Place{file, fault.line, column}, fault.message);
+}
+
+QVariant numberOf(const QString& text, const Place& place) {
+    bool ok = false;
+    const double value = text.toDouble(&ok);
+    if (!ok || !std::isfinite(value))
+        refuse(place, QStringLiteral("\"%1\" is no number").arg(text));
+    return value;
+}
+
+QVariant integerOf(const QString& text, const Place& place) {
+    bool ok = false;
+    const qlonglong value = text.toLongLong(&ok);
+    if (!ok)
+        refuse(place, QStringLiteral("\"%1\" is no whole number").arg(text));
+    return value;
+}
+
+QVariant flagOf(const QString& text, const Place& place) {
+    if (text != QLatin1String("0") && text != QLatin1String("1"))
+        refuse(place, QStringLiteral("\"%1\" is neither 0 nor 1").arg(text));
+    return text.toInt();
+}
+
+QVariant dateOf(const QString& text, const Place& place) {
+    const QDate date = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+    if (!date.isValid())
+        refuse(place, QStringLiteral("\"%1\" is no date of the form yyyy-mm-dd").arg(text));
+    return date;
+}
+
+QVariant dateTimeOf(const QString& text, const Place& place) {
+    QDateTime at = QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    if (!at.isValid())
+        at = QDate::fromString(text, QStringLiteral("yyyy-MM-dd")).startOfDay();
+    if (!at.isValid())
+        refuse(place, QStringLiteral("\"%1\" is no date and time of the form yyyy-mm-dd hh:mm:ss").arg(text));
+    return at;
+}
+
+QVariant valueOf(const Column& column, const QString& text, const Place& place) {
+    switch (column.kind) {
+    case ColumnKind::Number:
+        return numberOf(text, place);
+    case ColumnKind::Integer:
+        return integerOf(text, place);
+    case ColumnKind::Flag:
+        return flagOf(text, place);
+    case ColumnKind::Date:
+        return dateOf(text, place);
+    case ColumnKind::DateTime:
+        return dateTimeOf(text, place);
+    case ColumnKind::Text:
+    case ColumnKind::Time:
+        break;
+    }
+    return text;
+}
+
+QVector<const Column*> readHeads(CsvReader& reader, const Table& table, const QString& file) {
+    const auto heads = reader.next();
+    if (reader.fault())
+        refuse(file, *reader.fault(), {});
+    if (!heads)
+        refuse(Place{file, 1, {}}, QStringLiteral("the file has no heads"));
+    QVector<const Column*> columns;
+    for (const CsvField& head : heads->fields) {
+        const QString name = head.text.trimmed();
+        const Place place{file, heads->line, name};
+        const Column* column = table.column(name);
+        if (!column)
+            refuse(place, QStringLiteral("the table %1 has no such column").arg(table.name));
+        if (columns.contains(column))
+            refuse(place, QStringLiteral("the column is named twice"));
+        columns.append(column);
+    }
+    return columns;
+}
+
+void addRow(Recordset& rows, const QVector<const Column*>& columns, const CsvRecord& record, const QString& file) {
+    if (record.fields.size() != columns.size())
+        refuse(Place{file, record.line, {}},
+               QStringLiteral("%1 fields, but %2 heads").arg(record.fields.size()).arg(columns.size()));
+    rows.addNew();
+    for (int i = 0; i < int(columns.size()); ++i) {
+        const CsvField& field = record.fields.at(i);
+        if (!field.isNoValue())
+            rows.set(columns.at(i)->name,
+                     valueOf(*columns.at(i), field.text, Place{file, record.line, columns.at(i)->name}));
+    }
+    try {
+        rows.update();
+    } catch (const DataError& error) {
+        refuse(Place{file, record.line, {}}, error.description());
+    }
+}
+
+} // namespace
+
+int loadCsv(Connection& connection, const Table& table, const QString& fileName, const QByteArray& content) {
+    CsvReader reader(content);
+    const QVector<const Column*> columns = readHeads(reader, table, fileName);
+    Transaction transaction(connection);
+    Recordset rows = connection.run(QStringLiteral("select * from [%1] where 1=2").arg(table.name));
+    int count = 0;
+    while (const auto record = reader.next()) {
+        addRow(rows, columns, *record, fileName);
+        ++count;
+    }
+    if (reader.fault())
+        refuse(fileName, *reader.fault(), columns);
+    transaction.commit();
+    return count;
+}
+
+} // namespace orvane

@@ -1,0 +1,113 @@
+#include "demo/DemoBilling.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane {
+
+namespace {
+
+/// What the screens may say while a bill is made; any other box means that a step was refused.
+const QStringList expectedOnItems = {
+    "Price Template for this HMO/Company Yet to be Created! Proceed to use Hospital Private tariff",
+    "No price for this HMO/Company! Proceed to use Hospital Private tariff",
+    "Duplicate Entry Detected please Confirm",
+};
+const QStringList expectedOnSave = {"Record Succesfully saved"};
+
+double amount(const QString& shown) {
+    return QString(shown).remove(QLatin1Char(',')).toDouble();
+}
+
+QString typed(double amount) {
+    return QString::number(amount, 'f', 2);
+}
+
+} // namespace
+
+DemoBilling::DemoBilling(Program& program, QuietUi& ui, DemoHospital& hospital)
+    : m_program(program), m_ui(ui), m_hospital(hospital) {
+    m_ui.onModal = [this](Form& form) {
+        if (form.name() == QLatin1String("frmBillPat"))
+            addOrders(form);
+    };
+}
+
+void DemoBilling::bill(const DemoVisit& visit) {
+    m_visit = &visit;
+    m_ui.takeBoxes();
+    m_program.open(QStringLiteral("frmBillingVerify"));
+    Form& form = m_program.form(QStringLiteral("frmBillingVerify"));
+    Hand hand(form);
+    hand.type(QStringLiteral("txtSearch"), visit.consultID);
+    hand.click(QStringLiteral("cmdOK"));
+    expectBoxes(QStringLiteral("collate"), {});
+    hand.click(QStringLiteral("cmdAddBill"));
+    expectBoxes(QStringLiteral("add items"), expectedOnItems);
+    if (!visit.patient->feeForService && visit.patient->category == QLatin1String("HMO") &&
+        m_hospital.random.chance(60))
+        hand.type(QStringLiteral("txtApprv"), QStringLiteral("AP/%1").arg(m_hospital.random.between(10000, 99999)));
+    if (visit.patient->category == QLatin1String("PRIVATE"))
+        takeReceipt(hand);
+    hand.click(QStringLiteral("OKButton"));
+    expectBoxes(QStringLiteral("save"), expectedOnSave);
+    if (Form* receipt = m_program.loadedForm(QStringLiteral("frmCashReceipt")))
+        receipt->unload();
+    form.unload();
+}
+
+void DemoBilling::expectBoxes(const QString& step, const QStringList& allowed) {
+    for (const QString& box : m_ui.takeBoxes())
+        if (!allowed.contains(box))
+            throw DataError(QStringLiteral("Bill %1, %2: %3").arg(m_visit->consultID, step, box));
+}
+
+void DemoBilling::addOrders(Form& itemScreen) {
+    Hand hand(itemScreen);
+    hand.chooseContaining(QStringLiteral("cboPat"), m_hospital.clientName(m_visit->patient->clientID));
+    for (const DemoOrder& order : m_visit->orders)
+        addOrder(hand, order);
+    hand.click(QStringLiteral("OKButton"));
+}
+
+void DemoBilling::addOrder(Hand& hand, const DemoOrder& order) {
+    const bool test = order.item->kind == QLatin1String("LAB");
+    hand.choose(QStringLiteral("cboCat"), test ? QStringLiteral("INVESTIGATION") : order.item->kind);
+    hand.choose(QStringLiteral("cboDrug"), order.item->name);
+    // A price of the private tariff brings no revenue type along: the officer chooses it.
+    if (const QString type = hand.value(QStringLiteral("cboRev")); type.isEmpty() || type == QLatin1String("OTHERS"))
+        hand.choose(QStringLiteral("cboRev"), order.item->revType);
+    hand.type(QStringLiteral("txtQty"), QString::number(order.quantity));
+    hand.click(QStringLiteral("cmdAdd"));
+}
+
+void DemoBilling::takeReceipt(Hand& hand) {
+    const double payable = amount(hand.value(QStringLiteral("txtEmp")));
+    if (payable <= 0 || m_hospital.random.chance(8)) // leaves without paying
+        return;
+    hand.tick(QStringLiteral("chkRct"));
+    hand.choose(QStringLiteral("cboPayFor"), QStringLiteral("CONSULTING AND DRUGS"));
+    pay(hand, payable);
+}
+
+/// In full in cash, mostly; else by card or transfer, over two ways, or in part.
+void DemoBilling::pay(Hand& hand, double payable) {
+    const int way = m_hospital.random.below(100);
+    if (way < 60) {
+        hand.type(QStringLiteral("txtAmt(0)"), typed(payable));
+    } else if (way < 80) {
+        const bool card = way < 70;
+        hand.chooseContaining(card ? QStringLiteral("cboBank(1)") : QStringLiteral("cboBank(3)"),
+                              card ? QStringLiteral("[1220030]") : QStringLiteral("[1220020]"));
+        hand.type(card ? QStringLiteral("txtAmt(1)") : QStringLiteral("txtAmt(3)"), typed(payable));
+    } else if (way < 87) {
+        const double cash = std::floor(payable / 200) * 100;
+        hand.chooseContaining(QStringLiteral("cboBank(1)"), QStringLiteral("[1220030]"));
+        hand.type(QStringLiteral("txtAmt(0)"), typed(cash));
+        hand.type(QStringLiteral("txtAmt(1)"), typed(payable - cash));
+    } else {
+        hand.type(QStringLiteral("txtAmt(0)"), typed(std::max(100.0, std::floor(payable / 300) * 100)));
+    }
+}
+
+} // namespace orvane

@@ -1,0 +1,227 @@
+#include "demo/DemoVisits.h"
+
+#include "data/Transaction.h"
+#include "demo/DemoBilling.h"
+#include "demo/Hand.h"
+#include "screens/Screens.h"
+#include "session/Main.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr int visitsADay = 20;
+constexpr int admittedVisits = 3; ///< of the last day, still in a ward
+constexpr int waitingVisits = 12; ///< of the last day, for the officer who tries the program
+const QTime opening(8, 0);
+
+/// The users who collate bills, day by day in turn.
+const QStringList billingUsers = {"amina.b", "chidi.o", "bukola.a", "efosa.i"};
+
+const QStringList dosages = {"1 TAB DAILY", "1 TAB BD X 5 DAYS", "2 TABS TDS X 3 DAYS", "10ML TDS X 5 DAYS", "STAT"};
+
+QString officerEntry(const DemoEmployee& officer) {
+    return QStringLiteral("%1 %2 [%3]").arg(officer.lastName, officer.firstName, officer.id);
+}
+
+DemoOrder order(const QVector<DemoItem>& items, int largestQuantity, DemoRandom& random) {
+    const DemoItem* item = &random.pick(items);
+    while (item->price == 0) // not priced yet: no screen takes it
+        item = &random.pick(items);
+    return {item, random.between(1, largestQuantity)};
+}
+
+/// What the doctor orders: one to three drugs, often a test or two, now and then a service.
+QVector<DemoOrder> ordersOf(DemoHospital& hospital) {
+    DemoRandom& random = hospital.random;
+    QVector<DemoOrder> orders;
+    for (int i = random.between(1, 3); i > 0; --i)
+        orders.append(order(hospital.drugs, 10, random));
+    for (int i = random.below(3); i > 0; --i)
+        orders.append(order(hospital.labServices, 1, random));
+    if (random.chance(15))
+        orders.append(order(hospital.services, 1, random));
+    return orders;
+}
+
+/// The day's patients: each comes once a day, and none whose card has expired by then.
+QVector<const DemoPatient*> patientsOf(QDate day, DemoHospital& hospital) {
+    QVector<const DemoPatient*> free;
+    for (const DemoPatient& patient : hospital.patients)
+        if (patient.cardExpires > day)
+            free.append(&patient);
+    QVector<const DemoPatient*> chosen;
+    while (!free.isEmpty() && chosen.size() < visitsADay)
+        chosen.append(free.takeAt(hospital.random.below(int(free.size()))));
+    return chosen;
+}
+
+class DayOfVisits {
+public:
+    DayOfVisits(DemoHospital& hospital, QDate day, int number)
+        : m_hospital(hospital), m_day(day), m_program(hospital.options.home, m_ui),
+          m_billing(m_program, m_ui, hospital), m_user(billingUsers.at(number % int(billingUsers.size()))) {}
+
+    void run() {
+        setTime(opening);
+        registerScreens(m_program);
+        if (!Main(m_program, m_user))
+            throw DataError(m_ui.takeBoxes().join(QLatin1Char('\n')));
+        QVector<DemoVisit> visits = attend();
+        see(visits);
+        const bool last = m_day == m_hospital.options.until;
+        const int billed = last ? qMax(0, int(visits.size()) - waitingVisits) : int(visits.size());
+        if (last)
+            admit(visits.mid(visits.size() - qMin(admittedVisits, int(visits.size()))));
+        for (int i = 0; i < billed; ++i) {
+            setTime(opening.addSecs(60 * (4 * 60 + 12 * i)));
+            m_billing.bill(visits.at(i));
+        }
+        setTime(opening.addSecs(60 * 60 * 10));
+        leave();
+    }
+
+private:
+    /// The clocks of the server and of the workstation, and the shell's that follows the server's.
+    void setTime(QTime time) {
+        const QDateTime at(m_day, time);
+        m_ui.setClock(at);
+        m_program.data().setServerClock(at);
+        if (Form* shell = m_program.loadedForm(QStringLiteral("MdiTolmek")))
+            Hand(*shell).ring(QStringLiteral("Timer2"));
+    }
+
+    QVector<DemoVisit> attend() {
+        m_program.open(QStringLiteral("frmRecordsOffline"));
+        Form& form = m_program.form(QStringLiteral("frmRecordsOffline"));
+        Hand hand(form);
+        const QVector<DemoEmployee> officers = m_hospital.employeesOf(QStringLiteral("REC"));
+        QVector<DemoVisit> visits;
+        for (const DemoPatient* patient : patientsOf(m_day, m_hospital)) {
+            setTime(opening.addSecs(60 * 12 * int(visits.size())));
+            visits.append(enter(hand, *patient, m_hospital.random.pick(officers)));
+        }
+        form.unload();
+        return visits;
+    }
+
+    DemoVisit enter(Hand& hand, const DemoPatient& patient, const DemoEmployee& officer) {
+        DemoRandom& random = m_hospital.random;
+        DemoVisit visit;
+        visit.patient = &patient;
+        visit.clinic = random.chance(50) ? QStringLiteral("OUT-PATIENT") : random.pick(m_hospital.clinics).at(0);
+        hand.click(QStringLiteral("cmdAdd"));
+        hand.type(QStringLiteral("txtName"), patient.surname);
+        hand.click(QStringLiteral("cmdOK"));
+        hand.date(QStringLiteral("dtDate"), m_day);
+        hand.chooseContaining(QStringLiteral("cboVehNo"), QStringLiteral("[%1]").arg(patient.number));
+        hand.choose(QStringLiteral("cboType"), visit.clinic);
+        hand.choose(QStringLiteral("cboClient"),
+                    random.chance(15) ? QStringLiteral("FOLLOW-UP") : QStringLiteral("CONSULTATION"));
+        hand.choose(QStringLiteral("cboAppr"), officerEntry(officer));
+        visit.consultID = hand.value(QStringLiteral("lblBill"));
+        hand.click(QStringLiteral("OKButton"));
+        const QStringList boxes = m_ui.takeBoxes();
+        if (boxes != QStringList{QStringLiteral("Record Succesfully saved")})
+            throw DataError(QStringLiteral("The visit of %1 was not saved: %2")
+                                .arg(patient.number, boxes.join(QStringLiteral(" / "))));
+        return visit;
+    }
+
+    /// The doctors' part, which another program of the hospital writes.
+    void see(QVector<DemoVisit>& visits) {
+        const QVector<DemoEmployee> doctors = m_hospital.employeesOf(QStringLiteral("MED"));
+        Connection connection = m_program.openBilling();
+        Transaction transaction(connection);
+        Recordset rows(connection, Sql("select * from hconsulting where 1=2"));
+        int minutes = 25;
+        for (DemoVisit& visit : visits) {
+            visit.orders = ordersOf(m_hospital);
+            addConsultation(rows, visit, m_hospital.random.pick(doctors), opening.addSecs(60 * minutes));
+            connection.execute(Sql("update hRecords set attendedto=1,attendedtoByDoc=1 where consultID='")
+                               << visit.consultID << "'");
+            minutes += 12;
+        }
+        transaction.commit();
+    }
+
+    void addConsultation(Recordset& rows, const DemoVisit& visit, const DemoEmployee& doctor, QTime at) {
+        QStringList prescription, tests, services;
+        for (const DemoOrder& ordered : visit.orders) {
+            if (ordered.item->kind == QLatin1String("DRUG"))
+                prescription.append(QStringLiteral("%1 (%2) %3")
+                                        .arg(ordered.item->name)
+                                        .arg(ordered.quantity)
+                                        .arg(m_hospital.random.pick(dosages)));
+            else
+                (ordered.item->kind == QLatin1String("LAB") ? tests : services).append(ordered.item->name);
+        }
+        addRow(rows, {{"consultID", visit.consultID},
+                      {"billno", visit.consultID},
+                      {"PNo", visit.patient->number},
+                      {"CDate", m_day},
+                      {"cTime", at.toString(QStringLiteral("HH:mm"))},
+                      {"Diagnosis", m_hospital.random.pick(m_hospital.diagnoses).at(1)},
+                      {"prescription", prescription.join(QLatin1Char('\n'))},
+                      {"Investigate", tests.join(QLatin1Char('\n'))},
+                      {"services", services.join(QLatin1Char('\n'))},
+                      {"treatplan", QStringLiteral("REVIEW IN %1 DAYS").arg(m_hospital.random.between(3, 21))},
+                      {"treatedby", QStringLiteral("%1 %2").arg(doctor.lastName, doctor.firstName)},
+                      {"attendedto", 1}});
+    }
+
+    void admit(const QVector<DemoVisit>& visits) {
+        Connection connection = m_program.openBilling();
+        Transaction transaction(connection);
+        Recordset rows(connection, Sql("select * from hAdmission where 1=2"));
+        for (const DemoVisit& visit : visits)
+            addRow(rows, {{"consultID", visit.consultID},
+                          {"PNo", visit.patient->number},
+                          {"admdate", m_day},
+                          {"wardid", visit.patient->sex == QLatin1String("F") ? "FEMALE WARD" : "MALE WARD"},
+                          {"Remarks", "FOR OBSERVATION"}});
+        transaction.commit();
+    }
+
+    void leave() { m_program.form(QStringLiteral("MdiTolmek")).unload(); }
+
+    DemoHospital& m_hospital;
+    QDate m_day;
+    QuietUi m_ui;
+    Program m_program;
+    DemoBilling m_billing;
+    QString m_user;
+};
+
+/// Appointments that doctors gave: a few fall due on the last day, the others later.
+void makeAppointments(DemoHospital& hospital) {
+    QuietUi ui;
+    Program program(hospital.options.home, ui);
+    prepareServer(program);
+    Connection connection = program.openBilling();
+    Transaction transaction(connection);
+    Recordset rows(connection, Sql("select * from hreferal where 1=2"));
+    const Recordset visits(connection, Sql("select top 40 consultID,PNo,clinicType from hRecords order by recID"));
+    int days = 0;
+    for (Recordset visit = visits; !visit.eof(); visit.moveNext())
+        addRow(rows, {{"ConsultID", visit.text(QStringLiteral("consultID"))},
+                      {"PNo", visit.text(QStringLiteral("PNo"))},
+                      {"ApptDate", hospital.options.until.addDays(days++ % 7)},
+                      {"clinicType", visit.text(QStringLiteral("clinicType"))},
+                      {"Remarks", hospital.random.chance(60) ? "FOLLOW-UP" : "REVIEW"},
+                      {"attendedTo", 0}});
+    transaction.commit();
+}
+
+} // namespace
+
+void makeVisits(DemoHospital& hospital, const std::function<void(int)>& dayDone) {
+    for (int number = 1; number <= hospital.options.days; ++number) {
+        const QDate day = hospital.options.until.addDays(number - hospital.options.days);
+        DayOfVisits(hospital, day, number).run();
+        dayDone(number);
+    }
+    makeAppointments(hospital);
+}
+
+} // namespace orvane

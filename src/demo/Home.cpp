@@ -1,0 +1,102 @@
+#include "demo/Home.h"
+
+#include "data/Assert.h"
+#include "data/Schema.h"
+#include "data/ServerList.h"
+
+#include <QDir>
+#include <QFile>
+#include <sys/stat.h>
+
+namespace orvane {
+
+namespace {
+
+constexpr const char* serverName = "HALDEN";
+
+/// Hidden entries of the main window that a hospital may turn on.
+constexpr const char* menuSection = "[menu]\n"
+                                    "; hidden entries of the main window: 1 shows an entry\n"
+                                    "mnuRct = 0\n"
+                                    "mnuAdmDepo = 0\n"
+                                    "mnusecurity = 0\n";
+
+void writeFile(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || file.write(content) != content.size() || !file.flush())
+        throw DataError(QStringLiteral("The file %1 cannot be written: %2").arg(path, file.errorString()));
+}
+
+QByteArray iniFile(const HomeOptions& options) {
+    QString text = QStringLiteral("[server %1]\nengine = %2\n").arg(QLatin1String(serverName), options.engine);
+    if (options.engine == QLatin1String("sqlite")) {
+        text += QStringLiteral("folder = data\n");
+    } else {
+        text += QStringLiteral("host = %1\n").arg(options.host);
+        if (options.port > 0)
+            text += QStringLiteral("port = %1\n").arg(options.port);
+    }
+    return (text + QLatin1Char('\n') + QLatin1String(menuSection)).toUtf8();
+}
+
+QByteArray resource(const QString& name) {
+    QFile file(QStringLiteral(":/demo/home/%1").arg(name));
+    ORVANE_ASSERT(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+/// On the embedded engine a database is its file, whatever that holds.
+bool isThere(Program& program, const QString& connectionString) {
+    const ConnectionTarget target = parseConnectionString(connectionString);
+    const ServerEntry entry = ServerList(program.homeFolder()).entry(target.server);
+    if (entry.engine == Engine::Sqlite)
+        return QFile::exists(QDir(entry.folder).filePath(target.database + QStringLiteral(".db")));
+    try {
+        program.data().open(connectionString);
+        return true;
+    } catch (const DataError&) {
+        return false; // the creation says why, when that is not for want of the database
+    }
+}
+
+} // namespace
+
+PrivateFiles::PrivateFiles() : m_previous(umask(077)) {}
+
+PrivateFiles::~PrivateFiles() {
+    umask(m_previous);
+}
+
+void writeHomeFiles(const QString& folder, const HomeOptions& options) {
+    if (!QDir().mkpath(folder))
+        throw DataError(QStringLiteral("The folder %1 cannot be made.").arg(folder));
+    const QDir home(folder);
+    const auto write = [&home](const QString& name, const QByteArray& content) {
+        if (!home.exists(name))
+            writeFile(home.filePath(name), content);
+    };
+    write(QStringLiteral("made.sys"), QByteArray("SVR=") + serverName + "\nHNO=001\n");
+    write(QStringLiteral("orvane.ini"), iniFile(options));
+    for (const char* name : {"RctPix.JPG", "RctPixLab.JPG", "RctPixDen.JPG", "ring1.wav"})
+        write(QString::fromLatin1(name), resource(QString::fromLatin1(name)));
+}
+
+void writeSysDoc(const QString& folder, const QString& userName) {
+    const QString path = QDir(folder).filePath(QStringLiteral("sysdoc.sys"));
+    QFile::remove(path);
+    writeFile(path, userName.toUtf8() + '\n');
+}
+
+bool hasDatabase(Program& program) {
+    const Session& session = program.session;
+    return isThere(program, session.gConnStr) || isThere(program, session.gAcctConnStr) ||
+           isThere(program, withDatabase(session.gConnStr, QStringLiteral("Audit")));
+}
+
+void createDatabases(Program& program) {
+    if (hasDatabase(program))
+        throw DataError(QStringLiteral("A database of this home folder is there already; nothing was changed."));
+    createDatabases(program.data(), program.session.gConnStr, program.session.gAcctConnStr);
+}
+
+} // namespace orvane

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "session/Program.h"
+
+#include <QStringList>
+
+namespace orvane {
+
+/// How the databases of a new home folder are reached.
+struct HomeOptions {
+    QString engine = QStringLiteral("sqlite"); ///< as orvane.ini writes it
+    QString host = QStringLiteral("127.0.0.1");
+    int port = 0; ///< 0: the engine's usual one
+};
+
+/// Files made while one lives are readable by their owner alone.
+class PrivateFiles {
+public:
+    PrivateFiles();
+    ~PrivateFiles();
+    PrivateFiles(const PrivateFiles&) = delete;
+    PrivateFiles& operator=(const PrivateFiles&) = delete;
+
+private:
+    unsigned m_previous;
+};
+
+/// Makes the folder and writes made.sys, orvane.ini, the receipt pictures and the sound where they are missing; files
+/// that stand are left alone. Raises DataError when one cannot be written.
+void writeHomeFiles(const QString& folder, const HomeOptions& options);
+/// Writes sysdoc.sys: the user as whom the program starts.
+void writeSysDoc(const QString& folder, const QString& userName);
+
+/// Whether a database that the home folder of the program describes is there, whatever it holds.
+bool hasDatabase(Program& program);
+/// Makes the databases that the home folder of the program describes, with tables, indexes and views, all empty.
+/// Raises DataError, and touches nothing, when one of them is there already.
+void createDatabases(Program& program);
+
+} // namespace orvane

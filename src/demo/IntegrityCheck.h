@@ -1,0 +1,10 @@
+#pragma once
+
+#include "demo/Check.h"
+
+namespace orvane {
+
+/// Has the engine check its own files: findings for what it reports, a remark where it has no such check.
+void checkIntegrity(Connection& connection, const QString& database, CheckReport& report);
+
+} // namespace orvane

@@ -1,0 +1,184 @@
+#include "demo/Tool.h"
+
+#include "data/Catalog.h"
+#include "data/Recordset.h"
+#include "demo/QuietUi.h"
+#include "screens/Screens.h"
+#include "session/Main.h"
+#include "support/TestHome.h"
+
+#include <QDirIterator>
+#include <QFileInfo>
+
+using namespace orvane;
+
+namespace {
+
+struct Result {
+    int code;
+    QString out, errors;
+};
+
+Result tool(const QStringList& arguments) {
+    Result result{};
+    QTextStream out(&result.out), errors(&result.errors);
+    result.code = runDatabaseTool(arguments, out, errors);
+    out.flush();
+    errors.flush();
+    return result;
+}
+
+QStringList dump(const QString& home) {
+    QuietUi ui;
+    Program program(home, ui);
+    prepareServer(program);
+    QStringList lines;
+    const auto add = [&lines](Connection& connection, const QString& database) {
+        for (const Table* table : Catalog::instance().tables(database)) {
+            for (Recordset row = connection.run("select * from [" + table->name + "]"); !row.eof(); row.moveNext()) {
+                QStringList cells{table->name};
+                for (int column = 0; column < int(row.columns().size()); ++column)
+                    cells.append(row.text(column));
+                lines.append(cells.join('\t'));
+            }
+        }
+    };
+    Connection billing = program.openBilling();
+    Connection accounting = program.openAccounting();
+    Connection audit = billing.beside("Audit");
+    add(billing, "billing");
+    add(accounting, "accounting");
+    add(audit, "audit");
+    return lines;
+}
+
+QString scalar(const QString& home, const QString& tsql) {
+    QuietUi ui;
+    Program program(home, ui);
+    prepareServer(program);
+    const Recordset row = program.openBilling().run(tsql);
+    return row.eof() ? QString() : row.text(0);
+}
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+class Tool : public ::testing::Test {
+protected:
+    QTemporaryDir folder;
+    QString home = folder.filePath("home");
+};
+
+TEST_F(Tool, refusesWhatItDoesNotUnderstand) {
+    const QStringList lines[] = {
+        {},
+        {"destroy"},
+        {"user"},
+        {"create"},
+        {"create", "--home", home, "--engine", "oracle"},
+        {"create", "--home", home, "--port", "70000"},
+        {"load", "drugs", "--home", home},
+        {"check", "--home", home, "extra"},
+        {"check", "--patients", "5"},
+        {"schema", "--database", "none"},
+        {"demo", "--home", home, "--until", "2026-02-30"},
+        {"demo", "--home", home, "--days", "0"},
+        {"user", "add", "ada.o", "--home", home, "--fullname", "ADA OBI"},
+    };
+    for (const QStringList& line : lines) {
+        const Result result = tool(line);
+        EXPECT_EQ(result.code, 2) << line.join(' ').toStdString();
+        EXPECT_FALSE(result.errors.isEmpty());
+    }
+    EXPECT_FALSE(QFileInfo::exists(home)) << "nothing was made";
+}
+
+TEST_F(Tool, createsEmptyDatabasesOnceForTheOwnerAlone) {
+    ASSERT_EQ(tool({"create", "--home", home}).code, 0);
+    QDirIterator files(home, QDir::Files, QDirIterator::Subdirectories);
+    int count = 0;
+    for (; files.hasNext(); ++count)
+        EXPECT_FALSE(QFileInfo(files.next()).permissions() &
+                     (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther))
+            << files.filePath().toStdString();
+    EXPECT_GE(count, 8);
+    EXPECT_EQ(tool({"check", "--home", home}).code, 0);
+
+    const QString database = home + "/data/Dunmarch.db";
+    scalar(home, "insert into AppDefaults (ID,idval) values ('PRIVATE','0001')");
+    const Result again = tool({"create", "--home", home});
+    EXPECT_EQ(again.code, 1);
+    EXPECT_TRUE(again.errors.contains("is there already; nothing was changed"));
+    EXPECT_EQ(scalar(home, "select idval from AppDefaults"), "0001");
+
+    // One of them is enough to refuse, and the others are not made.
+    QFile::remove(database);
+    EXPECT_EQ(tool({"create", "--home", home}).code, 1);
+    EXPECT_FALSE(QFileInfo::exists(database));
+}
+
+TEST_F(Tool, loadsAndAddsAUserWhomTheProgramAdmits) {
+    ASSERT_EQ(tool({"create", "--home", home}).code, 0);
+    const auto load = [&](const QString& table, const QByteArray& content) {
+        QFile file(folder.filePath(table + ".csv"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        return tool({"load", table, file.fileName(), "--home", home});
+    };
+    EXPECT_EQ(load("HospList", "hospID,Hname,HName2\n001,HALDEN HOSPITAL,Main Clinic\n").code, 0);
+    EXPECT_EQ(load("appdefaults", "ID,idval\nPRIVATE,0001\nNHISFEE,10\n").out, "2 row(s) added to AppDefaults.\n");
+    EXPECT_EQ(load("NoTable", "ID\n1\n").code, 1);
+    EXPECT_EQ(tool({"load", "AppDefaults", folder.filePath("none.csv"), "--home", home}).code, 1);
+
+    const QStringList add = {"user",     "add",    "ada.o",      "--home",  home,         "--fullname",
+                             "ADA O'BI", "--role", "BILLING",    "--role",  "MANAGEMENT", "--accounts",
+                             "--empid",  "E9",     "--password", "Secret1!"};
+    ASSERT_EQ(tool(add).code, 0);
+    EXPECT_EQ(tool(add).errors, "orvane-db user add: The user name \"ada.o\" is taken.\n");
+    EXPECT_EQ(
+        tool({"user", "add", "no.role", "--home", home, "--fullname", "X", "--role", "A ROLE NAME TOO LONG"}).code, 1);
+    EXPECT_EQ(
+        tool({"user", "add", "no.pass", "--home", home, "--fullname", "X", "--role", "BILLING", "--password", "a b"})
+            .code,
+        1);
+    EXPECT_EQ(scalar(home, "select count(*) from ApplicationUsers"), "1");
+    EXPECT_EQ(scalar(home, "select username from UsersForAccts"), "ada.o");
+    EXPECT_NE(scalar(home, "select Password from ApplicationUsers"), "Secret1!");
+
+    QuietUi ui;
+    Program program(home, ui);
+    registerScreens(program);
+    EXPECT_TRUE(Main(program, "ada.o")) << ui.takeBoxes().join(" / ").toStdString();
+    EXPECT_EQ(program.session.gFullName, "ADA O'BI");
+    EXPECT_EQ(program.session.gEmpID, "E9");
+}
+
+TEST_F(Tool, makesTheSameSoundHospitalTwice) {
+    const auto demo = [&](const QString& at, const QString& seed) {
+        return tool({"demo", "--home", at, "--patients", "30", "--days", "2", "--seed", seed, "--until", "2026-03-13"});
+    };
+    const Result made = demo(home, "7");
+    ASSERT_EQ(made.code, 0) << made.errors.toStdString();
+    const Result check = tool({"check", "--home", home});
+    EXPECT_EQ(check.code, 0) << check.out.toStdString();
+    EXPECT_EQ(scalar(home, "select count(*) from vwhConsultingVisitsForBilling where date='2026-03-13'"), "12");
+    EXPECT_EQ(scalar(home, "select count(*) from hRecords"), "40");
+    EXPECT_EQ(scalar(home, "select count(*) from hRecords where BillDate is not null"), "28");
+    EXPECT_NE(scalar(home, "select count(*) from Payments"), "0");
+    EXPECT_NE(scalar(home, "select count(*) from Tranxaction where Amount < 0"), "0");
+    EXPECT_EQ(contentOf(home + "/sysdoc.sys"), "amina.b\n");
+
+    const QString twin = folder.filePath("twin");
+    ASSERT_EQ(demo(twin, "7").code, 0);
+    EXPECT_EQ(dump(home), dump(twin));
+    const Result again = demo(twin, "8");
+    EXPECT_EQ(again.code, 1);
+    EXPECT_TRUE(again.errors.contains("not empty")) << again.errors.toStdString();
+    EXPECT_EQ(dump(home), dump(twin)) << "a refused one changes nothing";
+}
+
+} // namespace
