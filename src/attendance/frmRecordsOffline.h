@@ -50,7 +50,7 @@ private:
     void updatePatientAndAppointment(Connection& connection);
 
     TextBox txtName{*this, "txtName"};
-    Button cmdOK{*this, "cmdOK", "Searc&h"};
+    Button cmdOK{*this, "cmdOK", "Search"};
     Label lblFound{*this, "lblFound"};
     ComboBox cboVehNo{*this, "cboVehNo", ComboBox::ListOnly};
     DatePicker dtDate{*this, "dtDate"};
@@ -73,13 +73,13 @@ private:
     Picture piX{*this, "piX"};
     Grid grdData{*this, "grdData"};
     Timer tmrBill{*this, "tmrBill", 500, false};
-    Button cmdAdd{*this, "cmdAdd", "&Add"};
-    Button cmdEdit{*this, "cmdEdit", "&Edit"};
-    Button cmdDel{*this, "cmdDel", "&Delete"};
-    Button cmdRefresh{*this, "cmdRefresh", "&Refresh"};
-    Button cmdCancel{*this, "cmdCancel", "Ca&ncel"};
-    Button CancelButton{*this, "CancelButton", "&Close"};
-    Button OKButton{*this, "OKButton", "&Save"};
+    Button cmdAdd{*this, "cmdAdd", "Add"};
+    Button cmdEdit{*this, "cmdEdit", "Edit"};
+    Button cmdDel{*this, "cmdDel", "Delete"};
+    Button cmdRefresh{*this, "cmdRefresh", "Refresh"};
+    Button cmdCancel{*this, "cmdCancel", "Cancel"};
+    Button CancelButton{*this, "CancelButton", "Close"};
+    Button OKButton{*this, "OKButton", "Save"};
 
     QString sPatientNo;         ///< the number taken from the picker
     QString sReferralConsultID; ///< the consult id of a follow-up appointment, else empty

@@ -1,0 +1,31 @@
+#include "billing/frmDecide.h"
+
+namespace orvane {
+
+frmDecide::frmDecide(Program& owner) : Screen(owner, "frmDecide", "Private Bill") {
+    cmdAcc.onClick = [this] { cmdAcc_Click(); };
+    cmdBill.onClick = [this] { cmdBill_Click(); };
+    CancelButton.onClick = [this] { unload(); };
+}
+
+Layout frmDecide::layout() const {
+    using namespace orvane::layout;
+    return column({cell(cmdAcc), cell(cmdBill), buttons({}, {&CancelButton})});
+}
+
+void frmDecide::cmdAcc_Click() {
+    Connection connection = program.openBilling();
+    const Recordset account(connection, Sql("select * from qryBillingBalanceDue where pno='")
+                                            << session.sPrintBillNo << "'");
+    const QString fullName = account.eof() ? QString() : account.text("fullname");
+    ui().viewReport("rptPatAccounts", "Patient Name : " + fullName, account);
+}
+
+void frmDecide::cmdBill_Click() {
+    if (session.gUsername.compare("Administrator", Qt::CaseInsensitive) == 0)
+        program.open("rptPanelBill");
+    else
+        program.box("Sorry Only Management can view BILL for Private patients");
+}
+
+} // namespace orvane
