@@ -70,13 +70,9 @@ create index ixBillingDate on Billing (bdate)
 go
 create index ixBillingInvNo on Billing (InvNo)
 go
-create index ixBillingUnprocessed on Billing (billNo) where isProcess = 0
-go
 create unique index uxDetailsSNo on BillingDetails (SNo) where SNo is not null
 go
 create index ixDetailsBillNo on BillingDetails (billNo)
-go
-create index ixDetailsZero on BillingDetails (billNo) where SubTotal = 0
 go
 create index ixAdjustBillNo on BillingDetailsAdjust (billNo)
 go

@@ -145,7 +145,12 @@ QString translateCast(const QString& value, const QString& type, Engine engine) 
     if (isText) {
         return QStringLiteral("orvane_text(%1) collate nocase").arg(value);
     }
-    return QStringLiteral("cast(%1 as %2)").arg(value, translateType(type, engine));
+    // A number has no collation; with one inside, the highest number could not be read off the end of an index.
+    QString number = value;
+    if (number.endsWith(QStringLiteral(" collate nocase"))) {
+        number.chop(15);
+    }
+    return QStringLiteral("cast(%1 as %2)").arg(number, translateType(type, engine));
 }
 
 QString translateType(const QString& type, Engine engine) {

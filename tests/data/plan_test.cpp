@@ -1,0 +1,126 @@
+#include "ScreenStatements.h"
+#include "data/Catalog.h"
+#include "data/Recordset.h"
+#include "support/TestHome.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+namespace orvane {
+
+namespace {
+
+const QSet<QString>& growingTables() {
+    static const QSet<QString> tables = {
+        "hpatients",   "hpatientspublic", "hrecords", "hrecordspublic", "hconsulting", "hadmission",   "hreferal",
+        "happrvcode",  "billaccum",       "billing",  "billingdetails", "payments",    "paymenttypes", "paymentdetails",
+        "tranxaction", "useractivities",  "drugnhis", "labservicenhis", "hservicenhis"};
+    return tables;
+}
+
+/// What reads a table whole by design: the newest row by its key, or the few rows that a partial index holds.
+bool readsFewRows(const QString& statement, const QString& step) {
+    return (statement.startsWith(QStringLiteral("select top 1 SNO")) && step.contains(QStringLiteral("Limit"))) ||
+           step.contains(QStringLiteral("ixRecordsUnbilled"), Qt::CaseInsensitive);
+}
+
+/// The tables that each alias (or table name) in the statement and in the views under it may stand for, in lower case.
+QMultiHash<QString, QString> tablesByAlias(const QString& statement) {
+    static const QRegularExpression source(QStringLiteral("\\b(?:from|join|update)\\s+(\\w+)(?:\\s+(\\w+))?"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression word(QStringLiteral("\\w+"));
+    QStringList texts = {statement};
+    for (const QString& definition : Catalog::instance().statements(QStringLiteral("billing"))) {
+        const qsizetype at = definition.indexOf(QStringLiteral("create view "));
+        const QString name = at < 0 ? QString() : word.match(definition, at + 12).captured();
+        if (!name.isEmpty() && statement.contains(name, Qt::CaseInsensitive)) {
+            texts += definition;
+        }
+    }
+    QMultiHash<QString, QString> tables;
+    for (const QString& text : texts) {
+        for (auto matches = source.globalMatch(text); matches.hasNext();) {
+            const QRegularExpressionMatch match = matches.next();
+            tables.insert(match.captured(1).toLower(), match.captured(1).toLower());
+            tables.insert(match.captured(2).toLower(), match.captured(1).toLower());
+        }
+    }
+    return tables;
+}
+
+/// SQLite: "SCAN h" and "SCAN h USING INDEX ..." read all of h; "SEARCH h ..." does not.
+QStringList fullScansOfSqlite(Connection& connection, const QString& statement) {
+    static const QRegularExpression scan(QStringLiteral("^SCAN (\\w+)"));
+    const QMultiHash<QString, QString> tables = tablesByAlias(statement);
+    QStringList scans;
+    const bool newest = statement.startsWith(QStringLiteral("select top 1 SNO"));
+    for (Recordset plan = connection.run(QStringLiteral("explain query plan ") + statement); !plan.eof();
+         plan.moveNext()) {
+        const QString step = plan.text(QStringLiteral("detail"));
+        const QRegularExpressionMatch match = scan.match(step);
+        if (!match.hasMatch()) {
+            continue;
+        }
+        const QStringList candidates = tables.values(match.captured(1).toLower());
+        const bool grows = std::any_of(candidates.begin(), candidates.end(),
+                                       [](const QString& table) { return growingTables().contains(table); });
+        if (grows && !newest && !readsFewRows(statement, step)) {
+            scans += step;
+        }
+    }
+    return scans;
+}
+
+/// PostgreSQL with sequential scans priced out: a scan is full when it is sequential all the same, or walks an index
+/// with no condition on it.
+QStringList fullScansOfPostgresql(Connection& connection, const QString& statement) {
+    static const QRegularExpression scan(QStringLiteral("(Seq Scan|Index Scan|Index Only Scan).* on (\\w+)"));
+    QStringList steps;
+    for (Recordset plan = connection.run(QStringLiteral("explain ") + statement); !plan.eof(); plan.moveNext()) {
+        steps += plan.text(0);
+    }
+    QStringList scans;
+    for (qsizetype i = 0; i < steps.size(); ++i) {
+        const QRegularExpressionMatch match = scan.match(steps[i]);
+        if (!match.hasMatch() || !growingTables().contains(match.captured(2))) {
+            continue;
+        }
+        bool conditioned = false;
+        for (qsizetype k = i + 1; k < steps.size() && !steps[k].contains(QStringLiteral("->")); ++k) {
+            conditioned = conditioned || steps[k].contains(QStringLiteral("Index Cond"));
+        }
+        const QString context = (i > 0 ? steps[i - 1] : QString()) + steps[i];
+        if (!conditioned && !readsFewRows(statement, context)) {
+            scans += steps[i];
+        }
+    }
+    return scans;
+}
+
+} // namespace
+
+class Plan : public EngineTest {};
+
+TEST_P(Plan, NoStatementOnAVisitABillOrAReceiptReadsAGrowingTableWhole) {
+    const bool sqlite = GetParam() == Engine::Sqlite;
+    if (!sqlite) {
+        billing.run(QStringLiteral("select set_config('enable_seqscan', 'off', false)"));
+    }
+    const auto fullScans = sqlite ? fullScansOfSqlite : fullScansOfPostgresql;
+    EXPECT_EQ(fullScans(billing, QStringLiteral("select * from qryhVisits where Remarks='REVIEW'")).size(), 1)
+        << "a filter that no index serves must be seen";
+    for (const QString& statement : screenStatements()) {
+        try {
+            const QStringList scans = fullScans(billing, statement);
+            EXPECT_TRUE(scans.isEmpty()) << statement.toStdString() << "\n  "
+                                         << scans.join(QStringLiteral("\n  ")).toStdString();
+        } catch (const DataError& fault) {
+            ADD_FAILURE() << statement.toStdString() << "\n  " << fault.what() << "\n  "
+                          << fault.statement().toStdString();
+        }
+    }
+}
+
+ORVANE_ON_EACH_ENGINE(Plan);
+
+} // namespace orvane
