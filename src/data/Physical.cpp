@@ -2,6 +2,7 @@
 
 #include "data/Assert.h"
 #include "data/Translator.h"
+#include "data/Value.h"
 
 #include <QSqlDriver>
 #include <QSqlError>
@@ -54,13 +55,26 @@ PhysicalConnection::~PhysicalConnection() {
     QSqlDatabase::removeDatabase(name);
 }
 
+QString withLiterals(const QString& text, const QVariantList& values) {
+    QString result;
+    qsizetype from = 0;
+    for (const QVariant& value : values) {
+        const qsizetype mark = text.indexOf(u'?', from);
+        result += QStringView(text).mid(from, mark - from);
+        result += valueLiteral(value);
+        from = mark + 1;
+    }
+    result += QStringView(text).mid(from);
+    return result;
+}
+
 QSqlQuery PhysicalConnection::send(const QString& tsql, const QVariantList& bound) {
     if (inTransaction && poisoned) {
         throw DataError(QStringLiteral("An earlier statement of this transaction failed. Nothing of it is saved."),
                         tsql);
     }
     try {
-        source->callHook(tsql);
+        source->callHook(tsql, bound);
         tellClock();
     } catch (...) {
         poisoned = inTransaction;
@@ -80,8 +94,9 @@ QSqlQuery PhysicalConnection::send(const QString& tsql, const QVariantList& boun
 
 bool PhysicalConnection::execute(QSqlQuery& query, const QString& text, const QVariantList& bound) {
     ++source->statementsSent;
-    if (bound.isEmpty()) {
-        return query.exec(text);
+    // A prepared statement costs PostgreSQL three messages for one run; its literals are as exact as bound values.
+    if (bound.isEmpty() || engine == Engine::Postgresql) {
+        return query.exec(withLiterals(text, bound));
     }
     if (!query.prepare(text)) {
         return false;
@@ -134,9 +149,11 @@ void PhysicalConnection::fail(const QSqlError& error, const QString& text) {
 void PhysicalConnection::begin() {
     ORVANE_ASSERT(!inTransaction);
     source->enterGate(gate);
+    bool begun = false;
     try {
         source->callHook(QStringLiteral("begin transaction"));
         tellClock();
+        begun = engine != Engine::Sqlite;
         if (engine == Engine::Sqlite) {
             sendNative(QStringLiteral("begin immediate"));
         } else if (engine == Engine::Postgresql) {
@@ -151,7 +168,7 @@ void PhysicalConnection::begin() {
             }
         }
     } catch (...) {
-        if (engine != Engine::Sqlite) {
+        if (begun && database.isOpen()) {
             QSqlQuery(database).exec(QStringLiteral("rollback"));
         }
         source->leaveGate(gate);
@@ -202,10 +219,10 @@ void PhysicalConnection::commit() {
 }
 
 void PhysicalConnection::rollback() noexcept {
-    QSqlQuery query(database);
     // SQLite has rolled back by itself after some faults; then there is nothing left to undo.
-    if (!query.exec(engine == Engine::SqlServer ? QStringLiteral("rollback transaction")
-                                                : QStringLiteral("rollback"))) {
+    if (!database.isOpen() ||
+        !QSqlQuery(database).exec(engine == Engine::SqlServer ? QStringLiteral("rollback transaction")
+                                                              : QStringLiteral("rollback"))) {
         broken = broken || engine != Engine::Sqlite;
     }
     endTransaction();
@@ -234,7 +251,8 @@ std::shared_ptr<PhysicalConnection> DataSource::Private::take(const QString& con
         }
         // A server that was restarted has closed its idle connections.
         const bool alive =
-            physical->engine == Engine::Sqlite || QSqlQuery(physical->database).exec(QStringLiteral("select 1"));
+            physical->engine == Engine::Sqlite ||
+            (physical->database.isOpen() && QSqlQuery(physical->database).exec(QStringLiteral("select 1")));
         if (alive) {
             physical->source = shared_from_this();
             ++physical->lease;
@@ -258,14 +276,14 @@ void DataSource::Private::giveBack(std::shared_ptr<PhysicalConnection> physical)
     }
 }
 
-void DataSource::Private::callHook(const QString& tsql) {
+void DataSource::Private::callHook(const QString& tsql, const QVariantList& bound) {
     std::function<void(const QString&)> hook;
     {
         const QMutexLocker lock(&m_mutex);
         hook = m_hook;
     }
     if (hook) {
-        hook(tsql);
+        hook(withLiterals(tsql, bound));
     }
 }
 

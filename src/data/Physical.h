@@ -60,7 +60,7 @@ struct DataSource::Private : std::enable_shared_from_this<DataSource::Private> {
     std::shared_ptr<PhysicalConnection> take(const QString& connectionString);
     void giveBack(std::shared_ptr<PhysicalConnection> physical) noexcept;
 
-    void callHook(const QString& tsql);
+    void callHook(const QString& tsql, const QVariantList& bound = {});
     void setHook(std::function<void(const QString&)> hook);
     std::optional<QDateTime> clock() const;
     void setClock(std::optional<QDateTime> at);
@@ -76,6 +76,9 @@ private:
     std::optional<QDateTime> m_clock;
     QSet<std::pair<QString, quintptr>> m_gates; ///< database and thread of each open transaction
 };
+
+/// A statement whose marks ? are replaced by its values; it holds no other literals.
+QString withLiterals(const QString& text, const QVariantList& values);
 
 /// Opens a new connection; `create` makes the database where it is missing, and no schema version is asked for.
 std::shared_ptr<PhysicalConnection> openPhysical(const std::shared_ptr<DataSource::Private>& source,

@@ -139,6 +139,21 @@ QVariant valueForBinding(const QVariant& value) {
     return type == QMetaType::QDate || type == QMetaType::QDateTime ? QVariant(valueText(value)) : value;
 }
 
+QString valueLiteral(const QVariant& value) {
+    if (!value.isValid() || value.isNull()) {
+        return QStringLiteral("null");
+    }
+    switch (value.typeId()) {
+    case QMetaType::Double:
+        return sqlNumber(value.toDouble(), QStringLiteral("A value"));
+    case QMetaType::LongLong:
+    case QMetaType::Int:
+        return QString::number(value.toLongLong());
+    default:
+        return u'\'' + sqlQuotedText(valueText(value), QStringLiteral("A value")) + u'\'';
+    }
+}
+
 QVariant dateFromText(const QString& text) {
     if (text.size() < 10 || text.at(4) != u'-') {
         return text;

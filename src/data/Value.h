@@ -17,6 +17,9 @@ QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind
 /// A value as it is bound into a statement: dates as ISO text.
 QVariant valueForBinding(const QVariant& value);
 
+/// A value as a literal of SQL: null, a quoted text or a plain number.
+QString valueLiteral(const QVariant& value);
+
 /// A text that a statement gave for a date or date-time; the text itself when it is none.
 QVariant dateFromText(const QString& text);
 QVariant dateTimeFromText(const QString& text);
