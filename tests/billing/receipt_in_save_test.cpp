@@ -1,0 +1,247 @@
+#include "VerifyTest.h"
+
+namespace orvane {
+
+namespace {
+
+/// The receipt that is taken in the save of a bill.
+class VerifyReceipt : public VerifyTest {
+protected:
+    void layBill(std::initializer_list<std::pair<const char*, double>> items) {
+        layVisit();
+        for (const auto& [name, price] : items)
+            item({.name = name, .revType = "DRUGS", .price = price});
+        load();
+        set("chkRct", "yes");
+        set("cboPayFor", "DRUGS");
+    }
+    QString shares() {
+        return rows("select BillItem, AmountPaid, AmountToPay, AccountNo, revType from PaymentDetails order by SNo");
+    }
+    QString covered() { return rows("select drgName, isRct from BillingDetails order by SNo"); }
+};
+
+ORVANE_ON_EACH_ENGINE(VerifyReceipt);
+
+TEST_P(VerifyReceipt, FullPaymentInCash) {
+    ws.run("update IDgen set ID=4711 where DestName='RECEIPT2'");
+    layBill({{"PARACETAMOL 500MG", 1500.5}, {"MALARIA PARASITE", 2531}});
+    set("chkExact", "yes");
+    EXPECT_EQ(value("txtAmt(0)"), "4,031.50");
+    EXPECT_EQ(value("txtHt"), "4,031.50");
+    EXPECT_EQ(value("cboPay"), "CASH");
+    EXPECT_EQ(value("txtWord"), "FOUR THOUSAND, THIRTY ONE NAIRA AND FIFTY KOBO ONLY");
+    save();
+
+    EXPECT_BOXES(ui, {});
+    EXPECT_EQ(
+        rows(
+            "select ReceiptDate, ReceiptNo, ClinicID, billNo, PNo, PaymentFor, Amountbilled, AmountPaid, AmountInWord, "
+            "ReceivedBy, PayType, ChequeNo, rTime, Remarks from Payments"),
+        "2026-03-14|4712|OPD|001OFL0000001|P/0001|DRUGS|4031.5|4031.5|FOUR THOUSAND, THIRTY ONE NAIRA AND FIFTY KOBO "
+        "ONLY|E001|CASH||"
+        "09:30|PAYMENT");
+    EXPECT_EQ(rows("select ReceiptNo, AmountPaid, PayType, AccountNo, isPost from PaymentTypes"),
+              "4712|4031.5|CASH|1001|0");
+    EXPECT_EQ(shares(), "PARACETAMOL 500MG|1500.5|1500.5|4002|DRUGS\nMALARIA PARASITE|2531|2531|4002|DRUGS");
+    EXPECT_EQ(covered(), "PARACETAMOL 500MG|1\nMALARIA PARASITE|1");
+    EXPECT_EQ(ws.tableCount("BillAccum where isRct=1"), 2);
+    EXPECT_EQ(rows("select Amountbilled, AmountPaid from Billing"), "4031.5|4031.5");
+    EXPECT_EQ(debt(), "0");
+    EXPECT_EQ(ui.opened.last(), "frmCashReceipt");
+    EXPECT_EQ(ws.value("frmCashReceipt.txtReceiptNo"), "4712");
+    EXPECT_EQ(ws.value("frmCashReceipt.txtReceiptNo2"), "4712");
+    EXPECT_EQ(ws.state("frmBillingVerify.OKButton"), "visible disabled") << "a second press would take the money again";
+
+    // The same visit again: nothing of the receipt that was taken comes up once more.
+    click("cmdRefresh");
+    EXPECT_EQ(value("txtHt"), "");
+    EXPECT_EQ(value("lblAmtDue"), "0.00");
+}
+
+/// How a receipt spreads over the lines of a bill.
+TEST_P(VerifyReceipt, Distribution) {
+    struct Case {
+        const char* name;
+        QList<double> lines;
+        const char* amount;
+        const char* shares; ///< item, paid, to pay
+        const char* covered;
+    };
+    const Case cases[] = {
+        {"partial", {1000, 2000}, "1500", "A|1000|1000\nB|500|2000", "A|1\nB|1"},
+        {"the first line takes it", {1000, 2000}, "1000", "A|1000|1000", "A|1\nB|0"},
+        {"more than the bill",
+         {1000, 2000},
+         "3500.25",
+         "A|1000|1000\nB|2000|2000\nBALANCE_PAYMENT|500.25|500.25",
+         "A|1\nB|1"},
+        {"kobo leave no crumbs",
+         {100.1, 200.2, 300.3},
+         "600.60",
+         "A|100.1|100.1\nB|200.2|200.2\nC|300.3|300.3",
+         "A|1\nB|1\nC|1"},
+        {"no lines", {}, "800", "DEPOSIT_PAYMENT|800|800", ""},
+    };
+    layVisit();
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        for (const char* table : {"BillAccum", "Billing", "BillingDetails", "Payments", "PaymentDetails"})
+            ws.run(QStringLiteral("delete from %1").arg(table));
+        char name = 'A';
+        for (double price : c.lines)
+            item({.name = QString(QChar::fromLatin1(name++)), .price = price});
+        load();
+        set("chkRct", "yes");
+        set("chkDep", "yes");
+        set("txtAmt(0)", c.amount);
+        save();
+        EXPECT_EQ(covered(), c.covered);
+        const double paid = ws.scalar("select sum(AmountPaid) from PaymentDetails").toDouble();
+        EXPECT_NEAR(paid, QString(c.amount).toDouble(), 1e-6);
+        QStringList found;
+        for (Recordset share =
+                 ws.billing().run("select BillItem, AmountPaid, AmountToPay from PaymentDetails order by SNo");
+             !share.eof(); share.moveNext())
+            found << share.text(0) + '|' + QString::number(share.number("AmountPaid")) + '|' +
+                         QString::number(share.number("AmountToPay"));
+        EXPECT_EQ(found.join('\n'), c.shares);
+    }
+    EXPECT_EQ(rows("select AccountNo, revType, snoID from PaymentDetails"), "9999|SUSPENSE|0");
+}
+
+TEST_P(VerifyReceipt, SecondReceiptGoesOnWhereTheFirstStopped) {
+    layBill({{"A", 1000}, {"B", 2000}, {"A", 400}});
+    set("txtAmt(0)", "1000");
+    save();
+    EXPECT_EQ(covered(), "A|1\nB|0\nA|1") << "items of one name are covered together";
+    click("cmdRefresh");
+    EXPECT_EQ(value("txtEmp"), "2,400.00");
+    set("cboPayFor", "DRUGS");
+    set("txtAmt(0)", "2400");
+    save();
+    EXPECT_EQ(rows("select ReceiptNo, BillItem, AmountPaid from PaymentDetails order by SNo"),
+              "1|A|1000\n2|B|2000\n2|BALANCE_PAYMENT|400");
+    EXPECT_EQ(ws.scalar("select AmountPaid from Billing"), "3400");
+    EXPECT_EQ(debt(), "0");
+    EXPECT_EQ(ui.opened.count("frmCashReceipt"), 2);
+    EXPECT_EQ(ws.value("frmCashReceipt.txtReceiptNo"), "2") << "the first receipt still stands on the screen";
+}
+
+TEST_P(VerifyReceipt, SeveralWaysOfPayment) {
+    ws.run("insert into ChartOfAccounts (AccountNo, AccountName, groupID) values ('1225','UNITY BANK','1220000')");
+    layBill({{"A", 6000}});
+    set("txtAmt(0)", "1,000");
+    set("txtAmt(1)", "2000");
+    set("txtAmt(2)", "2500");
+    set("txtAmt(3)", "0");
+    EXPECT_EQ(value("txtHt"), "5,500.00");
+    EXPECT_EQ(value("cboPay"), "CASH/POS/CHEQUE");
+    EXPECT_EQ(value("lblAcctNo(1)"), "1003");
+    for (const char* bank : {"cboBank(1)", "cboBank(2)"})
+        set(bank, "UNITY BANK [1225]");
+    set("txtCheque", "004512");
+    save();
+    EXPECT_BOXES(ui, {});
+    EXPECT_EQ(rows("select PayType, AmountPaid, AccountNo from PaymentTypes order by SNo"),
+              "CASH|1000|1001\nPOS|2000|1225\nCHEQUE|2500|1225");
+    EXPECT_EQ(rows("select PayType, ChequeNo, AmountPaid from Payments"), "CASH/POS/CHEQUE|004512|5500");
+    EXPECT_EQ(debt(), "-500");
+}
+
+TEST_P(VerifyReceipt, FreshBillAndDepositOnAdmission) {
+    layBill({{"A", 6000}});
+    ws.run("insert into Payments (ReceiptNo, billNo, AmountPaid) values ('90','001OFL0000001',1500)");
+    click("cmdRefresh");
+    EXPECT_EQ(value("txtEmp"), "4,500.00");
+    set("chkCurr", "yes");
+    EXPECT_EQ(value("txtEmp"), "6,000.00");
+    set("chkCurr", "no");
+    EXPECT_EQ(value("txtEmp"), "4,500.00");
+
+    ws.run("insert into hAdmission (consultID, PNo, admdate) values ('001OFL0000001','P/0001','2026-03-13')");
+    click("cmdRefresh");
+    set("chkDep", "yes");
+    set("txtAmt(0)", "2000");
+    ui.forgetBoxes();
+    save();
+    EXPECT_EQ(rows("select PaymentFor, AmountPaid, Amountbilled from Payments where ReceiptNo='1'"),
+              "DEPOSIT|2000|4500");
+    EXPECT_EQ(rows("select AmountPaid, Amountbilled from Billing"), "3500|6000") << "the bill itself is unchanged";
+    EXPECT_EQ(rows("select exitDate, BillDate from hRecords"), "|2026-03-14");
+}
+
+TEST_P(VerifyReceipt, FaultTakesEverythingBackAndTheFormStays) {
+    layBill({{"A", 1000}});
+    item({.name = "LATE", .price = 300});
+    set("txtAmt(0)", "1000");
+    const QString accountBefore = account();
+    for (const char* statement :
+         {"update  hrecords set BillDate", "PaymentDetails", "hPatients set DebtBF", "commit transaction"}) {
+        SCOPED_TRACE(statement);
+        breakAt(ws.program, statement);
+        save();
+        ws.program.data().setStatementHook({});
+        EXPECT_BOXES(ui, {"disk full"});
+        EXPECT_EQ(ws.tableCount("Payments") + ws.tableCount("PaymentTypes") + ws.tableCount("PaymentDetails"), 0);
+        EXPECT_EQ(account(), accountBefore);
+        EXPECT_EQ(lines(), "A|1000");
+        EXPECT_EQ(rows("select AmountPaid, Amountbilled from Billing"), "0|1000");
+        EXPECT_EQ(ws.scalar("select BillDate from hRecords"), "");
+        EXPECT_EQ(value("txtHt"), "1,000.00");
+        EXPECT_EQ(ws.state("frmBillingVerify.OKButton"), "visible enabled");
+    }
+    save();
+    EXPECT_EQ(ws.scalar("select AmountPaid from Payments"), "1000");
+    EXPECT_EQ(lines(), "A|1000\nLATE|300");
+    EXPECT_EQ(debt(), "-300");
+}
+
+/// Nobody knows whether it was saved: the same receipt must not be offered again without a fresh look at the bill.
+TEST_P(VerifyReceipt, UnknownCommitIsNotRepeated) {
+    layBill({{"A", 1000}});
+    set("txtAmt(0)", "1000");
+    bool receiptWritten = false;
+    ws.program.data().setStatementHook([&receiptWritten](const QString& tsql) {
+        receiptWritten = receiptWritten || tsql.contains("PaymentTypes");
+        if (receiptWritten && tsql == "transaction committed")
+            throw DataError("disk full");
+    });
+    save();
+    ws.program.data().setStatementHook({});
+    EXPECT_BOXES(ui, {"disk full"});
+    EXPECT_EQ(ws.state("frmBillingVerify.OKButton"), "visible disabled");
+    click("cmdRefresh");
+    EXPECT_EQ(value("txtHt"), "");
+    EXPECT_EQ(value("lblAmtDue"), "0.00");
+}
+
+/// The bill is saved by then: a fault of the approval code must not make it look undone.
+TEST_P(VerifyReceipt, FaultAfterTheSaveShowsTheReceiptAllTheSame) {
+    layBill({{"A", 1000}});
+    set("txtAmt(0)", "1000");
+    set("txtApprv", "CODE");
+    breakAt(ws.program, "hApprvCode");
+    save();
+    ws.program.data().setStatementHook({});
+    EXPECT_BOXES(ui, {"disk full"});
+    EXPECT_EQ(ws.value("frmCashReceipt.txtReceiptNo"), "1");
+    EXPECT_EQ(ws.tableCount("Payments"), 1);
+}
+
+TEST_P(VerifyReceipt, AnotherPatientPaysNothingOfThis) {
+    layBill({{"A", 1000}});
+    Connection connection = ws.billing();
+    makeVisit(connection, {.consultID = "001OFL0000002"});
+    click("cmdList");
+    ws.pick("frmBillingVerify.cboVehNo", "0000001");
+    set("chkRct", "yes");
+    set("txtAmt(0)", "1000");
+    ws.pick("frmBillingVerify.cboVehNo", "0000002");
+    EXPECT_EQ(value("txtAmt(0)"), "");
+    EXPECT_EQ(value("txtHt"), "");
+}
+
+} // namespace
+
+} // namespace orvane

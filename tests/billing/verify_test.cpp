@@ -1,0 +1,387 @@
+#include "VerifyTest.h"
+
+namespace orvane {
+
+namespace {
+
+using Verify = VerifyTest;
+
+ORVANE_ON_EACH_ENGINE(Verify);
+
+const char* const processed = "This Bill is already processed! to Modify, unProcess the Batch";
+
+TEST_P(Verify, ListsAndPicksVisits) {
+    layVisit();
+    Connection connection = ws.billing();
+    makePatient(connection, {.pno = "P/0002", .surname = "OKAFOR", .firstname = "CHI [NE] #1", .client = "0201"});
+    makeVisit(connection, {.consultID = "001OFL0000002", .pno = "P/0002", .category = "HMO", .client = "0201"});
+    makeVisit(connection, {.consultID = "001OFL0000003", .date = QDate(2026, 2, 1)});
+    ws.run("update hRecords set BillDate='2026-03-14' where consultID='001OFL0000002'");
+    ws.run("insert into hAdmission (consultID, PNo, admdate) values ('001OFL0000003','P/0001','2026-02-01')");
+
+    const QString first = "ADEYEMI BOLA @14/03/2026 CONSULTATION - PRIVATE PATIENTS [P/0001]#001OFL0000001";
+    const QString second = "OKAFOR CHI [NE] #1 @14/03/2026 CONSULTATION - CLEARWATER HMO [P/0002]#001OFL0000002";
+    ws.open("frmBillingVerify");
+    click("cmdList");
+    EXPECT_EQ(ws.items("frmBillingVerify.cboVehNo"), QStringList({"", first}));
+    set("chkAll", "yes");
+    click("cmdList");
+    EXPECT_EQ(ws.items("frmBillingVerify.cboVehNo"), QStringList({"", first, second}));
+    set("cboHMO", "CLEARWATER HMO[0201]");
+    click("cmdAdd");
+    EXPECT_EQ(ws.items("frmBillingVerify.cboVehNo"), QStringList({"", second}));
+    ws.pick("frmBillingVerify.cboVehNo", 1);
+    EXPECT_EQ(value("lblBill"), "001OFL0000002");
+    EXPECT_EQ(ws.program.session.sBillPno, "P/0002");
+    EXPECT_EQ(ws.program.session.sBillPatLabel, "OKAFOR CHI [NE] #1");
+    click("cmdAdm");
+    EXPECT_EQ(ws.items("frmBillingVerify.cboVehNo").size(), 2);
+    set("txtSearch", "NOBODY");
+    click("cmdOK");
+    EXPECT_EQ(value("cboVehNo"), "");
+    EXPECT_EQ(value("lblBill"), "");
+    EXPECT_BOXES(ui, {});
+}
+
+TEST_P(Verify, WorklistHandsOverItsVisit) {
+    layVisit();
+    ws.program.session.gSearchBillNo = billNo;
+    ws.open("frmBillingVerify");
+    EXPECT_EQ(value("lblBill"), billNo);
+    EXPECT_EQ(ws.program.session.gSearchBillNo, "");
+}
+
+TEST_P(Verify, LoadShowsTheBill) {
+    layVisit({.category = "HMO", .client = "0201"}, {.category = "HMO", .client = "0201"});
+    Connection connection = ws.billing();
+    makeVisit(connection, {.consultID = "001OFL0000000", .date = QDate(2026, 2, 2), .client = "0201"});
+    makeConsultation(connection, {.diagnosis = "MALARIA\r\nANAEMIA"});
+    makeConsultation(connection, {.diagnosis = "TYPHOID"});
+    ws.run("insert into hApprvCode (consultID, ApprvCode) values ('001OFL0000001','CH/88')");
+    item({.name = "PARACETAMOL 500MG", .client = "0201", .price = 40, .qty = 10, .capitated = "YES"});
+    item({.name = "MALARIA PARASITE", .client = "0201", .price = 1200, .capitated = "NO"});
+    ws.run("update BillAccum set attendedto=1 where drgName='MALARIA PARASITE'");
+    ws.run("insert into Payments (ReceiptNo, billNo, AmountPaid) values ('9','001OFL0000001',200)");
+
+    load();
+    const QMap<QString, QString> expected{{"lblCoy", "CLEARWATER HMO"},
+                                          {"lblDate", "HMO"},
+                                          {"lblDisplay", "NO"},
+                                          {"lblDate2", "14/03/2026"},
+                                          {"lblDateLast", "02/02/2026"},
+                                          {"lblGen", "1,600.00"},
+                                          {"lblBilled", "1,200.00"},
+                                          {"lblPaid", "200.00"},
+                                          {"lblDep", "200.00"},
+                                          {"lblSub", "1,200.00"},
+                                          {"lblTotal", "1,200.00"},
+                                          {"lblCurr", "1,200.00"},
+                                          {"lblAmtDue", "1,000.00"},
+                                          {"txtEmp", "1,000.00"},
+                                          {"txtDuty", "ONE THOUSAND NAIRA"},
+                                          {"txtDiag", "MALARIA;ANAEMIA;TYPHOID"},
+                                          {"txtApprv", "CH/88"},
+                                          {"dtDate", "2026-03-14"},
+                                          {"lblScreen", "Collated Bill for ADEYEMI BOLA\n=N=1,000.00"}};
+    for (auto field = expected.begin(); field != expected.end(); ++field)
+        EXPECT_EQ(value(field.key()), field.value()) << field.key().toStdString();
+    EXPECT_EQ(ws.control<Grid>("frmBillingVerify.grdData").rowCount(), 2);
+    EXPECT_EQ(ws.scalar("select AmountBIlledInWord from Billing"), "ONE THOUSAND, TWO HUNDRED NAIRA");
+    click("cmdUnBilled");
+    EXPECT_BOXES(ui, {"PARACETAMOL 500MG"});
+
+    // Fee for service: every item counts and is billed.
+    ws.run("update hRecords set referal='YES'");
+    click("cmdRefresh");
+    EXPECT_EQ(value("lblSub"), "1,600.00");
+    EXPECT_EQ(value("lblAmtDue"), "1,400.00");
+    click("cmdUnBilled");
+    EXPECT_BOXES(ui, {"All Items Billed"});
+}
+
+TEST_P(Verify, LoadStopsWithoutVisitOrClient) {
+    layVisit();
+    item();
+    ws.open("frmBillingVerify");
+    click("cmdList");
+    ws.run("update hRecords set coyName='GONE'");
+    ws.pick("frmBillingVerify.cboVehNo", 1);
+    EXPECT_BOXES(ui, {"BillTo Value Cannot be Empty!!! Check your Client Information"});
+    click("OKButton");
+    EXPECT_BOXES(ui, {"Please Re-Select Patient Name! Bill No (StrCon needed"});
+    ws.run("delete from hRecords");
+    ws.pick("frmBillingVerify.cboVehNo", 1);
+    EXPECT_BOXES(ui, {"Patient does not Exist"});
+    EXPECT_EQ(value("lblScreen"), "Process Bill");
+    EXPECT_EQ(lines(), "");
+}
+
+TEST_P(Verify, HalfReadVisitCannotBeSaved) {
+    layVisit();
+    item();
+    breakAt(ws.program, "hApprvCode");
+    load();
+    ws.program.data().setStatementHook({});
+    EXPECT_BOXES(ui, {"disk full"});
+    EXPECT_EQ(ws.state("frmBillingVerify.cmdAddBill"), "visible enabled");
+    click("OKButton");
+    EXPECT_BOXES(ui, {"Please Re-Select Patient Name! Bill No (StrCon needed"});
+}
+
+TEST_P(Verify, AdmissionSetsTheDates) {
+    layVisit();
+    ws.run("insert into hAdmission (consultID, PNo, admdate) values ('001OFL0000001','P/0001','2026-03-10')");
+    load();
+    EXPECT_BOXES(ui, {"This Patient is on Admission!!! Discharge Patient before Collating Bill"});
+    EXPECT_EQ(value("dtAdmit"), "2026-03-10");
+    EXPECT_EQ(ws.state("frmBillingVerify.dtAdmit"), "visible enabled locked");
+    EXPECT_EQ(ws.state("frmBillingVerify.dtDisch"), "visible enabled");
+    ws.run("update hAdmission set DischDate='2026-03-13'");
+    click("cmdRefresh");
+    EXPECT_BOXES(ui, {"This Patient has been Discharged!!! Please Collate Bill"});
+    EXPECT_EQ(value("dtDisch"), "2026-03-13");
+    save();
+    EXPECT_BOXES(ui, {"Record Succesfully saved"});
+    EXPECT_EQ(rows("select exitDate, BillDate from hRecords"), "2026-03-13|2026-03-13");
+    EXPECT_EQ(rows("select admdate, DischDate from Billing"), "2026-03-10|2026-03-13");
+    ws.run("delete from hAdmission");
+    click("cmdRefresh");
+    EXPECT_EQ(value("dtDisch"), "2026-03-13") << "the bill keeps the dates";
+}
+
+/// Each refusal of the save, in the order of its checks: every step makes the next check fail.
+TEST_P(Verify, SaveRefusalsInOrder) {
+    layVisit();
+    item({.price = 5000});
+    ws.open("frmBillingVerify");
+    click("OKButton");
+    EXPECT_BOXES(ui, {"Bill No field cannot be empty"});
+    set("chkRct", "yes");
+    EXPECT_BOXES(ui, {"Specify Name of Patient"});
+    EXPECT_EQ(value("chkRct"), "no");
+    load();
+    const auto refused = [&](const QString& text) {
+        click("OKButton");
+        EXPECT_BOXES(ui, {text});
+    };
+    ws.program.session.gConsultID = "001OFL0000009";
+    refused("Please Re-Select Patient Name! Bill No (StrCon needed");
+    ws.program.session.gConsultID = billNo;
+    set("dtAdmit", "2026-03-12");
+    refused("Please Specify Discharge date of Patient OR tick Deposit Checkbox to enter Deposits");
+    set("dtAdmit", "");
+    set("dtDisch", "2026-03-13");
+    refused("Discharge date of Patient Requires Admission Date");
+    EXPECT_EQ(value("dtDisch"), "");
+    set("chkRct", "yes");
+    refused("Please enter Amount Paid");
+    EXPECT_EQ(value("SSTab1"), "1");
+    set("txtHt", "0");
+    set("dtRctDate", "");
+    refused("Please enter Receipt Date");
+    set("dtRctDate", "2026-03-14");
+    refused("Please enter Payment Purpose");
+    set("cboPayFor", "DRUGS");
+    refused("Please enter Payment type");
+    set("txtAmt(2)", "700");
+    refused("Please enter Cheque No");
+    set("txtCheque", "CH1");
+    set("txtHt", "-700");
+    refused("Please enter Amount Paid");
+    set("txtHt", "7 00x");
+    refused("Please enter Amount Paid");
+    set("txtHt", "700");
+    ws.run("insert into Payments (ReceiptNo, billNo, AmountPaid) values ('7','001OFL0000001',5000)");
+    click("cmdRefresh");
+    refused("Please tick Deposit CheckBox to Specify Deposit");
+    set("chkDep", "yes");
+    EXPECT_EQ(value("cboPayFor"), "DEPOSIT");
+    click("OKButton");
+    EXPECT_EQ(ui.takeBoxesWithTitles(), (QList<TestUi::Box>{{"Specify Bank Name for CHEQUE", "Bank Name"}}));
+    set("txtAmt(2)", "");
+    set("txtAmt(0)", "700");
+    set("txtProf", "10");
+    set("dtDate", "");
+    click("OKButton");
+    EXPECT_EQ(ui.takeBoxesWithTitles(),
+              (QList<TestUi::Box>{{"Confirm Prof Fee Entry", "Prof Fee"}, {"Specify Bill Date", ""}}));
+    set("dtDate", "2026-03-14");
+    set("txtProf", "");
+    ui.answer(false);
+    click("OKButton");
+    EXPECT_QUESTIONS(ui, {"Are you sure to save?"});
+    ws.run("delete from IDgen");
+    save();
+    EXPECT_BOXES(ui, {"Unable to generate No!!! Function getIDNo Failed! Receipt",
+                      "Inalid Receipt No! System Failed to Generate Receipt"});
+    EXPECT_FALSE(ws.program.loadedForm("frmBillingVerify"));
+    EXPECT_EQ(ws.tableCount("Payments"), 1);
+}
+
+TEST_P(Verify, SaveWithoutReceiptFreezesTheVisit) {
+    layVisit({.category = "HMO", .client = "0201"}, {.category = "HMO", .client = "0201"});
+    item({.name = "CAPITATED", .client = "0201", .price = 40, .capitated = "YES"});
+    item({.name = "CHARGED", .client = "0201", .price = 1200.75, .capitated = "NO"});
+    load();
+    EXPECT_EQ(value("lblBilled"), "0.00") << "what is charged waits for the save";
+    set("txtDiag", "  d'orbigny syndrome ");
+    set("txtApprv", "CH/88");
+    save();
+    EXPECT_BOXES(ui, {"Record Succesfully saved"});
+    EXPECT_EQ(lines(), "CHARGED|1200.75");
+    EXPECT_EQ(rows("select drgName, attendedto, isBilled, Capitated from BillAccum order by SNo"),
+              "CAPITATED|1|1|YES\nCHARGED|1|1|NO");
+    EXPECT_EQ(rows("select bdate, billNo, PNo, clientID, Amountbilled, AmountBIlledInWord, billingMonth, billingYear, "
+                   "isProcess from Billing"),
+              "2026-03-14|001OFL0000001|P/0001|0201|1200.75|ONE THOUSAND, TWO HUNDRED NAIRA AND SEVENTY FIVE KOBO ONLY|"
+              "March|2026|0");
+    EXPECT_EQ(rows("select diagnosis, exitDate, BillDate from hRecords"), "D'ORBIGNY SYNDROME|2026-03-14|2026-03-14");
+    EXPECT_EQ(rows("select ApprvCode, billType, PNo from hApprvCode"), "CH/88|CLAIMS|P/0001");
+    EXPECT_EQ(ws.tableCount("Payments") + ws.tableCount("Tranxaction"), 0);
+    EXPECT_EQ(ws.state("frmBillingVerify.OKButton"), "visible disabled");
+
+    // A second save finds nothing new and changes the code.
+    click("cmdRefresh");
+    set("txtApprv", "CH/99");
+    save();
+    ui.forgetBoxes();
+    EXPECT_EQ(rows("select ApprvCode from hApprvCode"), "CH/99");
+    EXPECT_EQ(ws.scalar("select Amountbilled from Billing"), "1200.75");
+}
+
+TEST_P(Verify, LateVisitGoesToAnOpenMonth) {
+    layVisit({.category = "MTHLY", .client = "0102"}, {.category = "MTHLY", .client = "0102"});
+    ws.run("update hRetainership set BillEndDate=10 where retainID='0102'");
+    item({.client = "0102"});
+    load();
+    save();
+    EXPECT_EQ(ws.scalar("select BillDate from hRecords"), "2026-04-01");
+    ws.run("insert into BillsForClients (CoyCode, BatchNo) values ('0102','2026/04')");
+    ws.run("insert into BillsForClients (CoyCode, BatchNo) values ('0201','2026/09')");
+    click("cmdRefresh");
+    save();
+    EXPECT_EQ(ws.scalar("select BillDate from hRecords"), "2026-05-01");
+    ui.forgetBoxes();
+}
+
+TEST_P(Verify, ProcessedBillIsRefusedEverywhere) {
+    layVisit();
+    item({.price = 5000});
+    load();
+    item({.name = "LATE"});
+    ws.run("update Billing set isProcess=1");
+    for (const char* button : {"cmdRefresh", "OKButton"}) {
+        click(button);
+        EXPECT_BOXES(ui, {processed}) << button;
+    }
+    click("cmdPrice");
+    EXPECT_BOXES(ui, {"Please Note! This Bill Item is Already Processed!!! Reverse Processing to Adjust"});
+    set("txtProf", "10");
+    click("cmdBill");
+    EXPECT_BOXES(ui, {processed});
+    set("txtNHIS", "10");
+    ui.answer(QString("FEE"));
+    click("cmdNHIS");
+    EXPECT_BOXES(ui, {processed});
+    ui.answer(true);
+    click("cmdCap");
+    EXPECT_BOXES(ui, {processed, processed}) << "the action, then the look at the bill";
+    EXPECT_EQ(lines(), "PARACETAMOL 500MG|5000");
+
+    // The batch takes the bill while the user reads the question.
+    ws.run("update Billing set isProcess=0");
+    click("cmdRefresh");
+    ws.program.data().setStatementHook([this](const QString& tsql) {
+        if (tsql == "begin transaction") {
+            ws.program.data().setStatementHook({});
+            SecondHome otherHome(home);
+            Workstation(otherHome.folder()).run("update Billing set isProcess=1");
+        }
+    });
+    set("txtProf", "");
+    set("txtDiag", "CHANGED");
+    save();
+    EXPECT_BOXES(ui, {processed});
+    EXPECT_EQ(ws.scalar("select diagnosis from hRecords"), "");
+}
+
+TEST_P(Verify, FeesAndCapitation) {
+    layVisit();
+    item({.name = "PREVIOUS DEBT", .price = 300});
+    item({.name = "DRUG", .price = 700});
+    load();
+    click("cmdBill");
+    EXPECT_BOXES(ui, {"Specify Prof fee! Numeric Only"});
+    for (int i = 0; i < 2; ++i) {
+        set("txtProf", "10");
+        click("cmdBill");
+    }
+    EXPECT_BOXES(ui, {"10% Prof fee of 1,000.00 Added\nProf Fee is based on Current Bill\nProf Fee Charged is 100.00",
+                      "10% Prof fee of 1,100.00 Added\nProf Fee is based on Current Bill\nProf Fee Charged is 110.00"});
+    EXPECT_EQ(value("lblCurr"), "1,210.00");
+    EXPECT_EQ(ws.control<Grid>("frmBillingVerify.grdData").text("Service"), "Prof Fee (10%)");
+
+    ws.program.session.gNHISFee = "DRUG";
+    set("txtNHIS", "5");
+    ui.answer(QString("SCHEME FEE"));
+    click("cmdNHIS");
+    EXPECT_EQ(rows("select Price, revType, attendedto, isBilled from BillAccum where drgName='SCHEME FEE'"),
+              "50|CONSULTATION|1|1")
+        << "five per cent of the items of type DRUG";
+    EXPECT_EQ(ws.scalar("select SubTotal from BillingDetails where drgName='SCHEME FEE'"), "50");
+    EXPECT_EQ(debt(), "-960") << "the carried debt is charged by no one";
+    EXPECT_EQ(ws.scalar("select Amountbilled from Billing"), "1260");
+
+    ui.answer(true);
+    click("cmdCap");
+    EXPECT_BOXES(ui, {" Bill Item successfully Capitated"});
+    EXPECT_EQ(lines(), "");
+    EXPECT_EQ(rows("select Amountbilled, AmountBIlledInWord from Billing"), "0|XXX");
+    EXPECT_EQ(debt(), "0") << "what was charged went back, the carried debt was never charged";
+    EXPECT_EQ(ws.tableCount("BillingDetailsAdjust where Remarks='BILL Capitated' and newPrice=0"), 5);
+    ui.answer(true);
+    click("cmdCap");
+    ui.forgetBoxes();
+    EXPECT_EQ(debt(), "0") << "a second time nothing goes back";
+    set("txtProf", "");
+    save();
+    ui.forgetBoxes();
+    EXPECT_EQ(rows("select Amountbilled, AmountBIlledInWord from Billing"), "0|XXX");
+
+    ws.run("delete from UserRoles where RoleID=102");
+    click("cmdRefresh");
+    click("cmdCap");
+    EXPECT_BOXES(ui, {"Only User with Mgt Previlege can initiate this Action"});
+}
+
+TEST_P(Verify, OtherActions) {
+    layVisit();
+    ws.open("frmBillingVerify");
+    for (const char* button : {"cmdAddBill", "cmdBill", "cmdNHIS", "cmdCap", "cmdPrice", "cmdSplit"})
+        click(button);
+    EXPECT_BOXES(ui, {"Specify name of Patient", "Specify Patient Name", "Specify Patient Name",
+                      "No Patient is selected", "No Patient is selected", "No Patient is selected"});
+    load();
+    Connection connection = ws.billing();
+    for (const char* button : {"cmdPresc", "cmdDispense", "cmdSplit"})
+        click(button);
+    EXPECT_BOXES(ui, {"No prescription ", "No Treatment Plan ", "this bill cannot be Split! Already a Split  Bill"});
+    makeConsultation(connection, {.date = QDate(2026, 3, 14), .diagnosis = "MALARIA", .prescription = "ACT"});
+    makeConsultation(connection, {.date = QDate(2026, 3, 1), .diagnosis = "FEVER"});
+    click("cmdLastDiag");
+    EXPECT_BOXES(ui, {"01/03/2026\nFEVER"});
+    makeVisit(connection, {.consultID = "OFL000000001", .date = QDate(2026, 1, 5)});
+    for (const char* part : {"A", "B", "C"})
+        makeVisit(connection, {.consultID = QString("OFL000000001") + part});
+    load("OFL000000001");
+    click("cmdSplit");
+    EXPECT_BOXES(ui, {"No of Bill Splitting Exceeded"});
+    ws.run("update hRecords set clientCat='HMO'");
+    click("cmdRefresh");
+    click("cmdPR");
+    EXPECT_BOXES(ui, {"Printing of RECEIPT is for PRIVATE Patient only"});
+}
+
+} // namespace
+
+} // namespace orvane
