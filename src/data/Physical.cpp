@@ -219,12 +219,10 @@ void PhysicalConnection::commit() {
 }
 
 void PhysicalConnection::rollback() noexcept {
-    // SQLite has rolled back by itself after some faults; then there is nothing left to undo.
-    if (!database.isOpen() ||
-        !QSqlQuery(database).exec(engine == Engine::SqlServer ? QStringLiteral("rollback transaction")
-                                                              : QStringLiteral("rollback"))) {
-        broken = broken || engine != Engine::Sqlite;
-    }
+    const QString text =
+        engine == Engine::SqlServer ? QStringLiteral("rollback transaction") : QStringLiteral("rollback");
+    // A connection that cannot say that its transaction is gone is not used again; the engine undoes it when it closes.
+    broken = broken || !database.isOpen() || !QSqlQuery(database).exec(text);
     endTransaction();
 }
 

@@ -55,6 +55,10 @@ Sql& Sql::operator<<(SqlLiteral fragment) {
 
 void Sql::appendFragment(QStringView fragment) {
     if (m_swallowQuote) {
+        // Some statements have a blank before the closing quote.
+        while (fragment.startsWith(u' ')) {
+            fragment = fragment.mid(1);
+        }
         ORVANE_ASSERT(fragment.startsWith(u'\''));
         fragment = fragment.mid(1);
         m_swallowQuote = false;

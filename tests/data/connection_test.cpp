@@ -1,0 +1,216 @@
+#include "data/DataError.h"
+#include "data/Recordset.h"
+#include "data/Schema.h"
+#include "data/Transaction.h"
+#include "support/TestHome.h"
+
+#include <QDir>
+#include <QSqlDatabase>
+#include <unistd.h>
+
+namespace orvane {
+
+namespace {
+
+QString openFault(const QString& homeFolder, const QString& connectionString = TestHome::billing()) {
+    try {
+        DataSource(homeFolder).open(connectionString);
+    } catch (const DataError& fault) {
+        return fault.description();
+    }
+    return {};
+}
+
+void write(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+/// While it lives, files are opened with the rights of a plain user, also where the tests run as root.
+struct PlainUser {
+    uid_t before = geteuid();
+    PlainUser() { EXPECT_TRUE(before != 0 || seteuid(65534) == 0); }
+    ~PlainUser() { EXPECT_EQ(seteuid(before), 0); }
+};
+
+} // namespace
+
+TEST(EmbeddedFile, IsNeverCreatedByOpening) {
+    const TestHome home;
+    const QString path = home.folder() + QStringLiteral("/data/Dunmarch.db");
+    QFile::remove(path);
+    EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("does not exist")));
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_TRUE(openFault(home.folder(), QStringLiteral("Server=elsewhere;Database=Nothing"))
+                    .contains(QStringLiteral("does not exist")));
+}
+
+TEST(EmbeddedFile, SaysWhatIsWrongWithIt) {
+    const TestHome home;
+    const QString path = home.folder() + QStringLiteral("/data/Dunmarch.db");
+    DataSource(home.folder()).open(TestHome::billing()).run(QStringLiteral("pragma user_version = 999"));
+    EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("schema version 999")));
+    write(path, QByteArray(4096, 'x'));
+    EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("is not a database")));
+    write(path, {});
+    EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("schema version 0")));
+}
+
+TEST(EmbeddedFile, MustBeWritable) {
+    const TestHome home;
+    const QString path = home.folder() + QStringLiteral("/data/Dunmarch.db");
+    for (const QString& folder : {home.folder(), home.folder() + QStringLiteral("/data")}) {
+        QFile::setPermissions(folder, QFile::Permissions(0x5555) | QFile::WriteOwner);
+    }
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    const PlainUser user;
+    EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("read-only")))
+        << openFault(home.folder()).toStdString();
+}
+
+TEST(EmbeddedFile, IsNotCreatedOverAnother) {
+    const TestHome home;
+    DataSource source(home.folder());
+    EXPECT_THROW(source.create(TestHome::billing()), DataError);
+    EXPECT_EQ(openFault(home.folder()), QString());
+}
+
+TEST(ServerFile, NamesItsBrokenLine) {
+    const TestHome home;
+    const struct {
+        const char* text;
+        const char* fault;
+    } cases[] = {
+        {"[server SERVER]\nengine = oracle\n", "line 2"},     {"engine = sqlite\n", "line 1"},
+        {"[server SERVER]\nport = 99999\n", "is no port"},    {"[SERVER]\n", "[server NAME]"},
+        {"[server SERVER\nengine = sqlite", "[server NAME]"}, {"[server SERVER]\ncolour = red\n", "colour"},
+        {"[server SERVER]\n\n; note\nengine\n", "line 4"},
+    };
+    for (const auto& one : cases) {
+        write(home.folder() + QStringLiteral("/orvane.ini"), one.text);
+        EXPECT_TRUE(openFault(home.folder()).contains(QString::fromUtf8(one.fault))) << one.text;
+    }
+}
+
+TEST(ServerFile, SaysWhichEngineServesAServer) {
+    const TestHome home;
+    write(home.folder() + QStringLiteral("/orvane.ini"),
+          "# sites\n[server MAIN]\nengine = PostgreSQL ; the big one\nhost = db\n[Server old one]\nengine=sqlserver\n"
+          "[menu]\nmnuRct = 1\n[server here]\nfolder = other\n");
+    const DataSource source(home.folder());
+    EXPECT_EQ(source.engineOf(QStringLiteral("Server=main;Database=Dunmarch")), Engine::Postgresql);
+    EXPECT_EQ(source.engineOf(QStringLiteral("Driver={SQL Server};Server=OLD ONE;Database=Dunmarch")),
+              Engine::SqlServer);
+    EXPECT_EQ(source.engineOf(QStringLiteral("Server=unknown;Database=Dunmarch")), Engine::Sqlite);
+    EXPECT_THROW(source.engineOf(QStringLiteral("Database=Dunmarch")), DataError);
+    EXPECT_TRUE(openFault(home.folder(), QStringLiteral("Server=here;Database=Dunmarch"))
+                    .contains(QStringLiteral("/other/Dunmarch.db")));
+    QFile::remove(home.folder() + QStringLiteral("/orvane.ini"));
+    EXPECT_EQ(openFault(home.folder()), QString()) << "without the file the embedded engine serves from data/";
+}
+
+class Pool : public EngineTest {};
+
+TEST_P(Pool, GivesAnIdleConnectionAgain) {
+    const auto open = [] { return QSqlDatabase::connectionNames().size(); };
+    const qsizetype before = open();
+    for (int i = 0; i < 5; ++i) {
+        data.open(TestHome::billing()).run(QStringLiteral("select 1 as x"));
+    }
+    EXPECT_EQ(open(), before + 1);
+    {
+        Connection one = data.open(TestHome::billing());
+        Connection two = data.open(TestHome::billing());
+        EXPECT_EQ(open(), before + 2);
+    }
+    {
+        const DataSource other(home.folder());
+        EXPECT_EQ(open(), before + 2);
+    }
+    {
+        // What a handler leaves open behind a fault is rolled back before the next one gets the connection.
+        Connection left = data.open(TestHome::billing());
+        auto* transaction = new Transaction(left);
+        left.run(QStringLiteral("insert into Payments (ReceiptNo) values ('R1')"));
+        { const Connection gone = std::move(left); }
+        delete transaction;
+    }
+    EXPECT_EQ(scalar(QStringLiteral("select count(*) from Payments")), QStringLiteral("0"));
+    EXPECT_EQ(data.openTransactions(), 0);
+}
+
+TEST_P(Pool, EachWorkstationHasItsOwnClock) {
+    DataSource other(home.folder());
+    data.setServerClock(QDateTime(QDate(2026, 1, 31), QTime(23, 59, 59)));
+    other.setServerClock(QDateTime(QDate(2026, 2, 1), QTime(0, 0)));
+    Connection theirs = other.open(TestHome::billing());
+    EXPECT_EQ(scalar(QStringLiteral("select sysDT from qrySysDateTime")), QStringLiteral("2026-01-31 23:59:59"));
+    EXPECT_EQ(theirs.run(QStringLiteral("select sysDT from qrySysDateTime")).text(0),
+              QStringLiteral("2026-02-01 00:00:00"));
+    data.setServerClock(QDateTime(QDate(2026, 3, 1), QTime(8, 0)));
+    EXPECT_EQ(scalar(QStringLiteral("select sysDT from qrySysDateTime")), QStringLiteral("2026-03-01 08:00:00"));
+}
+
+TEST_P(Pool, KeepsTheEnginesWordsInAFault) {
+    billing.run(QStringLiteral("insert into hPatients (PNo, psurname) values ('P1', 'A')"));
+    try {
+        billing.run(QStringLiteral("insert into hPatients (PNo, psurname) values ('P1', 'A')"));
+        FAIL();
+    } catch (const DataError& fault) {
+        EXPECT_TRUE(fault.description().contains(QStringLiteral("unique"), Qt::CaseInsensitive)) << fault.what();
+        EXPECT_FALSE(fault.description().startsWith(QStringLiteral("ERROR")));
+        EXPECT_TRUE(fault.statement().contains(QStringLiteral("insert into hPatients")));
+    }
+}
+
+ORVANE_ON_EACH_ENGINE(Pool);
+
+/// A server that goes away, which the embedded engine cannot.
+class LostServer : public EngineTest {
+protected:
+    /// Ends every other connection to the database, as a restart of the server does.
+    void cut() {
+        Connection killer = data.open(TestHome::billing());
+        killer.run(QStringLiteral(
+            "select pg_terminate_backend(pid) from pg_stat_activity where datname=current_database() and "
+            "pid <> pg_backend_pid()"));
+    }
+};
+
+TEST_P(LostServer, AnIdleConnectionIsReplacedBeforeItIsGiven) {
+    { const Connection idle = data.open(TestHome::billing()); }
+    DataSource other(home.folder());
+    other.open(TestHome::billing())
+        .run(QStringLiteral(
+            "select pg_terminate_backend(pid) from pg_stat_activity where datname=current_database() and "
+            "pid <> pg_backend_pid()"));
+    Connection fresh = data.open(TestHome::billing());
+    EXPECT_EQ(fresh.run(QStringLiteral("select count(*) from Payments")).text(0), QStringLiteral("0"));
+}
+
+TEST_P(LostServer, AConnectionInUseIsDroppedAndNothingIsSentTwice) {
+    cut();
+    EXPECT_THROW(billing.run(QStringLiteral("insert into Payments (ReceiptNo) values ('R1')")), DataError);
+    EXPECT_THROW(billing.run(QStringLiteral("select 1 as x")), DataError);
+    billing = data.open(TestHome::billing());
+    EXPECT_EQ(scalar(QStringLiteral("select count(*) from Payments")), QStringLiteral("0"));
+}
+
+TEST_P(LostServer, ACommitThatBreaksIsUnknown) {
+    {
+        Transaction transaction(billing);
+        billing.run(QStringLiteral("insert into Payments (ReceiptNo) values ('R1')"));
+        cut();
+        EXPECT_THROW(transaction.commit(), CommitUnknown);
+        EXPECT_EQ(data.openTransactions(), 0);
+    }
+    billing = data.open(TestHome::billing());
+    EXPECT_EQ(scalar(QStringLiteral("select count(*) from Payments")), QStringLiteral("0"));
+}
+
+INSTANTIATE_TEST_SUITE_P(On, LostServer, ::testing::ValuesIn(testEngines().mid(1)),
+                         [](const auto& tested) { return engineName(tested.param); });
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(LostServer);
+
+} // namespace orvane

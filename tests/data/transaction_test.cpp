@@ -1,0 +1,192 @@
+#include "data/DataError.h"
+#include "data/Recordset.h"
+#include "data/Transaction.h"
+#include "support/TestHome.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <thread>
+
+namespace orvane {
+
+namespace {
+
+void addPayment(Connection& connection, qlonglong number) {
+    Recordset row(connection, Sql("select * from Payments where 1=2"));
+    row.addNew();
+    row.set(QStringLiteral("ReceiptNo"), QStringLiteral("OP001%1").arg(number, 7, 10, QChar(u'0')));
+    row.set(QStringLiteral("AmountPaid"), number);
+    row.update();
+}
+
+/// "Read the last number, add a row under the next one", over and over, as a workstation saves receipts.
+void saveReceipts(const QString& homeFolder, int count) {
+    DataSource workstation(homeFolder);
+    for (int i = 0; i < count; ++i) {
+        Connection connection = workstation.open(TestHome::billing());
+        Transaction transaction(connection);
+        const Recordset last(connection, Sql("select MAX(CAST(right(ReceiptNo, 7) AS BIGINT)) as ID from Payments"));
+        addPayment(connection, last.integer(QStringLiteral("ID")) + 1);
+        transaction.commit();
+    }
+}
+
+} // namespace
+
+class TransactionTest : public EngineTest {
+protected:
+    QString payments() { return scalar(QStringLiteral("select count(*) from Payments")); }
+};
+
+TEST_P(TransactionTest, KeepsWhatWasCommittedAndNothingElse) {
+    {
+        Transaction transaction(billing);
+        addPayment(billing, 1);
+        EXPECT_TRUE(billing.inTransaction());
+        EXPECT_EQ(data.openTransactions(), 1);
+        transaction.commit();
+        EXPECT_EQ(data.openTransactions(), 0);
+        transaction.rollback();
+    }
+    {
+        Transaction transaction(billing);
+        addPayment(billing, 2);
+    }
+    {
+        Transaction transaction(billing);
+        addPayment(billing, 3);
+        transaction.rollback();
+        EXPECT_FALSE(billing.inTransaction());
+    }
+    try {
+        Transaction transaction(billing);
+        addPayment(billing, 4);
+        throw std::runtime_error("a fault of the screen");
+    } catch (const std::runtime_error&) {
+    }
+    EXPECT_EQ(payments(), QStringLiteral("1"));
+    EXPECT_EQ(data.openTransactions(), 0);
+}
+
+TEST_P(TransactionTest, AFailedStatementPoisonsIt) {
+    const char* const failing[] = {"insert into Payments (NoSuchColumn) values (1)", "select * from NoSuchTable",
+                                   "insert into hPatients (PNo, psurname) values ('P1', null)"};
+    for (const char* statement : failing) {
+        Transaction transaction(billing);
+        addPayment(billing, 1);
+        EXPECT_THROW(billing.run(QString::fromUtf8(statement)), DataError) << statement;
+        EXPECT_THROW(addPayment(billing, 2), DataError) << "a later statement";
+        EXPECT_THROW(billing.run(QStringLiteral("select 1 as x")), DataError) << "a later question";
+        EXPECT_THROW(transaction.commit(), DataError);
+        EXPECT_FALSE(billing.inTransaction());
+        EXPECT_EQ(payments(), QStringLiteral("0")) << statement;
+    }
+}
+
+TEST_P(TransactionTest, ALostUpdateRollsAllBack) {
+    addPayment(billing, 1);
+    Recordset row(billing, Sql("select * from Payments"));
+    billing.run(QStringLiteral("update Payments set AmountPaid=77"));
+    Transaction transaction(billing);
+    addPayment(billing, 2);
+    row.set(QStringLiteral("AmountPaid"), 5);
+    EXPECT_THROW(row.update(), DataError);
+    EXPECT_THROW(transaction.commit(), DataError);
+    EXPECT_EQ(scalar(QStringLiteral("select sum(AmountPaid) from Payments")), QStringLiteral("77"));
+}
+
+TEST_P(TransactionTest, AFaultAtAnyStepSavesNothing) {
+    for (const char* step : {"begin transaction", "insert into [Payments]", "update Payments", "commit transaction"}) {
+        data.setStatementHook([step](const QString& tsql) {
+            if (tsql.startsWith(QString::fromUtf8(step))) {
+                throw DataError(QStringLiteral("broken here"));
+            }
+        });
+        const auto save = [this] {
+            Transaction transaction(billing);
+            addPayment(billing, 1);
+            billing.execute(Sql("update Payments set isPost=1"));
+            transaction.commit();
+        };
+        EXPECT_THROW(save(), DataError) << step;
+        data.setStatementHook({});
+        EXPECT_EQ(payments(), QStringLiteral("0")) << step;
+        EXPECT_EQ(data.openTransactions(), 0) << step;
+    }
+    data.setStatementHook([](const QString& tsql) {
+        if (tsql == QStringLiteral("transaction committed")) {
+            throw DataError(QStringLiteral("broken here"));
+        }
+    });
+    Transaction transaction(billing);
+    addPayment(billing, 1);
+    EXPECT_THROW(transaction.commit(), CommitUnknown);
+    EXPECT_EQ(payments(), QStringLiteral("1"));
+}
+
+TEST_P(TransactionTest, NeverWaitsForItsOwnWorkstation) {
+    Connection other = data.open(TestHome::billing());
+    Transaction transaction(billing);
+    addPayment(billing, 1);
+    EXPECT_THROW(Transaction second(other), DataError);
+    if (GetParam() == Engine::Sqlite) {
+        EXPECT_THROW(addPayment(other, 2), DataError);
+    }
+    EXPECT_EQ(other.run(QStringLiteral("select count(*) from Payments")).text(0), QStringLiteral("0"))
+        << "sees what is committed";
+    // The other database has a gate of its own.
+    Connection accounting = data.open(TestHome::accounting());
+    Transaction posting(accounting);
+    posting.commit();
+    transaction.commit();
+    EXPECT_EQ(payments(), QStringLiteral("1"));
+}
+
+TEST_P(TransactionTest, TheGateKeepsWorkstationsApart) {
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 3; ++i) {
+        threads.emplace_back([this] { EXPECT_NO_THROW(saveReceipts(home.folder(), 20)); });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    // Other processes, as on other machines.
+    std::vector<std::unique_ptr<QProcess>> processes;
+    for (int i = 0; i < 3; ++i) {
+        auto process = std::make_unique<QProcess>();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("ORVANE_TEST_GATE"), home.folder());
+        process->setProcessEnvironment(environment);
+        process->start(QCoreApplication::applicationFilePath(), {QStringLiteral("--gtest_filter=GateWorker.*")});
+        processes.push_back(std::move(process));
+    }
+    for (const auto& process : processes) {
+        ASSERT_TRUE(process->waitForFinished(60000));
+        EXPECT_EQ(process->exitCode(), 0) << process->readAllStandardOutput().toStdString();
+    }
+    EXPECT_EQ(payments(), QStringLiteral("120"));
+    EXPECT_EQ(scalar(QStringLiteral("select count(*) from (select distinct ReceiptNo from Payments) t")),
+              QStringLiteral("120"));
+    EXPECT_EQ(scalar(QStringLiteral("select max(AmountPaid) from Payments")), QStringLiteral("120"));
+}
+
+ORVANE_ON_EACH_ENGINE(TransactionTest);
+
+/// The part of the other processes in the test above.
+TEST(GateWorker, SavesReceipts) {
+    if (!qEnvironmentVariableIsSet("ORVANE_TEST_GATE")) {
+        GTEST_SKIP() << "runs in the processes of TheGateKeepsWorkstationsApart";
+    }
+    saveReceipts(qEnvironmentVariable("ORVANE_TEST_GATE"), 20);
+}
+
+using TransactionDeathTest = TransactionTest;
+
+TEST_P(TransactionDeathTest, NestingIsAProgrammersError) {
+    Transaction transaction(billing);
+    EXPECT_DEATH(Transaction inner(billing), "assertion failed");
+}
+
+INSTANTIATE_TEST_SUITE_P(On, TransactionDeathTest, ::testing::Values(Engine::Sqlite));
+
+} // namespace orvane
