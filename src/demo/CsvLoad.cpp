@@ -124,6 +124,17 @@ void addRow(Recordset& rows, const QVector<const Column*>& columns, const CsvRec
     }
 }
 
+/// A key that the file gives is not counted by the server's own numbering, which must go on behind the highest one.
+void continueNumbering(Connection& connection, const Table& table, const QVector<const Column*>& columns) {
+    if (connection.engine() != Engine::Postgresql)
+        return;
+    for (const Column* column : columns) {
+        if (column->identity)
+            connection.run(QStringLiteral("select setval(pg_get_serial_sequence('%1','%2'), (select max(%2) from %1))")
+                               .arg(table.name.toLower(), column->name.toLower()));
+    }
+}
+
 } // namespace
 
 int loadCsv(Connection& connection, const Table& table, const QString& fileName, const QByteArray& content) {
@@ -138,6 +149,8 @@ int loadCsv(Connection& connection, const Table& table, const QString& fileName,
     }
     if (reader.fault())
         refuse(fileName, *reader.fault(), columns);
+    if (count > 0)
+        continueNumbering(connection, table, columns);
     transaction.commit();
     return count;
 }

@@ -90,7 +90,7 @@ void DemoBilling::takeReceipt(Hand& hand) {
     pay(hand, payable);
 }
 
-/// In full in cash, mostly; else by card or transfer, over two ways, or in part.
+/// In full in cash, mostly; else by card or transfer, over two ways, in part, or rounded up.
 void DemoBilling::pay(Hand& hand, double payable) {
     const int way = m_hospital.random.below(100);
     if (way < 60) {
@@ -105,8 +105,10 @@ void DemoBilling::pay(Hand& hand, double payable) {
         hand.chooseContaining(QStringLiteral("cboBank(1)"), QStringLiteral("[1220030]"));
         hand.type(QStringLiteral("txtAmt(0)"), typed(cash));
         hand.type(QStringLiteral("txtAmt(1)"), typed(payable - cash));
-    } else {
+    } else if (way < 97) {
         hand.type(QStringLiteral("txtAmt(0)"), typed(std::max(100.0, std::floor(payable / 300) * 100)));
+    } else {
+        hand.type(QStringLiteral("txtAmt(0)"), typed(std::ceil(payable / 1000) * 1000));
     }
 }
 

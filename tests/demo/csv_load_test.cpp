@@ -79,6 +79,13 @@ TEST_P(CsvLoad, putsTheLineBeforeTheEnginesOwnRefusal) {
     EXPECT_EQ(scalar("select count(*) from hPatients"), "0");
 }
 
+TEST_P(CsvLoad, goesOnNumberingBehindTheLoadedKeys) {
+    const Table& items = *Catalog::instance().table(QStringLiteral("BillAccum"));
+    loadCsv(billing, items, QStringLiteral("items.csv"), "SNo,drgName\n7,SEVENTH\n3,THIRD\n");
+    billing.execute(Sql("insert into BillAccum (drgName) values ('NEXT')"));
+    EXPECT_EQ(scalar("select SNo from BillAccum where drgName='NEXT'"), "8");
+}
+
 ORVANE_ON_EACH_ENGINE(CsvLoad);
 
 } // namespace
