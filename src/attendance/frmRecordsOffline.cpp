@@ -25,13 +25,14 @@ frmRecordsOffline::frmRecordsOffline(Program& owner) : Screen(owner, "frmRecords
 
 Layout frmRecordsOffline::layout() const {
     using namespace orvane::layout;
-    return column({row({field("Search by Name", txtName, 28), cell(cmdOK), cell(lblFound, 8), stretch()}),
-                   row({growing(column({field("Patient", cboVehNo, 40), field("Clinic", cboType),
-                                        field("Purpose of Visit", cboClient), field("Records Officer", cboAppr)})),
+    return column({row({field("Search by Name", txtName, 28), cell(cmdOK), cell(lblFound, 8)}),
+                   row({column({field("Patient", cboVehNo, 46), field("Clinic", cboType, 46),
+                                field("Purpose of Visit", cboClient, 46), field("Records Officer", cboAppr, 46),
+                                field("Remarks", txtRem, 46)}),
                         column({field("Attendance Date", dtDate), field("Next Appointment", dtNext),
-                                field("Billing Category", cboBilling), field("On Referral", cboRef)}),
+                                field("Billing Category", cboBilling), field("On Referral", cboRef), cell(Label5)}),
                         cell(piX)}),
-                   row({field("Remarks", txtRem, 40), cell(Label5), cell(chkCon)}),
+                   cell(chkCon),
                    facts({{"Consult No", &lblBill},
                           {"Patient No", &lblNo},
                           {"Old No", &lblOld},

@@ -52,21 +52,21 @@ Layout frmBillPat::layout() const {
                 {"Company", &lblCoy},
                 {"Category", &lblClient},
                 {"Fee for Service", &lblFFS}}),
-         row({growing(group("Treatment Plan", {growing(cell(txtPresc, 44))})),
+         row({growing(group("Treatment Plan", {growing(cell(txtPresc, 64))})),
               column(
                   {group("New Item",
                          {row({column({field("Date", dtDate), field("Category", cboCat),
-                                       field("Drug/Service", cboDrug, 34), field("BillTo", cboPat),
-                                       field("Revenue Type", cboRev)}),
+                                       field("Drug/Service", cboDrug, 36), field("BillTo", cboPat, 36),
+                                       field("Revenue Type", cboRev, 36)}),
                                column({field("Price", txtPrice), field("Quantity", txtQty), field("Sub Total", txtSub),
                                        field("Capitated", cboFFS2), field("In Stock", lblStock)})}),
                           row({field("Item Category", lblCat), stretch(), cell(cmdAdd)}), cell(lblInfo)},
                          &fraDrug),
                    row({field("Fee for Service", cboFFS), cell(cmdUpd), stretch()})})}),
-         growing(cell(OrderGridDrug)),
-         row({cell(Label5), stretch(),
-              card({field("Amount Generated", lblGen), field("Amount Billed", lblBilled), field("Amount Paid", lblPaid),
-                    large("Total", lblTotal)})}),
+         growing(row({growing(cell(OrderGridDrug)),
+                      column({card({field("Amount Generated", lblGen), field("Amount Billed", lblBilled),
+                                    field("Amount Paid", lblPaid), large("Total", lblTotal)}),
+                              cell(Label5)})})),
          buttons({&cmdRefresh, &cmdCancel}, {&CancelButton, &OKButton})});
 }
 

@@ -138,7 +138,7 @@ QWidget* LayoutBuilder::control(const Layout& item, Place place) {
             widget->setMinimumWidth(narrowestField);
     }
     if (isMultiline(*item.control)) {
-        widget->setMinimumSize(narrowestField, 48);
+        widget->setMinimumSize(std::max(narrowestField, look::charactersWidth(*widget, item.characters)), 48);
         widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     }
     if (isList(*item.control))

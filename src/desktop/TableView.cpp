@@ -44,6 +44,7 @@ void TableView::setTable(TableModel* model) {
         horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
         setSortingEnabled(true);
     }
+    hideColumns();
     sizeColumns();
 }
 
@@ -63,6 +64,7 @@ void TableView::reload() {
         if (m_table->canSort())
             horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     }
+    hideColumns();
     if (!m_widthsByHand)
         sizeColumns();
     const bool sameList = m_table->columnCount() == columns && std::abs(m_table->rowCount() - rows) <= 1;
@@ -150,12 +152,17 @@ int TableView::contentWidth(int column) const {
     return std::min(width, widestColumn);
 }
 
+/// The header tells of a hidden column as of one that was dragged to nothing.
+void TableView::hideColumns() {
+    const QScopedValueRollback<bool> sizing(m_sizing, true);
+    for (int column = 0; column < m_table->columnCount(); ++column)
+        setColumnHidden(column, m_table->isColumnHidden(column));
+}
+
 void TableView::sizeColumns() {
     m_widths.clear();
-    for (int column = 0; column < m_table->columnCount(); ++column) {
-        setColumnHidden(column, m_table->isColumnHidden(column));
+    for (int column = 0; column < m_table->columnCount(); ++column)
         m_widths << (isColumnHidden(column) ? 0 : contentWidth(column));
-    }
     shareSlack();
 }
 

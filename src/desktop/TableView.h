@@ -30,6 +30,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void hideColumns();
     void sizeColumns();
     void shareSlack();
     int contentWidth(int column) const;
