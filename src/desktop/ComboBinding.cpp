@@ -4,7 +4,6 @@
 #include "desktop/ListModels.h"
 #include "desktop/Look.h"
 
-#include <QAbstractProxyModel>
 #include <QComboBox>
 #include <QCompleter>
 #include <QKeyEvent>
@@ -51,12 +50,8 @@ ComboBinding::ComboBinding(FormView& view, ComboBox& box, QWidget* parent, int c
 
     connect(m_combo->lineEdit(), &QLineEdit::textEdited, this, &ComboBinding::typed);
     connect(m_combo->lineEdit(), &QLineEdit::editingFinished, this, &ComboBinding::finishSearch);
+    // Raised for a completion too, with the entry that it stands for.
     connect(m_combo, &QComboBox::activated, this, &ComboBinding::picked);
-    connect(completer, qOverload<const QModelIndex&>(&QCompleter::activated), this,
-            [this, completer](const QModelIndex& match) {
-                const auto* proxy = qobject_cast<const QAbstractProxyModel*>(completer->completionModel());
-                picked(proxy ? proxy->mapToSource(match).row() : match.row());
-            });
 }
 
 QWidget* ComboBinding::editor() const {

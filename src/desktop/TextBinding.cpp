@@ -47,7 +47,8 @@ void LineBinding::refresh() {
     m_line->setFocusPolicy(flat ? Qt::NoFocus : Qt::StrongFocus);
     // A limit below what code has put in would cut the text that is there.
     const int limit = m_box->maxLength() > 0 ? std::max(m_box->maxLength(), int(m_box->text().size())) : 32767;
-    m_line->setMaxLength(limit);
+    if (m_line->maxLength() != limit) // setting it moves the cursor
+        m_line->setMaxLength(limit);
     if (m_line->text() != m_box->text()) {
         const int cursor = m_line->cursorPosition();
         const bool typing = m_line->hasFocus() && m_line->text().size() == m_box->text().size();

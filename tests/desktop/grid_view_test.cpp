@@ -1,0 +1,202 @@
+// Grids on the screen: sorting, choosing and keeping the place.
+#include "desktop/GridBinding.h"
+#include "desktop/GridModel.h"
+#include "desktop/TableView.h"
+#include "desktop/ViewTest.h"
+#include "support/TestHome.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+
+namespace orvane {
+namespace {
+
+class GridViewTest : public ViewTest {
+protected:
+    void SetUp() override {
+        billing.run(QStringLiteral(
+            "create table Lines (SNo int, Service varchar(50), Amount float, Paid varchar(10), Secret varchar(9))"));
+        const struct {
+            const char* service;
+            const char* amount;
+            const char* paid;
+        } rows[] = {{"dressing", "900", "'2026-03-14'"},
+                    {"Consultation", "7500", "'2025-12-31'"},
+                    {"X-RAY", "null", "null"},
+                    {"drip", "900", "'2026-01-05'"},
+                    {"ADMISSION", "-50.5", "'2024-02-29'"}};
+        int number = 0;
+        for (const auto& row : rows)
+            billing.run(QStringLiteral("insert into Lines values (%1, '%2', %3, %4, 'x')")
+                            .arg(++number)
+                            .arg(QLatin1String(row.service), QLatin1String(row.amount), QLatin1String(row.paid)));
+        form.grdRows.hide({QStringLiteral("secret")});
+        form.grdRows.setFormat(QStringLiteral("Amount"), QStringLiteral("#,###.00"));
+        form.grdRows.load(lines());
+        ViewTest::SetUp();
+    }
+    Recordset lines(int times = 1) {
+        QString text = QStringLiteral("select SNo, Service, Amount, Paid, Secret from Lines");
+        for (int i = 1; i < times; ++i)
+            text += QStringLiteral(" union all select SNo + %1, Service, Amount, Paid, Secret from Lines").arg(5 * i);
+        return billing.run(text + QStringLiteral(" order by SNo"));
+    }
+    TableView* table() { return static_cast<GridBinding*>(window->view()->bindingOf(form.grdRows))->table(); }
+    QStringList column(int number) {
+        QStringList texts;
+        for (int row = 0; row < table()->model()->rowCount(); ++row)
+            texts << table()->model()->index(row, number).data().toString();
+        return texts;
+    }
+    void clickHead(int number) {
+        QHeaderView* head = table()->horizontalHeader();
+        QTest::mouseClick(head->viewport(), Qt::LeftButton, {},
+                          QPoint(head->sectionViewportPosition(number) + 5, head->height() / 2));
+        settleEvents();
+    }
+    void clickRow(int row) {
+        QTest::mouseClick(table()->viewport(), Qt::LeftButton, {},
+                          table()->visualRect(table()->model()->index(row, 0)).center());
+        settleEvents();
+    }
+    int shownRow() { return table()->currentIndex().row(); }
+
+    TestHome home;
+    DataSource data{home.folder()};
+    Connection billing = data.open(TestHome::billing());
+};
+
+TEST_F(GridViewTest, ShowsTheRowsAsTheyAreReadByPeople) {
+    EXPECT_EQ(column(2), (QStringList{"900.00", "7,500.00", "", "900.00", "-50.50"}));
+    EXPECT_EQ(column(3).first(), "14/03/2026");
+    EXPECT_TRUE(table()->isColumnHidden(4));
+    EXPECT_TRUE(table()->model()->index(0, 2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+    EXPECT_FALSE(table()->model()->index(0, 1).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+    EXPECT_EQ(shownRow(), 0);
+    int wide = 0;
+    for (int i = 0; i < 4; ++i)
+        wide += table()->columnWidth(i);
+    EXPECT_EQ(wide, table()->viewport()->width()) << "the columns fill the room";
+}
+
+TEST_F(GridViewTest, AClickOnAHeadSortsAndKeepsTheCurrentRow) {
+    form.grdRows.selectRow(3);
+    const struct {
+        int head;
+        QStringList ascending, descending;
+    } cases[] = {{1, {"5", "2", "1", "4", "3"}, {"3", "4", "1", "2", "5"}},
+                 {2, {"3", "5", "1", "4", "2"}, {"2", "1", "4", "5", "3"}},
+                 {3, {"3", "5", "2", "4", "1"}, {"1", "4", "2", "5", "3"}}};
+    for (const auto& test : cases) {
+        clickHead(test.head);
+        EXPECT_EQ(column(0), test.ascending) << test.head;
+        clickHead(test.head);
+        EXPECT_EQ(column(0), test.descending) << test.head << ": equal ones keep their order";
+        EXPECT_EQ(form.grdRows.currentRow(), 3);
+        EXPECT_EQ(table()->model()->index(shownRow(), 0).data().toString(), "4");
+    }
+    form.takeEvents();
+    clickRow(0);
+    EXPECT_EQ(form.grdRows.currentRow(), 0) << "the view's first row is the query's first one in this order";
+    clickRow(4);
+    EXPECT_EQ(form.grdRows.number(QStringLiteral("SNo")), 3);
+    EXPECT_EQ(events(), (QStringList{"grdRows Click", "grdRows Click"}));
+}
+
+TEST_F(GridViewTest, KeysAndMouseChooseOnceEach) {
+    table()->setFocus();
+    events();
+    QTest::keyClick(table(), Qt::Key_Down);
+    EXPECT_EQ(form.grdRows.currentRow(), 1);
+    QTest::keyClick(table(), Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(form.grdRows.currentRow(), 4);
+    QTest::keyClick(table(), Qt::Key_Space);
+    EXPECT_EQ(events(), (QStringList{"grdRows Click", "grdRows Click", "grdRows Click"}));
+    clickRow(2);
+    EXPECT_EQ(events(), QStringList{"grdRows Click"});
+    QTest::keyClick(table(), Qt::Key_Return);
+    EXPECT_EQ(events(), QStringList{"grdRows DblClick"});
+    form.grdRows.onDblClick = {};
+    QTest::keyClick(table(), Qt::Key_Return);
+    EXPECT_EQ(events(), QStringList{"cmdSave Click"}) << "where a row does not open, Enter is the default button's";
+}
+
+TEST_F(GridViewTest, ADoubleClickOpensTheRowUnderIt) {
+    const QPoint place = table()->visualRect(table()->model()->index(3, 1)).center();
+    QTest::mouseDClick(table()->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(form.grdRows.currentRow(), 3);
+    const QStringList seen = events();
+    EXPECT_EQ(seen.count("grdRows DblClick"), 1);
+    EXPECT_EQ(seen.count("grdRows Click"), 1);
+}
+
+TEST_F(GridViewTest, CodeChoosesWithoutAClickOfTheUser) {
+    form.grdRows.selectRow(2);
+    EXPECT_EQ(events(), QStringList{"grdRows Click"}) << "its own";
+    EXPECT_EQ(shownRow(), 2);
+    form.grdRows.selectRow(-1);
+    settleEvents();
+    EXPECT_FALSE(table()->currentIndex().isValid());
+    EXPECT_TRUE(table()->selectionModel()->selectedRows().isEmpty());
+}
+
+TEST_F(GridViewTest, ARefreshKeepsThePlaceAndAnotherListStartsAtItsTop) {
+    form.grdRows.load(lines(20));
+    settleEvents();
+    table()->verticalScrollBar()->setValue(50);
+    form.grdRows.load(lines(20));
+    settleEvents();
+    EXPECT_EQ(table()->verticalScrollBar()->value(), 50);
+    form.grdRows.load(lines(40));
+    settleEvents();
+    EXPECT_EQ(table()->verticalScrollBar()->value(), 0);
+    form.grdRows.clear();
+    settleEvents();
+    EXPECT_EQ(table()->model()->rowCount(), 0);
+    EXPECT_FALSE(table()->currentIndex().isValid());
+}
+
+TEST_F(GridViewTest, RowsThatGoWhileTheyArePaintedAreNoFault) {
+    form.grdRows.load(lines(20));
+    settleEvents();
+    clickHead(1);
+    form.grdRows.load(billing.run(QStringLiteral("select SNo from Lines where SNo < 3")));
+    table()->viewport()->repaint();
+    EXPECT_FALSE(table()->model()->index(90, 3).data().isValid());
+    settleEvents();
+    EXPECT_EQ(table()->model()->rowCount(), 2);
+    EXPECT_EQ(column(0), (QStringList{"1", "2"})) << "other columns: the sort is gone";
+}
+
+TEST_F(GridViewTest, WhoWalksThroughTheRowsIsNotMovedByTheView) {
+    Recordset rows = lines();
+    form.grdRows.load(rows);
+    int seen = 0;
+    for (rows.moveFirst(); !rows.eof() && seen < 100; rows.moveNext(), ++seen)
+        form.grdRows.cellText(0, 1);
+    EXPECT_EQ(seen, 5);
+}
+
+TEST_F(GridViewTest, AnEntryGridShowsItsCellsAndItsEmptyRow) {
+    form.tabs.setTab(1);
+    form.grdEntry.setMoney({1});
+    form.grdEntry.setCell(1, 0, QStringLiteral("CONSULTATION"));
+    form.grdEntry.setCell(1, 1, QStringLiteral("7,500.00"));
+    form.grdEntry.addRow();
+    settleEvents();
+    auto* entries = static_cast<GridBinding*>(window->view()->bindingOf(form.grdEntry))->table();
+    EXPECT_EQ(entries->model()->headerData(0, Qt::Horizontal).toString(), "Item");
+    ASSERT_EQ(entries->model()->rowCount(), 2);
+    EXPECT_EQ(entries->model()->index(0, 1).data().toString(), "7,500.00");
+    form.takeEvents();
+    QTest::mouseClick(entries->viewport(), Qt::LeftButton, {},
+                      entries->visualRect(entries->model()->index(0, 0)).center());
+    EXPECT_EQ(form.grdEntry.currentRow(), 1) << "the head is row 0";
+    EXPECT_TRUE(events().contains("grdEntry Click"));
+    form.grdEntry.removeRow(1);
+    settleEvents();
+    EXPECT_EQ(entries->model()->rowCount(), 1);
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,11 @@
+#include "desktop/Look.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    QApplication application(argc, argv);
+    orvane::look::apply(application);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,135 @@
+// Documents: the same on the screen, in a PDF and on paper.
+#include "desktop/PagePainter.h"
+#include "desktop/PagePreview.h"
+#include "desktop/ViewTest.h"
+#include "desktop/Windows.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+namespace orvane {
+namespace {
+
+class DocumentForm : public ShownForm {
+public:
+    using ShownForm::ShownForm;
+    std::optional<Page> page() const override {
+        Page page;
+        page.widthMm = 148;
+        page.heightMm = 210;
+        page.texts << PageText{10, 10, 60, 0, txtName.text(), 10, PageAlign::Left, false, false};
+        page.texts << PageText{80, 10, 58, 0, QStringLiteral("7,500.00"), 12, PageAlign::Right, true, false};
+        page.lines << PageLine{10, 100, 138, 100, 0.5, true};
+        return page;
+    }
+};
+
+/// Where a painted page is dark, in its own pixels.
+QRect inked(const QImage& image, QRect area) {
+    QRect found;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            if (qGray(image.pixel(x, y)) < 128)
+                found |= QRect(x, y, 1, 1);
+    return found;
+}
+
+QImage paintedAt(const Page& page, double dotsPerMm) {
+    QImage image(int(page.widthMm * dotsPerMm), int(page.heightMm * dotsPerMm), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintPage(painter, page, QRectF(image.rect()));
+    return image;
+}
+
+TEST(PageTest, TheSameTextTakesTheSameRoomOnEveryDevice) {
+    Page page;
+    page.texts << PageText{
+        20,
+        20,
+        60,
+        0,
+        QStringLiteral("SEVEN THOUSAND, FIVE HUNDRED NAIRA AND FIFTY KOBO ONLY, received with thanks"),
+        11,
+        PageAlign::Left,
+        false,
+        true};
+    QVector<QRectF> taken;
+    for (const double dots : {4.0, 12.0}) {
+        const QImage image = paintedAt(page, dots);
+        const QRect ink = inked(image, image.rect());
+        taken << QRectF(ink.x() / dots, ink.y() / dots, ink.width() / dots, ink.height() / dots);
+    }
+    for (const QRectF& ink : taken) {
+        EXPECT_NEAR(ink.height(), taken.first().height(), 0.6) << "as many lines";
+        EXPECT_NEAR(ink.width(), taken.first().width(), 0.6);
+        EXPECT_GE(ink.left(), 19.5);
+        EXPECT_LE(ink.right(), 80.5);
+        EXPECT_GT(ink.height(), 8) << "it goes on in further lines";
+    }
+}
+
+TEST(PageTest, ATextTooWideIsShownSmallerAndNeverCutOff) {
+    Page narrow, wide;
+    narrow.texts << PageText{50, 50, 20, 0, QStringLiteral("123,456,789,012.50"), 12, PageAlign::Right, true, false};
+    wide.texts << PageText{50, 50, 120, 0, QStringLiteral("123,456,789,012.50"), 12, PageAlign::Left, true, false};
+    const QImage image = paintedAt(narrow, 8);
+    const QRect ink = inked(image, image.rect());
+    EXPECT_GE(ink.left(), 49.5 * 8);
+    EXPECT_LE(ink.right(), 70.5 * 8);
+    EXPECT_GT(inked(paintedAt(wide, 8), image.rect()).width(), ink.width());
+}
+
+TEST(PageTest, ThePdfHasThePageSizeAndItsWords) {
+    TestUi ui;
+    DocumentForm form(ui);
+    form.txtName.setText(QStringLiteral("ADE"));
+    QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("page.pdf"));
+    ASSERT_TRUE(renderPdf(*form.page(), file));
+    QFile pdf(file);
+    ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+    const QString content = QString::fromLatin1(pdf.readAll());
+    const QRegularExpressionMatch box =
+        QRegularExpression(QStringLiteral("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]")).match(content);
+    ASSERT_TRUE(box.hasMatch());
+    EXPECT_NEAR(box.captured(1).toDouble(), 148 / 25.4 * 72, 1.5);
+    EXPECT_NEAR(box.captured(2).toDouble(), 210 / 25.4 * 72, 1.5);
+    EXPECT_EQ(content.count(QStringLiteral("/Type /Page\n")), 1) << "one sheet";
+    EXPECT_FALSE(renderPdf(*form.page(), folder.filePath(QStringLiteral("nowhere/page.pdf"))));
+}
+
+TEST(PageTest, ADocumentShowsItsPageAndPrintsItAsItStands) {
+    TestUi ui;
+    DocumentForm form(ui, QStringLiteral("frmDocument"));
+    QTemporaryDir folder;
+    FormWindow window(form, ViewSetting{});
+    window.resize(700, 900);
+    window.show();
+    auto* preview = window.findChild<PagePreview*>();
+    ASSERT_TRUE(preview);
+    EXPECT_TRUE(window.view()->widgetOf(form.cmdSave)) << "its buttons are there";
+    EXPECT_FALSE(window.view()->widgetOf(form.txtName)) << "its page stands in for its fields";
+    const QImage before = preview->grab().toImage();
+    form.txtName.setText(QStringLiteral("ADEBAYO"));
+    QApplication::processEvents();
+    EXPECT_NE(preview->grab().toImage(), before) << "the preview follows the form";
+
+    Windows windows(ui);
+    windows.setPrintFolder(folder.path());
+    windows.print(form);
+    windows.print(form);
+    EXPECT_EQ(QDir(folder.path()).entryList({QStringLiteral("*.pdf")}, QDir::Files, QDir::Name),
+              (QStringList{"frmDocument-1.pdf", "frmDocument-2.pdf"}));
+    windows.setPrintFolder(folder.filePath(QStringLiteral("nowhere")));
+    windows.print(form);
+    EXPECT_EQ(ui.takeBoxes().size(), 1) << "a print that fails says so";
+}
+
+} // namespace
+} // namespace orvane
