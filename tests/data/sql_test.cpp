@@ -21,6 +21,8 @@ TEST(SqlBuilder, PutsValuesIntoTheStatement) {
     EXPECT_EQ(
         (Sql("update T set a='") << QString() << "', b='" << QDate() << "' where c='" << QDateTime() << "'").text(),
         QStringLiteral("update T set a='', b= null  where c= null "));
+    EXPECT_EQ((Sql("d between '") << QDate() << "' and '" << QDate() << " ' and a='x'").text(),
+              QStringLiteral("d between  null  and  null  and a='x'"));
     EXPECT_EQ((Sql("select ") << Sql("a, b") << " from T").text(), QStringLiteral("select a, b from T"));
     // A negative amount behind a minus sign must not begin a comment.
     EXPECT_EQ((Sql("set debt=debt-") << -5.5 << ",n=n-" << -1).text(), QStringLiteral("set debt=debt- -5.5,n=n- -1"));
