@@ -106,7 +106,7 @@ private:
     QString sRetainCode;
     QString sBillMode;  ///< "FFS", "CAP" or "BIL"
     double total = 0;   ///< naira, of the lines not yet saved
-    double dMarkUp = 0; ///< pvalue of the client category
+    double dMarkUp = 0; ///< pvalue of the client category; no item is priced from it
 };
 
 } // namespace orvane
