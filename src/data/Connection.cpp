@@ -106,6 +106,10 @@ Engine DataSource::engineOf(const QString& connectionString) const {
     return d->servers.entry(parseConnectionString(connectionString).server).engine;
 }
 
+void DataSource::setDisposable() {
+    d->disposable = true;
+}
+
 void DataSource::setServerClock(std::optional<QDateTime> at) {
     d->setClock(std::move(at));
 }

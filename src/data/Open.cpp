@@ -106,7 +106,8 @@ void openSqlite(const Physical& physical, const ServerEntry& entry, const Connec
                             .arg(version)
                             .arg(kSchemaVersion));
     }
-    for (const char* pragma : {"pragma journal_mode=wal", "pragma synchronous=full", "pragma foreign_keys=on"}) {
+    const char* waiting = physical->source->disposable ? "pragma synchronous=off" : "pragma synchronous=full";
+    for (const char* pragma : {"pragma journal_mode=wal", waiting, "pragma foreign_keys=on"}) {
         physical->sendNative(QLatin1StringView(pragma));
     }
 }

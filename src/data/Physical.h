@@ -56,6 +56,7 @@ struct DataSource::Private : std::enable_shared_from_this<DataSource::Private> {
     std::atomic<int> openTransactions = 0;
     std::atomic<qint64> statementsSent = 0;
     std::atomic<int> clockVersion = 0;
+    std::atomic<bool> disposable = false; ///< commits do not wait for the disk
 
     std::shared_ptr<PhysicalConnection> take(const QString& connectionString);
     void giveBack(std::shared_ptr<PhysicalConnection> physical) noexcept;

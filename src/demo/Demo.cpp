@@ -24,6 +24,7 @@ void makeMasterData(DemoHospital& hospital) {
     Program program(hospital.options.home, ui);
     if (!prepareServer(program))
         throw DataError(ui.takeBoxes().join(QLatin1Char('\n')));
+    program.data().setDisposable();
     program.data().setServerClock(hospital.options.until.addDays(-hospital.options.days).startOfDay());
     Connection billing = program.openBilling();
     refuseFilledHospital(billing);

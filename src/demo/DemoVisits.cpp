@@ -63,6 +63,7 @@ public:
           m_billing(m_program, m_ui, hospital), m_user(billingUsers.at(number % int(billingUsers.size()))) {}
 
     void run() {
+        m_program.data().setDisposable();
         setTime(opening);
         registerScreens(m_program);
         if (!Main(m_program, m_user))
