@@ -129,6 +129,9 @@ void frmBillDiscount::save(double amount) {
     line.set(QStringLiteral("Qty"), 1);
     line.set(QStringLiteral("SubTotal"), amount);
     line.update();
+    // There is no item whose number the line could bear: it takes its own key below zero, which no item has.
+    connection.execute(Sql("update BillingDetails set SNo=0-detID where SNo is null and billNo='")
+                       << lblBill.text() << "'");
     if (isDiscount()) {
         Recordset discount(connection, Sql("select * from billDiscounts where 1=2"));
         discount.addNew();
