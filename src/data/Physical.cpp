@@ -73,14 +73,15 @@ QSqlQuery PhysicalConnection::send(const QString& tsql, const QVariantList& boun
         throw DataError(QStringLiteral("An earlier statement of this transaction failed. Nothing of it is saved."),
                         tsql);
     }
+    QString text;
     try {
         source->callHook(tsql, bound);
         tellClock();
+        text = translate(tsql, engine);
     } catch (...) {
         poisoned = inTransaction;
         throw;
     }
-    const QString text = translate(tsql, engine);
     refuseSelfLock(text);
     QSqlQuery query(database);
     query.setForwardOnly(true);

@@ -70,7 +70,7 @@ TEST_P(TransactionTest, KeepsWhatWasCommittedAndNothingElse) {
 
 TEST_P(TransactionTest, AFailedStatementPoisonsIt) {
     const char* const failing[] = {"insert into Payments (NoSuchColumn) values (1)", "select * from NoSuchTable",
-                                   "insert into hPatients (PNo, psurname) values ('P1', null)"};
+                                   "insert into hPatients (PNo, psurname) values ('P1', null)", "select 'not ended"};
     for (const char* statement : failing) {
         Transaction transaction(billing);
         addPayment(billing, 1);
