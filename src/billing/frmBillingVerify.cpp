@@ -46,9 +46,8 @@ frmBillingVerify::PayWay::PayWay(Form& form, int index, const QString& caption)
 frmBillingVerify::frmBillingVerify(Program& owner) : Screen(owner, "frmBillingVerify", "Collate/Verfy a Bill") {
     for (TextBox* amount : {&txtEmp, &txtHt, &txtProf, &txtNHIS})
         amount->numeric();
-    for (TextBox* figure : {&txtEmp, &txtDuty, &txtWord})
+    for (TextBox* figure : {&txtEmp, &txtWord})
         figure->setLocked(true);
-    txtDuty.multiline();
     txtWord.multiline();
     txtDiag.multiline();
     fraReceipt.holds({&lblRct, &dtRctDate, &cboPayFor, &cboPay, &txtCheque, &txtEmp, &txtHt, &txtWord, &chkExact});
@@ -172,8 +171,8 @@ QDate frmBillingVerify::today() const {
 Layout frmBillingVerify::filterLayout() const {
     using namespace orvane::layout;
     return row({field("Attendance bet&ween", DTPicker1), field("and", DTPicker2), field("C&lient", cboHMO, 22),
-                cell(chkAll), cell(cmdList), cell(cmdAdm), cell(cmdAdd), stretch(),
-                field("Searc&h by BillNo", txtSearch, 16), cell(cmdOK)});
+                cell(chkAll), cell(cmdList), cell(cmdAdm), stretch(), field("Searc&h by BillNo", txtSearch, 16),
+                cell(cmdOK)});
 }
 
 Layout frmBillingVerify::billLayout() const {
@@ -190,16 +189,13 @@ Layout frmBillingVerify::receiptLayout() const {
     using namespace orvane::layout;
     Layout means = column({cell(chkExact)});
     for (const PayWay& way : ways) {
-        Layout line = row({cell(way.lblAmt, 10), cell(way.txtAmt, 14)});
+        Layout line = row({field(way.lblAmt.caption(), way.txtAmt, 14), field("Account", way.lblAcctNo, 12)});
         if (way.cboBank)
-            line.children.append(cell(*way.cboBank, 26));
-        line.children.append(cell(way.lblAcctNo, 12));
-        line.children.append(stretch());
+            line.children.append(field("Bank", *way.cboBank, 24));
         means.children.append(line);
     }
     means.children.append(field("Cheque No", txtCheque, 14));
-    return column({row({cell(lblScreen), stretch()}),
-                   row({cell(chkRct), cell(cmdRev), cell(chkDep), cell(chkCurr), stretch()}),
+    return column({cell(lblScreen), row({cell(chkRct), cell(cmdRev), cell(chkDep), cell(chkCurr), stretch()}),
                    group("Receipt",
                          {row({column({field("Receipt No", lblRct), field("Receipt Date", dtRctDate),
                                        field("Being Payment for", cboPayFor, 30), field("Amount Paid", lblDep),
@@ -230,7 +226,7 @@ Layout frmBillingVerify::layout() const {
                    growing(tabs(SSTab1, {orvane::layout::page("Bill", {billLayout()}),
                                          orvane::layout::page("Receipt", {receiptLayout()}),
                                          orvane::layout::page("Diagnosis && Treatment", {diagnosisLayout()})})),
-                   buttons({&cmdAddBill, &cmdPrice, &cmdUnBilled, &cmdAcct, &cmdCoy, &cmdSplit, &cmdExt},
+                   buttons({&cmdAdd, &cmdAddBill, &cmdPrice, &cmdUnBilled, &cmdAcct, &cmdCoy, &cmdSplit, &cmdExt},
                            {&cmdPR, &cmdPrint, &cmdRefresh, &cmdCancel, &OKButton})});
 }
 

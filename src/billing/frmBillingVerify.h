@@ -167,7 +167,7 @@ private:
     Label lblTotal{*this, "lblTotal"};
     Label lblCurr{*this, "lblCurr"};
     Label lblAmtDue{*this, "lblAmtDue"};
-    TextBox txtDuty{*this, "txtDuty"};
+    Label txtDuty{*this, "txtDuty"}; ///< the payable in words
     TextBox txtProf{*this, "txtProf"};
     Button cmdBill{*this, "cmdBill", "Recalculate Bill"};
     TextBox txtNHIS{*this, "txtNHIS"};
@@ -177,7 +177,7 @@ private:
     // The receipt.
     Label lblScreen{*this, "lblScreen", "Collate / Verify Bill"};
     CheckBox chkRct{*this, "chkRct", "Issue &Receipt"};
-    Button cmdRev{*this, "cmdRev", "..."};
+    Button cmdRev{*this, "cmdRev", "Headings..."};
     CheckBox chkDep{*this, "chkDep", "&Deposit"};
     CheckBox chkCurr{*this, "chkCurr", "Tick to Enter Fresh Bill ONLY"};
     Frame fraReceipt{*this, "fraReceipt"};
