@@ -8,6 +8,7 @@ set -euo pipefail
 usage="usage: $0 start|stop DIR"
 action=${1:?$usage}
 directory=$(realpath -m "${2:?$usage}")
+cd / # a folder that the server's own user may enter
 binaries=$(ls -d /usr/lib/postgresql/*/bin 2>/dev/null | sort -V | tail -1)
 [ -n "$binaries" ] || { echo "PostgreSQL is not installed" >&2; exit 1; }
 
@@ -38,7 +39,7 @@ start() {
     local port
     port=$(cat "$directory/port")
     as_owner "$binaries/pg_ctl" --pgdata="$directory/data" --log="$directory/data/server.log" --wait --silent start \
-        -o "-p $port -c listen_addresses=127.0.0.1 -c unix_socket_directories=$directory -c fsync=off \
+        -o "-p $port -c listen_addresses=127.0.0.1 -c unix_socket_directories= -c fsync=off \
             -c synchronous_commit=off -c full_page_writes=off -c max_connections=200 -c autovacuum=off" >&2
     echo "ORVANE_TEST_PG=host=127.0.0.1 port=$port"
 }
