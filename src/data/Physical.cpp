@@ -77,7 +77,8 @@ QSqlQuery PhysicalConnection::send(const QString& tsql, const QVariantList& boun
     try {
         source->callHook(tsql, bound);
         tellClock();
-        text = translate(tsql, engine);
+        // SQL Server gets the values as literals: its driver would have to guess the type of a bound null.
+        text = translate(engine == Engine::SqlServer ? withLiterals(tsql, bound) : tsql, engine);
     } catch (...) {
         poisoned = inTransaction;
         throw;
@@ -96,8 +97,11 @@ QSqlQuery PhysicalConnection::send(const QString& tsql, const QVariantList& boun
 bool PhysicalConnection::execute(QSqlQuery& query, const QString& text, const QVariantList& bound) {
     ++source->statementsSent;
     // A prepared statement costs PostgreSQL three messages for one run; its literals are as exact as bound values.
-    if (bound.isEmpty() || engine == Engine::Postgresql) {
+    if (engine == Engine::Postgresql) {
         return query.exec(withLiterals(text, bound));
+    }
+    if (bound.isEmpty() || engine == Engine::SqlServer) {
+        return query.exec(text);
     }
     if (!query.prepare(text)) {
         return false;

@@ -110,6 +110,15 @@ TEST(ServerFile, SaysWhichEngineServesAServer) {
     EXPECT_EQ(openFault(home.folder()), QString()) << "without the file the embedded engine serves from data/";
 }
 
+TEST(ServerFile, ANamedServerMustAnswer) {
+    const TestHome home;
+    for (const char* engine : {"postgresql", "sqlserver"}) {
+        write(home.folder() + QStringLiteral("/orvane.ini"),
+              QByteArray("[server SERVER]\nhost = 127.0.0.1\nport = 1\nengine = ") + engine);
+        EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("cannot be opened"))) << engine;
+    }
+}
+
 class Pool : public EngineTest {};
 
 TEST_P(Pool, GivesAnIdleConnectionAgain) {
