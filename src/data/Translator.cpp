@@ -1,5 +1,6 @@
 #include "data/Translator.h"
 
+#include "data/DataError.h"
 #include "data/Ddl.h"
 #include "data/Lexer.h"
 #include "data/Render.h"
@@ -7,8 +8,23 @@
 
 namespace orvane {
 
+namespace {
+
+void checkParentheses(const Tokens& tokens, const QString& tsql) {
+    int depth = 0;
+    for (qsizetype i = 0; i < tokens.size() && depth >= 0; ++i) {
+        depth += tokens[i].isSymbol("(") ? 1 : tokens[i].isSymbol(")") ? -1 : 0;
+    }
+    if (depth != 0) {
+        throw DataError(QStringLiteral("The parentheses of the statement do not match."), tsql);
+    }
+}
+
+} // namespace
+
 QString translate(const QString& tsql, Engine engine) {
     Tokens tokens = tokenize(tsql);
+    checkParentheses(tokens, tsql);
     if (isDefinition(tokens)) {
         return translateDefinition(tokens, engine);
     }

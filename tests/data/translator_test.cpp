@@ -200,7 +200,8 @@ TEST(Translator, LeavesTheServersOwnWordsToSqlServer) {
 }
 
 TEST(Translator, RefusesWhatEndsTooEarly) {
-    for (const char* tsql : {"select 'a", "select [a", "select \"a", "select 1 /* x", "select 'it''"}) {
+    for (const char* tsql : {"select 'a", "select [a", "select \"a", "select 1 /* x", "select 'it''",
+                             "select 1 where 1 in ('a'", "select 1)", "select )("}) {
         EXPECT_THROW(translate(QString::fromUtf8(tsql), Engine::Sqlite), DataError) << tsql;
     }
     EXPECT_EQ(translate(QStringLiteral("select 1 -- 'open\n, '--no comment'"), Engine::Sqlite),
