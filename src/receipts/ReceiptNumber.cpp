@@ -23,7 +23,7 @@ constexpr CodedForm codedForms[] = {
 
 qlonglong lastNumber(Connection& connection, const Sql& sql) {
     const Recordset last(connection, sql);
-    return last.eof() ? 0 : last.integer(QStringLiteral("ID"));
+    return last.eof() ? 0 : last.integer("ID");
 }
 
 /// The number of the newest receipt of a code; a code without numbers carries on from the older form without the
@@ -48,9 +48,9 @@ ReceiptNumber codedNumber(Program& program, Connection& connection, const CodedF
         receipt.refusal = QLatin1String(form.refusal);
         return receipt;
     }
-    receipt.clinicType = visit.text(QStringLiteral("clinicType"));
+    receipt.clinicType = visit.text("clinicType");
     if (form.form == ReceiptForm::ClinicCoded)
-        receipt.clinicID = visit.text(QStringLiteral("ClinicID"));
+        receipt.clinicID = visit.text("ClinicID");
     const QString& hospital = program.session.gHospIDName;
     receipt.number = hospital + code + nextDigits(lastOfCode(connection, code, hospital), 7);
     return receipt;
@@ -59,10 +59,10 @@ ReceiptNumber codedNumber(Program& program, Connection& connection, const CodedF
 ReceiptNumber generatedNumber(Program& program, Connection& connection) {
     ReceiptNumber receipt;
     program.session.gIDNo.clear();
-    program.fetchIDNo(connection, QStringLiteral("RECEIPT2"));
+    program.fetchIDNo(connection, "RECEIPT2");
     receipt.number = program.session.gIDNo;
     if (receipt.number.isEmpty())
-        receipt.refusal = QStringLiteral("Unable to generate No!!! Function getIDNo Failed! Receipt");
+        receipt.refusal = "Unable to generate No!!! Function getIDNo Failed! Receipt";
     return receipt;
 }
 
@@ -70,7 +70,7 @@ ReceiptNumber generatedNumber(Program& program, Connection& connection) {
 
 QString nextDigits(qlonglong last, int width) {
     const QString digits = QString::number(std::max<qlonglong>(last, 0) + 1);
-    return (QString(width, QLatin1Char('0')) + digits).right(width);
+    return (QString(width, '0') + digits).right(width);
 }
 
 ReceiptNumber formReceiptNumber(Program& program, Connection& connection, ReceiptForm form, const QString& key) {
@@ -82,7 +82,7 @@ ReceiptNumber formReceiptNumber(Program& program, Connection& connection, Receip
     ReceiptNumber receipt;
     receipt.number =
         form == ReceiptForm::Paper
-            ? QStringLiteral("SN") + key.trimmed()
+            ? "SN" + key.trimmed()
             : QString::number(lastNumber(connection, Sql("select ID from IDgen where DestName = 'Receipt'")) + 1);
     return receipt;
 }

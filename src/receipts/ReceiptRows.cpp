@@ -1,5 +1,7 @@
 #include "receipts/ReceiptRows.h"
 
+#include "data/Money.h"
+
 namespace orvane {
 
 namespace {
@@ -114,6 +116,10 @@ void distributePayment(Program& program, Connection& connection, const Receipt& 
             return;
     }
     addSummaryShare(program, connection, receipt, "BALANCE_PAYMENT", left);
+}
+
+int isPaidFlag(double paid, double billed) {
+    return round2(paid) >= round2(billed) ? 1 : 0;
 }
 
 } // namespace orvane

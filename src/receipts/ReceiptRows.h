@@ -35,4 +35,7 @@ void addPaymentTypes(Connection& connection, const Receipt& receipt, const QVect
 /// "DEPOSIT_PAYMENT"; what is left after the last line becomes "BALANCE_PAYMENT".
 void distributePayment(Program& program, Connection& connection, const Receipt& receipt);
 
+/// Billing.isPaid: 1 when what was paid covers what was billed, both in naira and compared to the kobo, else 0.
+int isPaidFlag(double paid, double billed);
+
 } // namespace orvane

@@ -6,17 +6,17 @@ namespace orvane {
 
 namespace {
 
-const QString modeAuto = QStringLiteral("AUTO");
-const QString modeSearch = QStringLiteral("SEARCH");
+const QString modeAuto = "AUTO";
+const QString modeSearch = "SEARCH";
 
 } // namespace
 
-frmDebtInfo::frmDebtInfo(Program& owner) : Screen(owner, QStringLiteral("frmDebtInfo"), QStringLiteral("Debt Info")) {
-    cboGroup.addItems({QStringLiteral("Name"), QStringLiteral("CardNo"), QStringLiteral("SysNo")});
+frmDebtInfo::frmDebtInfo(Program& owner) : Screen(owner, "frmDebtInfo", "Debt Info") {
+    cboGroup.addItems({"Name", "CardNo", "SysNo"});
     OKButton.onClick = [this] { search(); };
     txtName.onEnter = [this] { search(); };
     grdData.onDblClick = [this] { grdData_DblClick(); };
-    grdData.setToolTip(QStringLiteral("Double Click a row to Get the Debt Info of a Patient"));
+    grdData.setToolTip("Double Click a row to Get the Debt Info of a Patient");
     cmdList.onClick = [this] { cmdList_Click(); };
     cmdRpt.onClick = [this] { cmdRpt_Click(); };
     cmdDebtOnly.onClick = [this] { cmdDebtOnly_Click(); };
@@ -36,10 +36,10 @@ void frmDebtInfo::Form_Load() {
     const QDate today = program.getServerDateTime().date();
     DTPicker1.setDate(today);
     DTPicker2.setDate(today);
-    grdData.setFormat(QStringLiteral("Debt"), QStringLiteral("#,##;(#,##0)"));
-    grdData.setFormat(QStringLiteral("Bill"), QStringLiteral("#,###.00"));
-    grdData.setFormat(QStringLiteral("AmountPaid"), QStringLiteral("#,###.00"));
-    cboGroup.setText(QStringLiteral("Name"));
+    grdData.setFormat("Debt", "#,##;(#,##0)");
+    grdData.setFormat("Bill", "#,###.00");
+    grdData.setFormat("AmountPaid", "#,###.00");
+    cboGroup.setText("Name");
     if (session.sBillPatName.isEmpty()) {
         session.sDebtMode = modeSearch;
         txtName.setFocus();
@@ -53,74 +53,78 @@ void frmDebtInfo::Form_Load() {
         const Recordset first(connection, Sql("select top 1 recDate from hrecords where pno = '")
                                               << m_pno << "' order by recID asc");
         if (!first.eof())
-            DTPicker1.setDate(first.date(QStringLiteral("recDate")));
+            DTPicker1.setDate(first.date("recDate"));
     }
     cmdList_Click();
 }
 
 void frmDebtInfo::search() {
     QString text = txtName.text();
-    text.replace(QLatin1Char('"'), QStringLiteral("''"));
+    text.replace('"', '\''); // both quotes find O'NEILL
     Sql sql;
-    if (cboGroup.text() == QLatin1String("SysNo")) {
-        // A short number is completed to a file number: the hospital and six digits.
-        if (!text.contains(QLatin1Char('/')))
-            text = session.gHospID + QLatin1Char('/') + (QStringLiteral("000000000") + text).right(6);
+    if (cboGroup.text() == "SysNo") {
+        // A short number is completed to a file number: nine characters, the number and the hospital.
+        if (!text.contains('/'))
+            text = ("000000000" + text + '/' + session.gHospID).right(9);
         sql << "select  * from vwhpatients where Pno = '" << text << "'";
-    } else if (cboGroup.text() == QLatin1String("CardNo")) {
+    } else if (cboGroup.text() == "CardNo") {
         sql << "select  * from vwhpatients where oldPno = '" << text << "'";
     } else {
         sql << "select  * from vwhpatients where fullname like '" << text << "%'  order by fullname";
     }
     session.sDebtMode = modeSearch;
-    Label5.setText(QStringLiteral("Debt Information"));
+    m_pno.clear();
+    Label5.setText("Debt Information");
     Connection connection = program.openBilling();
     grdData.load(Recordset(connection, sql));
 }
 
+/// The grid shows patients, not the statement of one.
+bool frmDebtInfo::showsPatients() const {
+    return grdData.currentRow() >= 0 && grdData.columnIndex("oldPno") >= 0;
+}
+
 void frmDebtInfo::grdData_DblClick() {
-    // A row of a statement names a bill, not a patient to look for.
-    if (grdData.currentRow() < 0 || grdData.columnIndex(QStringLiteral("oldPno")) < 0)
+    if (!showsPatients())
         return;
-    m_pno = grdData.text(QStringLiteral("pno"));
-    const QString name = grdData.text(QStringLiteral("fullname"));
-    Label5.setText(QStringLiteral("Search for: ") + name);
-    Connection connection = program.openBilling();
-    showStatement(Recordset(connection, searchStatement()));
+    m_pno = grdData.text("pno");
+    Label5.setText("Search for: " + grdData.text("fullname"));
+    loadStatement();
 }
 
 void frmDebtInfo::cmdList_Click() {
+    if (showsPatients())
+        grdData_DblClick();
+    else if (m_pno.isEmpty())
+        program.box(grdData.toolTip());
+    else
+        loadStatement();
+}
+
+void frmDebtInfo::loadStatement() {
     if (DTPicker2.date() < DTPicker1.date()) {
-        program.box(QStringLiteral("Please specify Attendance Date Range"));
+        program.box("Please specify Attendance Date Range");
         return;
     }
-    if (m_pno.isEmpty())
-        return;
     const bool whole = session.sDebtMode == modeSearch || chkAll.isChecked();
     Connection connection = program.openBilling();
-    showStatement(Recordset(connection, whole ? searchStatement() : autoStatement()));
+    grdData.load(Recordset(connection, whole ? searchStatement() : autoStatement()));
 }
 
 // The whole account, whatever the dates.
 Sql frmDebtInfo::searchStatement() const {
-    Sql sql("SELECT     SNO, AttndDate, BillDate, FullName, PNo,Remarks as Items,  Bill, AmountPaid,RunningTotal as "
-            "Debt,BillNo,  Comapany "
-            "FROM   vwTranxaction where pno='");
-    sql << m_pno << "' order by SNo";
-    return sql;
+    return Sql("SELECT     SNO, AttndDate, BillDate, FullName, PNo,Remarks as Items,  Bill, AmountPaid,RunningTotal as "
+               "Debt,BillNo,  Comapany "
+               "FROM   vwTranxaction where pno='")
+           << m_pno << "' order by SNo";
 }
 
 Sql frmDebtInfo::autoStatement() const {
-    Sql sql("SELECT     SNO, AttndDate, BillDate, FullName,Remarks as Items,  Bill, AmountPaid,RunningTotal as "
-            "Debt,BillNo,  Comapany, PNo "
-            "FROM   vwTranxaction where pno='");
-    sql << m_pno << "' and AttndDate between '" << DTPicker1.date() << "' and '" << DTPicker2.date()
-        << "' order by SNo";
-    return sql;
-}
-
-void frmDebtInfo::showStatement(const Recordset& statement) {
-    grdData.load(statement);
+    return Sql("SELECT     SNO, AttndDate, BillDate, FullName,Remarks as Items,  Bill, AmountPaid,RunningTotal as "
+               "Debt,BillNo,  Comapany, PNo "
+               "FROM   vwTranxaction where pno='")
+           << m_pno << "' and AttndDate between '" << DTPicker1.date() << "' and '" << DTPicker2.date()
+           << "' order by SNo";
 }
 
 void frmDebtInfo::cmdRpt_Click() {
@@ -139,16 +143,15 @@ void frmDebtInfo::cmdDebtOnly_Click() {
 
 void frmDebtInfo::showSummary(const Sql& sql) {
     Connection connection = program.openBilling();
-    ui().viewReport(QStringLiteral("rptDebtInfo.rpt"), QStringLiteral("Patients' Debt Information"),
-                    Recordset(connection, sql));
+    ui().viewReport("rptDebtInfo.rpt", "Patients' Debt Information", Recordset(connection, sql));
 }
 
 void frmDebtInfo::cmdExport_Click() {
     if (grdData.rowCount() == 0) {
-        program.box(QStringLiteral("No record is displayed for printing"));
+        program.box("No record is displayed for printing");
         return;
     }
-    const QString file = exportFileName(QStringLiteral("Debt Info ") + Label5.text(), ui().now());
+    const QString file = exportFileName("Debt Info " + Label5.text(), ui().now());
     exportWorkbook(grdData, file);
     ui().exported(file);
 }

@@ -34,7 +34,8 @@ private:
     void search();
     void grdData_DblClick();
     void cmdList_Click();
-    void showStatement(const Recordset& statement);
+    bool showsPatients() const;
+    void loadStatement();
     void showSummary(const Sql& sql);
     void cmdRpt_Click();
     void cmdDebtOnly_Click();

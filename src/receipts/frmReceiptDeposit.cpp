@@ -1,25 +1,18 @@
 #include "receipts/frmReceiptDeposit.h"
 
 #include "data/Money.h"
+#include "receipts/AmountInWords.h"
+#include "receipts/ListEntry.h"
 #include "receipts/PatientAccount.h"
-#include "receipts/ReceiptNumber.h"
 #include "receipts/ReceiptRows.h"
+#include "receipts/VisitFacts.h"
 #include "receipts/frmCashReceipt.h"
-#include "session/Words.h"
 
 #include <QLocale>
-#include <cmath>
 
 namespace orvane {
 
-namespace {
-
-const QString twoDecimals = QStringLiteral("0.00");
-
-} // namespace
-
-frmReceiptDeposit::frmReceiptDeposit(Program& owner)
-    : Screen(owner, QStringLiteral("frmReceiptDeposit"), QStringLiteral("Advance Receipt / Deposit")) {
+frmReceiptDeposit::frmReceiptDeposit(Program& owner) : Screen(owner, "frmReceiptDeposit", "Advance Receipt / Deposit") {
     for (TextBox* box : {&txtDue, &txtHt})
         box->numeric();
     txtDuty.setLocked(true);
@@ -29,7 +22,7 @@ frmReceiptDeposit::frmReceiptDeposit(Program& owner)
     cmdPrint.onClick = [this] { cmdInv_Click(); };
     cboVehNo.onClick = [this] { cboVehNo_Click(); };
     cboClinic.onClick = [this] { cboClinic_Click(); };
-    txtHt.onChange = [this] { txtHt_Change(); };
+    txtHt.onChange = [this] { showAmountInWords(txtHt, txtDuty); };
     OKButton.onClick = [this] { OKButton_Click(); };
     CancelButton.onClick = [this] { unload(); };
 }
@@ -55,11 +48,11 @@ void frmReceiptDeposit::Form_Load() {
     const QDate today = program.getServerDateTime().date();
     for (DatePicker* picker : {&dtDate, &DTPicker1, &DTPicker2})
         picker->setDate(today);
-    cboPay.addItems({QStringLiteral("CASH"), QStringLiteral("CHEQUE")});
-    cboPay.setText(QStringLiteral("CASH"));
-    cboClinic.addItem(QStringLiteral("DEPOSIT"));
-    cboClinic.setText(QStringLiteral("DEPOSIT"));
-    cboPayFor.addItem(QStringLiteral("ADMISSION DEPOSIT"));
+    cboPay.addItems({"CASH", "CHEQUE"});
+    cboPay.setText("CASH");
+    cboClinic.addItem("DEPOSIT");
+    cboClinic.setText("DEPOSIT");
+    cboPayFor.addItem("ADMISSION DEPOSIT");
     setEntry(false);
 }
 
@@ -78,17 +71,15 @@ void frmReceiptDeposit::cmdInv_Click() {
         Sql("select distinct recID,pno,fullname,consultID as billno from qryhVisits where  recdate between '")
             << DTPicker1.date() << "' and '" << DTPicker2.date() << " '");
     for (; !visits.eof(); visits.moveNext())
-        cboVehNo.addItem(visits.text(QStringLiteral("fullname")) + QStringLiteral(" [") +
-                         visits.text(QStringLiteral("pno")) + QStringLiteral("]#") +
-                         visits.text(QStringLiteral("billno")));
+        cboVehNo.addItem(visits.text("fullname") + " [" + visits.text("pno") + "]#" + visits.text("billno"));
 }
 
 void frmReceiptDeposit::cmdAdd_Click() {
     setEntry(true);
     if (cboPay.text().isEmpty())
-        cboPay.setText(QStringLiteral("CASH"));
-    cboClinic.setText(QStringLiteral("DEPOSIT"));
-    cboPayFor.setText(QStringLiteral("ADMISSION DEPOSIT"));
+        cboPay.setText("CASH");
+    cboClinic.setText("DEPOSIT");
+    cboPayFor.setText("ADMISSION DEPOSIT");
     cmdInv_Click();
     cboVehNo.setFocus();
 }
@@ -102,35 +93,39 @@ void frmReceiptDeposit::cboVehNo_Click() {
     if (cboVehNo.listIndex() < 0)
         return;
     if (cboPay.text().isEmpty()) {
-        program.box(QStringLiteral("Please enter Payment type"));
+        program.box("Please enter Payment type");
         cboPay.setFocus();
         return;
     }
-    for (Label* label : {&lblAmt, &lblBF, &lblRct, &lblClinic2})
-        label->clear();
-    txtDue.clear();
-    txtHt.clear();
-    const QString entry = cboVehNo.text();
-    const auto hash = entry.lastIndexOf(QLatin1Char('#'));
-    if (hash < 0) {
-        lblBill.clear();
-        session.gConsultID.clear();
-        program.box(QStringLiteral("No Consultation No"));
+    clearPatient();
+    const ListEntry entry = readListEntry(cboVehNo.text());
+    session.gConsultID = entry.bill;
+    if (entry.bill.isEmpty()) {
+        program.box("No Consultation No");
         return;
     }
-    const auto bracket = entry.lastIndexOf(QLatin1Char('['), hash);
-    session.gConsultID = entry.mid(hash + 1);
-    lblBill.setText(session.gConsultID);
-    m_pno = entry.mid(bracket + 1, hash - bracket - 2);
-    Label5.setText(entry.left(bracket).trimmed());
+    lblBill.setText(entry.bill);
+    m_pno = entry.number;
+    Label5.setText(entry.name);
     Connection connection = program.openBilling();
     if (billExists(connection)) {
         sendToReceiptEntry();
         return;
     }
-    const QString admission = loadPatient(connection);
-    if (!admission.isEmpty())
-        program.box(admission);
+    loadReceiptNumber(connection);
+    loadAccount(connection);
+    txtDiag.setText(diagnosisOfVisit(connection, lblBill.text()));
+    showAdmission(connection);
+}
+
+void frmReceiptDeposit::clearPatient() {
+    for (Label* label : {&Label5, &lblRct, &lblBill, &lblClinic2, &lblAdm, &lblBF, &lblAmt})
+        label->clear();
+    for (TextBox* box : {&txtDue, &txtHt, &txtDuty, &txtDiag})
+        box->clear();
+    m_pno.clear();
+    m_clientID.clear();
+    m_clinicID.clear();
 }
 
 bool frmReceiptDeposit::billExists(Connection& connection) const {
@@ -138,67 +133,56 @@ bool frmReceiptDeposit::billExists(Connection& connection) const {
 }
 
 void frmReceiptDeposit::sendToReceiptEntry() {
-    program.box(QStringLiteral("This page is only for receipt of Advance/Deposit!!! Use Receipt Entry Form"));
-    program.open(QStringLiteral("frmReceiptTemp"));
+    program.box("This page is only for receipt of Advance/Deposit!!! Use Receipt Entry Form");
+    program.open("frmReceiptTemp");
 }
 
-QString frmReceiptDeposit::loadPatient(Connection& connection) {
+/// Shows the number that comes next; the save forms it again.
+void frmReceiptDeposit::loadReceiptNumber(Connection& connection) {
     const Recordset patient(connection, Sql("select coyname from qryhfullname where pno='") << m_pno << "'");
-    m_clientID = patient.eof() ? QString() : patient.text(QStringLiteral("coyname"));
-
-    const ReceiptNumber receipt = formReceiptNumber(program, connection, ReceiptForm::ClinicCoded, session.gConsultID);
+    m_clientID = patient.eof() ? QString() : patient.text("coyname");
+    const ReceiptNumber receipt = formReceiptNumber(program, connection, ReceiptForm::ClinicCoded, lblBill.text());
     lblRct.setText(receipt.number);
     lblClinic2.setText(receipt.clinicType);
     m_clinicID = receipt.clinicID;
     if (receipt.number.isEmpty())
         program.box(receipt.refusal);
+}
 
+void frmReceiptDeposit::loadAccount(Connection& connection) {
     const Recordset debt(connection, Sql("select pno,debt from vwDebtInfoForPatUnionGrouped where pno='")
                                          << m_pno << "'");
-    session.dDebtBF = debt.eof() ? 0 : debt.number(QStringLiteral("debt"));
-    lblBF.setText(formatNumber(session.dDebtBF, twoDecimals));
+    m_debtBF = session.dDebtBF = debt.eof() ? 0 : debt.number("debt");
+    lblBF.setText(formatTwoDecimals(m_debtBF));
 
     const Recordset bill(connection, Sql("select AmountBilled,Amountpaid,billno from Billing where billno='")
                                          << lblBill.text() << "'");
-    const double paid = bill.eof() ? 0 : bill.number(QStringLiteral("Amountpaid"));
-    txtDue.setText(formatNumber(bill.eof() ? 0 : bill.number(QStringLiteral("AmountBilled")) - paid, twoDecimals));
-    lblAmt.setText(formatNumber(paid, twoDecimals));
+    const double paid = bill.eof() ? 0 : bill.number("Amountpaid");
+    const double billed = bill.eof() ? 0 : bill.number("AmountBilled");
+    txtDue.setText(formatTwoDecimals(billed - paid));
+    lblAmt.setText(formatTwoDecimals(paid));
+}
 
-    QStringList diagnoses;
-    for (Recordset visit(connection, Sql("select consultID,diagnosis from hconsulting where consultID='")
-                                         << session.gConsultID << "'");
-         !visit.eof(); visit.moveNext())
-        diagnoses << visit.text(QStringLiteral("diagnosis"));
-    txtDiag.setText(diagnoses.join(QStringLiteral(" ; ")));
-
+void frmReceiptDeposit::showAdmission(Connection& connection) {
     const Recordset admission(connection,
                               Sql("select AdmDate,WardID,fullname,consultID from qryhAdmission where consultID='")
-                                  << session.gConsultID << "'");
-    lblAdm.setText(admission.eof() ? QStringLiteral("OUT-PATIENT") : QStringLiteral("ON ADMISSION"));
-    if (admission.eof())
-        return {};
-    return QStringLiteral("This Patient is Currently on Admission!!! AdmDate:") +
-           admission.date(QStringLiteral("admdate")).toString(QStringLiteral("dd/MM/yyyy")) +
-           QStringLiteral(", Ward:") + admission.text(QStringLiteral("wardid"));
+                                  << lblBill.text() << "'");
+    lblAdm.setText(admission.eof() ? "OUT-PATIENT" : "ON ADMISSION");
+    if (!admission.eof())
+        program.box("This Patient is Currently on Admission!!! AdmDate:" +
+                    admission.date("admdate").toString("dd/MM/yyyy") + ", Ward:" + admission.text("wardid"));
 }
 
 void frmReceiptDeposit::cboClinic_Click() {
     const QString item = cboClinic.text();
-    if (item == QLatin1String("DEPOSIT") || item == QLatin1String("SPLIT-BILL")) {
+    if (item == "DEPOSIT" || item == "SPLIT-BILL") {
         txtDue.setEnabled(true);
-    } else if (item == QLatin1String("REFUND")) {
+    } else if (item == "REFUND") {
         txtDue.setEnabled(false);
-        txtHt.setText(QStringLiteral("0"));
+        txtHt.setText("0");
     } else {
         txtDue.clear();
     }
-}
-
-void frmReceiptDeposit::txtHt_Change() {
-    if (txtHt.text().isEmpty())
-        return;
-    const std::optional<double> amount = parseAmount(txtHt.text());
-    txtDuty.setText(amount ? getValInWord(std::abs(*amount)) : QString());
 }
 
 bool frmReceiptDeposit::checkFields() {
@@ -212,8 +196,8 @@ bool frmReceiptDeposit::checkFields() {
     if (parseAmount(txtHt.text()).value_or(0) <= 0)
         return refuse("Receipt Amount Cannot be zero or less", txtHt);
     if (txtDue.text().trimmed().isEmpty())
-        txtDue.setText(QStringLiteral("0"));
-    if (cboVehNo.text().isEmpty())
+        txtDue.setText("0");
+    if (cboVehNo.listIndex() < 0)
         return refuse("Please enter Patient No", cboVehNo);
     if (cboClinic.text().isEmpty())
         return refuse("Please Specify payment type", cboClinic);
@@ -225,76 +209,84 @@ bool frmReceiptDeposit::checkFields() {
         return refuse("Please enter Payment type", cboPay);
     if (cboClinic.text().isEmpty())
         return refuse("Please enter Clinic type", cboClinic);
-    if (!parseAmount(txtDue.text()))
-        return refuse("Please enter Receipt Amount", txtDue);
+    if (parseAmount(txtDue.text()).value_or(-1) < 0)
+        return refuse("Please enter Amount Due", txtDue);
+    // A receipt without a date would be in no day's cash.
+    if (dtDate.isEmpty())
+        return refuse("Please enter Receipt Date", dtDate);
     return true;
 }
 
 void frmReceiptDeposit::OKButton_Click() {
     if (!checkFields())
         return;
-    if (!program.question(QStringLiteral("Are you sure to save?"), QStringLiteral("About to save")))
+    if (!program.question("Are you sure to save?", "About to save"))
         return;
-    bool saved = false;
-    QString refusal;
-    {
-        Connection connection = program.openBilling();
-        Transaction transaction(connection);
-        session.dWorkDate = dtDate.date();
-        if (!billExists(connection)) {
-            // Another cashier may have taken the number that was shown: it is formed again behind the gate.
-            const ReceiptNumber receipt =
-                formReceiptNumber(program, connection, ReceiptForm::ClinicCoded, session.gConsultID);
-            refusal = receipt.refusal;
-            lblRct.setText(receipt.number);
-            if (refusal.isEmpty()) {
-                writeBill(connection);
-                writePayment(connection);
-                const double amount = *parseAmount(txtHt.text());
-                postPatientTran(program, connection, session.dWorkDate, m_pno, lblBill.text(), amount, session.gBillTo,
-                                QStringLiteral("Deposit"));
-                program.writeAuditTrail(session.gUsername, QStringLiteral("insert Payment for: ") + cboVehNo.text(),
-                                        session.gConsultID, QString::number(amount, 'f', 2), session.sComputerName);
-                transaction.commit();
-                saved = true;
-            }
-        }
+    Outcome outcome;
+    try {
+        outcome = save();
+    } catch (const CommitUnknown&) {
+        // It may be saved: only a fresh look at the visit may save it again.
+        setEntry(false);
+        throw;
     }
-    if (!refusal.isEmpty()) {
-        program.box(refusal);
-        return;
-    }
-    if (!saved) {
+    if (outcome.billExists) {
         sendToReceiptEntry();
         return;
     }
-    const QString number = lblRct.text();
+    if (outcome.receipt.number.isEmpty()) {
+        program.box(outcome.receipt.refusal);
+        return;
+    }
     resetFields();
     setEntry(false);
-    showCashReceipt(program, number);
+    showCashReceipt(program, outcome.receipt.number);
+}
+
+frmReceiptDeposit::Outcome frmReceiptDeposit::save() {
+    Outcome outcome;
+    session.gConsultID = lblBill.text();
+    Connection connection = program.openBilling();
+    Transaction transaction(connection);
+    session.dWorkDate = dtDate.date();
+    outcome.billExists = billExists(connection);
+    if (outcome.billExists)
+        return outcome;
+    // Another cashier may have taken the number that was shown: it is formed again behind the gate.
+    outcome.receipt = formReceiptNumber(program, connection, ReceiptForm::ClinicCoded, lblBill.text());
+    if (outcome.receipt.number.isEmpty())
+        return outcome;
+    const double amount = *parseAmount(txtHt.text());
+    writeBill(connection);
+    writePayment(connection, outcome.receipt.number);
+    postPatientTran(program, connection, session.dWorkDate, m_pno, lblBill.text(), amount, session.gBillTo, "Deposit");
+    program.writeAuditTrail(session.gUsername, "insert Payment for: " + cboVehNo.text(), session.gConsultID,
+                            QString::number(amount, 'f', 2), session.sComputerName);
+    transaction.commit();
+    return outcome;
 }
 
 void frmReceiptDeposit::writeBill(Connection& connection) {
     Recordset bill(connection, Sql("select * from Billing where 1=2"));
     bill.addNew();
-    bill.set(QStringLiteral("bdate"), session.dWorkDate);
-    bill.set(QStringLiteral("billNo"), lblBill.text());
-    bill.set(QStringLiteral("PNo"), m_pno);
-    bill.set(QStringLiteral("clientID"), m_clientID);
-    bill.set(QStringLiteral("Amountbilled"), *parseAmount(txtDue.text()));
-    bill.set(QStringLiteral("AmountPaid"), *parseAmount(txtHt.text()));
-    bill.set(QStringLiteral("profFee"), 0);
-    bill.set(QStringLiteral("AmtBF"), session.dDebtBF);
-    bill.set(QStringLiteral("billingMonth"), QLocale::c().monthName(session.dWorkDate.month()));
-    bill.set(QStringLiteral("billingYear"), QString::number(session.dWorkDate.year()));
-    bill.set(QStringLiteral("diagnosis"), txtDiag.text());
+    bill.set("bdate", session.dWorkDate);
+    bill.set("billNo", lblBill.text());
+    bill.set("PNo", m_pno);
+    bill.set("clientID", m_clientID);
+    bill.set("Amountbilled", *parseAmount(txtDue.text()));
+    bill.set("AmountPaid", *parseAmount(txtHt.text()));
+    bill.set("profFee", 0);
+    bill.set("AmtBF", m_debtBF);
+    bill.set("billingMonth", QLocale::c().monthName(session.dWorkDate.month()));
+    bill.set("billingYear", QString::number(session.dWorkDate.year()));
+    bill.set("diagnosis", txtDiag.text());
     bill.update();
 }
 
-void frmReceiptDeposit::writePayment(Connection& connection) {
+void frmReceiptDeposit::writePayment(Connection& connection, const QString& receiptNo) {
     Receipt receipt;
     receipt.receiptDate = session.dWorkDate;
-    receipt.receiptNo = lblRct.text();
+    receipt.receiptNo = receiptNo;
     receipt.clinicID = m_clinicID;
     receipt.billNo = lblBill.text();
     receipt.pno = m_pno;
@@ -303,20 +295,14 @@ void frmReceiptDeposit::writePayment(Connection& connection) {
     receipt.amountPaid = *parseAmount(txtHt.text());
     receipt.amountInWord = txtDuty.text();
     receipt.payType = cboPay.text();
-    receipt.time = program.ui().now().time();
-    receipt.remarks = QStringLiteral("DEPOSIT/ADVANCE");
+    receipt.time = ui().now().time();
+    receipt.remarks = "DEPOSIT/ADVANCE";
     addPayment(program, connection, receipt);
 }
 
 void frmReceiptDeposit::resetFields() {
     cboVehNo.setListIndex(-1);
-    for (TextBox* box : {&txtHt, &txtDue, &txtDuty, &txtDiag})
-        box->clear();
-    for (Label* label : {&Label5, &lblRct, &lblBill, &lblClinic2, &lblAdm, &lblBF, &lblAmt})
-        label->clear();
-    m_pno.clear();
-    m_clientID.clear();
-    m_clinicID.clear();
+    clearPatient();
 }
 
 } // namespace orvane

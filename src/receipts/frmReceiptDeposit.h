@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Program.h"
+#include "receipts/ReceiptNumber.h"
 
 namespace orvane {
 
@@ -46,20 +46,29 @@ private:
     void cmdCancel_Click();
     void cboVehNo_Click();
     void cboClinic_Click();
-    void txtHt_Change();
     bool billExists(Connection& connection) const;
     void sendToReceiptEntry();
-    QString loadPatient(Connection& connection); ///< gives what to tell of an admission; empty: nothing
+    void clearPatient();
+    void loadReceiptNumber(Connection& connection);
+    void loadAccount(Connection& connection);
+    void showAdmission(Connection& connection);
     void OKButton_Click();
     bool checkFields();
+    /// How a save ended; it has written nothing when the bill exists or no number could be formed.
+    struct Outcome {
+        bool billExists = false;
+        ReceiptNumber receipt;
+    };
+    Outcome save();
     void writeBill(Connection& connection);
-    void writePayment(Connection& connection);
+    void writePayment(Connection& connection, const QString& receiptNo);
     void resetFields();
     void setEntry(bool entering);
 
     QString m_pno;
     QString m_clientID;
     QString m_clinicID;
+    double m_debtBF = 0; ///< naira, minus is owed
 };
 
 } // namespace orvane

@@ -1,25 +1,18 @@
 #include "receipts/frmReceiptManual.h"
 
 #include "data/Money.h"
+#include "receipts/AmountInWords.h"
+#include "receipts/ListEntry.h"
 #include "receipts/PatientAccount.h"
 #include "receipts/ReceiptNumber.h"
 #include "receipts/ReceiptRows.h"
 #include "receipts/frmCashReceipt.h"
-#include "session/Words.h"
 
 #include <QLocale>
-#include <cmath>
 
 namespace orvane {
 
-namespace {
-
-const QString twoDecimals = QStringLiteral("0.00");
-
-} // namespace
-
-frmReceiptManual::frmReceiptManual(Program& owner)
-    : Screen(owner, QStringLiteral("frmReceiptManual"), QStringLiteral("Entries from Manual Receipt")) {
+frmReceiptManual::frmReceiptManual(Program& owner) : Screen(owner, "frmReceiptManual", "Entries from Manual Receipt") {
     for (TextBox* box : {&txtBill, &txtDebt, &txtEmp, &txtHt})
         box->numeric();
     for (TextBox* box : {&txtEmp, &txtDuty})
@@ -32,10 +25,10 @@ void frmReceiptManual::connectHandlers() {
     cboVehNo.onClick = [this] { cboVehNo_Click(); };
     txtBill.onChange = [this] { workOutDue(); };
     txtDebt.onChange = [this] { workOutDue(); };
-    txtHt.onChange = [this] { txtHt_Change(); };
+    txtHt.onChange = [this] { showAmountInWords(txtHt, txtDuty); };
     cmdRefresh.onClick = [this] { refreshGrid(); };
     cmdPrint.onClick = [this] { cmdPrint_Click(); };
-    cmdAdd.onClick = [this] { setEntry(true); };
+    cmdAdd.onClick = [this] { cmdAdd_Click(); };
     OKButton.onClick = [this] { OKButton_Click(); };
     CancelButton.onClick = [this] { unload(); };
 }
@@ -61,7 +54,7 @@ void frmReceiptManual::Form_Load() {
         picker->setDate(today);
     loadLists();
     for (const char* column : {"AmountBilled", "AmountPaid", "Balance"})
-        grdData.setFormat(QLatin1String(column), QStringLiteral("#,###.00"));
+        grdData.setFormat(QLatin1String(column), "#,###.00");
     listVisits(Sql("select distinct recdate,pno,fullname,consultID from qryhVisits where  recdate = '")
                << session.dWorkDate << "'");
     refreshGrid();
@@ -69,24 +62,20 @@ void frmReceiptManual::Form_Load() {
 }
 
 void frmReceiptManual::loadLists() {
-    cboCat.addItems({QStringLiteral("CARD"), QStringLiteral("CONSULTING"), QStringLiteral("CONSULTING AND DRUGS"),
-                     QStringLiteral("DRUGS"), QStringLiteral("GP REVIEW"), QStringLiteral("SPECIALIST REVIEW"),
-                     QStringLiteral("ANTE NATAL"), QStringLiteral("EXAMINATION"), QStringLiteral("ADMISSION"),
-                     QStringLiteral("GP FIRST VISIT"), QStringLiteral("SPECIALIST FIRST VISIT"),
-                     QStringLiteral("CONSULTING AND INJECTION"), QStringLiteral("CONSULTING AND DRESSING"),
-                     QStringLiteral("CONSULTING AND INJECTION/INJECTION")});
-    cboCat.setText(QStringLiteral("CONSULTING AND DRUGS"));
-    cboPay.addItems({QStringLiteral("CASH"), QStringLiteral("CHEQUE")});
-    cboPay.setText(QStringLiteral("CASH"));
+    cboCat.addItems({"CARD", "CONSULTING", "CONSULTING AND DRUGS", "DRUGS", "GP REVIEW", "SPECIALIST REVIEW",
+                     "ANTE NATAL", "EXAMINATION", "ADMISSION", "GP FIRST VISIT", "SPECIALIST FIRST VISIT",
+                     "CONSULTING AND INJECTION", "CONSULTING AND DRESSING", "CONSULTING AND INJECTION/INJECTION"});
+    cboCat.setText("CONSULTING AND DRUGS");
+    cboPay.addItems({"CASH", "CHEQUE"});
+    cboPay.setText("CASH");
     Connection connection = program.openBilling();
     for (Recordset officers(connection, Sql("select empID,lastname,firstname from employees where deptID = 'ACC'"));
          !officers.eof(); officers.moveNext())
-        cboReceived.addItem(officers.text(QStringLiteral("lastname")) + QStringLiteral(" ") +
-                            officers.text(QStringLiteral("firstname")) + QStringLiteral(" [") +
-                            officers.text(QStringLiteral("empID")) + QStringLiteral("]"));
+        cboReceived.addItem(officers.text("lastname") + " " + officers.text("firstname") + " [" +
+                            officers.text("empID") + "]");
     for (Recordset clinics(connection, Sql("select ClinicID from clinicTypes")); !clinics.eof(); clinics.moveNext())
-        cboClinic.addItem(clinics.text(QStringLiteral("ClinicID")));
-    cboClinic.setText(QStringLiteral("OUT-PATIENT"));
+        cboClinic.addItem(clinics.text("ClinicID"));
+    cboClinic.setText("OUT-PATIENT");
 }
 
 void frmReceiptManual::setEntry(bool entering) {
@@ -94,18 +83,14 @@ void frmReceiptManual::setEntry(bool entering) {
                                                             &cboClinic, &txtBill, &txtDebt, &txtHt, &OKButton})
         control->setEnabled(entering);
     cmdAdd.setEnabled(!entering);
-    if (entering)
-        cboVehNo.setFocus();
 }
 
 void frmReceiptManual::listVisits(const Sql& sql) {
     cboVehNo.clear();
     Connection connection = program.openBilling();
     for (Recordset visits(connection, sql); !visits.eof(); visits.moveNext())
-        cboVehNo.addItem(visits.text(QStringLiteral("fullname")) + QStringLiteral(" @ ") +
-                         visits.date(QStringLiteral("recdate")).toString(QStringLiteral("dd/MM/yyyy")) +
-                         QStringLiteral(" [") + visits.text(QStringLiteral("pno")) + QStringLiteral("]#") +
-                         visits.text(QStringLiteral("consultID")));
+        cboVehNo.addItem(visits.text("fullname") + " @ " + visits.date("recdate").toString("dd/MM/yyyy") + " [" +
+                         visits.text("pno") + "]#" + visits.text("consultID"));
 }
 
 void frmReceiptManual::cmdList_Click() {
@@ -113,43 +98,40 @@ void frmReceiptManual::cmdList_Click() {
                << DTPicker1.date() << "' and '" << DTPicker2.date() << " '");
 }
 
+void frmReceiptManual::cmdAdd_Click() {
+    resetFields();
+    setEntry(true);
+    cboVehNo.setFocus();
+}
+
 void frmReceiptManual::cboVehNo_Click() {
     if (cboVehNo.listIndex() < 0)
         return;
-    const QString entry = cboVehNo.text();
-    const auto hash = entry.lastIndexOf(QLatin1Char('#'));
-    const auto bracket = entry.lastIndexOf(QLatin1Char('['), hash);
-    const auto at = entry.lastIndexOf(QLatin1String(" @ "), bracket);
-    m_pno = entry.mid(bracket + 1, entry.indexOf(QLatin1Char(']'), bracket) - bracket - 1);
-    lblDate.setText(entry.mid(at + 3, bracket - at - 4));
-    if (hash < 0) {
-        program.box(QStringLiteral("No Bill No"));
+    clearPatient();
+    const ListEntry entry = readListEntry(cboVehNo.text());
+    if (entry.bill.isEmpty()) {
+        program.box("No Bill No");
         return;
     }
-    session.gConsultID = entry.mid(hash + 1);
-    lblBill.setText(session.gConsultID);
+    m_pno = entry.number;
+    lblDate.setText(entry.name.mid(entry.name.lastIndexOf(" @ ") + 3));
+    session.gConsultID = entry.bill;
+    lblBill.setText(entry.bill);
     Connection connection = program.openBilling();
     const Recordset patient(connection,
                             Sql("select fullname,coyname,pcatID,clientcatID,debt from qryhfullname where pno='")
                                 << m_pno << "'");
     if (patient.eof())
         return;
-    txtDebt.setText(formatNumber(patient.number(QStringLiteral("debt")), twoDecimals));
-    const QString category = patient.text(QStringLiteral("clientcatID"));
-    const bool isPrivate = category == QLatin1String("PRIVATE") || category == QLatin1String("0001");
-    lblCoy.setText(isPrivate ? QStringLiteral("PRIVATE") : patient.text(QStringLiteral("coyName")));
+    txtDebt.setText(formatTwoDecimals(patient.number("debt")));
+    const QString category = patient.text("clientcatID");
+    const bool isPrivate = category == "PRIVATE" || category == "0001";
+    lblCoy.setText(isPrivate ? "PRIVATE" : patient.text("coyName"));
 }
 
 void frmReceiptManual::workOutDue() {
     txtEmp.setText(
-        formatNumber(parseAmount(txtBill.text()).value_or(0) + parseAmount(txtDebt.text()).value_or(0), twoDecimals));
-}
-
-void frmReceiptManual::txtHt_Change() {
-    if (txtHt.text().isEmpty())
-        return;
-    const std::optional<double> amount = parseAmount(txtHt.text());
-    txtDuty.setText(amount ? getValInWord(std::abs(*amount)) : QString());
+        formatTwoDecimals(parseAmount(txtBill.text()).value_or(0) + parseAmount(txtDebt.text()).value_or(0)));
 }
 
 void frmReceiptManual::refreshGrid() {
@@ -162,27 +144,39 @@ void frmReceiptManual::refreshGrid() {
     const Recordset total(connection,
                           Sql("SELECT sum(AmountPaid) as AmountPaid fROM qryhBillingReceipt where receiptdate='")
                               << dtDate.date() << "'");
-    lblTotal.setText(
-        formatNumber(total.eof() ? 0 : total.number(QStringLiteral("AmountPaid")), QStringLiteral("#,##0.00")));
+    lblTotal.setText(formatTwoDecimals(total.eof() ? 0 : total.number("AmountPaid")));
 }
 
 void frmReceiptManual::cmdPrint_Click() {
-    if (grdData.currentRow() < 0)
-        return;
-    showCashReceipt(program, grdData.text(QStringLiteral("ReceiptNo")));
+    const QString number = grdData.text("ReceiptNo");
+    if (number.isEmpty())
+        program.box("Save Receipt Information before printing");
+    else
+        showCashReceipt(program, number);
 }
 
 void frmReceiptManual::OKButton_Click() {
     if (!checkFields())
         return;
-    if (!program.question(QStringLiteral("Are you sure to save? Please Confirm Receipt Date before Saving"),
-                          QStringLiteral("About to save")))
+    if (!program.question("Are you sure to save? Please Confirm Receipt Date before Saving", "About to save"))
         return;
-    save();
-    program.box(QStringLiteral("Record Succesfully saved"));
-    refreshGrid();
+    bool saved = false;
+    try {
+        saved = save();
+    } catch (const CommitUnknown&) {
+        // It may be saved: only a fresh look at the bill may save it again.
+        setEntry(false);
+        throw;
+    }
+    if (!saved) {
+        program.box("This Bill is already processed! to Modify, unProcess the Batch");
+        return;
+    }
+    // At once, so that no fault in what follows leaves an entry that could be saved again.
     resetFields();
     setEntry(false);
+    program.box("Record Succesfully saved");
+    refreshGrid();
 }
 
 bool frmReceiptManual::checkFields() {
@@ -199,11 +193,11 @@ bool frmReceiptManual::checkFields() {
         {cboReceived.text().isEmpty(), "Please enter Name of Receiver", cboReceived},
         {cboPay.text().isEmpty(), "Please enter Payment type", cboPay},
         {cboClinic.text().isEmpty(), "Please enter Clinic type", cboClinic},
-        // Texts where a number belongs, and a bill nobody picked, are refused in the words of their own checks.
+        // Texts where a number belongs, and a patient nobody picked, are refused in the words of their own checks.
         {!parseAmount(txtHt.text()) || *parseAmount(txtHt.text()) < 0, "Please enter Amount Paid", txtHt},
         {!txtBill.text().trimmed().isEmpty() && parseAmount(txtBill.text()).value_or(-1) < 0,
          "Please enter Amount Billed", txtBill},
-        {lblBill.text().isEmpty(), "Please Select Patient Name", cboVehNo},
+        {cboVehNo.listIndex() < 0 || lblBill.text().isEmpty(), "Please Select Patient Name", cboVehNo},
     };
     for (const auto& check : checks) {
         if (check.missing) {
@@ -215,54 +209,54 @@ bool frmReceiptManual::checkFields() {
     return true;
 }
 
-void frmReceiptManual::save() {
+/// False: the bill is on an invoice already and may not grow any more.
+bool frmReceiptManual::save() {
     const double billed = parseAmount(txtBill.text()).value_or(0);
     const double paid = *parseAmount(txtHt.text());
+    session.gConsultID = lblBill.text();
     Connection connection = program.openBilling();
     Transaction transaction(connection);
-    const double newTotal = writeBill(connection);
-    postPatientTran(program, connection, dtDate.date(), m_pno, lblBill.text(), -billed, session.gBillTo,
-                    QStringLiteral("Payment"));
+    Recordset bill(connection, Sql("select * from billing where billNo='") << lblBill.text() << "'");
+    if (!bill.eof() && bill.integer("isProcess") != 0)
+        return false;
+    const double newTotal = writeBill(bill, billed, paid);
+    postPatientTran(program, connection, dtDate.date(), m_pno, lblBill.text(), 0 - billed, session.gBillTo, "Payment");
     writePayment(connection, newTotal);
-    postPatientTran(program, connection, dtDate.date(), m_pno, lblBill.text(), paid, session.gBillTo,
-                    QStringLiteral("Payment"));
-    Recordset bill(connection, Sql("select * from Billing where billno='") << lblBill.text() << "'");
-    bill.set(QStringLiteral("isPaid"),
-             bill.number(QStringLiteral("AmountPaid")) >= bill.number(QStringLiteral("Amountbilled")) ? 1 : 0);
-    bill.update();
-    program.writeAuditTrail(session.gUsername, QStringLiteral("insert Payment for: ") + cboVehNo.text(), lblBill.text(),
+    postPatientTran(program, connection, dtDate.date(), m_pno, lblBill.text(), paid, session.gBillTo, "Payment");
+    Recordset total(connection, Sql("select * from Billing where billno='") << lblBill.text() << "'");
+    total.set("isPaid", isPaidFlag(total.number("AmountPaid"), total.number("Amountbilled")));
+    total.update();
+    program.writeAuditTrail(session.gUsername, "insert Payment for: " + cboVehNo.text(), lblBill.text(),
                             QString::number(paid, 'f', 2), session.sComputerName);
     transaction.commit();
+    return true;
 }
 
-double frmReceiptManual::writeBill(Connection& connection) {
-    Recordset bill(connection, Sql("select * from billing where billNo='") << lblBill.text() << "'");
+double frmReceiptManual::writeBill(Recordset& bill, double addedBill, double addedPayment) {
     const bool isNew = bill.eof();
-    const double billed =
-        (isNew ? 0 : bill.number(QStringLiteral("Amountbilled"))) + parseAmount(txtBill.text()).value_or(0);
-    const double paid = (isNew ? 0 : bill.number(QStringLiteral("AmountPaid"))) + *parseAmount(txtHt.text());
+    const double billed = (isNew ? 0 : bill.number("Amountbilled")) + addedBill;
+    const double paid = (isNew ? 0 : bill.number("AmountPaid")) + addedPayment;
     if (isNew)
         bill.addNew();
-    bill.set(QStringLiteral("bdate"), dtDate.date());
-    bill.set(QStringLiteral("billNo"), lblBill.text());
-    bill.set(QStringLiteral("PNo"), m_pno);
-    bill.set(QStringLiteral("clientID"), lblCoy.text());
-    bill.set(QStringLiteral("Amountbilled"), billed);
-    bill.set(QStringLiteral("AmountBIlledInWord"), QStringLiteral("XXX"));
-    bill.set(QStringLiteral("AmountPaid"), paid);
-    bill.set(QStringLiteral("profFee"), 0);
-    bill.set(QStringLiteral("AmtBF"), 0);
-    bill.set(QStringLiteral("billingMonth"), QLocale::c().monthName(dtDate.date().month()));
-    bill.set(QStringLiteral("billingYear"), QString::number(dtDate.date().year()));
-    bill.set(QStringLiteral("diagnosis"), QStringLiteral("XXX"));
-    bill.set(QStringLiteral("billType"), QStringLiteral("CASH"));
+    bill.set("bdate", dtDate.date());
+    bill.set("billNo", lblBill.text());
+    bill.set("PNo", m_pno);
+    bill.set("clientID", lblCoy.text());
+    bill.set("Amountbilled", billed);
+    bill.set("AmountBIlledInWord", "XXX");
+    bill.set("AmountPaid", paid);
+    bill.set("profFee", 0);
+    bill.set("AmtBF", 0);
+    bill.set("billingMonth", QLocale::c().monthName(dtDate.date().month()));
+    bill.set("billingYear", QString::number(dtDate.date().year()));
+    bill.set("diagnosis", "XXX");
+    bill.set("billType", "CASH");
     bill.update();
     return billed;
 }
 
 // The remark of a manual receipt is always "CASH", whatever its pay type.
 void frmReceiptManual::writePayment(Connection& connection, double billed) {
-    const QString receiver = cboReceived.text();
     Receipt receipt;
     receipt.receiptDate = dtDate.date();
     receipt.receiptNo = formReceiptNumber(program, connection, ReceiptForm::Paper, txtRct.text()).number;
@@ -273,19 +267,24 @@ void frmReceiptManual::writePayment(Connection& connection, double billed) {
     receipt.amountBilled = billed;
     receipt.amountPaid = *parseAmount(txtHt.text());
     receipt.amountInWord = txtDuty.text();
-    receipt.receivedBy = receiver.mid(receiver.lastIndexOf(QLatin1Char('[')) + 1).chopped(1);
+    receipt.receivedBy = readListEntry(cboReceived.text()).number;
     receipt.payType = cboPay.text();
-    receipt.time = program.ui().now().time();
-    receipt.remarks = QStringLiteral("CASH");
+    receipt.time = ui().now().time();
+    receipt.remarks = "CASH";
     addPayment(program, connection, receipt);
 }
 
 void frmReceiptManual::resetFields() {
     cboVehNo.setListIndex(-1);
-    for (TextBox* box : {&txtRct, &txtBill, &txtDebt, &txtEmp, &txtHt, &txtDuty})
+    clearPatient();
+    for (TextBox* box : {&txtRct, &txtBill, &txtHt, &txtDuty})
         box->clear();
+}
+
+void frmReceiptManual::clearPatient() {
     for (Label* label : {&lblBill, &lblCoy, &lblDate})
         label->clear();
+    txtDebt.clear();
     m_pno.clear();
 }
 

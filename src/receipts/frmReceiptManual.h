@@ -46,17 +46,19 @@ private:
     void loadLists();
     void listVisits(const Sql& sql);
     void cmdList_Click();
+    void cmdAdd_Click();
     void cboVehNo_Click();
     void workOutDue();
-    void txtHt_Change();
     void refreshGrid();
     void cmdPrint_Click();
     void OKButton_Click();
     bool checkFields();
-    void save();
-    double writeBill(Connection& connection); ///< gives the bill's new total, naira
+    bool save();
+    /// Adds the bill or enlarges it; all in naira. Gives the bill's new total.
+    double writeBill(Recordset& bill, double addedBill, double addedPayment);
     void writePayment(Connection& connection, double billed);
     void resetFields();
+    void clearPatient();
     void setEntry(bool entering);
 
     QString m_pno;

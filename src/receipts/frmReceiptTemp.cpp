@@ -1,25 +1,22 @@
 #include "receipts/frmReceiptTemp.h"
 
 #include "data/Money.h"
+#include "receipts/AmountInWords.h"
+#include "receipts/ListEntry.h"
 #include "receipts/PatientAccount.h"
+#include "receipts/VisitFacts.h"
 #include "receipts/frmCashReceipt.h"
-#include "session/Words.h"
-
-#include <cmath>
 
 namespace orvane {
 
 namespace {
 
-const QString twoDecimals = QStringLiteral("0.00");
-
 /// What stands for the number until a save forms it: it passes the first check and is never stored.
-const QString numberToCome = QStringLiteral("XX");
+const QString numberToCome = "XX";
 
 } // namespace
 
-frmReceiptTemp::frmReceiptTemp(Program& owner)
-    : Screen(owner, QStringLiteral("frmReceiptTemp"), QStringLiteral("Receipt Entry")) {
+frmReceiptTemp::frmReceiptTemp(Program& owner) : Screen(owner, "frmReceiptTemp", "Receipt Entry") {
     for (TextBox* box : {&txtEmp, &txtHt})
         box->numeric();
     for (TextBox* box : {&txtBill, &txtEmp, &txtDuty, &txtDiag})
@@ -30,7 +27,7 @@ frmReceiptTemp::frmReceiptTemp(Program& owner)
 void frmReceiptTemp::connectHandlers() {
     cmdInv.onClick = [this] { cmdInv_Click(); };
     cboVehNo.onClick = [this] { cboVehNo_Click(); };
-    txtHt.onChange = [this] { txtHt_Change(); };
+    txtHt.onChange = [this] { showAmountInWords(txtHt, txtDuty); };
     chkRev.onClick = [this] { chkRev_Click(); };
     cmdAdd.onClick = [this] { cmdAdd_Click(); };
     cmdCancel.onClick = [this] { cmdCancel_Click(); };
@@ -59,19 +56,16 @@ void frmReceiptTemp::Form_Load() {
     const QDate today = program.getServerDateTime().date();
     for (DatePicker* picker : {&dtDate, &DTPicker1, &DTPicker2})
         picker->setDate(today);
-    cboCat.addItems({QStringLiteral("REGISTRATION"), QStringLiteral("CONSULTATION "),
-                     QStringLiteral("CONSULTATION  AND DRUGS"), QStringLiteral("DRUGS"), QStringLiteral("GP REVIEW"),
-                     QStringLiteral("SPECIALIST REVIEW"), QStringLiteral("ANTE NATAL"), QStringLiteral("EXAMINATION"),
-                     QStringLiteral("ADMISSION"), QStringLiteral("GP FIRST VISIT"),
-                     QStringLiteral("SPECIALIST FIRST VISIT"), QStringLiteral("CONSULTATION  AND INJECTION"),
-                     QStringLiteral("CONSULTATION  AND DRESSING"),
-                     QStringLiteral("CONSULTATION  AND INJECTION/INJECTION")});
+    cboCat.addItems({"REGISTRATION", "CONSULTATION ", "CONSULTATION  AND DRUGS", "DRUGS", "GP REVIEW",
+                     "SPECIALIST REVIEW", "ANTE NATAL", "EXAMINATION", "ADMISSION", "GP FIRST VISIT",
+                     "SPECIALIST FIRST VISIT", "CONSULTATION  AND INJECTION", "CONSULTATION  AND DRESSING",
+                     "CONSULTATION  AND INJECTION/INJECTION"});
     // One blank, where the entry has two: a text that is not of the list.
-    cboCat.setText(QStringLiteral("CONSULTATION AND DRUGS"));
-    cboPay.addItems({QStringLiteral("CASH"), QStringLiteral("CHEQUE")});
-    cboPay.setText(QStringLiteral("CASH"));
+    cboCat.setText("CONSULTATION AND DRUGS");
+    cboPay.addItems({"CASH", "CHEQUE"});
+    cboPay.setText("CASH");
     for (const char* column : {"AmountBilled", "AmountPaid", "AmountDue"})
-        grdData.setFormat(QLatin1String(column), QStringLiteral("#,###.00"));
+        grdData.setFormat(QLatin1String(column), "#,###.00");
     chkRev.setEnabled(false);
     setEntry(false);
     loadGrid(true);
@@ -82,6 +76,8 @@ void frmReceiptTemp::setEntry(bool entering) {
          std::initializer_list<Control*>{&cboVehNo, &cboCat, &cboPay, &txtHt, &dtDate, &OKButton, &cmdCancel})
         control->setEnabled(entering);
     cmdAdd.setEnabled(!entering);
+    cmdInv.setEnabled(true);
+    cmdPrint.setEnabled(true);
 }
 
 void frmReceiptTemp::cmdInv_Click() {
@@ -92,48 +88,59 @@ void frmReceiptTemp::cmdInv_Click() {
                     Sql("select distinct billno,fullname from qryBillingBalanceDueForPrivate  where  date between '")
                         << DTPicker1.date() << "' and '" << DTPicker2.date() << "' order by fullname");
     for (; !bills.eof(); bills.moveNext())
-        cboVehNo.addItem(bills.text(QStringLiteral("fullname")) + QStringLiteral(" [") +
-                         bills.text(QStringLiteral("billno")) + QStringLiteral("]"));
+        cboVehNo.addItem(bills.text("fullname") + " [" + bills.text("billno") + "]");
 }
 
 void frmReceiptTemp::cboVehNo_Click() {
     if (m_reversal || cboVehNo.listIndex() < 0)
         return;
-    const QString entry = cboVehNo.text();
-    const auto bracket = entry.lastIndexOf(QLatin1Char('['));
-    if (bracket < 0) {
+    const ListEntry entry = readListEntry(cboVehNo.text());
+    if (entry.number.isEmpty()) {
         session.gConsultID.clear();
-        program.box(QStringLiteral("No Consultation No"));
+        clearBill();
+        program.box("No Consultation No");
         return;
     }
-    session.gConsultID = entry.mid(bracket + 1).chopped(1);
-    Label5.setText(entry.left(bracket).trimmed());
+    session.gConsultID = entry.number;
+    Label5.setText(entry.name);
     loadBillFigures();
     loadGrid(false);
 }
 
+/// The figures of the bill in session.gConsultID. One that is not due any more is no bill to receive money for.
 void frmReceiptTemp::loadBillFigures() {
+    clearBill();
+    txtBill.setText("0");
     {
         Connection connection = program.openBilling();
         const Recordset bill(connection,
                              Sql("select distinct Date,billno,pno,amountbilled,currentDebt,prevDebt,AmountPaid from "
                                  "qryBillingBalanceDueForPrivate where billno='")
                                  << session.gConsultID << "'");
-        if (bill.eof()) {
-            txtBill.setText(QStringLiteral("0"));
-            lblCurr.setText(QStringLiteral("0"));
-            lblDep.setText(QStringLiteral("0"));
-            lblDate.clear();
-        } else {
-            txtBill.setText(bill.text(QStringLiteral("billno")));
-            lblDate.setText(bill.date(QStringLiteral("Date")).toString(QStringLiteral("dd/MM/yyyy")));
-            lblCurr.setText(formatNumber(bill.number(QStringLiteral("amountbilled")), twoDecimals));
-            m_pno = bill.text(QStringLiteral("pno"));
+        if (!bill.eof()) {
+            m_billNo = bill.text("billno");
+            m_pno = bill.text("pno");
+            txtBill.setText(m_billNo);
+            lblDate.setText(bill.date("Date").toString("dd/MM/yyyy"));
+            lblCurr.setText(formatTwoDecimals(bill.number("amountbilled")));
         }
+        txtDiag.setText(diagnosisOfVisit(connection, session.gConsultID));
+        lblClinic2.setText(clinicOfVisit(connection, session.gConsultID));
     }
     const double paid = refreshBillAmountPaid(program, session.gConsultID);
-    lblDep.setText(formatNumber(paid, twoDecimals));
-    txtEmp.setText(formatNumber(parseAmount(lblCurr.text()).value_or(0) - paid, twoDecimals));
+    lblDep.setText(formatTwoDecimals(paid));
+    txtEmp.setText(formatTwoDecimals(parseAmount(lblCurr.text()).value_or(0) - paid));
+}
+
+void frmReceiptTemp::clearBill() {
+    m_billNo.clear();
+    m_pno.clear();
+    for (Label* figure : {&lblCurr, &lblDep})
+        figure->setText("0");
+    for (Label* label : {&lblDate, &lblClinic2})
+        label->clear();
+    for (TextBox* box : {&txtBill, &txtEmp, &txtDiag})
+        box->clear();
 }
 
 void frmReceiptTemp::loadGrid(bool all) {
@@ -148,17 +155,9 @@ void frmReceiptTemp::loadGrid(bool all) {
     grdData.load(Recordset(connection, sql));
 }
 
-// The words of a reversal read like those of a receipt.
-void frmReceiptTemp::txtHt_Change() {
-    if (txtHt.text().isEmpty())
-        return;
-    const std::optional<double> amount = parseAmount(txtHt.text());
-    txtDuty.setText(amount ? getValInWord(std::abs(*amount)) : QString());
-}
-
 void frmReceiptTemp::chkRev_Click() {
     if (chkRev.isChecked() && cboVehNo.text().isEmpty())
-        program.box(QStringLiteral("No Patient is selected"));
+        program.box("No Patient is selected");
 }
 
 void frmReceiptTemp::cmdAdd_Click() {
@@ -171,34 +170,33 @@ void frmReceiptTemp::cmdAdd_Click() {
 }
 
 void frmReceiptTemp::cmdCancel_Click() {
-    m_reversal = false;
     resetFields();
     setEntry(false);
 }
 
 void frmReceiptTemp::resetFields() {
-    lblCurr.setText(QStringLiteral("0"));
-    lblDep.setText(QStringLiteral("0"));
+    // The date of a reversed receipt must not become that of the next one.
+    if (m_reversal)
+        dtDate.setDate(session.gServerDate);
+    m_reversal = false;
+    m_reversedNo.clear();
+    clearBill();
     cboVehNo.setListIndex(-1);
     cboPay.setListIndex(-1);
-    cboCat.setText(QStringLiteral("GOODS PURCHASED"));
-    for (TextBox* box : {&txtEmp, &txtHt, &txtDuty, &txtBill, &txtDiag})
-        box->clear();
-    for (Label* label : {&lblRct, &lblDate, &lblClinic2})
-        label->clear();
+    cboCat.setText("GOODS PURCHASED");
+    txtHt.clear();
+    txtDuty.clear();
+    lblRct.clear();
     chkRev.setChecked(false);
     chkRev.setEnabled(false);
-    Label5.setText(QStringLiteral("Receipt Information"));
-    m_pno.clear();
-    m_reversedNo.clear();
+    Label5.setText("Receipt Information");
 }
 
+/// Prints the receipt that is selected in the grid: a save leaves the one that it made selected.
 void frmReceiptTemp::cmdPrint_Click() {
-    const QString number = lblRct.text().isEmpty() || lblRct.text() == numberToCome
-                               ? (grdData.currentRow() < 0 ? QString() : grdData.text(QStringLiteral("ReceiptNo")))
-                               : lblRct.text();
+    const QString number = grdData.text("ReceiptNo");
     if (number.isEmpty()) {
-        program.box(QStringLiteral("Save Receipt Information before printing"));
+        program.box("Save Receipt Information before printing");
         return;
     }
     showCashReceipt(program, number);
@@ -206,45 +204,51 @@ void frmReceiptTemp::cmdPrint_Click() {
 }
 
 void frmReceiptTemp::cmdRev_Click() {
-    {
-        Connection connection = program.openBilling();
-        const Recordset manager(connection,
-                                Sql("select username from vwusers where loginrole = 'MANAGEMENT' and username='")
-                                    << session.gUsername << "'");
-        if (manager.eof()) {
-            program.box(QStringLiteral("You dont have Permission to Reverse a Receipt Entry"));
-            return;
-        }
-    }
-    if (grdData.number(QStringLiteral("AmountPaid")) < 0) {
-        program.box(QStringLiteral("Cannot Reverse a Reversed Entry"));
+    if (!mayReverse()) {
+        program.box("You dont have Permission to Reverse a Receipt Entry");
         return;
     }
-    m_reversedNo = grdData.text(QStringLiteral("receiptNo"));
-    if (m_reversedNo.isEmpty()) {
-        program.box(QStringLiteral("No Record is selected in the Grid"));
+    if (grdData.number("AmountPaid") < 0) {
+        program.box("Cannot Reverse a Reversed Entry");
         return;
     }
+    if (grdData.text("receiptNo").isEmpty()) {
+        program.box("No Record is selected in the Grid");
+        return;
+    }
+    resetFields();
     m_reversal = true;
     setEntry(true);
     chkRev.setEnabled(true);
-    session.gConsultID = grdData.text(QStringLiteral("billno"));
-    const QString name = grdData.text(QStringLiteral("Fullname"));
-    const double billed = grdData.number(QStringLiteral("AmountBilled"));
-    const double paid = grdData.number(QStringLiteral("AmountPaid"));
+    fillReversal();
+    for (Control* control : std::initializer_list<Control*>{&cboCat, &cboPay, &txtHt, &cboVehNo, &cmdInv})
+        control->setEnabled(false);
+}
+
+bool frmReceiptTemp::mayReverse() {
+    Connection connection = program.openBilling();
+    return !Recordset(connection, Sql("select username from vwusers where loginrole = 'MANAGEMENT' and username='")
+                                      << session.gUsername << "'")
+                .eof();
+}
+
+/// The opposite of the receipt that is selected in the grid, always in cash.
+void frmReceiptTemp::fillReversal() {
+    session.gConsultID = grdData.text("billno");
     loadBillFigures();
+    m_reversedNo = grdData.text("receiptNo");
+    m_billNo = session.gConsultID;
+    m_pno = grdData.text("patNo");
     // The number is formed inside the save; until then the same mark as on a new receipt stands for it.
     lblRct.setText(numberToCome);
-    txtBill.setText(session.gConsultID);
-    dtDate.setDate(grdData.date(QStringLiteral("receiptDate")));
-    txtEmp.setText(formatNumber(-billed, twoDecimals));
-    txtHt.setText(formatNumber(-paid, twoDecimals));
-    cboCat.setText(QStringLiteral("REVERSAL for RctNo: ") + m_reversedNo);
-    cboPay.setText(QStringLiteral("CASH"));
-    m_pno = grdData.text(QStringLiteral("patNo"));
-    for (Control* control : std::initializer_list<Control*>{&cboCat, &cboPay, &txtHt, &cboVehNo})
-        control->setEnabled(false);
-    cboVehNo.addItem(name + QStringLiteral(" [") + session.gConsultID + QStringLiteral("]"));
+    txtBill.setText(m_billNo);
+    dtDate.setDate(grdData.date("receiptDate"));
+    txtEmp.setText(formatTwoDecimals(0 - grdData.number("AmountBilled")));
+    txtHt.setText(formatTwoDecimals(0 - grdData.number("AmountPaid")));
+    cboCat.setText("REVERSAL for RctNo: " + m_reversedNo);
+    cboPay.setText("CASH");
+    const QString name = grdData.text("Fullname");
+    cboVehNo.addItem(name + " [" + m_billNo + ']');
     cboVehNo.setListIndex(cboVehNo.count() - 1);
     Label5.setText(name);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Program.h"
+#include "receipts/ReceiptNumber.h"
 
 namespace orvane {
 
@@ -48,23 +48,27 @@ private:
     void cmdInv_Click();
     void cboVehNo_Click();
     void loadBillFigures();
+    void clearBill();
     void loadGrid(bool all);
-    void txtHt_Change();
     void chkRev_Click();
     void cmdAdd_Click();
     void cmdCancel_Click();
     void cmdPrint_Click();
     void cmdRev_Click();
+    bool mayReverse();
+    void fillReversal();
     void resetFields();
     void setEntry(bool entering); ///< enables the fields and Save, or Add
 
     // Saving (frmReceiptTempSave.cpp).
     void OKButton_Click();
     bool checkFields();
-    QString save(); ///< the refusal of the number generator; empty when saved
-    void writePayment(Connection& connection, double amount);
+    bool isCustomerPicked() const;
+    ReceiptNumber save(); ///< without a number nothing was saved
+    void writePayment(Connection& connection, const QString& receiptNo, double amount);
     void settleBill(Connection& connection, double amount);
 
+    QString m_billNo; ///< of the bill in hand; empty: none. Other screens change session.gConsultID meanwhile
     QString m_pno;
     QString m_reversedNo; ///< the receipt under reversal
     bool m_reversal = false;

@@ -3,8 +3,8 @@
 
 #include "data/Money.h"
 #include "receipts/PatientAccount.h"
-#include "receipts/ReceiptNumber.h"
 #include "receipts/ReceiptRows.h"
+#include "receipts/VisitFacts.h"
 #include "receipts/frmCashReceipt.h"
 
 namespace orvane {
@@ -12,32 +12,39 @@ namespace orvane {
 void frmReceiptTemp::OKButton_Click() {
     if (!checkFields())
         return;
-    if (!program.question(QStringLiteral("Are you sure to save?"), QStringLiteral("About to save")))
+    if (!program.question("Are you sure to save?", "About to save"))
         return;
-    const bool wasReversal = m_reversal;
-    const QString refusal = save();
-    if (!refusal.isEmpty()) {
-        program.box(refusal);
+    ReceiptNumber receipt;
+    try {
+        receipt = save();
+    } catch (const CommitUnknown&) {
+        // It may be saved: only a fresh look at the bill may save it again.
+        setEntry(false);
+        throw;
+    }
+    if (receipt.number.isEmpty()) {
+        program.box(receipt.refusal);
         unload();
         return;
     }
-    program.box(QStringLiteral("Record Succesfully saved"));
-    if (!wasReversal)
-        showCashReceipt(program, lblRct.text());
-    m_reversal = false;
-    cmdPrint.setEnabled(true);
+    const bool wasReversal = m_reversal;
+    // At once, so that no fault in what follows leaves an entry that could be saved again.
     resetFields();
     setEntry(false);
+    program.box("Record Succesfully saved");
+    if (!wasReversal)
+        showCashReceipt(program, receipt.number);
     loadGrid(true);
+    grdData.selectRow(grdData.findRow("ReceiptNo", receipt.number));
 }
 
 bool frmReceiptTemp::checkFields() {
     if (lblRct.text().isEmpty()) {
-        program.box(QStringLiteral("Receipt No Required"));
+        program.box("Receipt No Required");
         return false;
     }
     if (txtHt.text().trimmed().isEmpty()) {
-        program.box(QStringLiteral("Please enter Amount Paid"));
+        program.box("Please enter Amount Paid");
         txtHt.setFocus();
         return false;
     }
@@ -46,71 +53,80 @@ bool frmReceiptTemp::checkFields() {
             "Receipt cannot be Issued!!! Tick Reversal Checkbox to Reverse OR Customer Qualifies for REFUND"));
         return false;
     }
+    if (!isCustomerPicked()) {
+        program.box("Please enter Customer Name");
+        cboVehNo.setFocus();
+        return false;
+    }
     const struct {
         ComboBox& box;
         const char* text;
-    } required[] = {{cboVehNo, "Please enter Customer Name"},
-                    {cboCat, "Please enter Payment Purpose"},
-                    {cboPay, "Please enter Payment type"}};
+    } required[] = {{cboCat, "Please enter Payment Purpose"}, {cboPay, "Please enter Payment type"}};
     for (const auto& field : required) {
         if (field.box.text().isEmpty()) {
-            program.box(QLatin1String(field.text));
+            program.box(field.text);
             field.box.setFocus();
             return false;
         }
     }
     if (m_reversal && !chkRev.isChecked()) {
-        program.box(QStringLiteral("Please tick the reversal Checkbox"));
+        program.box("Please tick the reversal Checkbox");
         return false;
     }
     const std::optional<double> amount = parseAmount(txtHt.text());
     // Money goes back only by a reversal of a receipt: a text or a minus typed on a fresh receipt is no payment.
     if (!amount || (*amount < 0 && !m_reversal)) {
-        program.box(QStringLiteral("Please enter Amount Paid"));
+        program.box("Please enter Amount Paid");
         txtHt.setFocus();
+        return false;
+    }
+    // A receipt without a date would be in no day's cash.
+    if (dtDate.isEmpty()) {
+        program.box("Please enter Receipt Date");
+        dtDate.setFocus();
         return false;
     }
     return true;
 }
 
-QString frmReceiptTemp::save() {
-    const double amount = *parseAmount(txtHt.text());
-    Connection connection = program.openBilling();
-    Transaction transaction(connection);
-    const Recordset visit(connection, Sql("select clinicType from qryhVisitsForAttend where consultID ='")
-                                          << session.gConsultID << "'");
-    lblClinic2.setText(visit.eof() ? QString() : visit.text(QStringLiteral("clinicType")));
-    const ReceiptNumber receipt = formReceiptNumber(program, connection, ReceiptForm::Generated);
-    if (receipt.number.isEmpty())
-        return receipt.refusal;
-    lblRct.setText(receipt.number);
-    writePayment(connection, amount);
-    postPatientTran(program, connection, dtDate.date(), m_pno, txtBill.text(), amount, session.gBillTo,
-                    QStringLiteral("Payment"));
-    program.writeAuditTrail(
-        session.gUsername,
-        (m_reversal ? QStringLiteral("Reversal Entry (Payment) for: ") : QStringLiteral("insert Payment for: ")) +
-            cboVehNo.text(),
-        session.gConsultID, QString::number(amount, 'f', 2), session.sComputerName);
-    settleBill(connection, amount);
-    transaction.commit();
-    return {};
+/// A name that was typed and not picked is no bill to credit.
+bool frmReceiptTemp::isCustomerPicked() const {
+    return cboVehNo.listIndex() >= 0 && !m_billNo.isEmpty();
 }
 
-void frmReceiptTemp::writePayment(Connection& connection, double amount) {
+ReceiptNumber frmReceiptTemp::save() {
+    const double amount = *parseAmount(txtHt.text());
+    session.gConsultID = m_billNo;
+    Connection connection = program.openBilling();
+    Transaction transaction(connection);
+    lblClinic2.setText(clinicOfVisit(connection, session.gConsultID));
+    ReceiptNumber receipt = formReceiptNumber(program, connection, ReceiptForm::Generated);
+    if (receipt.number.isEmpty())
+        return receipt;
+    writePayment(connection, receipt.number, amount);
+    postPatientTran(program, connection, dtDate.date(), m_pno, m_billNo, amount, session.gBillTo, "Payment");
+    program.writeAuditTrail(session.gUsername,
+                            (m_reversal ? "Reversal Entry (Payment) for: " : "insert Payment for: ") + cboVehNo.text(),
+                            session.gConsultID, QString::number(amount, 'f', 2), session.sComputerName);
+    settleBill(connection, amount);
+    transaction.commit();
+    return receipt;
+}
+
+void frmReceiptTemp::writePayment(Connection& connection, const QString& receiptNo, double amount) {
     Receipt receipt;
     receipt.receiptDate = dtDate.date();
-    receipt.receiptNo = lblRct.text();
-    receipt.clinicID = QStringLiteral("SALES");
-    receipt.billNo = txtBill.text();
+    receipt.receiptNo = receiptNo;
+    receipt.clinicID = "SALES";
+    receipt.billNo = m_billNo;
     receipt.pno = m_pno;
     receipt.paymentFor = cboCat.text();
     receipt.amountBilled = parseAmount(txtEmp.text()).value_or(0);
     receipt.amountPaid = amount;
     receipt.amountInWord = txtDuty.text();
     receipt.payType = cboPay.text();
-    receipt.time = program.ui().now().time();
-    receipt.remarks = m_reversal ? QStringLiteral("REVERSAL for RctNo: ") + m_reversedNo : QStringLiteral("PAYMENT");
+    receipt.time = ui().now().time();
+    receipt.remarks = m_reversal ? "REVERSAL for RctNo: " + m_reversedNo : "PAYMENT";
     addPayment(program, connection, receipt);
 }
 
@@ -119,9 +135,9 @@ void frmReceiptTemp::settleBill(Connection& connection, double amount) {
     Recordset bill(connection, Sql("select * from Billing where billno='") << session.gConsultID << "'");
     if (bill.eof())
         return;
-    const double paid = bill.number(QStringLiteral("AmountPaid")) + amount;
-    bill.set(QStringLiteral("AmountPaid"), paid);
-    bill.set(QStringLiteral("isPaid"), paid >= bill.number(QStringLiteral("Amountbilled")) ? 1 : 0);
+    const double paid = bill.number("AmountPaid") + amount;
+    bill.set("AmountPaid", paid);
+    bill.set("isPaid", isPaidFlag(paid, bill.number("Amountbilled")));
     bill.update();
 }
 

@@ -154,6 +154,9 @@ void MdiTolmek::mnuPCB_Click() {
 void MdiTolmek::openPanel(const QString& mode, const QString& label) {
     session.sRptPanelMode = mode;
     session.sRptPanelLabel = label;
+    // It takes its mode when it loads.
+    if (Form* open = program.loadedForm(QStringLiteral("rptPanelSummary")))
+        open->unload();
     program.open(QStringLiteral("rptPanelSummary"));
 }
 

@@ -1,0 +1,17 @@
+#include "receipts/AmountInWords.h"
+
+#include "data/Money.h"
+#include "session/Words.h"
+
+#include <cmath>
+
+namespace orvane {
+
+void showAmountInWords(const TextBox& amount, TextBox& words) {
+    if (amount.text().isEmpty())
+        return;
+    const std::optional<double> naira = parseAmount(amount.text());
+    words.setText(naira ? getValInWord(std::abs(*naira)) : QString());
+}
+
+} // namespace orvane

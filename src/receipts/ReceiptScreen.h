@@ -1,0 +1,53 @@
+#pragma once
+
+#include "receipts/ReceiptPage.h"
+#include "session/Program.h"
+
+namespace orvane {
+
+/// "Cash Receipt": the receipt of session.sPrintBillNo, twice on one page. What the screen shows is what is printed.
+/// The two receipt screens differ in where they find the receipt and in whose heading it bears.
+class ReceiptScreen : public Screen {
+public:
+    ReceiptScreen(Program& program, const QString& name);
+
+    void Form_Load() override;
+    Layout layout() const override;
+    std::optional<Page> page() const override;
+    Button* defaultButton() override { return &cmdPrint; }
+
+protected:
+    virtual Recordset readReceipt(Connection& connection) const = 0;
+    virtual QString missingText() const = 0; ///< what to say when there is no such receipt
+    /// The row of appSettings with the heading; empty: the receipt names none.
+    virtual QString headingCode(const Recordset& receipt) const = 0;
+
+private:
+    /// The controls of one copy.
+    struct Copy {
+        Copy(Form& form, const QString& fieldSuffix, const QString& headSuffix);
+
+        Picture Image1;
+        Label lblHead, lblHead2, lblHead3, lblHead4;
+        TextBox txtReceiptNo, txtDate, txtRecFrom, txtSumOf, txtBeingPayFor, txtBill, txtAmount, txtBal, txtChequeNo;
+        Label lblName;
+
+        void fill(const Recordset& receipt);
+        void fillHeading(const Session& session);
+        Layout layout(const QString& heading) const;
+        ReceiptText text(const QString& copyName) const;
+    };
+
+    void refuse(const QString& reason);
+    void loadHeading(Connection& connection, const QString& code);
+    void cmdPrint_Click();
+
+    Copy customer{*this, {}, {}};
+    Copy office{*this, "2", "Copy"};
+    Button cmdPrint{*this, "cmdPrint", "&Print"};
+};
+
+/// Shows the receipt of this number on the receipt screen `form`, in place of one that is still on the screen.
+void showReceipt(Program& program, const QString& form, const QString& receiptNo);
+
+} // namespace orvane
