@@ -29,7 +29,7 @@ Binding* bindControl(FormView& view, Control& control, QWidget* parent, Place pl
         return new LabelBinding(view, static_cast<Label&>(control), parent, place, characters);
     case ControlKind::TextBox:
         if (static_cast<TextBox&>(control).isMultiline())
-            return new TextBinding(view, static_cast<TextBox&>(control), parent);
+            return new TextBinding(view, static_cast<TextBox&>(control), parent, place);
         return new LineBinding(view, static_cast<TextBox&>(control), parent, place, characters);
     case ControlKind::ComboBox:
         return new ComboBinding(view, static_cast<ComboBox&>(control), parent, characters);

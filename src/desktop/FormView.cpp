@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLayout>
 
 namespace orvane {
 
@@ -120,6 +121,10 @@ void FormView::release() {
     m_form = nullptr;
     for (Binding* binding : m_bindings)
         binding->release();
+}
+
+int FormView::heightForWidth(int width) const {
+    return layout()->totalMinimumHeightForWidth(width);
 }
 
 void FormView::keyPressEvent(QKeyEvent* event) {

@@ -41,6 +41,8 @@ public:
     void focusFirst();
     void setEscapeCloses(bool closes) { m_escapeCloses = closes; } ///< a form without a cancel button; true at first
     void release(); ///< the form has closed: nothing here may touch it again
+    /// What it needs, not what it would like: lists and notes give way before anything has to be scrolled to.
+    int heightForWidth(int width) const override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -15,6 +15,8 @@ namespace orvane {
 
 namespace {
 
+constexpr int titleButtons = 130; ///< the width of what stands beside a title in its bar, pixels
+
 /// Of a document's form only the buttons are laid out; its page stands in for its fields.
 Layout buttonsOnly(const Layout& layout) {
     Layout column;
@@ -90,16 +92,20 @@ void FormWindow::showPage() {
 }
 
 QSize FormWindow::sizeFor(QSize room) const {
-    QSize wanted = m_view->sizeHint();
+    const QSize named(fontMetrics().horizontalAdvance(windowTitle()) + titleButtons, 0);
+    QSize wanted = m_view->sizeHint().expandedTo(named);
     if (m_preview)
         wanted = QSize(std::max(wanted.width() + 280, m_preview->sizeHint().width() + 24), room.height());
     else if (m_form && hasList(*m_form))
-        wanted = wanted.expandedTo(QSize(room.width() * 8 / 10, room.height() * 9 / 10));
+        // A wide form with a list takes all there is; a small one stays a window among others.
+        wanted = wanted.expandedTo(wanted.width() > room.width() * 7 / 10
+                                       ? room - QSize(2 * look::spacing, 2 * look::spacing)
+                                       : QSize(room.width() * 8 / 10, room.height() * 9 / 10));
     wanted = wanted.boundedTo(room);
     // A narrower form needs more height where its rows break; a scroll bar at the side needs its width.
-    if (!m_preview && m_view->hasHeightForWidth())
-        wanted.setHeight(std::clamp(m_view->heightForWidth(wanted.width()), wanted.height(), room.height()));
-    const bool scrolls = !m_preview && m_view->minimumSizeHint().height() > wanted.height();
+    const int needed = m_preview ? 0 : m_view->heightForWidth(wanted.width());
+    wanted.setHeight(std::clamp(needed, wanted.height(), room.height()));
+    const bool scrolls = needed > wanted.height();
     return QSize(wanted.width() + (scrolls ? m_scroll->verticalScrollBar()->sizeHint().width() : 0), wanted.height())
         .boundedTo(room);
 }

@@ -16,7 +16,6 @@ namespace {
 
 constexpr int cardWidth = 300;
 constexpr int narrowestField = 110; ///< of a field without a width of its own, pixels
-constexpr int buttonWidth = 88;
 
 bool isMultiline(const Control& control) {
     return control.kind() == ControlKind::TextBox && static_cast<const TextBox&>(control).isMultiline();
@@ -27,6 +26,15 @@ bool isList(const Control& control) {
            control.kind() == ControlKind::ListBox || control.kind() == ControlKind::Tree;
 }
 
+/// A widget that asks for the height it needs and not for the height it would like: what grows in it has its stretch
+/// for that.
+template <typename Base>
+class Compact : public Base {
+public:
+    using Base::Base;
+    int heightForWidth(int width) const override { return this->layout()->totalMinimumHeightForWidth(width); }
+};
+
 /// Whether the item takes height that is left over.
 bool growsDown(const Layout& item) {
     if (item.grows || item.kind == Layout::Stretch)
@@ -35,7 +43,11 @@ bool growsDown(const Layout& item) {
         return isList(*item.control) || isMultiline(*item.control);
     if (item.kind == Layout::Buttons || item.kind == Layout::Facts || item.kind == Layout::Card)
         return false;
-    return std::any_of(item.children.cbegin(), item.children.cend(), growsDown);
+    // Room between the items of a row is room across.
+    const bool row = item.kind == Layout::Row;
+    return std::any_of(item.children.cbegin(), item.children.cend(), [row](const Layout& child) {
+        return growsDown(child) && !(row && child.kind == Layout::Stretch);
+    });
 }
 
 /// Whether the item takes width that is left over.
@@ -76,9 +88,10 @@ bool isAllFields(const Layout& item) {
     return isLabelled(item) || std::all_of(item.children.cbegin(), item.children.cend(), isLabelled);
 }
 
-void spread(QLayout& layout, int margin = 0) {
+void spread(QBoxLayout& layout, int margin = 0) {
     layout.setContentsMargins(margin, margin, margin, margin);
-    layout.setSpacing(look::spacing);
+    const bool across = layout.direction() == QBoxLayout::LeftToRight;
+    layout.setSpacing(across ? look::spacing : look::rowSpacing);
 }
 
 void add(QBoxLayout& box, QWidget* widget, QLayout* layout, int stretch, Qt::Alignment alignment = {}) {
@@ -127,17 +140,17 @@ LayoutBuilder::Piece LayoutBuilder::piece(const Layout& item) {
 QWidget* LayoutBuilder::control(const Layout& item, Place place) {
     Binding* binding = bindControl(m_view, *item.control, m_parent, place, item.characters);
     QWidget* widget = binding->widget();
-    if (item.control->kind() == ControlKind::Button)
-        widget->setMinimumWidth(buttonWidth);
     const bool line = item.control->kind() == ControlKind::ComboBox ||
                       (item.control->kind() == ControlKind::TextBox && !isMultiline(*item.control));
+    if (line)
+        widget->setMinimumHeight(place == Place::Plain ? look::lineHeight : 0);
     if (line && place == Place::Plain) {
         if (item.characters > 0)
             widget->setFixedWidth(look::charactersWidth(*widget, item.characters) + 22);
         else
             widget->setMinimumWidth(narrowestField);
     }
-    if (isMultiline(*item.control)) {
+    if (isMultiline(*item.control) && place == Place::Plain) {
         widget->setMinimumSize(std::max(narrowestField, look::charactersWidth(*widget, item.characters)), 48);
         widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     }
@@ -204,8 +217,9 @@ QLayout* LayoutBuilder::column(const QVector<Layout>& items) {
 /// further columns.
 QLayout* LayoutBuilder::fieldBlock(const QVector<Layout>& items) {
     auto* grid = new QGridLayout;
-    spread(*grid);
+    grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(look::spacing);
+    grid->setVerticalSpacing(look::rowSpacing);
     int pairs = 1;
     for (const Layout& item : items)
         if (item.kind == Layout::Row && isAllFields(item))
@@ -295,7 +309,7 @@ QLayout* LayoutBuilder::facts(const Layout& item) {
 }
 
 QWidget* LayoutBuilder::card(const Layout& item) {
-    auto* frame = new QFrame(m_parent);
+    auto* frame = new Compact<QFrame>(m_parent);
     look::mark(*frame, "card");
     frame->setFixedWidth(cardWidth);
     const QScopedValueRollback<QWidget*> inside(m_parent, frame);
@@ -303,7 +317,10 @@ QWidget* LayoutBuilder::card(const Layout& item) {
     spread(*box, look::margin);
     for (const Layout& child : item.children)
         cardItem(*box, child);
-    if (std::none_of(item.children.cbegin(), item.children.cend(), growsDown))
+    const auto takesRest = [](const Layout& child) {
+        return growsDown(child) && (child.grows || !child.control || !isMultiline(*child.control));
+    };
+    if (std::none_of(item.children.cbegin(), item.children.cend(), takesRest))
         box->addStretch(1);
     return frame;
 }
@@ -332,8 +349,9 @@ void LayoutBuilder::cardItem(QBoxLayout& box, const Layout& item) {
     } else if (item.kind == Layout::Stretch) {
         box.addStretch(1);
     } else {
-        const Piece made = piece(item);
-        add(box, made.widget, made.layout, growsDown(item) ? 1 : 0);
+        const bool note = item.kind == Layout::Cell && isMultiline(*item.control) && !item.grows;
+        const Piece made = note ? Piece{control(item, Place::Card), nullptr} : piece(item);
+        add(box, made.widget, made.layout, growsDown(item) && !note ? 1 : 0);
         if (auto* text = qobject_cast<QLabel*>(made.widget)) {
             text->setWordWrap(true);
             look::mark(*text, "quiet");
@@ -351,7 +369,7 @@ void LayoutBuilder::cardField(QBoxLayout& line, const Layout& field) {
 }
 
 QWidget* LayoutBuilder::group(const Layout& item) {
-    auto* box = new QGroupBox(Mnemonics::marked(Mnemonics::plain(item.text), {}), m_parent);
+    auto* box = new Compact<QGroupBox>(Mnemonics::marked(Mnemonics::plain(item.text), {}), m_parent);
     QString heading = item.text;
     if (item.control) {
         ORVANE_ASSERT(item.control->kind() == ControlKind::Frame);
@@ -361,7 +379,7 @@ QWidget* LayoutBuilder::group(const Layout& item) {
     look::mark(*box, "bare", heading.isEmpty());
     const QScopedValueRollback<QWidget*> inside(m_parent, box);
     QLayout* content = column(item.children);
-    content->setContentsMargins(look::spacing, look::spacing, look::spacing, look::spacing);
+    content->setContentsMargins(look::spacing, look::rowSpacing, look::spacing, look::rowSpacing);
     box->setLayout(content);
     return box;
 }
@@ -369,7 +387,7 @@ QWidget* LayoutBuilder::group(const Layout& item) {
 QWidget* LayoutBuilder::tabs(const Layout& item) {
     auto* tabs = new QTabWidget(m_parent);
     for (const Layout& page : item.children) {
-        auto* widget = new QWidget(tabs);
+        auto* widget = new Compact<QWidget>(tabs);
         const QScopedValueRollback<QWidget*> inside(m_parent, widget);
         QLayout* content = column(page.children);
         content->setContentsMargins(look::spacing, look::spacing, look::spacing, look::spacing);
@@ -392,7 +410,7 @@ QLayout* LayoutBuilder::buttons(const Layout& item) {
     line->addLayout(left, 1);
     const QVector<Layout> right = item.children.value(1).children;
     for (const Layout& child : right)
-        line->addWidget(control(child, Place::Plain));
+        line->addWidget(control(child, Place::Plain), 0, Qt::AlignBottom);
     // The last one is what the form is for, unless it only leaves the form.
     if (!right.isEmpty() && right.last().control->kind() == ControlKind::Button &&
         right.last().control != m_view.form()->cancelButton())

@@ -39,34 +39,29 @@ QPalette palette() {
 const QString styleSheet = QStringLiteral(R"(
 QLabel[quiet="true"], QLabel[heading="true"] { color: #5d6b76; }
 QLabel[strong="true"] { font-weight: bold; }
-QLabel[large="true"] { font-weight: bold; color: #1f6f6b; }
+QLabel[large="true"], QLineEdit[large="true"] { font-weight: bold; color: #1f6f6b; font-size: %1pt; }
 QFrame[card="true"] { background: white; border: 1px solid #d3dade; border-radius: 5px; }
 QFrame[rule="true"] { background: #1f2930; border: none; max-height: 1px; min-height: 1px; }
 QLineEdit[flat="true"] { border: none; background: transparent; font-weight: bold; padding: 0; }
 QLineEdit[invalid="true"] { border: 1px solid #c0392b; border-radius: 2px; background: #fdecea; padding: 2px; }
-QPushButton { padding: 4px 12px; }
+QPushButton { padding: 4px 7px; }
 QPushButton[primary="true"] { background: #1f6f6b; color: white; border: 1px solid #185a57; border-radius: 3px;
-    padding: 4px 14px; font-weight: bold; }
+    padding: 4px 10px; font-weight: bold; }
 QPushButton[primary="true"]:hover { background: #257f7a; }
 QPushButton[primary="true"]:pressed { background: #185a57; }
-QPushButton[primary="true"]:focus { border: 2px solid #0d3b39; padding: 3px 13px; }
+QPushButton[primary="true"]:focus { border: 2px solid #0d3b39; padding: 3px 9px; }
 QPushButton[primary="true"]:disabled { background: #b4cbc9; border-color: #a7bfbd; color: #eef4f4; }
 QGroupBox { font-weight: bold; border: 1px solid #d3dade; border-radius: 5px; margin-top: 9px; padding-top: 6px; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: #1f6f6b; }
 QGroupBox[bare="true"] { margin-top: 0; padding-top: 0; }
 QHeaderView::section { background: #edf0f2; border: none; border-right: 1px solid #d3dade;
     border-bottom: 1px solid #c4cdd2; padding: 3px 4px; font-weight: bold; }
-QMdiArea { background: #dfe4e8; }
 )");
 
 } // namespace
 
 QColor accent() {
     return {0x1f, 0x6f, 0x6b};
-}
-
-QColor quiet() {
-    return {0x5d, 0x6b, 0x76};
 }
 
 QColor readOnly() {
@@ -96,7 +91,7 @@ QIcon programIcon() {
 void apply(QApplication& application) {
     application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     application.setPalette(palette());
-    application.setStyleSheet(styleSheet);
+    application.setStyleSheet(styleSheet.arg(application.font().pointSizeF() * 1.7));
     application.setWindowIcon(programIcon());
 }
 

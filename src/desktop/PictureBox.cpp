@@ -7,6 +7,7 @@ namespace orvane {
 
 namespace {
 
+constexpr int stripWidth = 12;    ///< pixels; what is no wider is a coloured strip and has no frame
 constexpr int largestSide = 2000; ///< pixels; a camera's picture is read no larger than any screen shows it
 
 QPixmap readPicture(const QString& path) {
@@ -37,7 +38,7 @@ void PictureBox::setColor(std::optional<unsigned> rgb) {
 }
 
 QSize PictureBox::sizeHint() const {
-    return m_picture.isNull() && m_color ? QSize(12, 24) : QSize(150, 130);
+    return m_picture.isNull() && m_color ? QSize(stripWidth, 24) : QSize(150, 130);
 }
 
 void PictureBox::paintEvent(QPaintEvent*) {
@@ -45,7 +46,7 @@ void PictureBox::paintEvent(QPaintEvent*) {
     if (m_color)
         painter.fillRect(rect(), QColor(QRgb(*m_color)));
     if (m_picture.isNull()) {
-        if (!m_color) {
+        if (!m_color && width() > stripWidth) {
             painter.setPen(palette().color(QPalette::Mid));
             painter.drawRect(rect().adjusted(0, 0, -1, -1));
         }

@@ -25,6 +25,16 @@ void raiseMouse(Binding& binding, QEvent* event) {
         binding.user([control] { control->dblClick(); });
 }
 
+constexpr int narrowestButton = 76; ///< pixels
+
+/// A button is never narrower than its words, nor than its neighbours with few words.
+class WordButton : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+    QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo({narrowestButton, look::lineHeight}); }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
 bool isEnter(const QEvent* event) {
     if (event->type() != QEvent::KeyPress)
         return false;
@@ -40,11 +50,6 @@ LabelBinding::LabelBinding(FormView& view, Label& label, QWidget* parent, Place 
     m_text->setFocusPolicy(Qt::NoFocus);
     look::mark(*m_text, "strong", place == Place::Facts || place == Place::Card);
     look::mark(*m_text, "large", place == Place::Large);
-    if (place == Place::Large) {
-        QFont font = m_text->font();
-        font.setPointSizeF(font.pointSizeF() * 1.7);
-        m_text->setFont(font);
-    }
     if (place == Place::Card || place == Place::Large)
         m_text->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     if (characters > 0)
@@ -95,7 +100,7 @@ void OptionBinding::refresh() {
 }
 
 ButtonBinding::ButtonBinding(FormView& view, Button& button, QWidget* parent)
-    : Binding(view, button, new QPushButton(parent)), m_button(&button), m_push(static_cast<QPushButton*>(widget())),
+    : Binding(view, button, new WordButton(parent)), m_button(&button), m_push(static_cast<QPushButton*>(widget())),
       m_mnemonic(view.mnemonics().add(Mnemonics::Press, button.caption(),
                                       [push = m_push](const QString& text) { push->setText(text); })) {
     m_push->setAutoDefault(false);

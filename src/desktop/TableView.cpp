@@ -15,7 +15,7 @@ namespace {
 
 constexpr int sampledRows = 200;
 constexpr int widestColumn = 340; ///< pixels; a remark of a page must not push the amounts out of sight
-constexpr int cellPadding = 14;
+constexpr int cellPadding = 12;
 
 } // namespace
 

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
+#include <QTextDocument>
 #include <algorithm>
 
 namespace orvane {
@@ -29,11 +30,7 @@ LineBinding::LineBinding(FormView& view, TextBox& box, QWidget* parent, Place pl
         m_line->setEchoMode(QLineEdit::Password);
     if (box.isNumeric() || place == Place::Card || place == Place::Large)
         m_line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    if (place == Place::Large) {
-        QFont font = m_line->font();
-        font.setPointSizeF(font.pointSizeF() * 1.4);
-        m_line->setFont(font);
-    }
+    look::mark(*m_line, "large", place == Place::Large);
     connect(m_line, &QLineEdit::textEdited, this,
             [this](const QString& text) { user([this, text] { m_box->setText(text); }); });
 }
@@ -81,9 +78,15 @@ bool LineBinding::eventFilter(QObject* watched, QEvent* event) {
     return Binding::eventFilter(watched, event);
 }
 
-TextBinding::TextBinding(FormView& view, TextBox& box, QWidget* parent)
+TextBinding::TextBinding(FormView& view, TextBox& box, QWidget* parent, Place place)
     : Binding(view, box, new QPlainTextEdit(parent)), m_box(&box), m_edit(static_cast<QPlainTextEdit*>(widget())) {
     m_edit->setTabChangesFocus(true);
+    if (place == Place::Card) {
+        // A note below the figures of a card, such as the amount in words.
+        m_edit->setFrameShape(QFrame::NoFrame);
+        m_edit->setFixedHeight(3 * m_edit->fontMetrics().lineSpacing() + 10);
+        m_edit->document()->setDocumentMargin(0);
+    }
     connect(m_edit, &QPlainTextEdit::textChanged, this, &TextBinding::edited);
 }
 

@@ -31,7 +31,7 @@ class TextBinding : public Binding {
     Q_OBJECT
 
 public:
-    TextBinding(FormView& view, TextBox& box, QWidget* parent);
+    TextBinding(FormView& view, TextBox& box, QWidget* parent, Place place);
 
 protected:
     void refresh() override;

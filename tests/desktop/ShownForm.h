@@ -20,7 +20,7 @@ public:
              field(QStringLiteral("Town"), cboTown),
              facts({{QStringLiteral("Bill No"), &lblTitle}, {QStringLiteral("Fixed"), &txtLocked}}),
              row({field(QStringLiteral("Digits"), txtDigits, 10), field(QStringLiteral("Date"), dtDate)}),
-             growing(pages(tabs)),
+             growing(pages()),
              row({cell(radOne), cell(radTwo),
                   group(QStringLiteral("Payment"), {row({cell(radCash), cell(radBank)})}, &fraInner), cell(bar)}),
              cell(status), buttons({&cmdExtra}, {&cmdClose, &cmdSave})});
@@ -29,14 +29,14 @@ public:
     Button cmdExtra{*this, QStringLiteral("cmdExtra"), QStringLiteral("Save Copy")};
 
 private:
-    Layout pages(const TabStrip& strip) const {
+    Layout pages() const {
         using namespace orvane::layout;
-        return layout::tabs(
-            strip, {layout::page(QStringLiteral("Bill"),
-                                 {row({growing(cell(grdRows)), card({field(QStringLiteral("Amount"), txtAmt0),
-                                                                     field(QStringLiteral("Second"), txtAmt1)})})}),
-                    layout::page(QStringLiteral("More"), {row({cell(grdEntry), cell(lstItems), cell(tree)}),
-                                                          field(QStringLiteral("Note"), txtNote)})});
+        return tabs(strip,
+                    {layout::page(QStringLiteral("Bill"),
+                                  {row({growing(cell(grdRows)), card({field(QStringLiteral("Amount"), txtAmt0),
+                                                                      field(QStringLiteral("Second"), txtAmt1)})})}),
+                     layout::page(QStringLiteral("More"), {row({cell(grdEntry), cell(lstItems), cell(tree)}),
+                                                           field(QStringLiteral("Note"), txtNote)})});
     }
 };
 

@@ -178,7 +178,7 @@ TEST_F(GridViewTest, WhoWalksThroughTheRowsIsNotMovedByTheView) {
 }
 
 TEST_F(GridViewTest, AnEntryGridShowsItsCellsAndItsEmptyRow) {
-    form.tabs.setTab(1);
+    form.strip.setTab(1);
     form.grdEntry.setMoney({1});
     form.grdEntry.setCell(1, 0, QStringLiteral("CONSULTATION"));
     form.grdEntry.setCell(1, 1, QStringLiteral("7,500.00"));

@@ -44,7 +44,7 @@ TEST_F(ViewTest, TypingReachesTheControlCharacterByCharacter) {
     type(form.txtDigits, "1x2");
     EXPECT_EQ(form.txtDigits.text(), "12") << "what the handler refuses is dropped";
 
-    form.tabs.setTab(1);
+    form.strip.setTab(1);
     settleEvents();
     type(form.txtNote, "one");
     QTest::keyClick(editor(form.txtNote), Qt::Key_Return);
@@ -70,7 +70,7 @@ TEST_F(ViewTest, WhatCodeSetsIsShown) {
     form.cboTown.setListIndex(1);
     form.dtDate.setDate(QDate(2026, 3, 4));
     form.bar.setValue(40);
-    form.tabs.setTab(1);
+    form.strip.setTab(1);
     form.lblTitle.setText(QStringLiteral("A && B"));
     form.tree.select(QStringLiteral("leaf"));
     settleEvents();
@@ -81,7 +81,7 @@ TEST_F(ViewTest, WhatCodeSetsIsShown) {
     EXPECT_EQ(widget<QComboBox>(form.cboTown)->currentText(), "IBADAN");
     EXPECT_EQ(widget<DateEdit>(form.dtDate)->lineEdit()->text(), "04/03/2026");
     EXPECT_EQ(widget<QProgressBar>(form.bar)->value(), 40);
-    EXPECT_EQ(widget<QTabWidget>(form.tabs)->currentIndex(), 1);
+    EXPECT_EQ(widget<QTabWidget>(form.strip)->currentIndex(), 1);
     EXPECT_EQ(widget<QLabel>(form.lblTitle)->text(), "A & B");
     EXPECT_EQ(widget<QTreeWidget>(form.tree)->currentItem()->text(0), "Leaf");
 }
@@ -219,9 +219,9 @@ TEST_F(ViewTest, TicksOptionsTabsListsAndTreesGoToTheirControls) {
     EXPECT_FALSE(form.radOne.isChecked());
     EXPECT_FALSE(widget<QRadioButton>(form.radOne)->isChecked());
 
-    widget<QTabWidget>(form.tabs)->setCurrentIndex(1);
+    widget<QTabWidget>(form.strip)->setCurrentIndex(1);
     EXPECT_EQ(events(), QStringList{"tabs Click"});
-    EXPECT_EQ(form.tabs.tab(), 1);
+    EXPECT_EQ(form.strip.tab(), 1);
 
     auto* list = widget<QListView>(form.lstItems);
     list->setFocus();
