@@ -103,6 +103,17 @@ QStringList textsOf(const Tree& tree) {
     return texts;
 }
 
+/// The captions of the tabs, which stand in the form's layout.
+QStringList pagesOf(const TabStrip& tabs, const Layout& layout) {
+    QStringList captions;
+    if (layout.kind == Layout::Tabs && layout.control == &tabs)
+        for (const Layout& page : layout.children)
+            captions << page.text;
+    for (const Layout& part : layout.children)
+        captions << pagesOf(tabs, part);
+    return captions;
+}
+
 int rowNumber(const Control& control, const QString& text, int rows) {
     bool isNumber = false;
     const int row = text.toInt(&isNumber);
@@ -183,9 +194,8 @@ void pickEntry(Driver& driver, Control& control, const QString& entry, bool isIn
         return driver.choose(tree, tree.nodes().at(indexOf(tree, textsOf(tree), entry, isIndex)).key);
     }
     case ControlKind::TabStrip: {
-        if (!isIndex)
-            refuse(control, QStringLiteral("is picked by the number of the tab"));
-        return driver.choose(static_cast<TabStrip&>(control), rowNumber(control, entry, INT_MAX));
+        auto& tabs = static_cast<TabStrip&>(control);
+        return driver.choose(tabs, indexOf(tabs, pagesOf(tabs, tabs.form().layout()), entry, isIndex));
     }
     default:
         refuse(control, QStringLiteral("has no entries to pick"));

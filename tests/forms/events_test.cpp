@@ -93,8 +93,8 @@ TEST(Events, CodeRaisesThemLikeTheUser) {
          {"dtDate Change", "dtDate Change"}},
         {"another tab clicks",
          [](SampleForm& f) {
-             f.tabs.setTab(0);
-             f.tabs.setTab(2);
+             f.strip.setTab(0);
+             f.strip.setTab(2);
          },
          {"tabs Click"}},
         {"a node clicks each time",

@@ -55,7 +55,9 @@ Layout SampleForm::layout() const {
                    row({field(QStringLiteral("Name"), txtName), field(QStringLiteral("Code"), txtCode),
                         field(QStringLiteral("Town"), cboTown), field(QStringLiteral("Color"), cboColor)}),
                    row({cell(chkCard), cell(radOne), cell(radTwo), field(QStringLiteral("Date"), dtDate)}),
-                   group(QStringLiteral("Payment"), {cell(radCash), cell(radBank)}, &fraInner), growing(cell(grdRows)),
+                   group(QStringLiteral("Payment"), {cell(radCash), cell(radBank)}, &fraInner),
+                   tabs(strip, {layout::page(QStringLiteral("Rows"), {growing(cell(grdRows))}),
+                                layout::page(QStringLiteral("Entries"), {growing(cell(grdEntry))})}),
                    buttons({}, {&cmdClose, &cmdSave})});
 }
 

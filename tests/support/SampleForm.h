@@ -29,8 +29,8 @@ public:
     Frame fraOuter{*this, QStringLiteral("fraOuter")};   ///< holds fraInner
     ListBox lstItems{*this, QStringLiteral("lstItems")}; ///< "ONE", "TWO", "THREE"
     DatePicker dtDate{*this, QStringLiteral("dtDate")};
-    TabStrip tabs{*this, QStringLiteral("tabs")};
-    Tree tree{*this, QStringLiteral("tree")}; ///< "Root" with "Leaf"
+    TabStrip strip{*this, QStringLiteral("tabs")}; ///< "Rows", "Entries"
+    Tree tree{*this, QStringLiteral("tree")};      ///< "Root" with "Leaf"
     Grid grdRows{*this, QStringLiteral("grdRows")};
     EntryGrid grdEntry{*this, QStringLiteral("grdEntry")}; ///< heads "Item", "Price"
     ProgressBar bar{*this, QStringLiteral("bar")};
