@@ -50,7 +50,8 @@ frmBillingVerify::frmBillingVerify(Program& owner) : Screen(owner, "frmBillingVe
         figure->setLocked(true);
     txtWord.multiline();
     txtDiag.multiline();
-    fraReceipt.holds({&lblRct, &dtRctDate, &cboPayFor, &cboPay, &txtCheque, &txtEmp, &txtHt, &txtWord, &chkExact});
+    fraReceipt.holds(
+        {&lblRct, &dtRctDate, &cboPayFor, &cboPay, &txtCheque, &txtEmp, &txtHt, &txtWord, &chkExact, &lblDep});
     for (PayWay& way : ways) {
         fraReceipt.holds({&way.lblAmt, &way.txtAmt, &way.lblAcctNo});
         if (way.cboBank)
@@ -117,11 +118,14 @@ void frmBillingVerify::Form_Load() {
     fillLists();
     enableFields();
     SetButtons();
-    if (!session.gSearchBillNo.isEmpty()) {
-        // The worklist hands over the visit that it was asked for.
-        txtSearch.setText(std::exchange(session.gSearchBillNo, QString()));
-        cmdOK_Click();
-    }
+}
+
+/// The worklist hands over the visit that its user has picked.
+void frmBillingVerify::Form_Activate() {
+    if (session.gSearchBillNo.isEmpty())
+        return;
+    txtSearch.setText(std::exchange(session.gSearchBillNo, QString()));
+    cmdOK_Click();
 }
 
 void frmBillingVerify::fillLists() {

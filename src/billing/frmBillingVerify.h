@@ -15,6 +15,7 @@ public:
     explicit frmBillingVerify(Program& program);
 
     void Form_Load() override;
+    void Form_Activate() override;
     Layout layout() const override;
     Button* defaultButton() override { return &OKButton; }
     void afterFault() override;

@@ -115,14 +115,12 @@ void frmBillingVerify::cboVehNo_Click() {
 /// Reads the visit and collates its bill. Until it was read whole no visit is in hand, so that a half-read one cannot
 /// be saved. By value: the visit in hand, which may be named here, is emptied first.
 void frmBillingVerify::loadVisit(QString pno, QString consultID, QString patient) {
-    if (lblBill.text() != consultID || m_saved)
-        clearReceipt(); // nobody pays with what was entered for another bill, nor twice for one
+    if (lblBill.text() != consultID)
+        clearReceipt(); // nobody pays with what was entered for another bill
     m_loading = true;
-    m_saved = false;
     m_bill = {};
     cmdAddBill.setEnabled(false);
     cmdNHIS.setEnabled(false);
-    OKButton.setEnabled(true);
 
     lblBill.setText(consultID);
     m_bill.consultID = consultID;
@@ -262,6 +260,9 @@ void frmBillingVerify::getApprvCode(Connection& connection) {
 
 /// Collates what waits and shows the bill as it then stands.
 void frmBillingVerify::getAccumBill() {
+    if (std::exchange(m_saved, false))
+        clearReceipt(); // what was entered has been paid: it must not be taken once more
+    OKButton.setEnabled(true);
     for (Button* button : {&cmdCoy, &cmdSplit, &cmdBill, &cmdNHIS})
         button->setEnabled(true);
     collateBillItems(program, m_bill);

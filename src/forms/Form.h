@@ -34,6 +34,7 @@ public:
     /// A form that is a document gives its page as it stands now: shown as a preview and printed the same. Nothing: a plain screen.
     virtual std::optional<Page> page() const { return std::nullopt; }
     virtual void Form_Load() {}
+    virtual void Form_Activate() {} ///< the program opens the form, newly loaded or already on the screen
     virtual bool Form_Unload() { return true; } ///< false refuses to close
     /// Pressed by Enter and by Esc; null when there is none.
     virtual Button* defaultButton() { return nullptr; }

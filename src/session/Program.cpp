@@ -61,6 +61,8 @@ void Program::open(const QString& name) {
     }
     Form& opened = form(name);
     opened.load();
+    if (!opened.isClosed())
+        opened.run([&opened] { opened.Form_Activate(); });
     if (opened.isClosed())
         return;
     if (name.compare(QLatin1String("MdiTolmek"), Qt::CaseInsensitive) != 0) {

@@ -49,6 +49,10 @@ TEST_P(Verify, WorklistHandsOverItsVisit) {
     ws.open("frmBillingVerify");
     EXPECT_EQ(value("lblBill"), billNo);
     EXPECT_EQ(ws.program.session.gSearchBillNo, "");
+    click("cmdCancel");
+    ws.program.session.gSearchBillNo = billNo;
+    ws.open("frmBillingVerify");
+    EXPECT_EQ(value("lblBill"), billNo) << "the screen was open already";
 }
 
 TEST_P(Verify, LoadShowsTheBill) {
