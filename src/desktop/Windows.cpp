@@ -5,6 +5,7 @@
 #include "desktop/PagePainter.h"
 #include "desktop/Printing.h"
 #include "desktop/ReportForm.h"
+#include "desktop/ReportPages.h"
 #include "desktop/ShellWindow.h"
 
 #include <QApplication>
@@ -119,7 +120,9 @@ void Windows::showAlone(Form& form, bool modal) {
             window->form()->activated();
     });
     const QRect screen = (parent ? parent->screen() : QApplication::primaryScreen())->availableGeometry();
-    const QRect room = parent ? screen.intersected(parent->window()->frameGeometry()) : screen;
+    // A main window of a fixed size is pictured whole, whatever the size of the screen that it is shown on.
+    const QRect main = parent ? parent->window()->frameGeometry() : screen;
+    const QRect room = m_mainSize.isValid() ? main : screen.intersected(main);
     window->resize(window->sizeFor(room.size() - QSize(40, 60)));
     window->move(room.center() - window->rect().center());
     window->show();
@@ -205,30 +208,44 @@ void Windows::refreshNow() {
             view->refreshNow();
 }
 
-void Windows::print(Form& form) {
-    const std::optional<Page> page = form.page();
-    FormView* view = viewOf(form);
-    if (m_printFolder.isEmpty()) {
-        if (page)
-            printing::print(*page, form.caption(), boxParent());
-        else if (view) {
-            view->refreshNow();
-            printing::printWidget(*view, form.caption(), boxParent());
-        }
-        return;
+namespace {
+
+/// What a form prints: its page, a report's list; nothing for a form that is printed as it looks.
+std::optional<Document> documentOf(const Form& form) {
+    if (const auto* report = dynamic_cast<const ReportForm*>(&form)) {
+        const auto pages = std::make_shared<ReportPages>(report->rows(), report->caption());
+        return Document{pages->count(), [pages](int number) { return pages->page(number); }};
     }
+    const std::optional<Page> page = form.page();
+    return page ? std::optional(Document::of(*page)) : std::nullopt;
+}
+
+} // namespace
+
+void Windows::print(Form& form) {
+    const std::optional<Document> document = documentOf(form);
+    FormView* view = viewOf(form);
+    if (!document && !view)
+        return;
+    if (view)
+        view->refreshNow();
+    if (m_printFolder.isEmpty() && document) {
+        printing::print(*document, form.caption(), boxParent());
+    } else if (m_printFolder.isEmpty()) {
+        printing::printWidget(*view, form.caption(), boxParent());
+    } else {
+        const QString file = nextPrintFile(form);
+        if (!(document ? renderPdf(*document, file) : printing::widgetToPdf(*view, file)))
+            m_ui.box(QStringLiteral("The file %1 could not be written.").arg(file), Icon::Exclamation);
+    }
+}
+
+QString Windows::nextPrintFile(const Form& form) const {
+    const QString name = QString(form.name()).replace(QLatin1Char('/'), QLatin1Char('_'));
     QString file;
     for (int number = 1; file.isEmpty() || QFile::exists(file); ++number)
-        file = QDir(m_printFolder).filePath(QStringLiteral("%1-%2.pdf").arg(form.name()).arg(number));
-    bool written = true;
-    if (page) {
-        written = renderPdf(*page, file);
-    } else if (view) {
-        view->refreshNow();
-        written = printing::widgetToPdf(*view, file);
-    }
-    if (!written)
-        m_ui.box(QStringLiteral("The file %1 could not be written.").arg(file), Icon::Exclamation);
+        file = QDir(m_printFolder).filePath(QStringLiteral("%1-%2.pdf").arg(name).arg(number));
+    return file;
 }
 
 void Windows::viewReport(const QString& file, const QString& title, const Recordset& rows) {

@@ -22,17 +22,20 @@ MdiTolmek::MdiTolmek(Program& owner) : Screen(owner, QStringLiteral("MdiTolmek")
     tmrSound.onTimer = [this] { tmrSound_Timer(); };
 }
 
-/// The clock stands in the middle of the strip, cmdView at its right edge.
+/// The hospital is named at the left; the clock stands in the middle of the strip, cmdView at its right edge.
 Layout MdiTolmek::layout() const {
     using namespace orvane::layout;
-    return row({cell(Picture1), cell(Picture2), stretch(), cell(lblServer), cell(lblDate), cell(lblTime), stretch(),
-                cell(cmdView)});
+    return row({cell(Picture1), cell(Picture2), facts({{session.gHospName2, &lblHospital}}), stretch(), cell(lblServer),
+                cell(lblDate), cell(lblTime), stretch(), cell(cmdView)});
 }
 
 void MdiTolmek::Form_Load() {
     Control* accounts = find(QStringLiteral("mnuAccts"));
     accounts->setVisible(false);
     refreshServerClock();
+    lblHospital.setText(session.gHospName);
+    SbrTolmek.setPanel(1, session.gModuleName);
+    SbrTolmek.setPanel(2, session.gUsername);
     SbrTolmek.setPanel(3, session.gFullName);
     find(QStringLiteral("mnuEPE"))->setCaption(QStringLiteral("Log Off ") + session.gUsername);
     program.writeAuditTrail(session.gUsername, QStringLiteral("Login Billing"), {}, {}, session.sComputerName);

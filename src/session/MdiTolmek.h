@@ -64,6 +64,7 @@ private:
 
     Picture Picture1{*this, QStringLiteral("Picture1")};
     Picture Picture2{*this, QStringLiteral("Picture2")};
+    Label lblHospital{*this, QStringLiteral("lblHospital")};
     Frame Frame1{*this, QStringLiteral("Frame1")};
     Label lblServer{*this, QStringLiteral("lblServer"), QStringLiteral("Server Date && Time: ")};
     Label lblDate{*this, QStringLiteral("lblDate")};
