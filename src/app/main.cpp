@@ -67,8 +67,8 @@ int complain(const QString& message) {
 
 int play(const Options& options, Driver* driver, Shower* shower) {
     QFile script(options.play), output;
-    const bool opened =
-        options.play == QLatin1String("-") ? script.open(stdin, QIODevice::ReadOnly) : script.open(QIODevice::ReadOnly);
+    const bool opened = options.play == QLatin1String("-") ? script.open(fileno(stdin), QIODevice::ReadOnly)
+                                                           : script.open(QIODevice::ReadOnly);
     if (!opened)
         return complain(options.play + QStringLiteral(": ") + script.errorString());
     if (!output.open(stdout, QIODevice::WriteOnly))
@@ -124,6 +124,8 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     nameProgram();
     look::apply(application);
+    // The program ends when its last form has closed, not in the moment between two of them.
+    QApplication::setQuitOnLastWindowClosed(false);
     const Options options = readOptions(application);
     return options.play.isEmpty() ? runDesktop(options) : playOnWindows(options);
 }

@@ -65,6 +65,14 @@ void DesktopUi::showModal(Form& form) {
 
 void DesktopUi::closed(Form& form) {
     m_windows.closed(form);
+    // A form that closes may open the next one in the same event.
+    QMetaObject::invokeMethod(
+        &m_windows,
+        [this] {
+            if (m_windows.isEmpty())
+                QCoreApplication::quit();
+        },
+        Qt::QueuedConnection);
 }
 
 void DesktopUi::setBusy(bool busy) {

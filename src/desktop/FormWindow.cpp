@@ -76,11 +76,11 @@ QWidget* FormWindow::pageButtons() {
     box->addWidget(save);
     connect(preview, &QPushButton::clicked, this, [this] {
         if (m_form && m_form->page())
-            printing::preview(*m_form->page(), this);
+            printing::preview(Document::of(*m_form->page()), this);
     });
     connect(save, &QPushButton::clicked, this, [this] {
         if (m_form && m_form->page())
-            printing::savePdf(*m_form->page(), m_form->caption(), this);
+            printing::savePdf(Document::of(*m_form->page()), m_form->caption(), this);
     });
     return row;
 }

@@ -9,12 +9,12 @@ class QWidget;
 /// How the program looks: one palette, one spacing, one accent.
 namespace orvane::look {
 
-constexpr int spacing = 8;    ///< between neighbours, pixels
-constexpr int rowSpacing = 6; ///< between rows, pixels
+constexpr int spacing = 8;     ///< between neighbours, pixels
+constexpr int rowSpacing = 6;  ///< between rows, pixels
 constexpr int lineHeight = 24; ///< of everything that takes one line, pixels
-constexpr int margin = 12; ///< around a form, pixels
+constexpr int margin = 12;     ///< around a form, pixels
 
-QColor accent();   ///< of title bars, the chosen row and the one figure that matters
+QColor accent(); ///< of title bars, the chosen row and the one figure that matters
 
 QColor readOnly(); ///< background of what cannot be typed into
 QIcon programIcon();

@@ -90,19 +90,28 @@ void paintPage(QPainter& painter, const Page& page, const QRectF& target) {
     painter.restore();
 }
 
-bool renderPdf(const Page& page, const QString& file) {
-    QFile device(file);
-    if (!device.open(QIODevice::WriteOnly))
-        return false;
-    QPdfWriter writer(&device);
-    writer.setResolution(1200);
-    writer.setPageSize(QPageSize(QSizeF(page.widthMm, page.heightMm), QPageSize::Millimeter));
-    writer.setPageMargins(QMarginsF());
+bool paintDocument(QPagedPaintDevice& device, const Document& document, double width, double height) {
     QPainter painter;
-    if (!painter.begin(&writer))
+    if (!painter.begin(&device))
         return false;
-    paintPage(painter, page, QRectF(0, 0, writer.width(), writer.height()));
-    return painter.end() && device.error() == QFile::NoError;
+    for (int number = 0; number < document.count; ++number) {
+        if (number > 0 && !device.newPage())
+            return false;
+        paintPage(painter, document.page(number), QRectF(0, 0, width, height));
+    }
+    return painter.end();
+}
+
+bool renderPdf(const Document& document, const QString& file) {
+    QFile output(file);
+    if (!output.open(QIODevice::WriteOnly))
+        return false;
+    QPdfWriter writer(&output);
+    writer.setResolution(1200);
+    const Page first = document.page(0);
+    writer.setPageSize(QPageSize(QSizeF(first.widthMm, first.heightMm), QPageSize::Millimeter));
+    writer.setPageMargins(QMarginsF());
+    return paintDocument(writer, document, writer.width(), writer.height()) && output.error() == QFile::NoError;
 }
 
 } // namespace orvane

@@ -2,10 +2,11 @@
 
 #include "forms/Page.h"
 
-#include <QSizeF>
+#include <QRectF>
+#include <functional>
 
+class QPagedPaintDevice;
 class QPainter;
-class QRectF;
 
 namespace orvane {
 
@@ -13,7 +14,20 @@ namespace orvane {
 /// sizes are the same on every device.
 void paintPage(QPainter& painter, const Page& page, const QRectF& target);
 
-/// Writes the page as a PDF of one sheet of its size. False: the file cannot be written.
-bool renderPdf(const Page& page, const QString& file);
+/// Pages of one size, made one at a time.
+struct Document {
+    int count = 0;
+    std::function<Page(int number)> page; ///< from 0
+    static Document of(const Page& page) {
+        return {1, [page](int) { return page; }};
+    }
+};
+
+/// Paints the sheets on a printer or into a PDF whose page size is set. `width` and `height`: of a sheet in the
+/// device's dots. False: the device has refused.
+bool paintDocument(QPagedPaintDevice& device, const Document& document, double width, double height);
+
+/// Writes the document as a PDF with sheets of its size. False: the file cannot be written.
+bool renderPdf(const Document& document, const QString& file);
 
 } // namespace orvane

@@ -1,7 +1,6 @@
 #include "desktop/Printing.h"
 
 #include "desktop/Boxes.h"
-#include "desktop/PagePainter.h"
 
 #include <QFileDialog>
 #include <QPainter>
@@ -9,26 +8,19 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <functional>
 
 namespace orvane::printing {
 
 namespace {
-
-using Draw = std::function<void(QPainter&, const QRectF& sheet)>;
 
 void setSheet(QPrinter& printer, QSizeF millimetres) {
     printer.setPageSize(QPageSize(millimetres, QPageSize::Millimeter));
     printer.setFullPage(true);
 }
 
-/// False: the printer or the file has refused.
-bool drawOn(QPrinter& printer, const Draw& draw) {
-    QPainter painter;
-    if (!painter.begin(&printer))
-        return false;
-    draw(painter, QRectF(0, 0, printer.width(), printer.height()));
-    return painter.end();
+QSizeF sheetOf(const Document& document) {
+    const Page first = document.page(0);
+    return {first.widthMm, first.heightMm};
 }
 
 QString askFile(const QString& title, QWidget* parent) {
@@ -39,37 +31,35 @@ QString askFile(const QString& title, QWidget* parent) {
     return file;
 }
 
-void toPrinter(QSizeF sheet, const QString& title, QWidget* parent, const Draw& draw) {
-    QPrinter printer(QPrinter::HighResolution);
-    setSheet(printer, sheet);
+/// Lets the user choose the printer, or the file where there is no printer. False: he has cancelled.
+bool choosePrinter(QPrinter& printer, const QString& title, QWidget* parent) {
     printer.setDocName(title);
-    if (QPrinterInfo::availablePrinterNames().isEmpty()) {
-        const QString file = askFile(title, parent);
-        if (file.isEmpty())
-            return;
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(file);
-    } else if (QPrintDialog(&printer, parent).exec() != QDialog::Accepted) {
-        return;
-    }
-    if (!drawOn(printer, draw))
-        boxes::message(parent, QStringLiteral("The document could not be printed."), Icon::Exclamation, {});
+    if (!QPrinterInfo::availablePrinterNames().isEmpty())
+        return QPrintDialog(&printer, parent).exec() == QDialog::Accepted;
+    const QString file = askFile(title, parent);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(file);
+    return !file.isEmpty();
 }
 
-Draw drawPage(const Page& page) {
-    return [page](QPainter& painter, const QRectF& sheet) { paintPage(painter, page, sheet); };
+void sayFailed(QWidget* parent) {
+    boxes::message(parent, QStringLiteral("The document could not be printed."), Icon::Exclamation, {});
 }
 
 constexpr double a4Width = 210, a4Height = 297, paperMargin = 12; // mm
 
-Draw drawPicture(const QPixmap& picture) {
-    return [picture](QPainter& painter, const QRectF& sheet) {
-        const double edge = sheet.width() / (picture.width() > picture.height() ? a4Height : a4Width) * paperMargin;
-        const QRectF room = sheet.adjusted(edge, edge, -edge, -edge);
-        const QSizeF size = QSizeF(picture.size()).scaled(room.size(), Qt::KeepAspectRatio);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawPixmap(QRectF(room.topLeft(), size), picture, QRectF(picture.rect()));
-    };
+/// False: the printer or the file has refused.
+bool drawPicture(QPrinter& printer, const QPixmap& picture) {
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return false;
+    const double edge =
+        printer.width() / printer.pageLayout().pageSize().size(QPageSize::Millimeter).width() * paperMargin;
+    const QRectF room = QRectF(0, 0, printer.width(), printer.height()).adjusted(edge, edge, -edge, -edge);
+    const QSizeF size = QSizeF(picture.size()).scaled(room.size(), Qt::KeepAspectRatio);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(QRectF(room.topLeft(), size), picture, QRectF(picture.rect()));
+    return painter.end();
 }
 
 QSizeF sheetFor(const QPixmap& picture) {
@@ -78,28 +68,34 @@ QSizeF sheetFor(const QPixmap& picture) {
 
 } // namespace
 
-void print(const Page& page, const QString& title, QWidget* parent) {
-    toPrinter({page.widthMm, page.heightMm}, title, parent, drawPage(page));
+void print(const Document& document, const QString& title, QWidget* parent) {
+    QPrinter printer(QPrinter::HighResolution);
+    setSheet(printer, sheetOf(document));
+    if (choosePrinter(printer, title, parent) && !paintDocument(printer, document, printer.width(), printer.height()))
+        sayFailed(parent);
 }
 
-void preview(const Page& page, QWidget* parent) {
+void preview(const Document& document, QWidget* parent) {
     QPrinter printer(QPrinter::HighResolution);
-    setSheet(printer, {page.widthMm, page.heightMm});
+    setSheet(printer, sheetOf(document));
     QPrintPreviewDialog dialog(&printer, parent);
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&](QPrinter* target) { drawOn(*target, drawPage(page)); });
+                     [&](QPrinter* target) { paintDocument(*target, document, target->width(), target->height()); });
     dialog.exec();
 }
 
-void savePdf(const Page& page, const QString& title, QWidget* parent) {
+void savePdf(const Document& document, const QString& title, QWidget* parent) {
     const QString file = askFile(title, parent);
-    if (!file.isEmpty() && !renderPdf(page, file))
+    if (!file.isEmpty() && !renderPdf(document, file))
         boxes::message(parent, QStringLiteral("The file %1 could not be written.").arg(file), Icon::Exclamation, {});
 }
 
 void printWidget(QWidget& widget, const QString& title, QWidget* parent) {
     const QPixmap picture = widget.grab();
-    toPrinter(sheetFor(picture), title, parent, drawPicture(picture));
+    QPrinter printer(QPrinter::HighResolution);
+    setSheet(printer, sheetFor(picture));
+    if (choosePrinter(printer, title, parent) && !drawPicture(printer, picture))
+        sayFailed(parent);
 }
 
 bool widgetToPdf(QWidget& widget, const QString& file) {
@@ -108,7 +104,7 @@ bool widgetToPdf(QWidget& widget, const QString& file) {
     setSheet(printer, sheetFor(picture));
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(file);
-    return drawOn(printer, drawPicture(picture));
+    return drawPicture(printer, picture);
 }
 
 } // namespace orvane::printing

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/Page.h"
+#include "desktop/PagePainter.h"
 
 class QWidget;
 
@@ -8,10 +8,10 @@ class QWidget;
 /// user names.
 namespace orvane::printing {
 
-/// Prints the page; `title` names the job and the proposed file.
-void print(const Page& page, const QString& title, QWidget* parent);
-void preview(const Page& page, QWidget* parent);
-void savePdf(const Page& page, const QString& title, QWidget* parent);
+/// Prints the document; `title` names the job and the proposed file.
+void print(const Document& document, const QString& title, QWidget* parent);
+void preview(const Document& document, QWidget* parent);
+void savePdf(const Document& document, const QString& title, QWidget* parent);
 
 /// Prints the picture of a window, as large as the paper allows.
 void printWidget(QWidget& widget, const QString& title, QWidget* parent);

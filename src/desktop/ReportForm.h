@@ -8,6 +8,7 @@ namespace orvane {
 class ReportForm : public Form {
 public:
     ReportForm(Ui& ui, const QString& file, const QString& title, const Recordset& rows);
+    const Grid& rows() const { return grdRows; }
     Layout layout() const override;
     Button* cancelButton() override { return &cmdClose; }
 

@@ -42,6 +42,7 @@ public:
     FormView* viewOf(const Form& form) const; ///< null: not shown
     QWidget* windowOf(const Form& form) const;
     ShellWindow* shell() const { return m_shell; }
+    bool isEmpty() const { return m_entries.isEmpty(); }
     QWidget* boxParent() const; ///< the window that a box belongs to
     void refreshNow();          ///< shows all that has changed
     /// Saves the main window with what lies over it. False: there is none, or the file cannot be written.
@@ -59,6 +60,7 @@ private:
     void showAlone(Form& form, bool modal);
     FormWindow* makeWindow(Form& form, QWidget* parent, Qt::WindowFlags flags);
     void bringForward(const Entry& entry);
+    QString nextPrintFile(const Form& form) const;
 
     Ui& m_ui;
     QVector<Entry> m_entries; ///< in the order of showing

@@ -1,8 +1,10 @@
 // Documents: the same on the screen, in a PDF and on paper.
 #include "desktop/PagePainter.h"
 #include "desktop/PagePreview.h"
+#include "desktop/ReportPages.h"
 #include "desktop/ViewTest.h"
 #include "desktop/Windows.h"
+#include "support/TestHome.h"
 
 #include <QDir>
 #include <QFile>
@@ -91,7 +93,7 @@ TEST(PageTest, ThePdfHasThePageSizeAndItsWords) {
     form.txtName.setText(QStringLiteral("ADE"));
     QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("page.pdf"));
-    ASSERT_TRUE(renderPdf(*form.page(), file));
+    ASSERT_TRUE(renderPdf(Document::of(*form.page()), file));
     QFile pdf(file);
     ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
     const QString content = QString::fromLatin1(pdf.readAll());
@@ -101,7 +103,45 @@ TEST(PageTest, ThePdfHasThePageSizeAndItsWords) {
     EXPECT_NEAR(box.captured(1).toDouble(), 148 / 25.4 * 72, 1.5);
     EXPECT_NEAR(box.captured(2).toDouble(), 210 / 25.4 * 72, 1.5);
     EXPECT_EQ(content.count(QStringLiteral("/Type /Page\n")), 1) << "one sheet";
-    EXPECT_FALSE(renderPdf(*form.page(), folder.filePath(QStringLiteral("nowhere/page.pdf"))));
+    EXPECT_FALSE(renderPdf(Document::of(*form.page()), folder.filePath(QStringLiteral("nowhere/page.pdf"))));
+}
+
+TEST(PageTest, AListPrintsEachRowOnceUnderItsHeads) {
+    TestUi ui;
+    ShownForm form(ui);
+    TestHome home;
+    DataSource data(home.folder());
+    Connection billing = data.open(TestHome::billing());
+    QString text = QStringLiteral("select 1 as SNo, 1234.5 as Amount, 'x' as Secret");
+    for (int i = 2; i <= 130; ++i)
+        text += QStringLiteral(" union all select %1, 1234.5, 'x'").arg(i);
+    Grid& grid = form.grdRows;
+    grid.hide({QStringLiteral("Secret")});
+    grid.setFormat(QStringLiteral("Amount"), QStringLiteral("#,###.00"));
+    grid.load(billing.run(text));
+    const ReportPages pages(grid, QStringLiteral("Income for Today"));
+    ASSERT_EQ(pages.count(), 3);
+    QStringList numbers;
+    for (int number = 0; number < pages.count(); ++number) {
+        QStringList words;
+        for (const PageText& item : pages.page(number).texts) {
+            words << item.text;
+            EXPECT_LE(item.x + item.width, pages.page(number).widthMm - 11.9);
+            EXPECT_LE(item.y, pages.page(number).heightMm - 12);
+            if (item.text.toInt() > 0)
+                numbers << item.text;
+        }
+        for (const QString& expected :
+             {QStringLiteral("Income for Today"), QStringLiteral("SNo"), QStringLiteral("Amount"),
+              QStringLiteral("Page %1 of 3").arg(number + 1), QStringLiteral("1,234.50")})
+            EXPECT_TRUE(words.contains(expected)) << qPrintable(expected);
+        EXPECT_FALSE(words.contains(QStringLiteral("x"))) << "a hidden column";
+    }
+    ASSERT_EQ(numbers.size(), 130);
+    EXPECT_EQ(numbers.first(), "1");
+    EXPECT_EQ(numbers.last(), "130");
+    grid.clear();
+    EXPECT_EQ(ReportPages(grid, QStringLiteral("Empty")).count(), 1);
 }
 
 TEST(PageTest, ADocumentShowsItsPageAndPrintsItAsItStands) {
