@@ -346,6 +346,10 @@ select b.billNo as billno, b.PNo, b.Amountbilled,
 from Billing b
 where exists (select d.detID from BillingDetails d where d.billNo = b.billNo)
 go
+-- The headings under which a client's invoice may show an item.
+create view vwBillheading as
+select t.revType as headName from hRevenueType t where t.Active = 'YES'
+go
 -- What a visit has generated (every item, capitated ones too), what was billed and paid, and the balance.
 create view vwbillInfo as
 select h.consultID, (select sum(a.SubTotal) from BillAccum a where a.consultID = h.consultID) as amountGen,

@@ -20,6 +20,14 @@ void traceAdjustment(Program& program, Connection& connection, const ItemChange&
     trace.update();
 }
 
+void auditAdjustment(Program& program, const ItemChange& change, const QString& heading) {
+    program.writeAuditTrail(
+        program.session.gUsername, heading + change.oldItem + " : => " + change.newItem, change.billNo,
+        " Qty from: " + QString::number(change.oldQty) + " : => " + QString::number(change.newQty) +
+            " price from: " + formatNumber(change.oldPrice, "0.00") + " : => " + formatNumber(change.newPrice, "0.00"),
+        program.session.sComputerName);
+}
+
 void reviewCarriedBalance(Connection& connection, const QString& billNo, const QString& pno, QDate date, double debt) {
     Recordset review(connection, Sql("select * from hDebtReview where 1=2"));
     review.addNew();
@@ -33,8 +41,13 @@ void reviewCarriedBalance(Connection& connection, const QString& billNo, const Q
 }
 
 void refreshBillFromLines(Program& program, Connection& connection, const QString& billNo) {
-    const double total = billDetailsTotal(connection, billNo).value_or(0);
-    updateBillAmount(connection, billNo, total, getValInWord(program, total));
+    if (const std::optional<double> total = billDetailsTotal(connection, billNo)) {
+        updateBillAmount(connection, billNo, *total, getValInWord(program, *total));
+        return;
+    }
+    const Recordset bill(connection, Sql("select AmountBilled from Billing where billNo = '") << billNo << "'");
+    if (!bill.eof() && bill.number("AmountBilled") != 0)
+        updateBillAmount(connection, billNo, 0, getValInWord(program, 0));
 }
 
 } // namespace orvane

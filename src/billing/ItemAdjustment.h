@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/Money.h"
 #include "session/Program.h"
 
 namespace orvane {
@@ -10,8 +11,8 @@ struct ItemChange {
     QString oldItem, newItem;
     double oldQty = 0, newQty = 0;
     double oldPrice = 0, newPrice = 0;
-    double oldAmount() const { return oldQty * oldPrice; }
-    double newAmount() const { return newQty * newPrice; }
+    double oldAmount() const { return round2(oldQty * oldPrice); } ///< naira and whole kobo, as the screens show it
+    double newAmount() const { return round2(newQty * newPrice); }
 };
 
 // These write on the caller's connection, inside the caller's transaction, and raise DataError.
@@ -19,10 +20,14 @@ struct ItemChange {
 /// The trace of a change in BillingDetailsAdjust, stamped with the shell's clock and the user signed in.
 void traceAdjustment(Program& program, Connection& connection, const ItemChange& change, const QString& remarks);
 
+/// The same change in the audit trail; `heading` stands before the item's name.
+void auditAdjustment(Program& program, const ItemChange& change, const QString& heading);
+
 /// The correction of a brought-forward line in hDebtReview; `debt` as the line's price, minus for "PREVIOUS DEBT".
 void reviewCarriedBalance(Connection& connection, const QString& billNo, const QString& pno, QDate date, double debt);
 
-/// Amount and words of the Billing row as its lines now come to; without a line it becomes an empty bill.
+/// Amount and words of the Billing row as its lines now come to. Without a line the amount becomes 0; one that was 0
+/// before keeps its words, which may say that the bill is capitated.
 void refreshBillFromLines(Program& program, Connection& connection, const QString& billNo);
 
 } // namespace orvane

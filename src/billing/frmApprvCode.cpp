@@ -38,6 +38,7 @@ void frmApprvCode::Form_Load() {
 }
 
 void frmApprvCode::cmdInv_Click() {
+    resetFields();
     cboVehNo.clear();
     Connection connection = program.openBilling();
     Recordset visits(connection, Sql("select distinct  CoyName,Fullname,Date,consultID as billNo from "
@@ -56,7 +57,7 @@ void frmApprvCode::cboVehNo_Click() {
     const QString entry = cboVehNo.text();
     const auto bracket = entry.lastIndexOf(QLatin1Char('['));
     m_consultID = entry.mid(bracket + 1).chopped(1);
-    m_patient = entry.left(entry.indexOf(QLatin1String(" @")));
+    m_patient = entry.left(entry.lastIndexOf(QLatin1String(" @"), bracket));
     bEditing = false;
     Connection connection = program.openBilling();
     const Recordset visit(connection, Sql("select * from qryhPreConsultForClinics where consultID='")
@@ -116,7 +117,8 @@ void frmApprvCode::OKButton_Click() {
 // An edit finds its row by the visit: with several codes on one visit the first of them changes.
 void frmApprvCode::save() {
     Connection connection = program.openBilling();
-    Recordset code(connection, bEditing ? Sql("select * from hApprvCode where consultID='") << m_consultID << "'"
+    Recordset code(connection, bEditing ? Sql("select * from hApprvCode where consultID='")
+                                              << m_consultID << "' order by SNO"
                                         : Sql("select * from hApprvCode where 1=2"));
     if (bEditing && code.eof())
         return;
@@ -136,6 +138,7 @@ void frmApprvCode::cmdEdit_Click() {
         return;
     dtDate.setDate(grdData.date(QStringLiteral("ApprvDate")));
     txtApprv.setText(grdData.text(QStringLiteral("ApprvCode")));
+    cboBill.setListIndex(-1);
     cboBill.setText(grdData.text(QStringLiteral("BillType")));
     txtRem.setText(grdData.text(QStringLiteral("Remarks")));
     bEditing = true;
@@ -152,6 +155,7 @@ void frmApprvCode::cmdDel_Click() {
         connection.execute(Sql("delete from hApprvCode where sno = '") << grdData.text(QStringLiteral("SNO")) << "'");
     }
     program.box(QStringLiteral(" Record successfully deleted "));
+    bEditing = false;
     fillGrid();
 }
 

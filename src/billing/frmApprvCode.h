@@ -12,7 +12,7 @@ public:
     DatePicker DTPicker1{*this, "DTPicker1"};
     DatePicker DTPicker2{*this, "DTPicker2"};
     Button cmdInv{*this, "cmdInv", "&Get Patients"};
-    ComboBox cboVehNo{*this, "cboVehNo"};
+    ComboBox cboVehNo{*this, "cboVehNo", ComboBox::ListOnly};
     Label lblDetails{*this, "lblDetails"};
     Label lblCoy{*this, "lblCoy"};
     Label lblBill{*this, "lblBill"};

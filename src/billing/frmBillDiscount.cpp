@@ -1,5 +1,7 @@
 #include "billing/frmBillDiscount.h"
 
+#include "billing/BillingRow.h"
+#include "billing/Collate.h"
 #include "data/Money.h"
 
 namespace orvane {
@@ -46,6 +48,7 @@ void frmBillDiscount::cboClinic_Click() {
 
 void frmBillDiscount::cmdInv_Click() {
     cboVehNo.clear();
+    clearFields();
     Connection connection = program.openBilling();
     Recordset bills(connection, Sql("select distinct date,pno,fullname,billno from vwBilling where  date between '")
                                     << DTPicker1.date() << "' and '" << DTPicker2.date() << " '");
@@ -77,16 +80,19 @@ void frmBillDiscount::OKButton_Click() {
     if (!checkFields())
         return;
     const std::optional<double> amount = parseAmount(txtHt.text());
-    // A discount is a negative line by its type: a negative amount would turn it into a charge.
-    if (!amount || *amount < 0) {
-        program.box(QStringLiteral("Please enter  Amount"));
+    // The entry type makes the sign: a negative amount would turn a discount into a charge. A line of 0 is none.
+    if (!amount || round2(*amount) <= 0) {
+        program.box("Please enter  Amount");
         txtHt.setFocus();
         return;
     }
-    if (!program.question(QStringLiteral("Are you sure to save?"), QStringLiteral("About to save")))
+    if (!program.question("Are you sure to save?", "About to save"))
         return;
-    save(isDiscount() ? -*amount : *amount);
-    program.box(QStringLiteral("Record Succesfully saved"));
+    if (!save(isDiscount() ? -round2(*amount) : round2(*amount))) {
+        program.box(billProcessedText());
+        return;
+    }
+    program.box("Record Succesfully saved");
     clearFields();
 }
 
@@ -113,44 +119,58 @@ bool frmBillDiscount::checkFields() {
     return true;
 }
 
-void frmBillDiscount::save(double amount) {
-    const QDateTime now = program.getServerDateTime();
+bool frmBillDiscount::save(double amount) {
     Connection connection = program.openBilling();
     Transaction transaction(connection);
+    if (isBillProcessed(connection, lblBill.text()))
+        return false;
+    addLine(connection, amount);
+    if (isDiscount())
+        addDiscount(connection, -amount);
+    moveBill(connection, amount);
+    transaction.commit();
+    return true;
+}
+
+void frmBillDiscount::addLine(Connection& connection, double amount) {
     Recordset line(connection, Sql("select * from BillingDetails where 1=2"));
     line.addNew();
-    line.set(QStringLiteral("dtDate"), dtDate.date());
-    line.set(QStringLiteral("billNo"), lblBill.text());
-    line.set(QStringLiteral("PNo"), m_pno);
-    line.set(QStringLiteral("drgName"), cboCat.text());
-    line.set(QStringLiteral("billType"), QStringLiteral("SERVICE"));
-    line.set(QStringLiteral("conID"), 0);
-    line.set(QStringLiteral("Price"), amount);
-    line.set(QStringLiteral("Qty"), 1);
-    line.set(QStringLiteral("SubTotal"), amount);
+    line.set("dtDate", dtDate.date());
+    line.set("billNo", lblBill.text());
+    line.set("PNo", m_pno);
+    line.set("drgName", cboCat.text());
+    line.set("billType", "SERVICE");
+    line.set("conID", 0);
+    line.set("Price", amount);
+    line.set("Qty", 1);
+    line.set("SubTotal", amount);
     line.update();
     // There is no item whose number the line could bear: it takes its own key below zero, which no item has.
     connection.execute(Sql("update BillingDetails set SNo=0-detID where SNo is null and billNo='")
                        << lblBill.text() << "'");
-    if (isDiscount()) {
-        Recordset discount(connection, Sql("select * from billDiscounts where 1=2"));
-        discount.addNew();
-        discount.set(QStringLiteral("dtDate"), now.date());
-        discount.set(QStringLiteral("dtTime"), now.time().toString(QStringLiteral("HH:mm")));
-        discount.set(QStringLiteral("billNo"), lblBill.text());
-        discount.set(QStringLiteral("Amount"), -amount);
-        discount.set(QStringLiteral("Remarks"), cboCat.text());
-        discount.set(QStringLiteral("entryBy"), session.gUsername);
-        discount.update();
-    }
-    Recordset bill(connection, Sql("select * from Billing where billno='") << lblBill.text() << "'");
-    if (!bill.eof()) {
-        const double billed = bill.number(QStringLiteral("Amountbilled")) + amount;
-        bill.set(QStringLiteral("Amountbilled"), billed);
-        bill.set(QStringLiteral("isPaid"), billed <= bill.number(QStringLiteral("AmountPaid")) ? 1 : 0);
-        bill.update();
-    }
-    transaction.commit();
+}
+
+void frmBillDiscount::addDiscount(Connection& connection, double amount) {
+    Recordset discount(connection, Sql("select * from billDiscounts where 1=2"));
+    discount.addNew();
+    discount.set("dtDate", session.gServerDate);
+    discount.set("dtTime", session.gServerTime.toString("HH:mm"));
+    discount.set("billNo", lblBill.text());
+    discount.set("Amount", amount);
+    discount.set("Remarks", cboCat.text());
+    discount.set("entryBy", session.gUsername);
+    discount.update();
+}
+
+void frmBillDiscount::moveBill(Connection& connection, double amount) {
+    Recordset bill(connection, Sql("select * from Billing where billNo='") << lblBill.text() << "'");
+    if (bill.eof())
+        return;
+    const double billed = round2(bill.number("Amountbilled") + amount);
+    bill.set("Amountbilled", billed);
+    bill.set("AmountBIlledInWord", getValInWord(program, billed));
+    bill.set("isPaid", billed <= bill.number("AmountPaid") ? 1 : 0);
+    bill.update();
 }
 
 void frmBillDiscount::clearFields() {

@@ -5,6 +5,7 @@
 namespace orvane {
 
 /// "Discounts": adds to a saved bill a single line, a further charge or a discount, and moves the Billing row with it.
+/// The patient's running account keeps the charge as it was.
 class frmBillDiscount : public Screen {
 public:
     explicit frmBillDiscount(Program& program);
@@ -12,7 +13,7 @@ public:
     DatePicker DTPicker1{*this, "DTPicker1"};
     DatePicker DTPicker2{*this, "DTPicker2"};
     Button cmdInv{*this, "cmdInv", "&Get Patients"};
-    ComboBox cboVehNo{*this, "cboVehNo"};
+    ComboBox cboVehNo{*this, "cboVehNo", ComboBox::ListOnly};
     Label Label5{*this, "Label5"};
     Label lblBill{*this, "lblBill"};
     Label lblAmt{*this, "lblAmt"};
@@ -37,7 +38,10 @@ private:
     void cboVehNo_Click();
     void OKButton_Click();
     bool checkFields();
-    void save(double amount);
+    bool save(double amount); ///< false: a batch holds the bill
+    void addLine(Connection& connection, double amount);
+    void addDiscount(Connection& connection, double amount);
+    void moveBill(Connection& connection, double amount);
     void clearFields();
     bool isDiscount() const { return cboClinic.text() == QLatin1String("DISCOUNT"); }
 

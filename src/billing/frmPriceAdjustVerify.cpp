@@ -3,7 +3,6 @@
 #include "billing/BillingRow.h"
 #include "billing/Collate.h"
 #include "billing/Tariff.h"
-#include "data/Money.h"
 #include "receipts/PatientAccount.h"
 
 #include <cmath>
@@ -19,19 +18,10 @@ double carriedDebt(const QString& item, double price) {
 
 } // namespace
 
-frmPriceAdjustVerify::frmPriceAdjustVerify(Program& owner) : Screen(owner, "frmPriceAdjustVerify", "Bill Adjustment") {
-    txtQty.numeric();
-    txtPrice.numeric();
-    connectHandlers();
-}
-
-void frmPriceAdjustVerify::connectHandlers() {
-    txtQty.onChange = [this] { workOutSubTotal(); };
-    txtPrice.onChange = [this] { workOutSubTotal(); };
+frmPriceAdjustVerify::frmPriceAdjustVerify(Program& owner)
+    : PriceAdjustScreen(owner, "frmPriceAdjustVerify", "Bill Adjustment") {
     chkAll.onClick = [this] { chkAll_Click(); };
-    cmdSave.onClick = [this] { cmdSave_Click(); };
     cmdCancel.onClick = [this] { cmdCancel_Click(); };
-    CancelButton.onClick = [this] { unload(); };
 }
 
 Layout frmPriceAdjustVerify::layout() const {
@@ -49,11 +39,14 @@ void frmPriceAdjustVerify::Form_Load() {
     cboAttend.setLocked(true);
     Connection connection = program.openBilling();
     fillRevenueTypes(connection);
-    if (!readItem(connection)) {
+    const Recordset item = openRow(connection);
+    if (!showRow(item, "consultID")) {
         program.box("Please specify Item");
-        cmdSave.setEnabled(false);
         cmdCancel.setEnabled(false);
+        return;
     }
+    readVisit(connection);
+    showItem(item);
 }
 
 void frmPriceAdjustVerify::fillRevenueTypes(Connection& connection) {
@@ -61,34 +54,34 @@ void frmPriceAdjustVerify::fillRevenueTypes(Connection& connection) {
     for (Recordset types(connection,
                          Sql("select distinct revType from hRevenueType where Active='YES' order by revType"));
          !types.eof(); types.moveNext())
-        cboRev.addItem(types.text("revType"));
+        if (!cboRev.items().contains(types.text("revType"), Qt::CaseInsensitive))
+            cboRev.addItem(types.text("revType"));
 }
 
-bool frmPriceAdjustVerify::readItem(Connection& connection) {
-    m_sno = session.lWorkSNo;
-    m_billNo = session.gConsultID;
-    const Recordset item(connection, Sql("select * from BillAccum where SNO=") << m_sno);
-    if (item.eof() || item.text("consultID") != m_billNo)
-        return false;
-    m_pno = item.text("PNo");
-    m_oldItem = item.text("drgName");
-    m_billTo = item.text("billTo");
-    m_coyName = item.text("coyName");
-    m_dosage = item.text("usage");
-    m_date = item.date("dtDate");
-    dPrice = item.number("Price");
-    dQty = item.number("Qty");
-    m_oldAmount = item.number("SubTotal");
+/// The item in hand, on the bill in hand.
+Recordset frmPriceAdjustVerify::openRow(Connection& connection) const {
+    return Recordset(connection, Sql("select * from BillAccum where SNO=")
+                                     << session.lWorkSNo << " and consultID='" << session.gConsultID << "'");
+}
+
+void frmPriceAdjustVerify::readVisit(Connection& connection) {
     const Recordset visit(connection,
                           Sql("select clientcat,referal,retainID from qryhVisitsForAttend where consultID ='")
                               << m_billNo << "'");
-    m_category = visit.eof() ? QString() : visit.text("clientcat");
-    m_referal = visit.eof() ? QString() : visit.text("referal");
-    m_retainID = visit.eof() ? m_coyName : visit.text("retainID");
+    if (visit.eof())
+        return;
+    m_category = visit.text("clientcat");
+    m_referal = visit.text("referal");
+    m_retainID = visit.text("retainID");
+}
 
-    txtDrug.setText(m_oldItem);
-    txtQty.setText(QString::number(dQty, 'g', 15));
-    txtPrice.setText(formatNumber(dPrice, "0.00"));
+void frmPriceAdjustVerify::showItem(const Recordset& item) {
+    m_pno = item.text("PNo");
+    m_billTo = item.text("billTo");
+    m_coyName = item.text("coyName");
+    m_itemCategory = item.text("Category");
+    m_date = item.date("dtDate");
+    m_oldAmount = item.number("SubTotal");
     const QString capitated = item.text("Capitated");
     cboCap.setText(capitated.isEmpty() || !isCapitatedCategory(m_category) ? QStringLiteral("NO") : capitated);
     cboAttend.setText(item.integer("attendedto") == 1 ? "YES" : "NO");
@@ -96,15 +89,10 @@ bool frmPriceAdjustVerify::readItem(Connection& connection) {
     if (!revType.isEmpty() && !cboRev.items().contains(revType, Qt::CaseInsensitive))
         cboRev.addItem(revType);
     cboRev.setText(revType.isEmpty() ? QStringLiteral("OTHERS") : revType);
-    cboPat.addItems({"", m_billTo, session.gBillTo});
+    cboPat.addItems({"", m_billTo});
+    if (m_billTo != session.gBillTo)
+        cboPat.addItem(session.gBillTo);
     cboPat.setText(m_billTo);
-    return true;
-}
-
-void frmPriceAdjustVerify::workOutSubTotal() {
-    const std::optional<double> qty = parseAmount(txtQty.text());
-    const std::optional<double> price = parseAmount(txtPrice.text());
-    lblSub.setText(qty && price ? formatNumber(*qty * *price, "#,##0.00") : QString());
 }
 
 void frmPriceAdjustVerify::chkAll_Click() {
@@ -112,157 +100,103 @@ void frmPriceAdjustVerify::chkAll_Click() {
         control->setEnabled(!chkAll.isChecked());
 }
 
-ItemChange frmPriceAdjustVerify::change() const {
-    ItemChange change;
-    change.billNo = m_billNo;
-    change.oldItem = m_oldItem;
-    change.newItem = txtDrug.text().trimmed();
-    change.oldQty = dQty;
-    change.newQty = parseAmount(txtQty.text()).value_or(0);
-    change.oldPrice = dPrice;
-    change.newPrice = parseAmount(txtPrice.text()).value_or(0);
-    return change;
+std::vector<PriceAdjustScreen::Check> frmPriceAdjustVerify::checks() {
+    const bool lacksRevenueType = cboRev.text().isEmpty() || cboRev.text() == QLatin1String("OTHERS");
+    return {{!isPriceValid(), " Please enter valid price ", txtPrice},
+            {cboCap.text().isEmpty(), "Please specify Capitation", cboCap},
+            {lacksRevenueType, "Please specify Revenue Type!", cboRev},
+            {change().newItem.isEmpty(), "Please specify Item", txtDrug}};
 }
 
-bool frmPriceAdjustVerify::isProcessed() {
-    Connection connection = program.openBilling();
-    if (!isBillProcessed(connection, m_billNo))
-        return false;
-    program.box(billProcessedText());
-    return true;
-}
-
-bool frmPriceAdjustVerify::checkFields() {
-    const struct {
-        bool wrong;
-        const char* text;
-        Control& control;
-    } checks[] = {
-        {!parseAmount(txtPrice.text()), " Please enter valid price ", txtPrice},
-        {!parseAmount(txtQty.text()), " Please enter valid price ", txtQty},
-        {cboCap.text().isEmpty(), "Please specify Capitation", cboCap},
-        {cboRev.text().isEmpty() || cboRev.text() == QLatin1String("OTHERS"), "Please specify Revenue Type!", cboRev},
-        {txtDrug.text().trimmed().isEmpty(), "Please specify Item", txtDrug},
-    };
-    for (const auto& check : checks) {
-        if (check.wrong) {
-            program.box(check.text);
-            check.control.setFocus();
-            return false;
-        }
-    }
-    return true;
-}
-
-void frmPriceAdjustVerify::cmdSave_Click() {
-    if (isProcessed() || !checkFields())
-        return;
-    if (!save()) {
-        program.box(billProcessedText());
-        return;
-    }
-    session.sAdjustItem = txtDrug.text().trimmed();
-    if (chkRct.isChecked())
-        requestTariff();
-    rememberChoice();
-    unload();
-}
-
-bool frmPriceAdjustVerify::save() {
-    Connection connection = program.openBilling();
-    Transaction transaction(connection);
-    if (isBillProcessed(connection, m_billNo))
-        return false;
+void frmPriceAdjustVerify::saveRow(Connection& connection, Recordset& item) {
     const ItemChange now = change();
-    saveItem(connection, now);
+    saveItem(item, now);
+    if (now.newAmount() != now.oldAmount()) {
+        auditAdjustment(program, now, "Bill Adjustment: Item from: ");
+        traceAdjustment(program, connection, now, "BILL ADJUST");
+    }
     Recordset line(connection, Sql("select * from BillingDetails where SNO=") << m_sno);
     if (!line.eof())
         changeLine(connection, line, now);
     else if (cboCap.text() == QLatin1String("NO"))
         addLine(connection, now);
     refreshBillFromLines(program, connection, m_billNo);
-    transaction.commit();
-    return true;
 }
 
-void frmPriceAdjustVerify::saveItem(Connection& connection, const ItemChange& now) {
-    Recordset item(connection, Sql("select * from BillAccum where SNO=") << m_sno);
-    if (item.eof() || item.number("Price") != dPrice || item.number("Qty") != dQty)
-        throw DataError(
-            "Row cannot be located for updating. Some values may have been changed since it was last read.");
-    item.set("Price", now.newPrice);
-    item.set("Qty", now.newQty);
-    item.set("SubTotal", now.newAmount());
-    item.set("drgName", now.newItem);
+/// Who pays the item from now on. A mere request for the tariff leaves that alone.
+QString frmPriceAdjustVerify::newBillTo() const {
+    return chkRct.isChecked() || cboPat.text().isEmpty() ? m_billTo : cboPat.text();
+}
+
+void frmPriceAdjustVerify::saveItem(Recordset& item, const ItemChange& now) {
+    setAmounts(item, now);
     item.set("Capitated", cboCap.text());
     item.set("attendedto", 1);
     item.set("isBilled", 1);
-    if (!chkRct.isChecked() && !cboPat.text().isEmpty())
-        item.set("billTo", cboPat.text());
+    item.set("billTo", newBillTo());
     item.set("revType", cboRev.text());
     item.update();
-    if (now.newAmount() == now.oldAmount())
-        return;
-    audit("Bill Adjustment: Item from: " + now.oldItem + " : => " + now.newItem,
-          " Qty from: " + QString::number(now.oldQty) + " : => " + QString::number(now.newQty) +
-              " price from: " + formatNumber(now.oldPrice, "0.00") + " : => " + formatNumber(now.newPrice, "0.00"));
-    traceAdjustment(program, connection, now, "BILL ADJUST");
 }
 
 /// An item that waited is billed by its adjustment.
 void frmPriceAdjustVerify::addLine(Connection& connection, const ItemChange& now) {
     Recordset line(connection, Sql("select * from BillingDetails where 1=2"));
     line.addNew();
+    setAmounts(line, now);
     line.set("dtDate", m_date);
     line.set("SNo", m_sno);
     line.set("billNo", m_billNo);
     line.set("PNo", m_pno);
-    line.set("drgName", now.newItem);
-    line.set("Price", now.newPrice);
-    line.set("Qty", now.newQty);
-    line.set("SubTotal", now.newAmount());
     line.set("dosage", "N/A");
     line.set("billType", "SERVICE");
     line.set("conID", 0);
     line.set("Capitated", "NO");
-    line.set("billTo", m_billTo);
+    line.set("billTo", newBillTo());
     line.set("coyName", m_coyName);
     line.set("revType", cboRev.text());
     line.set("BillBy", session.gUsername);
     line.update();
-    refreshBillFromLines(program, connection, m_billNo);
-    if (!isCarriedBalance(now.newItem))
-        postPatientTran(program, connection, session.gServerDate, m_pno, m_billNo, 0 - now.newAmount(), m_billTo,
-                        "New Bill Item: " + now.newItem);
     audit("insert BillDetails Item for " + session.sBillPatName,
           now.newItem + ": " + formatNumber(now.newAmount(), "0.00"));
     connection.execute(Sql("update BillAccum set attendedTo=1,isbilled=1 where SNO =") << m_sno);
     if (isCarriedBalance(now.newItem))
         reviewCarriedBalance(connection, m_billNo, m_pno, session.gServerDate, carriedDebt(now.newItem, now.newPrice));
+    else
+        post(connection, 0 - now.newAmount(), newBillTo(), "New Bill Item: " + now.newItem);
 }
 
-/// A line that is turned capitated stays listed at no charge until the next collation takes it away; its charge goes
-/// back.
+/// A line that is turned capitated stays listed at no charge until the next collation takes it away, and its charge
+/// goes back. A carried balance is charged by no one, so renaming an item to one, or back, moves its whole charge.
 void frmPriceAdjustVerify::changeLine(Connection& connection, Recordset& line, const ItemChange& now) {
     const bool capitated = cboCap.text() == QLatin1String("YES");
-    const double charged = line.number("SubTotal");
-    line.set("Price", capitated ? 0 : now.newPrice);
-    line.set("Qty", now.newQty);
-    line.set("SubTotal", capitated ? 0 : now.newAmount());
-    line.set("revType", cboRev.text());
-    line.set("drgName", now.newItem);
-    line.update();
-    refreshBillFromLines(program, connection, m_billNo);
-    if (isCarriedBalance(now.oldItem)) {
-        reviewCarriedBalance(connection, m_billNo, m_pno, session.gServerDate, carriedDebt(now.oldItem, now.newPrice));
-        return;
+    const bool wasCarried = isCarriedBalance(line.text("drgName"));
+    const bool isCarried = isCarriedBalance(now.newItem);
+    const double before = wasCarried ? 0 : line.number("SubTotal");
+    const double after = capitated || isCarried ? 0 : now.newAmount();
+    setAmounts(line, now);
+    if (capitated) {
+        line.set("Price", 0);
+        line.set("SubTotal", 0);
     }
-    if (capitated)
-        postPatientTran(program, connection, session.gServerDate, m_pno, m_billNo, charged, m_billTo,
-                        "Bill Item Capitated: " + now.newItem);
-    else if (now.newAmount() != charged)
-        postPatientTran(program, connection, session.gServerDate, m_pno, m_billNo, charged - now.newAmount(), m_billTo,
-                        "Adjusted Bill Item: " + now.newItem);
+    line.set("revType", cboRev.text());
+    line.update();
+    if (wasCarried || isCarried)
+        reviewCarriedBalance(connection, m_billNo, m_pno, session.gServerDate,
+                             carriedDebt(isCarried ? now.newItem : now.oldItem, now.newPrice));
+    if (after != before)
+        post(connection, before - after, line.text("billTo"),
+             (capitated ? "Bill Item Capitated: " : "Adjusted Bill Item: ") + now.newItem);
+}
+
+void frmPriceAdjustVerify::post(Connection& connection, double amount, const QString& billTo, const QString& remarks) {
+    postPatientTran(program, connection, session.gServerDate, m_pno, m_billNo, amount, billTo, remarks);
+}
+
+void frmPriceAdjustVerify::afterSave() {
+    session.sAdjustItem = change().newItem;
+    if (chkRct.isChecked())
+        requestTariff();
+    rememberChoice();
 }
 
 /// A request only: the tariff itself is not changed here.
@@ -279,7 +213,7 @@ void frmPriceAdjustVerify::requestTariff() {
         request.set("revType", cboRev.text());
         request.set("coyName", m_coyName);
         request.set("billNo", m_billNo);
-        request.set("Category", m_category);
+        request.set("Category", m_itemCategory);
         request.update();
     }
     program.box("Request Submitted");
@@ -288,37 +222,32 @@ void frmPriceAdjustVerify::requestTariff() {
 void frmPriceAdjustVerify::rememberChoice() {
     Connection connection = program.openBilling();
     const Recordset item(connection, Sql("select billtype from billAccum where SNo=") << m_sno);
-    const QString kind =
-        item.eof() || item.text("billtype").isEmpty() ? QStringLiteral("SERVICE") : item.text("billtype");
+    if (item.eof())
+        return; // removed since
+    const QString kind = item.text("billtype").isEmpty() ? QStringLiteral("SERVICE") : item.text("billtype");
     if (const TariffKind* known = tariffKind(kind, BillPatTariff))
-        rememberTemplateFlags(connection, *known, {m_category, m_retainID, m_referal}, txtDrug.text().trimmed(),
-                              cboCap.text(), cboRev.text());
+        rememberTemplateFlags(connection, *known, {m_category, m_retainID, m_referal}, change().newItem, cboCap.text(),
+                              cboRev.text());
 }
 
 void frmPriceAdjustVerify::cmdCancel_Click() {
-    if (isProcessed())
+    if (isFrozen())
         return;
     if (!program.question("Are you sure to Remove Bill Item", "Adjustment"))
         return;
-    if (!remove()) {
-        program.box(billProcessedText());
+    if (!changeBill([this](Connection& connection) { remove(connection); }))
         return;
-    }
     program.box(" Bill Item successfully Removed");
     audit("Remove Bill Item for " + session.sBillPatName,
           m_oldItem + ": Qty:" + QString::number(dQty) + " Amount: " + formatNumber(m_oldAmount, "0.00"));
     unload();
 }
 
-bool frmPriceAdjustVerify::remove() {
-    Connection connection = program.openBilling();
-    Transaction transaction(connection);
-    if (isBillProcessed(connection, m_billNo))
-        return false;
-    // Only what was charged goes back: an item that never reached the bill has charged nothing.
+/// Only what was charged goes back, to the account that bore it: an item that never reached the bill has charged
+/// nothing.
+void frmPriceAdjustVerify::remove(Connection& connection) {
+    requireUnchanged(openRow(connection));
     const Recordset line(connection, Sql("select SubTotal,billTo from BillingDetails where SNO=") << m_sno);
-    const double charged = line.eof() ? 0 : line.number("SubTotal");
-    const QString billTo = line.eof() ? m_billTo : line.text("billTo");
     connection.execute(Sql("delete from billingdetails where SNO = '") << m_sno << "'");
     connection.execute(Sql("delete from billAccum where SNO = '") << m_sno << "'");
     ItemChange gone = change();
@@ -328,12 +257,9 @@ bool frmPriceAdjustVerify::remove() {
     traceAdjustment(program, connection, gone, "BILL DELETED");
     if (isCarriedBalance(m_oldItem))
         reviewCarriedBalance(connection, m_billNo, m_pno, session.gServerDate, carriedDebt(m_oldItem, dPrice));
-    else if (charged != 0)
-        postPatientTran(program, connection, session.gServerDate, m_pno, m_billNo, charged, billTo,
-                        "Bill Item Removed: " + m_oldItem);
+    else if (!line.eof() && line.number("SubTotal") != 0)
+        post(connection, line.number("SubTotal"), line.text("billTo"), "Bill Item Removed: " + m_oldItem);
     refreshBillFromLines(program, connection, m_billNo);
-    transaction.commit();
-    return true;
 }
 
 void frmPriceAdjustVerify::audit(const QString& action, const QString& detail) {

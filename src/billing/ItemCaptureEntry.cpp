@@ -1,4 +1,4 @@
-#include "billing/frmBillPat.h"
+#include "billing/ItemCapture.h"
 
 #include "data/Money.h"
 
@@ -17,15 +17,15 @@ bool isNumeric(const TextBox& box) {
 
 } // namespace
 
-TariffFields frmBillPat::tariffFields() {
-    return {cboCat, cboDrug, txtPrice, txtQty, lblStock, lblCat, lblInfo, cboFFS2, &cboRev};
+TariffFields ItemCapture::tariffFields() {
+    return {cboCat, cboDrug, txtPrice, txtQty, lblStock, lblCat, lblInfo, cboFFS2, cboRev ? &*cboRev : nullptr};
 }
 
-void frmBillPat::cboDrug_Click() {
-    onItemPicked(program, BillPatTariff, tariffFields(), visit());
+void ItemCapture::cboDrug_Click() {
+    onItemPicked(program, m_tariff, tariffFields(), visit());
 }
 
-void frmBillPat::cboCat_Click() {
+void ItemCapture::cboCat_Click() {
     if (cboCat.listIndex() <= 0)
         return;
     Sql items;
@@ -44,25 +44,25 @@ void frmBillPat::cboCat_Click() {
 
 /// Whichever name is chosen, the item goes to the visit's client; the box only keeps the private account free of
 /// capitation.
-void frmBillPat::cboPat_Click() {
+void ItemCapture::cboPat_Click() {
     sRetainCode = sRetainID;
     if (sRetainCode == session.gPrivateTariff || sRetainCode == "0001")
         cboFFS2.setText("NO");
 }
 
-void frmBillPat::priceOrQuantity_Change() {
+void ItemCapture::priceOrQuantity_Change() {
     if (isNumeric(txtPrice) && isNumeric(txtQty))
         txtSub.setText(QString::number(numberIn(txtPrice.text()) * numberIn(txtQty.text()), 'g', 15));
 }
 
 /// A typed line total fills in a missing unit price.
-void frmBillPat::txtSub_Change() {
+void ItemCapture::txtSub_Change() {
     if (!isNumeric(txtQty) || numberIn(txtQty.text()) == 0 || numberIn(txtPrice.text()) > 0)
         return;
     txtPrice.setText(QString::number(numberIn(txtSub.text()) / numberIn(txtQty.text()), 'g', 15));
 }
 
-void frmBillPat::cmdAdd_Click() {
+void ItemCapture::cmdAdd_Click() {
     for (int row = 1; row < OrderGridDrug.rows() - 1; ++row)
         if (cboDrug.text().compare(OrderGridDrug.cell(row, Item), Qt::CaseInsensitive) == 0)
             program.box("Duplicate Entry Detected please Confirm");
@@ -72,57 +72,64 @@ void frmBillPat::cmdAdd_Click() {
     writeLine();
     total += numberIn(txtSub.text());
     lblTotal.setText(formatTwoDecimals(total));
-    if (const TariffKind* kind = tariffKind(cboCat.text(), BillPatTariff)) {
-        Connection connection = program.openBilling();
-        rememberTemplateFlags(connection, *kind, visit(), cboDrug.text(), cboFFS2.text(), cboRev.text());
-    }
+    rememberChoice();
     resetEntryLine();
     cboDrug.setFocus();
 }
 
-bool frmBillPat::isLineComplete() {
+/// Without a revenue type there is no whole choice to remember.
+void ItemCapture::rememberChoice() {
+    const TariffKind* kind = tariffKind(cboCat.text(), m_tariff);
+    if (!cboRev || !kind)
+        return;
+    Connection connection = program.openBilling();
+    rememberTemplateFlags(connection, *kind, visit(), cboDrug.text(), cboFFS2.text(), cboRev->text());
+}
+
+bool ItemCapture::isLineComplete() {
     struct Check {
         bool failed;
         const char* message;
-        Control& control;
+        Control* control;
     };
-    const bool needsRevenueType = cboRev.text() == "OTHERS" || cboRev.text().isEmpty();
+    const bool needsRevenueType = cboRev && (cboRev->text() == "OTHERS" || cboRev->text().isEmpty());
     const bool lacksQuantity = numberIn(txtQty.text()) == 0;
     const Check checks[] = {
-        {cboDrug.text().isEmpty() || cboDrug.text() == " ", "Please specify a Drug/Service No ", cboDrug},
-        {cboFFS2.text().isEmpty(), "Please specify whether Item is Capitated or Not", cboFFS2},
-        {needsRevenueType, "Please specify Revenue Type! Others Not Allowed", cboRev},
-        {cboPat.text().isEmpty(), "BillTo/Sponsor field Cannot be Empty", cboPat},
-        {numberIn(txtPrice.text()) <= 0, "Cannot add this line without a price to Grid !!!  ", txtPrice},
-        {cboDrug.text().trimmed().isEmpty(), "Please specify Drug/Service used ", cboDrug},
-        {cboCat.text() == "DRUG" && lacksQuantity, "Please specify Quantity of Drug prescribed", txtQty},
+        {cboDrug.text().isEmpty() || cboDrug.text() == " ", "Please specify a Drug/Service No ", &cboDrug},
+        {cboFFS2.text().isEmpty(), "Please specify whether Item is Capitated or Not", &cboFFS2},
+        {needsRevenueType, "Please specify Revenue Type! Others Not Allowed", cboRev ? &*cboRev : nullptr},
+        {cboPat.text().isEmpty(), "BillTo/Sponsor field Cannot be Empty", &cboPat},
+        {numberIn(txtPrice.text()) <= 0, "Cannot add this line without a price to Grid !!!  ", &txtPrice},
+        {cboDrug.text().trimmed().isEmpty(), "Please specify Drug/Service used ", &cboDrug},
+        {cboCat.text() == "DRUG" && lacksQuantity, "Please specify Quantity of Drug prescribed", &txtQty},
     };
     for (const Check& check : checks) {
         if (!check.failed)
             continue;
         program.box(check.message);
-        if (&check.control == &cboRev)
-            cboRev.setListIndex(-1);
-        check.control.setFocus();
+        if (needsRevenueType && check.control == &*cboRev)
+            cboRev->setListIndex(-1);
+        check.control->setFocus();
         return false;
     }
     return true;
 }
 
-void frmBillPat::writeLine() {
+void ItemCapture::writeLine() {
     const QString cells[] = {cboDrug.text(), lblCat.text(), txtPrice.text(), txtQty.text(),
                              txtSub.text(),  "***",         cboFFS2.text(),  cboCat.text(),
-                             "NEW",          sRetainID,     sRetainID,       cboRev.text()};
+                             "NEW",          sRetainID,     sRetainID,       cboRev ? cboRev->text() : QString()};
     const int row = OrderGridDrug.rows() - 1;
     for (int column = Item; column <= RevenueType; ++column)
         OrderGridDrug.setCell(row, column, cells[column]);
     OrderGridDrug.addRow();
 }
 
-void frmBillPat::resetEntryLine() {
+void ItemCapture::resetEntryLine() {
     txtQty.setText("0");
     cboDrug.setText({});
-    cboRev.setListIndex(-1);
+    if (cboRev)
+        cboRev->setListIndex(-1);
     txtSub.setText("0");
     lblInfo.clear();
     txtPrice.setText("0");
@@ -130,7 +137,7 @@ void frmBillPat::resetEntryLine() {
     lblStock.setText("0");
 }
 
-void frmBillPat::OrderGridDrug_DblClick() {
+void ItemCapture::OrderGridDrug_DblClick() {
     const int row = OrderGridDrug.currentRow();
     if (row < 1 || row >= OrderGridDrug.rows() - 1)
         return;
@@ -148,7 +155,7 @@ void frmBillPat::OrderGridDrug_DblClick() {
     program.box("Item Removed");
 }
 
-void frmBillPat::calcTotal() {
+void ItemCapture::calcTotal() {
     Label5.setText(session.sBillPatLabel + "\n=N=" + formatTwoDecimals(numberIn(lblTotal.text())));
 }
 

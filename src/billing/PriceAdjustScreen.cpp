@@ -1,0 +1,125 @@
+#include "billing/PriceAdjustScreen.h"
+
+#include "billing/Collate.h"
+#include "data/Money.h"
+
+namespace orvane {
+
+namespace {
+
+/// With two decimals where they tell the whole price: shortening one would change it.
+QString priceText(double price) {
+    return round2(price) == price ? formatNumber(price, "0.00") : QString::number(price, 'g', 15);
+}
+
+} // namespace
+
+PriceAdjustScreen::PriceAdjustScreen(Program& owner, const QString& formName, const QString& formCaption)
+    : Screen(owner, formName, formCaption) {
+    txtQty.numeric();
+    txtPrice.numeric();
+    txtQty.onChange = [this] { workOutSubTotal(); };
+    txtPrice.onChange = [this] { workOutSubTotal(); };
+    cmdSave.onClick = [this] { cmdSave_Click(); };
+    CancelButton.onClick = [this] { unload(); };
+}
+
+bool PriceAdjustScreen::showRow(const Recordset& row, const QString& billColumn) {
+    if (row.eof()) {
+        cmdSave.setEnabled(false);
+        return false;
+    }
+    m_sno = session.lWorkSNo;
+    m_billNo = row.text(billColumn);
+    m_oldItem = row.text("drgName");
+    dPrice = row.number("Price");
+    dQty = row.number("Qty");
+    txtDrug.setText(m_oldItem);
+    txtQty.setText(QString::number(dQty, 'g', 15));
+    txtPrice.setText(priceText(dPrice));
+    return true;
+}
+
+void PriceAdjustScreen::workOutSubTotal() {
+    lblSub.setText(isPriceValid() ? formatTwoDecimals(change().newAmount()) : QString());
+}
+
+bool PriceAdjustScreen::isPriceValid() const {
+    return parseAmount(txtPrice.text()) && parseAmount(txtQty.text());
+}
+
+ItemChange PriceAdjustScreen::change() const {
+    ItemChange change;
+    change.billNo = m_billNo;
+    change.oldItem = m_oldItem;
+    change.newItem = txtDrug.text().trimmed();
+    change.oldQty = dQty;
+    change.newQty = parseAmount(txtQty.text()).value_or(0);
+    change.oldPrice = dPrice;
+    change.newPrice = parseAmount(txtPrice.text()).value_or(0);
+    return change;
+}
+
+void PriceAdjustScreen::setAmounts(Recordset& row, const ItemChange& change) {
+    row.set("Price", change.newPrice);
+    row.set("Qty", change.newQty);
+    row.set("SubTotal", change.newAmount());
+    row.set("drgName", change.newItem);
+}
+
+bool PriceAdjustScreen::isFrozen() {
+    Connection connection = program.openBilling();
+    if (!isBillProcessed(connection, m_billNo))
+        return false;
+    program.box(billProcessedText());
+    return true;
+}
+
+bool PriceAdjustScreen::changeBill(const std::function<void(Connection&)>& steps) {
+    bool open = false;
+    {
+        Connection connection = program.openBilling();
+        Transaction transaction(connection);
+        open = !isBillProcessed(connection, m_billNo);
+        if (open) {
+            steps(connection);
+            transaction.commit();
+        }
+    }
+    if (!open)
+        program.box(billProcessedText());
+    return open;
+}
+
+void PriceAdjustScreen::requireUnchanged(const Recordset& row) const {
+    if (row.eof() || row.number("Price") != dPrice || row.number("Qty") != dQty || row.text("drgName") != m_oldItem)
+        throw DataError(
+            "Row cannot be located for updating. Some values may have been changed since it was last read.");
+}
+
+bool PriceAdjustScreen::checkFields() {
+    for (const Check& check : checks()) {
+        if (!check.failed)
+            continue;
+        program.box(check.text);
+        check.control.setFocus();
+        return false;
+    }
+    return true;
+}
+
+void PriceAdjustScreen::cmdSave_Click() {
+    if (isFrozen() || !checkFields())
+        return;
+    const bool saved = changeBill([this](Connection& connection) {
+        Recordset row = openRow(connection);
+        requireUnchanged(row);
+        saveRow(connection, row);
+    });
+    if (!saved)
+        return;
+    afterSave();
+    unload();
+}
+
+} // namespace orvane

@@ -1,0 +1,38 @@
+#include "billing/frmPriceAdjust.h"
+
+namespace orvane {
+
+frmPriceAdjust::frmPriceAdjust(Program& owner) : PriceAdjustScreen(owner, "frmPriceAdjust", "Price Adjustment") {}
+
+Layout frmPriceAdjust::layout() const {
+    using namespace orvane::layout;
+    return column({field("Item", txtDrug, 44), field("Quantity", txtQty, 10), field("Unit Price", txtPrice, 14),
+                   field("Amount", lblSub), field("Capitated", cboCap, 8), stretch(),
+                   buttons({}, {&CancelButton, &cmdSave})});
+}
+
+void frmPriceAdjust::Form_Load() {
+    cboCap.addItems({"", "YES", "NO"});
+    Connection connection = program.openBilling();
+    const Recordset item = openRow(connection);
+    if (showRow(item, "consultID"))
+        cboCap.setText(item.text("Capitated"));
+}
+
+Recordset frmPriceAdjust::openRow(Connection& connection) const {
+    return Recordset(connection, Sql("select * from BillAccum where SNO=") << session.lWorkSNo);
+}
+
+std::vector<PriceAdjustScreen::Check> frmPriceAdjust::checks() {
+    return {{!isPriceValid(), " Please enter valid price ", txtPrice},
+            {cboCap.text().isEmpty(), "Please specify Capitation", cboCap},
+            {change().newItem.isEmpty(), "Please specify Service/Drug", txtDrug}};
+}
+
+void frmPriceAdjust::saveRow(Connection&, Recordset& row) {
+    setAmounts(row, change());
+    row.set("Capitated", cboCap.text());
+    row.update();
+}
+
+} // namespace orvane

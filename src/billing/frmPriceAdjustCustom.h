@@ -1,0 +1,26 @@
+#pragma once
+
+#include "billing/PriceAdjustScreen.h"
+
+namespace orvane {
+
+/// "Bill Adjustment Before Processing": changes a line of a collated bill and names the heading under which the
+/// client's invoice shows it.
+class frmPriceAdjustCustom : public PriceAdjustScreen {
+public:
+    explicit frmPriceAdjustCustom(Program& program);
+
+    Layout layout() const override;
+    void Form_Load() override;
+
+private:
+    void fillBillTo(Connection& connection, const QString& billTo);
+    Recordset openRow(Connection& connection) const override;
+    std::vector<Check> checks() override;
+    void saveRow(Connection& connection, Recordset& row) override;
+
+    ComboBox cboHead{*this, "cboHead"};
+    ComboBox cboPat{*this, "cboPat", ComboBox::ListOnly}; ///< names of clients, their retainCode behind
+};
+
+} // namespace orvane

@@ -1,0 +1,47 @@
+#include "billing/frmPriceAdjustSplit.h"
+
+namespace orvane {
+
+frmPriceAdjustSplit::frmPriceAdjustSplit(Program& owner)
+    : PriceAdjustScreen(owner, "frmPriceAdjustSplit", "Bill Item To") {
+    for (TextBox* box : {&txtDrug, &txtQty, &txtPrice})
+        box->setLocked(true);
+}
+
+Layout frmPriceAdjustSplit::layout() const {
+    using namespace orvane::layout;
+    return column({field("Item", txtDrug, 44), field("Quantity", txtQty, 10), field("Unit Price", txtPrice, 14),
+                   field("Amount", lblSub), field("Bill To", cboPat, 44), stretch(),
+                   buttons({}, {&CancelButton, &cmdSave})});
+}
+
+void frmPriceAdjustSplit::Form_Load() {
+    Connection connection = program.openBilling();
+    const Recordset line = openRow(connection);
+    if (!showRow(line, "billNo"))
+        return;
+    cboPat.addItem("");
+    Recordset client(connection, Sql("select retainName,retainID,retainCode from hretainerShip order by retainNAME "));
+    for (; !client.eof(); client.moveNext()) {
+        cboPat.addItem(client.text("retainName"), client.text("retainCode"));
+        if (client.text("retainCode") == line.text("billTo"))
+            cboPat.setListIndex(cboPat.count() - 1);
+    }
+}
+
+Recordset frmPriceAdjustSplit::openRow(Connection& connection) const {
+    return Recordset(connection, Sql("select * from BillingDetails where SNO=") << session.lWorkSNo);
+}
+
+std::vector<PriceAdjustScreen::Check> frmPriceAdjustSplit::checks() {
+    return {{!isPriceValid(), " Please enter valid price ", txtPrice},
+            {cboPat.text().isEmpty(), "Please specify Bill To", cboPat},
+            {change().newItem.isEmpty(), "Please specify Service/Drug", txtDrug}};
+}
+
+void frmPriceAdjustSplit::saveRow(Connection&, Recordset& row) {
+    row.set("billTo", cboPat.itemData(cboPat.listIndex()).toString());
+    row.update();
+}
+
+} // namespace orvane
