@@ -5,7 +5,7 @@ build_packages=(
     libsqlite3-dev libpq-dev libxlsxwriter-dev libgtest-dev libbenchmark-dev
     fonts-dejavu-core
 )
-test_packages=(postgresql-15)
+test_packages=(postgresql-15 unzip)
 
 # install_packages NAME...: installs those that are missing; asks nothing, touches nothing when all are there.
 install_packages() {

@@ -2,6 +2,7 @@
 #include "support/Workstation.h"
 
 #include "receipts/frmCashReceipt.h"
+#include "receipts/frmCashReceiptLab.h"
 
 namespace orvane {
 
@@ -77,6 +78,62 @@ TEST_P(CashReceipt, UnknownReceiptClosesAndANewOneTakesTheOldOnesPlace) {
     EXPECT_EQ(value("txtAmount"), "-100.00");
     EXPECT_EQ(value("lblHead"), "");
     EXPECT_EQ(value("txtRecFrom"), "");
+}
+
+TEST_P(CashReceipt, AnOutletsReceiptBearsTheHeadingOfItsCode) {
+    ws.run("insert into hPatientsPublic (PNo, pSurname, pfirstname) values ('W/1', 'WALK', 'IN')");
+    ws.run("insert into hRecordsPublic (consultID, PNo, clinicType) values ('001OFL0000001', 'W/1', 'LABORATORY')");
+    layReceipt("001LB0000001", 4000, 1500);
+    layReceipt("77", 10, 10);
+    showOutletReceipt(ws.program, "001LB0000001");
+    for (const char* copy : {"", "2"}) {
+        EXPECT_EQ(ws.value(QString("frmCashReceiptLab.txtRecFrom") + copy), "WALK IN");
+        EXPECT_EQ(ws.value(QString("frmCashReceiptLab.txtBal") + copy), "2,500.00");
+    }
+    EXPECT_EQ(ws.value("frmCashReceiptLab.lblHead"), "HALDEN LABORATORY");
+    EXPECT_EQ(ws.value("frmCashReceiptLab.lblHeadCopy"), "HALDEN LABORATORY");
+    EXPECT_EQ(ws.program.session.sPrintBillNo, "");
+
+    showOutletReceipt(ws.program, "77");
+    EXPECT_BOXES(ui, {"This Receipt has no ReceiptCode! See the DB Administrator to assign a Code"});
+    EXPECT_FALSE(ws.program.loadedForm("frmCashReceiptLab"));
+    ws.run("delete from hRecordsPublic");
+    showOutletReceipt(ws.program, "001LB0000001");
+    EXPECT_BOXES(ui, {"No Receipt to Display"});
+    // Found again as an old receipt, it bears the hospital's heading.
+    showCashReceipt(ws.program, "001LB0000001");
+    EXPECT_EQ(value("lblHead"), "HALDEN HOSPITAL");
+}
+
+TEST_P(CashReceipt, AnOldReceiptIsFoundByItsDate) {
+    Connection connection = ws.billing();
+    makePatient(connection, {.surname = "O'NEILL [JR]"});
+    layReceipt("12", 4000.5, 1500);
+    layReceipt("13", 100, 100);
+    ws.run("update Payments set ReceiptDate='2026-03-10' where ReceiptNo='13'");
+    ws.menu("mnuRPtES");
+    EXPECT_EQ(ws.value("rptPanelSummary.lblPanel"), "select a receipt No");
+    ws.click("rptPanelSummary.OKButton");
+    EXPECT_BOXES(ui, {"Please select a receipt No"});
+    ws.click("rptPanelSummary.cmdInv");
+    EXPECT_EQ(ws.items("rptPanelSummary.cboVehNo"), QStringList{"O'NEILL [JR] BOLA PRIVATE PATIENTS @14/03/2026 [12]"});
+    ws.set("rptPanelSummary.DTPicker1", "2026-03-10");
+    ws.click("rptPanelSummary.cmdInv");
+    ws.pick("rptPanelSummary.cboVehNo", "@10/03/2026");
+    EXPECT_EQ(ws.program.session.sWorkPno, "13");
+    ws.program.session.sWorkPno = "12"; // another screen works on another number
+    ws.click("rptPanelSummary.OKButton");
+    EXPECT_EQ(value("txtReceiptNo"), "13");
+
+    // The same panel finds clients; it takes the other mode when it is opened again.
+    ws.program.session.sRptPanelMode.clear();
+    ws.control("MdiTolmek.mnuPCB").setVisible(true);
+    ws.menu("mnuPCB");
+    EXPECT_EQ(ws.value("rptPanelSummary.lblPanel"), "select a Company Name");
+    ws.click("rptPanelSummary.cmdInv");
+    EXPECT_TRUE(ws.items("rptPanelSummary.cboVehNo").contains("CLEARWATER HMO [0201]"));
+    ws.pick("rptPanelSummary.cboVehNo", "CLEARWATER");
+    EXPECT_EQ(ws.program.session.sWorkPno, "0201");
 }
 
 } // namespace

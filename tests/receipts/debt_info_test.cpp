@@ -1,0 +1,188 @@
+#include "ReceiptTest.h"
+
+#include <QProcess>
+
+namespace orvane {
+
+namespace {
+
+class DebtInfo : public ReceiptTest {
+protected:
+    DebtInfo() { qputenv("HOME", home.folder().toUtf8()); } // its documents are where exports go
+    ~DebtInfo() override { qputenv("HOME", m_home); }
+
+    void set(const QString& control, const QString& value) { ws.set("frmDebtInfo." + control, value); }
+    void click(const QString& control) { ws.click("frmDebtInfo." + control); }
+    QString value(const QString& control) { return ws.value("frmDebtInfo." + control); }
+    /// The rows of the grid without their head.
+    QStringList shown() { return ws.rows("frmDebtInfo.grdData").mid(1); }
+    QStringList names() {
+        QStringList names;
+        const auto& grid = ws.control<Grid>("frmDebtInfo.grdData");
+        for (int row = 0; row < grid.rowCount(); ++row)
+            names << grid.cellText(row, grid.columnIndex("fullName"));
+        return names;
+    }
+    void search(const QString& kind, const QString& text) {
+        set("cboGroup", kind);
+        set("txtName", text);
+        click("OKButton");
+    }
+
+    /// A visit on the 10th and one today, with a charge each and a part payment.
+    void layAccount() {
+        layVisit({.pno = "00012/001", .surname = "O'NEILL", .firstname = "ADA", .debt = -2500.5},
+                 {.pno = "00012/001", .date = QDate(2026, 3, 10)});
+        Connection connection = ws.billing();
+        makeVisit(connection, {.consultID = "001OFL0000002", .pno = "00012/001"});
+        ws.run("update hPatients set OldPNo='H77'");
+        const struct {
+            const char *date, *bill;
+            double amount, total;
+            const char* remarks;
+        } events[] = {{"2026-03-10", billNo, -3000, -3000, "=cmd|' /C calc'!A0"},
+                      {"2026-03-10", billNo, 1000, -2000, "Payment"},
+                      {"2026-03-14", "001OFL0000002", -500.5, -2500.5, "MALARIA \U0001F600"}};
+        for (const auto& event : events) {
+            Recordset row(connection, Sql("select * from Tranxaction where 1=2"));
+            row.addNew();
+            row.set("entryDate", QString(event.date));
+            row.set("PNo", "00012/001");
+            row.set("billNo", QString(event.bill));
+            row.set("Amount", event.amount);
+            row.set("RunningTotal", event.total);
+            row.set("Remarks", QString(event.remarks));
+            row.update();
+        }
+    }
+    const QStringList account = {
+        "1\t10/03/2026\t\tO'NEILL ADA\t00012/001\t=cmd|' /C calc'!A0\t3,000.00\t.00\t(3,000)\t001OFL0000001\tPRIVATE "
+        "PATIENTS",
+        "2\t10/03/2026\t\tO'NEILL ADA\t00012/001\tPayment\t.00\t1,000.00\t(2,000)\t001OFL0000001\tPRIVATE PATIENTS",
+        "3\t14/03/2026\t\tO'NEILL ADA\t00012/001\tMALARIA \U0001F600\t500.50\t.00\t(2,501)\t001OFL0000002\tPRIVATE "
+        "PATIENTS"};
+
+private:
+    QByteArray m_home = qgetenv("HOME");
+};
+
+ORVANE_ON_EACH_ENGINE(DebtInfo);
+
+TEST_P(DebtInfo, FindsPatientsAndShowsTheWholeAccount) {
+    layAccount();
+    layVisit({.pno = "00013/001", .surname = "ONEX"}, {.consultID = "001OFL0000003", .pno = "00013/001"});
+    ws.open("frmDebtInfo");
+    EXPECT_EQ(ws.program.session.sDebtMode, "SEARCH");
+    EXPECT_EQ(value("Label5"), "Debt Information");
+    click("cmdList");
+    EXPECT_BOXES(ui, {"Double Click a row to Get the Debt Info of a Patient"});
+    const struct {
+        const char *kind, *text;
+        QStringList found;
+    } searches[] = {
+        {"Name", "O", {"O'NEILL ADA", "ONEX BOLA"}},
+        {"Name", "o'neill", {"O'NEILL ADA"}},
+        {"Name", "O\"NEILL", {"O'NEILL ADA"}},
+        {"Name", "' or 1=1 --", {}},
+        {"SysNo", "12", {"O'NEILL ADA"}},
+        {"SysNo", "00013/001", {"ONEX BOLA"}},
+        {"CardNo", "H77", {"O'NEILL ADA"}},
+        {"CardNo", "12", {}},
+    };
+    for (const auto& c : searches) {
+        search(c.kind, c.text);
+        EXPECT_EQ(names(), c.found) << c.kind << ' ' << c.text;
+    }
+    search("Name", "O");
+    EXPECT_TRUE(shown().value(0).contains("\t(2,501)\t")) << shown().value(0).toStdString();
+    ws.row("frmDebtInfo.grdData", 0);
+    ws.dblClick("frmDebtInfo.grdData");
+    EXPECT_EQ(value("Label5"), "Search for: O'NEILL ADA");
+    EXPECT_EQ(shown(), account);
+    ws.dblClick("frmDebtInfo.grdData");
+    EXPECT_EQ(shown(), account) << "a row of the statement is no patient";
+    set("DTPicker1", "2026-03-15");
+    click("cmdList");
+    EXPECT_BOXES(ui, {"Please specify Attendance Date Range"});
+}
+
+TEST_P(DebtInfo, ThePatientInHandIsShownSinceTheFirstVisit) {
+    layAccount();
+    ws.program.session.sBillPno = "00012/001";
+    ws.program.session.sBillPatName = "O'NEILL ADA";
+    ws.open("frmDebtInfo");
+    EXPECT_EQ(ws.program.session.sDebtMode, "AUTO");
+    EXPECT_EQ(value("DTPicker1"), "2026-03-10");
+    EXPECT_EQ(shown().size(), 3);
+    set("DTPicker1", "2026-03-11");
+    click("cmdList");
+    EXPECT_EQ(shown(), QStringList{"3\t14/03/2026\t\tO'NEILL ADA\tMALARIA \U0001F600\t500.50\t.00\t(2,501)\t"
+                                   "001OFL0000002\tPRIVATE PATIENTS\t00012/001"});
+    set("chkAll", "yes");
+    click("cmdList");
+    EXPECT_EQ(shown(), account);
+}
+
+TEST_P(DebtInfo, SummariesGiveWhatIsOwedAsPlus) {
+    for (const auto& [pno, debt] : {std::pair("P/1", -100.0), {"P/2", 50.0}, {"P/3", 0.0}, {"P/4", -700.0}}) {
+        Connection connection = ws.billing();
+        makePatient(connection, {.pno = pno, .debt = debt});
+    }
+    ws.open("frmDebtInfo");
+    click("cmdRpt");
+    click("cmdDebtOnly");
+    set("chkDebt", "yes");
+    click("cmdRpt");
+    ASSERT_EQ(ui.reports.size(), 3);
+    EXPECT_EQ(ui.reports.at(0).rows, 3);
+    EXPECT_EQ(ui.reports.at(1).rows, 2);
+    EXPECT_EQ(ui.reports.at(2).rows, 3);
+}
+
+/// The workbook as its reader sees it: one part of the file, or a failure.
+QString workbookPart(const QString& file, const QString& part) {
+    QProcess unzip;
+    unzip.start("unzip", {"-p", file, part});
+    EXPECT_TRUE(unzip.waitForFinished() && unzip.exitCode() == 0) << part.toStdString();
+    return QString::fromUtf8(unzip.readAllStandardOutput());
+}
+
+TEST_P(DebtInfo, ExportsWhatTheGridShows) {
+    layAccount();
+    ws.open("frmDebtInfo");
+    click("cmdExport");
+    EXPECT_BOXES(ui, {"No record is displayed for printing"});
+    search("Name", "O");
+    click("cmdList");
+    click("cmdExport");
+    ASSERT_EQ(ui.exports.size(), 1);
+    const QString file = ui.exports.first();
+    EXPECT_EQ(file, home.folder() + "/Documents/Debt Info Search for O NEILL ADA 2026-03-14 09.30.00.xlsx");
+    EXPECT_FALSE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther));
+
+    const QString sheet = workbookPart(file, "xl/worksheets/sheet1.xml");
+    EXPECT_TRUE(workbookPart(file, "xl/workbook.xml").contains("name=\"Sheet1\""));
+    EXPECT_FALSE(sheet.contains("<f>")) << "no text may become a formula";
+    EXPECT_TRUE(sheet.contains("<v>3000</v>"));
+    EXPECT_TRUE(sheet.contains("<v>-2500.5</v>"));
+    EXPECT_TRUE(sheet.contains("<v>46091</v>")) << "the 10th of March 2026 as a date";
+    EXPECT_TRUE(sheet.contains("<col min=\"4\" max=\"4\" width=\"13")) << "as wide as O'NEILL ADA";
+    const QString texts = workbookPart(file, "xl/sharedStrings.xml");
+    for (const char* text : {">SNO<", ">Comapany<", ">=cmd|' /C calc'!A0<", ">MALARIA \U0001F600<", ">00012/001<"})
+        EXPECT_TRUE(texts.contains(text)) << text;
+    const QString formats = workbookPart(file, "xl/styles.xml");
+    for (const char* format : {"\"#,###.00\"", "\"#,##;(#,##0)\"", "\"dd/mm/yyyy\""})
+        EXPECT_TRUE(formats.contains(format)) << format;
+
+    // A folder that takes no file: said once, and the screen stands.
+    ASSERT_TRUE(QDir(home.folder() + "/Documents").removeRecursively());
+    QFile blocker(home.folder() + "/Documents");
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    click("cmdExport");
+    EXPECT_EQ(ui.takeBoxes().value(0).left(file.size()), file);
+    EXPECT_EQ(ui.exports.size(), 1);
+}
+
+} // namespace
+
+} // namespace orvane
