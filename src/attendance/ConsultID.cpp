@@ -11,6 +11,11 @@ qlonglong highestSerial(Connection& connection, const Sql& sql) {
     return highest.eof() ? 0 : highest.integer("ID");
 }
 
+bool isInUse(Connection& connection, const QString& id) {
+    return !Recordset(connection, Sql("select SNo from BillAccum where consultID='") << id << "'").eof() ||
+           !Recordset(connection, Sql("select billNo from Billing where billNo='") << id << "'").eof();
+}
+
 } // namespace
 
 QString genConsultID(Connection& connection, const QString& hospital) {
@@ -21,7 +26,11 @@ QString genConsultID(Connection& connection, const QString& hospital) {
     if (serial < 1)
         serial = highestSerial(connection, Sql("select MAX(SUBSTRING(consultID, 4, 7)) AS ID From hRecords WHERE     "
                                                "(SUBSTRING(consultID, 1, 3) = 'OFL')"));
-    return hospital + "OFL" + ("0000000" + QString::number(serial + 1)).right(7);
+    QString id;
+    do
+        id = hospital + "OFL" + ("0000000" + QString::number(++serial)).right(7);
+    while (isInUse(connection, id));
+    return id;
 }
 
 } // namespace orvane

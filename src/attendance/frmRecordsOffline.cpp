@@ -127,6 +127,8 @@ void frmRecordsOffline::cmdEdit_Click() {
     cboRef.setText(grdData.text("Referal"));
     cboType.setText(grdData.text("clinicType"));
     lblBill.setText(grdData.text("consultID"));
+    // A category that is no longer offered must not become the patient's own.
+    cboBilling.setListIndex(-1);
     cboBilling.setText(grdData.text("clientCat"));
     dtDate.setDate(grdData.date("Date"));
     setButtons(true);

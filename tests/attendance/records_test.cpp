@@ -347,6 +347,13 @@ TEST_P(Attendance, IdsGoOnFromWhatIsThere) {
         Connection connection = ws.billing();
         EXPECT_EQ(genConsultID(connection, "001"), ids.next);
     }
+
+    // What deleted visits have left behind is not the next visit's.
+    ws.run("delete from hRecords");
+    ws.run("insert into BillAccum (consultID, drgName, SubTotal) values ('001OFL0000001', 'CONSULTATION', 2000)");
+    ws.run("insert into Billing (billNo, PNo) values ('001OFL0000002', 'P/0001')");
+    Connection connection = ws.billing();
+    EXPECT_EQ(genConsultID(connection, "001"), "001OFL0000003");
 }
 
 TEST(ConsultationFee, GoesByPurpose) {
