@@ -177,6 +177,22 @@ QString billProcessedText() {
     return "This Bill is already processed! to Modify, unProcess the Batch";
 }
 
+bool isVisitUnchanged(Connection& connection, const QString& consultID, const QString& pno, const QString& retainID) {
+    const Recordset visit(connection, Sql("select pno,retainID from qryhVisitsForAttend where consultid ='")
+                                          << consultID << "'");
+    return !visit.eof() && visit.text("pno") == pno && visit.text("retainID") == retainID;
+}
+
+QString reselectText() {
+    return "Please Re-Select Patient Name! Bill No (StrCon needed";
+}
+
+qlonglong numberOfAddedItem(Connection& connection, const QString& consultID, const QString& name) {
+    const Recordset added(connection, Sql("select top 1 SNO from billaccum where consultID='")
+                                          << consultID << "' and drgName='" << name << "' order by SNo desc");
+    return added.integer("SNO");
+}
+
 void collateBillItems(Program& program, const BillInHand& bill) {
     if (bill.consultID.isEmpty()) {
         program.box("No Patient is selected");

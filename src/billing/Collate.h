@@ -28,6 +28,16 @@ bool isBillProcessed(Connection& connection, const QString& billNo);
 /// What every change to a frozen bill is answered with.
 QString billProcessedText();
 
+/// Whether the visit still stands and is still that patient's and that client's: another user may have deleted it or
+/// moved it since it was read. Asked inside the transaction it stays so.
+bool isVisitUnchanged(Connection& connection, const QString& consultID, const QString& pno, const QString& retainID);
+/// What a save of a visit that has changed is answered with.
+QString reselectText();
+
+/// The number of the item that the caller's transaction has just added to the visit under this name. Other departments'
+/// programs add items at any time, so that the newest of all visits need not be the caller's.
+qlonglong numberOfAddedItem(Connection& connection, const QString& consultID, const QString& name);
+
 /// The waiting items of the visit become lines of its bill: one unit an item, with its line, its charge to the running
 /// account and its flags. Items of capitated patients stay waiting. Says so in a box, and does nothing, without a
 /// patient or on a processed bill. Raises DataError; what was billed before stays billed, the rest follows at the next

@@ -111,7 +111,7 @@ private:
     void takeFacts(const Recordset& row) {
         answer.capitated = capitatedOf(row);
         answer.category = row.text("Category");
-        answer.stock = m_kind.isCounted ? QString::number(row.number("UnitsInStock")) : "***";
+        answer.stock = m_kind.isCounted ? QString::number(row.number("UnitsInStock"), 'g', 15) : "***";
         answer.quantity = m_kind.isCounted ? "0" : "1";
     }
 

@@ -79,7 +79,9 @@ private:
     bool isBillOpen();
     bool areDatesGiven();
     void confirmProfFee();
-    bool saveBill(const Receipt* receipt);
+    QString saveBill(const Receipt* receipt);
+    QString writeBill(const Receipt* receipt);
+    void lockSavedBill();
     void saveVisit(Connection& connection);
     void saveBillRow(Connection& connection);
     void saveApprvCode();

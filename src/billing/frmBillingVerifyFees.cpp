@@ -46,12 +46,11 @@ void frmBillingVerify::addFeeItem(Connection& connection, const QString& text, d
 
 /// The line of the fee that was added last.
 void frmBillingVerify::addFeeLine(Connection& connection, const QString& text, double fee, const QString& revType) {
-    const Recordset added(connection, Sql("select top 1 SNO from billaccum order by SNo desc"));
     Recordset line(connection, Sql("select * from BillingDetails where 1=2"));
     line.addNew();
     line.set("dtDate", dtDate.date());
     line.set("billNo", m_bill.consultID);
-    line.set("SNo", added.integer("SNO"));
+    line.set("SNo", numberOfAddedItem(connection, m_bill.consultID, text));
     line.set("drgName", text);
     line.set("Price", fee);
     line.set("Qty", 1);
@@ -78,15 +77,21 @@ void frmBillingVerify::cmdBill_Click() {
         return;
     const double bill = parseAmount(lblCurr.text()).value_or(0);
     const QString percent = txtProf.text().trimmed();
-    const double fee = bill * amountIn(txtProf) / 100;
+    const double fee = round2(bill * amountIn(txtProf) / 100);
     const QString text = "Prof Fee (" + percent + "%)";
+    bool open = false;
     {
         Connection connection = program.openBilling();
-        if (isBillProcessed(connection, m_bill.consultID)) {
-            program.box(billProcessedText());
-            return;
+        Transaction transaction(connection);
+        open = !isBillProcessed(connection, m_bill.consultID);
+        if (open) {
+            addFeeItem(connection, text, fee, {}, false);
+            transaction.commit();
         }
-        addFeeItem(connection, text, fee, {}, false);
+    }
+    if (!open) {
+        program.box(billProcessedText());
+        return;
     }
     program.writeAuditTrail(session.gUsername, "insert Prof Fee (" + percent + "%) for: " + m_bill.patient,
                             m_bill.consultID, formatTwoDecimals(fee), session.sComputerName);
@@ -117,7 +122,7 @@ void frmBillingVerify::cmdNHIS_Click() {
                     : Recordset(connection,
                                 Sql("select sum(isnull(subtotal,0)) as Subtotal from BillAccum where consultid='")
                                     << m_bill.consultID << "' and billtype='DRUG'");
-            const double fee = base.number("Subtotal") * amountIn(txtNHIS) / 100;
+            const double fee = round2(base.number("Subtotal") * amountIn(txtNHIS) / 100);
             addFeeItem(connection, *text, fee, revType, true);
             addFeeLine(connection, *text, fee, revType);
             postPatientTran(program, connection, session.gServerDate, m_bill.pno, m_bill.consultID, 0 - fee,

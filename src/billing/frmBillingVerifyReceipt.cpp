@@ -52,7 +52,7 @@ void frmBillingVerify::txtAmt_Change() {
     bool given = false;
     QStringList named;
     for (const PayWay& way : ways) {
-        const double amount = amountIn(way.txtAmt);
+        const double amount = round2(amountIn(way.txtAmt)); // so that the ways make up the payment
         given = given || !way.txtAmt.text().isEmpty();
         if (amount <= 0)
             continue;
@@ -153,7 +153,7 @@ Receipt frmBillingVerify::receiptOnScreen() const {
     receipt.pno = m_bill.pno;
     receipt.paymentFor = cboPayFor.text();
     receipt.amountBilled = amountIn(txtEmp);
-    receipt.amountPaid = amountIn(txtHt);
+    receipt.amountPaid = round2(amountIn(txtHt));
     receipt.amountInWord = txtWord.text();
     receipt.payType = cboPay.text();
     if (cboPay.text() == QLatin1String("CHEQUE") || amountIn(ways[chequeWay].txtAmt) > 0)
@@ -171,7 +171,7 @@ void frmBillingVerify::saveReceipt(Connection& connection, const Receipt& receip
                        << receipt.amountPaid << " where BillNo = '" << receipt.billNo << "'");
     QVector<PaymentWay> payments;
     for (const PayWay& way : ways)
-        payments.append({way.lblAmt.text(), way.lblAcctNo.text(), amountIn(way.txtAmt)});
+        payments.append({way.lblAmt.text(), way.lblAcctNo.text(), round2(amountIn(way.txtAmt))});
     addPaymentTypes(connection, receipt, payments);
     distributePayment(program, connection, receipt);
     postPatientTran(program, connection, session.gServerDate, receipt.pno, receipt.billNo, receipt.amountPaid,

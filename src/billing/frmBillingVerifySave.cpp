@@ -32,8 +32,8 @@ void frmBillingVerify::OKButton_Click() {
         receipt = receiptOnScreen();
     }
 
-    if (!saveBill(receipt ? &*receipt : nullptr)) {
-        program.box(billProcessedText());
+    if (const QString refusal = saveBill(receipt ? &*receipt : nullptr); !refusal.isEmpty()) {
+        program.box(refusal);
         return;
     }
     saveApprvCode();
@@ -46,7 +46,7 @@ void frmBillingVerify::OKButton_Click() {
 
 bool frmBillingVerify::isBillInHand() {
     if (session.gConsultID != lblBill.text()) {
-        program.box("Please Re-Select Patient Name! Bill No (StrCon needed");
+        program.box(reselectText());
         return false;
     }
     if (lblBill.text().isEmpty()) {
@@ -91,36 +91,47 @@ void frmBillingVerify::confirmProfFee() {
     program.box("Confirm Prof Fee Entry", Icon::None, "Prof Fee");
 }
 
-/// The bill, what it still lacks, its date and its receipt, all or nothing. False: a batch took the bill in the
-/// meantime.
-bool frmBillingVerify::saveBill(const Receipt* receipt) {
+/// The bill, what it still lacks, its date and its receipt, all or nothing. Gives why nothing was saved; empty: all
+/// was.
+QString frmBillingVerify::saveBill(const Receipt* receipt) {
     ui().setBusy(true);
-    bool open = false;
+    QString refusal;
     try {
-        Connection connection = program.openBilling();
-        Transaction transaction(connection);
-        open = !isBillProcessed(connection, m_bill.consultID);
-        if (open) {
-            saveVisit(connection);
-            billWaitingItems(program, connection, m_bill);
-            saveBillRow(connection);
-            connection.execute(Sql("update BillAccum set attendedTo=1,isbilled=1 where consultID = '")
-                               << m_bill.consultID << "'");
-            if (receipt)
-                saveReceipt(connection, *receipt);
-            settleBillDate(connection, m_bill);
-            transaction.commit();
-            m_saved = true;
-            OKButton.setEnabled(false);
-        }
+        refusal = writeBill(receipt);
     } catch (const CommitUnknown&) {
         // It may be saved: only a fresh look at the bill may save it again.
-        m_saved = true;
-        OKButton.setEnabled(false);
+        lockSavedBill();
         throw;
     }
+    if (refusal.isEmpty())
+        lockSavedBill();
     ui().setBusy(false);
-    return open;
+    return refusal;
+}
+
+void frmBillingVerify::lockSavedBill() {
+    m_saved = true;
+    OKButton.setEnabled(false);
+}
+
+/// A batch may have taken the bill, or another user its visit, since it was loaded.
+QString frmBillingVerify::writeBill(const Receipt* receipt) {
+    Connection connection = program.openBilling();
+    Transaction transaction(connection);
+    if (isBillProcessed(connection, m_bill.consultID))
+        return billProcessedText();
+    if (!isVisitUnchanged(connection, m_bill.consultID, m_bill.pno, m_bill.retainID))
+        return reselectText();
+    saveVisit(connection);
+    billWaitingItems(program, connection, m_bill);
+    saveBillRow(connection);
+    connection.execute(Sql("update BillAccum set attendedTo=1,isbilled=1 where consultID = '")
+                       << m_bill.consultID << "'");
+    if (receipt)
+        saveReceipt(connection, *receipt);
+    settleBillDate(connection, m_bill);
+    transaction.commit();
+    return {};
 }
 
 void frmBillingVerify::saveVisit(Connection& connection) {

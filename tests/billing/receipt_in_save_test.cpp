@@ -158,6 +158,19 @@ TEST_P(VerifyReceipt, SeveralWaysOfPayment) {
     EXPECT_EQ(debt(), "-500");
 }
 
+TEST_P(VerifyReceipt, WaysMakeUpThePaymentToTheKobo) {
+    ws.run("insert into ChartOfAccounts (AccountNo, AccountName, groupID) values ('1225','UNITY BANK','1220000')");
+    layBill({{"A", 6000}});
+    set("cboBank(1)", "UNITY BANK [1225]");
+    set("txtAmt(0)", "100.005");
+    set("txtAmt(1)", "200.005");
+    EXPECT_EQ(value("txtHt"), "300.02");
+    save();
+    EXPECT_EQ(rows("select AmountPaid from PaymentTypes order by SNo"), "100.01\n200.01");
+    EXPECT_EQ(ws.scalar("select AmountPaid from Payments"), "300.02");
+    EXPECT_EQ(debt(), "-5699.98");
+}
+
 TEST_P(VerifyReceipt, FreshBillAndDepositOnAdmission) {
     layBill({{"A", 6000}});
     ws.run("insert into Payments (ReceiptNo, billNo, AmountPaid) values ('90','001OFL0000001',1500)");

@@ -309,6 +309,60 @@ TEST_P(Verify, ProcessedBillIsRefusedEverywhere) {
     EXPECT_EQ(ws.scalar("select diagnosis from hRecords"), "");
 }
 
+/// What was loaded no longer holds: a save would bill the wrong client, charge the wrong patient, or bill nobody's
+/// visit.
+TEST_P(Verify, VisitThatAnotherUserHasChangedIsNotSaved) {
+    Connection connection = ws.billing();
+    makePatient(connection, {.pno = "P/0002", .surname = "BAKARE"});
+    layVisit();
+    item({.price = 700});
+    const char* const changes[] = {"update hRecords set coyName='0102'", "update hRecords set PNo='P/0002'",
+                                   "delete from hRecords"};
+    for (const char* change : changes) {
+        SCOPED_TRACE(change);
+        ws.run("delete from hRecords");
+        makeVisit(connection, {});
+        load();
+        set("chkRct", "yes");
+        set("cboPayFor", "DRUGS");
+        set("chkExact", "yes");
+        SecondHome otherHome(home);
+        Workstation(otherHome.folder()).run(change);
+        save();
+        EXPECT_BOXES(ui, {"Please Re-Select Patient Name! Bill No (StrCon needed"});
+        EXPECT_EQ(ws.tableCount("Payments"), 0);
+        EXPECT_EQ(rows("select clientID, AmountPaid from Billing"), "0001|0");
+        EXPECT_EQ(debt(), "-700");
+    }
+}
+
+/// On SQLite nobody else writes while a transaction is open.
+TEST_P(Verify, FeeIsNotTakenForAnItemOfAnotherDepartment) {
+    if (GetParam() == Engine::Sqlite)
+        GTEST_SKIP() << "one writer at a time";
+    layVisit();
+    item({.name = "DRUG", .price = 1000});
+    load();
+    SecondHome otherHome(home);
+    Workstation laboratory(otherHome.folder());
+    ws.program.data().setStatementHook([&](const QString& tsql) {
+        if (!tsql.contains("top 1 SNO from billaccum", Qt::CaseInsensitive))
+            return;
+        ws.program.data().setStatementHook({});
+        Connection connection = laboratory.billing();
+        makeItem(connection, {.consultID = "001OFL0000009", .pno = "P/0009", .name = "MALARIA PARASITE"});
+    });
+    set("txtNHIS", "10");
+    ui.answer(QString("SCHEME FEE"));
+    click("cmdNHIS");
+    EXPECT_EQ(rows("select a.drgName, a.attendedto from BillAccum a where a.SNo not in (select SNo from "
+                   "BillingDetails)"),
+              "MALARIA PARASITE|0");
+    click("cmdRefresh");
+    EXPECT_EQ(lines(), "DRUG|1000\nSCHEME FEE|100") << "the fee was charged twice";
+    EXPECT_EQ(debt(), "-1100");
+}
+
 TEST_P(Verify, FeesAndCapitation) {
     layVisit();
     item({.name = "PREVIOUS DEBT", .price = 300});
