@@ -1,6 +1,7 @@
 #include "desktop/Binding.h"
 
 #include "desktop/FormView.h"
+#include "desktop/Look.h"
 
 #include <QKeyEvent>
 
@@ -56,7 +57,7 @@ void Binding::showState() {
             companion->setVisible(shown);
     const bool usable = m_control->isUsable() && !(m_control->kind() == ControlKind::Button && m_view.isBusy());
     m_widget->setEnabled(usable);
-    m_widget->setToolTip(m_control->toolTip());
+    m_widget->setToolTip(look::plainHint(m_control->toolTip()));
 }
 
 void Binding::takeFocus() {

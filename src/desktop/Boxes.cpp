@@ -1,6 +1,7 @@
 #include "desktop/Boxes.h"
 
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 
@@ -67,6 +68,8 @@ std::optional<QString> input(QWidget* parent, const QString& prompt, const QStri
     dialog.setInputMode(QInputDialog::TextInput);
     dialog.setWindowTitle(titleOf(title));
     dialog.setLabelText(prompt);
+    for (QLabel* label : dialog.findChildren<QLabel*>())
+        label->setTextFormat(Qt::PlainText);
     dialog.setTextValue(initial);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;

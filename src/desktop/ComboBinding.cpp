@@ -130,7 +130,7 @@ void ComboBinding::refresh() {
     if (line->text() != m_box->text())
         m_combo->setEditText(m_box->text());
     line->setCursorPosition(typing ? cursor : 0);
-    line->setToolTip(m_box->text());
+    line->setToolTip(look::plainHint(m_box->text()));
 }
 
 bool ComboBinding::eventFilter(QObject* watched, QEvent* event) {

@@ -89,7 +89,8 @@ void DateEdit::finish() {
     look::mark(*m_line, "invalid", !date);
     if (!date) {
         QToolTip::showText(m_line->mapToGlobal(QPoint(0, m_line->height())),
-                           QStringLiteral("“%1” is not a date (day/month/year).").arg(m_line->text()), m_line);
+                           look::plainHint(QStringLiteral("“%1” is not a date (day/month/year).").arg(m_line->text())),
+                           m_line);
         return;
     }
     take(*date);

@@ -1,5 +1,7 @@
 #include "desktop/GridModel.h"
 
+#include "desktop/Look.h"
+
 #include <algorithm>
 #include <limits>
 #include <numeric>
@@ -7,6 +9,8 @@
 namespace orvane {
 
 namespace {
+
+constexpr int longText = 36; ///< characters; a column may be too narrow for more, the hint shows them
 
 QVariant alignment(bool right) {
     return int((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
@@ -33,7 +37,7 @@ void GridModel::readColumns() {
     m_columns.clear();
     m_numbers.clear();
     for (int column = 0; column < m_grid->columnCount(); ++column) {
-        m_columns << m_grid->columnName(column);
+        m_columns << m_grid->columnHead(column);
         m_numbers.push_back(m_grid->isNumber(column));
     }
 }
@@ -121,13 +125,16 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole)
         return alignment(m_numbers[std::size_t(index.column())]);
-    if (role != Qt::DisplayRole || !m_grid)
+    if ((role != Qt::DisplayRole && role != Qt::ToolTipRole) || !m_grid)
         return {};
     // Between a change of the control and the reload the control may have fewer rows or other columns.
     const int row = controlRow(index.row());
     if (row >= m_grid->rowCount() || index.column() >= m_grid->columnCount())
         return {};
-    return m_grid->cellText(row, index.column());
+    const QString text = m_grid->cellText(row, index.column());
+    if (role == Qt::DisplayRole)
+        return text;
+    return text.size() > longText ? QVariant(look::plainHint(text)) : QVariant();
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {

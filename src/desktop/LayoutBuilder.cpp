@@ -15,6 +15,7 @@ namespace orvane {
 namespace {
 
 constexpr int cardWidth = 300;
+constexpr int markedSlack = 2;      ///< pixels; an underlined letter parts its neighbours a little
 constexpr int narrowestField = 110; ///< of a field without a width of its own, pixels
 
 bool isMultiline(const Control& control) {
@@ -166,6 +167,7 @@ QLabel* LayoutBuilder::label(const Layout& field, QWidget* buddy) {
     auto* text = new QLabel(m_parent);
     text->setTextFormat(Qt::PlainText);
     look::mark(*text, "heading");
+    text->setContentsMargins(0, 0, markedSlack, 0);
     Binding* binding = m_view.bindingOf(*field.control);
     binding->addCompanion(text);
     const bool reachable = buddy && buddy->focusPolicy() != Qt::NoFocus;
@@ -245,7 +247,7 @@ void LayoutBuilder::fieldRow(QGridLayout& grid, int row, const Layout& item, int
         const int column = int(2 * i);
         QWidget* widget = control(field, field.emphasis ? Place::Large : Place::Plain);
         QLabel* text = label(field, m_view.bindingOf(*field.control)->editor());
-        text->setContentsMargins(i > 0 ? look::spacing : 0, 0, 0, 0);
+        text->setContentsMargins(i > 0 ? look::spacing : 0, 0, markedSlack, 0);
         const bool tall = growsDown(field) || field.control->kind() == ControlKind::Picture;
         grid.addWidget(text, row, column, tall ? Qt::AlignTop : Qt::AlignVCenter);
         const bool last = i == count - 1;
@@ -362,8 +364,12 @@ void LayoutBuilder::cardItem(QBoxLayout& box, const Layout& item) {
 void LayoutBuilder::cardField(QBoxLayout& line, const Layout& field) {
     QWidget* widget = control(field, field.emphasis ? Place::Large : Place::Card);
     line.addWidget(label(field, m_view.bindingOf(*field.control)->editor()));
-    line.addStretch(1);
-    line.addWidget(widget);
+    if (field.control->kind() == ControlKind::Label) {
+        line.addWidget(widget, 1);
+    } else {
+        line.addStretch(1);
+        line.addWidget(widget);
+    }
     if (field.control->kind() == ControlKind::TextBox && field.characters == 0 && !field.emphasis)
         widget->setFixedWidth(look::charactersWidth(*widget, 14));
 }

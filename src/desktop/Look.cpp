@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QTextDocument>
 #include <QWidget>
 
 namespace orvane::look {
@@ -97,6 +98,10 @@ void apply(QApplication& application) {
 
 int charactersWidth(const QWidget& widget, int characters) {
     return QFontMetrics(widget.font()).averageCharWidth() * characters;
+}
+
+QString plainHint(const QString& text) {
+    return Qt::mightBeRichText(text) ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()) : text;
 }
 
 void mark(QWidget& widget, const char* property, bool on) {

@@ -25,6 +25,9 @@ void apply(QApplication& application);
 /// The width of a text of that many usual characters in the widget's font, in pixels.
 int charactersWidth(const QWidget& widget, int characters);
 
+/// A text of the database or of its user as a hint: never read as markup.
+QString plainHint(const QString& text);
+
 /// Sets a property that the style sheet asks for and has the widget drawn by it.
 void mark(QWidget& widget, const char* property, bool on = true);
 

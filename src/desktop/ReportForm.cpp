@@ -1,10 +1,35 @@
 #include "desktop/ReportForm.h"
 
+#include <algorithm>
+
 namespace orvane {
+
+namespace {
+
+constexpr int sampledRows = 20;
+
+/// Numbers that may have a fraction are amounts; counts and serial numbers are whole.
+bool isAmount(const Grid& grid, int column) {
+    bool amount = false;
+    for (int row = 0; row < std::min(grid.rowCount(), sampledRows); ++row) {
+        const QVariant cell = grid.value(row, column);
+        if (cell.isNull())
+            continue;
+        if (cell.typeId() != QMetaType::Double)
+            return false;
+        amount = true;
+    }
+    return amount;
+}
+
+} // namespace
 
 ReportForm::ReportForm(Ui& ui, const QString& file, const QString& title, const Recordset& rows)
     : Form(ui, file, title) {
     grdRows.load(rows);
+    for (int column = 0; column < grdRows.columnCount(); ++column)
+        if (isAmount(grdRows, column))
+            grdRows.setFormat(grdRows.columnName(column), QStringLiteral("#,##0.00"));
     lblCount.setText(grdRows.rowCount() == 1 ? QStringLiteral("1 row")
                                              : QStringLiteral("%L1 rows").arg(grdRows.rowCount()));
     cmdPrint.onClick = [this] { this->ui().printForm(*this); };

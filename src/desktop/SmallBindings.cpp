@@ -45,7 +45,8 @@ bool isEnter(const QEvent* event) {
 } // namespace
 
 LabelBinding::LabelBinding(FormView& view, Label& label, QWidget* parent, Place place, int characters)
-    : Binding(view, label, new QLabel(parent)), m_label(&label), m_text(static_cast<QLabel*>(widget())) {
+    : Binding(view, label, new QLabel(parent)), m_label(&label), m_text(static_cast<QLabel*>(widget())),
+      m_longestLine(place == Place::Card ? 22 : 70) {
     m_text->setTextFormat(Qt::PlainText);
     m_text->setFocusPolicy(Qt::NoFocus);
     look::mark(*m_text, "strong", place == Place::Facts || place == Place::Card);
@@ -57,7 +58,11 @@ LabelBinding::LabelBinding(FormView& view, Label& label, QWidget* parent, Place 
 }
 
 void LabelBinding::refresh() {
-    m_text->setText(Mnemonics::plain(m_label->caption()));
+    const QString text = Mnemonics::plain(m_label->caption());
+    m_text->setText(text);
+    // A sentence goes on in a second line rather than push its form wider.
+    if (text.size() > m_longestLine)
+        m_text->setWordWrap(true);
     QPalette palette;
     if (const auto color = m_label->color())
         palette.setColor(QPalette::Window, QColor(QRgb(*color)));

@@ -33,6 +33,7 @@ protected:
 private:
     Label* m_label;
     QLabel* m_text;
+    int m_longestLine; ///< characters
 };
 
 class CheckBinding : public Binding {
