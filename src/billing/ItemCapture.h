@@ -43,7 +43,7 @@ protected:
     void setItemColumns(Recordset& item, int row) const;
     void setVisitColumns(Recordset& item, int row) const;
     void setLineColumns(Recordset& line, int row, qlonglong sno) const;
-    qlonglong newestItem(Connection& connection) const;
+    qlonglong addedItem(Connection& connection, int row) const;
     void charge(Connection& connection, int row, const QString& remarks);
     void audit(const QString& action, int row);
     QString cellText(int row, Column column) const { return OrderGridDrug.cell(row, column); }
@@ -78,6 +78,7 @@ private:
 
     // Saving (ItemCaptureSave.cpp).
     void OKButton_Click();
+    QString saveLines();
     void refreshBill(Connection& connection);
     double amountIn(int row, Column column) const; ///< naira, or a quantity
 

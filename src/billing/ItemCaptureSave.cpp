@@ -19,19 +19,33 @@ void ItemCapture::OKButton_Click() {
     }
     if (!program.question("Are you sure to save?", "About to save"))
         return;
+    try {
+        if (const QString refusal = saveLines(); !refusal.isEmpty()) {
+            program.box(refusal);
+            return;
+        }
+    } catch (const CommitUnknown&) {
+        // They may be saved: lines that still stood here as new would go on the bill twice.
+        unload();
+        throw;
+    }
+    unload();
+}
+
+/// The new lines, their charges and the bill's row, all or nothing. Gives why nothing was saved; empty: all was.
+QString ItemCapture::saveLines() {
     Connection connection = program.openBilling();
     Transaction transaction(connection);
-    if (isBillProcessed(connection, session.gConsultID)) {
-        transaction.rollback();
-        program.box(billProcessedText());
-        return;
-    }
+    if (isBillProcessed(connection, session.gConsultID))
+        return billProcessedText();
+    if (!isVisitUnchanged(connection, lblBill.text(), lblNo.text(), sRetainID))
+        return reselectText();
     for (int row = 1; row < OrderGridDrug.rows() - 1; ++row)
         if (cellText(row, Status) == "NEW")
             saveLine(connection, row);
     refreshBill(connection);
     transaction.commit();
-    unload();
+    return {};
 }
 
 /// The columns that an item bears on the bill as in its accumulation.
@@ -64,8 +78,8 @@ void ItemCapture::setLineColumns(Recordset& line, int row, qlonglong sno) const 
     line.set("Capitated", "NO");
 }
 
-qlonglong ItemCapture::newestItem(Connection& connection) const {
-    return Recordset(connection, Sql("select top 1 SNO from billaccum order by SNo desc")).integer("SNO");
+qlonglong ItemCapture::addedItem(Connection& connection, int row) const {
+    return numberOfAddedItem(connection, lblBill.text(), cellText(row, Item));
 }
 
 void ItemCapture::charge(Connection& connection, int row, const QString& remarks) {

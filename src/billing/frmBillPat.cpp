@@ -29,7 +29,7 @@ void frmBillPat::saveLine(Connection& connection, int row) {
 
 /// What is not capitated goes on the bill at once, under the number that its row was given.
 void frmBillPat::putOnBill(Connection& connection, int row) {
-    const qlonglong number = newestItem(connection);
+    const qlonglong number = addedItem(connection, row);
     Recordset line(connection, Sql("select * from billingdetails where 1=2"));
     line.addNew();
     setItemColumns(line, row);

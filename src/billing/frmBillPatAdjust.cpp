@@ -27,7 +27,7 @@ void frmBillPatAdjust::saveLine(Connection& connection, int row) {
     Recordset line(connection, Sql("select * from billingdetails where 1=2"));
     line.addNew();
     setItemColumns(line, row);
-    setLineColumns(line, row, newestItem(connection));
+    setLineColumns(line, row, addedItem(connection, row));
     line.set("BillBy", session.gUsername);
     line.update();
     charge(connection, row, "New Bill Item: " + cellText(row, Item));

@@ -326,6 +326,57 @@ TEST_P(BillPat, FaultOrFrozenBillSavesNothingAndKeepsTheLines) {
     EXPECT_EQ(ws.tableCount("BillAccum"), 2);
 }
 
+/// Nobody knows whether they were saved: lines that stayed new would go on the bill twice.
+TEST_P(BillPat, UnknownCommitLeavesNoLineToSaveAgain) {
+    openFor("PRIVATE", "0001");
+    addLine("SERVICE", "WOUND DRESSING", "1");
+    bool itemWritten = false;
+    ws.program.data().setStatementHook([&itemWritten](const QString& tsql) {
+        itemWritten = itemWritten || tsql.contains("billingdetails", Qt::CaseInsensitive);
+        if (itemWritten && tsql == "transaction committed")
+            throw DataError("the cable was pulled");
+    });
+    save();
+    EXPECT_BOXES(ui, {"the cable was pulled"});
+    ws.program.data().setStatementHook({});
+    open();
+    EXPECT_EQ(ws.rows("frmBillPat.OrderGridDrug").size(), 3) << "the saved line, read as old";
+    save();
+    EXPECT_EQ(ws.tableCount("BillAccum"), 1);
+    EXPECT_EQ(ws.scalar("select DebtBF from hPatients"), "-2500");
+}
+
+TEST_P(BillPat, VisitMovedToAnotherClientMeanwhileTakesNoLine) {
+    openFor("PRIVATE", "0001");
+    addLine("SERVICE", "WOUND DRESSING", "1");
+    ws.run("update hRecords set coyName='0102'");
+    save();
+    EXPECT_BOXES(ui, {"Please Re-Select Patient Name! Bill No (StrCon needed"});
+    EXPECT_EQ(ws.tableCount("BillAccum"), 0);
+    EXPECT_EQ(ws.tableCount("Tranxaction"), 0);
+}
+
+/// On SQLite nobody else writes while a transaction is open.
+TEST_P(BillPat, LineBearsTheNumberOfItsOwnItem) {
+    if (GetParam() == Engine::Sqlite)
+        GTEST_SKIP() << "one writer at a time";
+    openFor("PRIVATE", "0001");
+    addLine("SERVICE", "WOUND DRESSING", "1");
+    SecondHome otherHome(home);
+    Workstation laboratory(otherHome.folder());
+    ws.program.data().setStatementHook([&](const QString& tsql) {
+        if (!tsql.contains("top 1 SNO from billaccum", Qt::CaseInsensitive))
+            return;
+        ws.program.data().setStatementHook({});
+        Connection connection = laboratory.billing();
+        makeItem(connection, {.consultID = "001OFL0000009", .pno = "P/0009", .name = "MALARIA PARASITE"});
+    });
+    save();
+    EXPECT_EQ(row("select a.drgName, a.attendedto from BillAccum a inner join BillingDetails d on d.SNo=a.SNo"),
+              "WOUND DRESSING|1");
+    EXPECT_EQ(ws.scalar("select attendedto from BillAccum where drgName='MALARIA PARASITE'"), "0");
+}
+
 TEST_P(BillPat, FeeForServiceFlipsTheWholeVisit) {
     Connection connection = ws.billing();
     makeItem(connection, {.client = "0201", .capitated = "YES"});
