@@ -7,6 +7,28 @@
 
 namespace orvane {
 
+namespace {
+
+/// A text that is a date or a date and time as the engines give them, in the order of day, month and year; any other as
+/// it is.
+QString asPeopleReadDates(const QString& text) {
+    const bool looksDated = text.size() >= 10 && text.at(4) == QLatin1Char('-') && text.at(7) == QLatin1Char('-');
+    if (!looksDated)
+        return text;
+    if (text.size() == 10) {
+        const QDate date = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+        if (date.isValid())
+            return date.toString(QStringLiteral("dd/MM/yyyy"));
+    } else if (text.size() == 19) {
+        const QDateTime time = QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+        if (time.isValid())
+            return time.toString(QStringLiteral("dd/MM/yyyy HH:mm"));
+    }
+    return text;
+}
+
+} // namespace
+
 void Grid::load(const Recordset& rows) {
     // The screen may still be walking through its rows while the grid is painted.
     m_rows = rows.detached();
@@ -28,6 +50,17 @@ int Grid::columnCount() const {
 
 QString Grid::columnName(int column) const {
     return m_rows.columns().at(column);
+}
+
+QString Grid::columnHead(int column) const {
+    const QString name = columnName(column);
+    const QString head = m_looks.value(name.toLower()).head;
+    return head.isEmpty() ? name : head;
+}
+
+void Grid::setHead(const QString& column, const QString& head) {
+    m_looks[column.toLower()].head = head;
+    touchContent();
 }
 
 int Grid::columnIndex(const QString& name) const {
@@ -137,18 +170,7 @@ QString Grid::cellText(int row, int column) const {
     const QString look = format(column);
     if (!look.isEmpty())
         return cell.isNull() ? QString() : formatNumber(cell.toDouble(), look);
-    if (cell.userType() == QMetaType::QDate)
-        return cell.toDate().toString(QStringLiteral("dd/MM/yyyy"));
-    if (cell.userType() == QMetaType::QDateTime)
-        return cell.toDateTime().toString(QStringLiteral("dd/MM/yyyy HH:mm"));
-    const QString text = rows.text(column);
-    // The embedded engine keeps dates as ISO texts.
-    if (text.size() == 10 && text.at(4) == QLatin1Char('-') && text.at(7) == QLatin1Char('-')) {
-        const QDate date = QDate::fromString(text, Qt::ISODate);
-        if (date.isValid())
-            return date.toString(QStringLiteral("dd/MM/yyyy"));
-    }
-    return text;
+    return asPeopleReadDates(rows.text(column));
 }
 
 int Grid::findRow(const QString& column, const QString& wanted) const {

@@ -44,6 +44,11 @@ TEST_P(GridTest, ShowsCellsAsTheyAreReadByPeople) {
     EXPECT_FALSE(grid.isNumber(0));
     EXPECT_EQ(grid.columnName(1), "Surname");
     EXPECT_EQ(grid.valueText(), "3 rows");
+    data.setServerClock(QDateTime(QDate(2026, 3, 14), QTime(9, 30, 5)));
+    grid.load(billing.run("select getdate() as At, '2026-02-30' as NoDate, '0123456789' as Digits"));
+    EXPECT_EQ(grid.cellText(0, 0), "14/03/2026 09:30");
+    EXPECT_EQ(grid.cellText(0, 1), "2026-02-30");
+    EXPECT_EQ(grid.cellText(0, 2), "0123456789");
 }
 
 TEST_P(GridTest, ReadsTheCurrentRowByColumnNameInAnyLetters) {
