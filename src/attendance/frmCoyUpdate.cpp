@@ -36,6 +36,7 @@ void frmCoyUpdate::cboPat_Click() {
     const auto bracket = entry.lastIndexOf(QLatin1Char('['));
     m_retainID = entry.mid(bracket + 1).chopped(1);
     m_clientName = entry.left(bracket).trimmed();
+    m_retainCode.clear();
     cboClient.clear();
     Connection connection = program.openBilling();
     const Recordset client(connection, Sql("select distinct ClientType,retainCode from hRetainerShip where retainID='")
@@ -54,12 +55,15 @@ void frmCoyUpdate::cboPat_Click() {
 
 void frmCoyUpdate::OkButton_Click() {
     if (isProcessed()) {
-        program.box(QStringLiteral("This Bill is already processed! to Modify, unProcess the Batch"));
+        tellProcessed();
         return;
     }
     if (!checkFields())
         return;
-    moveToClient();
+    if (!moveToClient()) {
+        tellProcessed();
+        return;
+    }
     program.writeAuditTrail(session.gUsername, QStringLiteral("Update Patients' Company Profile"), session.gConsultID,
                             QStringLiteral("UpDate Patient Company Profile: ") + session.sBillCoy +
                                 QStringLiteral(" Now: ") + m_clientName + QStringLiteral("/") + cboClient.text(),
@@ -69,8 +73,16 @@ void frmCoyUpdate::OkButton_Click() {
 
 bool frmCoyUpdate::isProcessed() {
     Connection connection = program.openBilling();
+    return isProcessed(connection);
+}
+
+bool frmCoyUpdate::isProcessed(Connection& connection) const {
     return !Recordset(connection, Sql("select * from billing where isprocess=1 and billNo='") << txtBill.text() << "'")
                 .eof();
+}
+
+void frmCoyUpdate::tellProcessed() {
+    program.box(QStringLiteral("This Bill is already processed! to Modify, unProcess the Batch"));
 }
 
 bool frmCoyUpdate::checkFields() {
@@ -95,11 +107,13 @@ bool frmCoyUpdate::checkFields() {
 }
 
 // The prices of the items stay those of the tariff that they had. The columns that the screens call the client's name
-// hold its id.
-void frmCoyUpdate::moveToClient() {
+// hold its id. A batch of another workstation may have taken the bill since it was looked at.
+bool frmCoyUpdate::moveToClient() {
     const QString patient = txtNo.text(), bill = txtBill.text(), client = m_retainID, category = cboClient.text();
     Connection connection = program.openBilling();
     Transaction transaction(connection);
+    if (isProcessed(connection))
+        return false;
     connection.execute(Sql("update hPatients set coyname='")
                        << client << "', clientCatID ='" << category << "'   where pno ='" << patient << "'");
     connection.execute(Sql("update hRecords set coyname='")
@@ -110,6 +124,7 @@ void frmCoyUpdate::moveToClient() {
     connection.execute(Sql("update billAccum set coyname='")
                        << client << "', billto ='" << m_retainCode << "'   where consultID ='" << bill << "'");
     transaction.commit();
+    return true;
 }
 
 } // namespace orvane

@@ -25,8 +25,10 @@ private:
     void cboPat_Click();
     void OkButton_Click();
     bool isProcessed();
+    bool isProcessed(Connection& connection) const;
+    void tellProcessed();
     bool checkFields();
-    void moveToClient();
+    bool moveToClient(); ///< false: the bill is in a batch by now, and nothing has changed
 
     QString m_retainID;
     QString m_retainCode;

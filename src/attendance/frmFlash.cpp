@@ -13,14 +13,11 @@ frmFlash::frmFlash(Program& owner) : Screen(owner, QStringLiteral("frmFlash"), Q
     cmdPat.onClick = [this] { cmdPat_Click(); };
     dGexp.onDblClick = [this] { dGexp_DblClick(); };
     SSTab1.onClick = [this] { SSTab1_Click(); };
-    cmdDoc.onClick = [this] { SSTab1.setTab(1); };
-    cmdExpected.onClick = [this] { SSTab1.setTab(1); };
+    cmdDoc.onClick = [this] { cmdExpected_Click(); };
+    cmdExpected.onClick = [this] { cmdExpected_Click(); };
     cmdCPC.onClick = [this] { cmdCPC_Click(); };
     cmdPrint.onClick = [this] { cmdPrint_Click(); };
     cmdClose.onClick = [this] { unload(); };
-    // The job buttons ask views that this hospital's database does not have.
-    for (Button* job : {&cmdBilling, &cmdExam, &cmdDelv, &cmdJobClose, &cmdReorder, &cmdDoc})
-        job->setVisible(false);
 }
 
 Layout frmFlash::layout() const {
@@ -28,7 +25,8 @@ Layout frmFlash::layout() const {
     return column(
         {row({field("Attendance between", DTPicker1), field("and", DTPicker2), cell(cmdPat), stretch(), cell(cmdCPC)}),
          cell(lblShow),
-         tabs(SSTab1, {layout::page("Patients", {cell(dGexp)}), layout::page("Attendance History", {cell(grdData)})}),
+         tabs(SSTab1, {layout::page("Patients", {cell(dGexp)}),
+                       layout::page("Attendance History", {cell(grdData), row({cell(cmdDoc), stretch()})})}),
          buttons({&cmdExpected, &cmdPrint}, {&cmdClose})});
 }
 
@@ -41,24 +39,35 @@ void frmFlash::Form_Load() {
     dGexp.setWidth(QStringLiteral("Date"), 12);
     dGexp.setWidth(QStringLiteral("Time"), 8);
     grdData.setWidth(QStringLiteral("Fullname"), 36);
-    showWorklist(
-        Sql("SELECT pno,Fullname,ConsultID as BillNo,Date,Time,Client,Debt,Clinic,ClientCatID as ClientCat from "
-            "vwhConsultingVisitsForBilling where date='")
-        << session.gServerDate << "' order by fullname asc ");
-}
-
-void frmFlash::showWorklist(const Sql& sql) {
-    Connection connection = program.openBilling();
-    dGexp.load(Recordset(connection, sql));
-    lblShow.setText(patientsFromDoctor);
+    showList(Sql("SELECT pno,Fullname,ConsultID as BillNo,Date,Time,Client,Debt,Clinic,ClientCatID as ClientCat from "
+                 "vwhConsultingVisitsForBilling where date='")
+                 << session.gServerDate << "' order by fullname asc ",
+             patientsFromDoctor);
 }
 
 void frmFlash::cmdPat_Click() {
     SSTab1.setTab(0);
-    showWorklist(
-        Sql("SELECT pno,Fullname,ConsultID as BillNo,Date,Time,Client,Debt,Clinic,ClientCatID as ClientCat from "
-            "vwhConsultingVisitsForBilling where date between '")
-        << DTPicker1.date() << "' and '" << DTPicker2.date() << "'   order by fullname asc ");
+    showList(Sql("SELECT pno,Fullname,ConsultID as BillNo,Date,Time,Client,Debt,Clinic,ClientCatID as ClientCat from "
+                 "vwhConsultingVisitsForBilling where date between '")
+                 << DTPicker1.date() << "' and '" << DTPicker2.date() << "'   order by fullname asc ",
+             patientsFromDoctor);
+}
+
+void frmFlash::cmdCPC_Click() {
+    SSTab1.setTab(0);
+    showList(Sql("SELECT distinct Drug,Category,UnitsinStock from vwDrugsforGrid where UnitsinStock < 0  order by "
+                 "Category Desc,Drug"),
+             QStringLiteral("Overdrawn System Drugs"));
+    if (dGexp.rowCount() == 0)
+        lblShow.setText(noRows);
+}
+
+void frmFlash::showList(const Sql& sql, const QString& caption) {
+    Connection connection = program.openBilling();
+    dGexp.load(Recordset(connection, sql));
+    m_list = sql;
+    m_listCaption = caption;
+    lblShow.setText(caption);
 }
 
 void frmFlash::dGexp_DblClick() {
@@ -79,6 +88,13 @@ void frmFlash::SSTab1_Click() {
         lblShow.setText(patientsFromDoctor);
 }
 
+void frmFlash::cmdExpected_Click() {
+    if (SSTab1.tab() == 1)
+        showHistory();
+    else
+        SSTab1.setTab(1);
+}
+
 void frmFlash::showHistory() {
     sHistoryPno = dGexp.columnIndex(QStringLiteral("pno")) < 0 ? QString() : dGexp.text(QStringLiteral("pno"));
     if (sHistoryPno.isEmpty()) {
@@ -94,26 +110,20 @@ void frmFlash::showHistory() {
     lblShow.setText(QStringLiteral("View Patient Attendance History for: ") + dGexp.text(QStringLiteral("Fullname")));
 }
 
-void frmFlash::cmdCPC_Click() {
-    SSTab1.setTab(0);
-    showList(Sql("SELECT distinct Drug,Category,UnitsinStock from vwDrugsforGrid where UnitsinStock < 0  order by "
-                 "Category Desc,Drug"),
-             QStringLiteral("Overdrawn System Drugs"));
-}
-
-void frmFlash::showList(const Sql& sql, const QString& caption) {
-    Connection connection = program.openBilling();
-    const Recordset rows(connection, sql);
-    dGexp.load(rows);
-    lblShow.setText(rows.eof() ? noRows : caption);
-}
-
 void frmFlash::cmdPrint_Click() {
     if (dGexp.rowCount() == 0) {
         program.box(QStringLiteral("No record is displayed for printing"));
         return;
     }
-    ui().printForm(*this);
+    Recordset rows;
+    {
+        Connection connection = program.openBilling();
+        rows = Recordset(connection, m_list);
+    }
+    if (rows.eof())
+        program.box(QStringLiteral("No info for this request : \n") + m_listCaption);
+    else
+        ui().viewReport(QStringLiteral("rptPrompt"), m_listCaption, rows);
 }
 
 } // namespace orvane

@@ -14,13 +14,8 @@ public:
     DatePicker DTPicker2{*this, "DTPicker2"};
     Button cmdPat{*this, "cmdPat", "&Patients from Doctor"};
     Button cmdExpected{*this, "cmdExpected", "View Patient Attendance &History"};
-    Button cmdDoc{*this, "cmdDoc", "View Patient Attendance History"};
+    Button cmdDoc{*this, "cmdDoc", "&View Patient Attendance History"};
     Button cmdCPC{*this, "cmdCPC", "&Overdrawn System Drugs"};
-    Button cmdBilling{*this, "cmdBilling", "Jobs due for Billing"};
-    Button cmdExam{*this, "cmdExam", "Jobs Overdue in Examination"};
-    Button cmdDelv{*this, "cmdDelv", "Jobs Overdue for Delivery"};
-    Button cmdJobClose{*this, "cmdJobClose", "Jobs due for Closure"};
-    Button cmdReorder{*this, "cmdReorder", "Pending Jobs"};
     Button cmdPrint{*this, "cmdPrint", "P&rint"};
     Button cmdClose{*this, "cmdClose", "&Close"};
     Label lblShow{*this, "lblShow"};
@@ -34,16 +29,18 @@ public:
     Button* cancelButton() override { return &cmdClose; }
 
 private:
-    void showWorklist(const Sql& sql);
     void cmdPat_Click();
+    void cmdCPC_Click();
+    void showList(const Sql& sql, const QString& caption);
     void dGexp_DblClick();
     void SSTab1_Click();
+    void cmdExpected_Click();
     void showHistory();
-    void cmdCPC_Click();
     void cmdPrint_Click();
-    void showList(const Sql& sql, const QString& caption);
 
     QString sHistoryPno;
+    Sql m_list; ///< what dGexp shows, for its printout
+    QString m_listCaption;
 };
 
 } // namespace orvane

@@ -13,7 +13,6 @@ QString inLastBrackets(const QString& entry) {
 frmPatList::frmPatList(Program& owner)
     : Screen(owner, QStringLiteral("frmPatList"), QStringLiteral("Patient List for Printing of Bills")) {
     cboVehNo.onClick = [this] { cboVehNo_Click(); };
-    cboBill.onClick = [this] { cboBill_Click(); };
     OKButton.onClick = [this] { OKButton_Click(); };
     CancelButton.onClick = [this] { unload(); };
 }
@@ -54,16 +53,13 @@ void frmPatList::cboVehNo_Click() {
                         QStringLiteral("  [") + bills.text(QStringLiteral("billNo")) + QStringLiteral("]"));
 }
 
-void frmPatList::cboBill_Click() {
-    session.sWorkPno = cboBill.listIndex() < 0 ? QString() : inLastBrackets(cboBill.text());
-}
-
 void frmPatList::OKButton_Click() {
     if (cboBill.listIndex() < 0) {
         program.box(QStringLiteral("Please select a row "));
         cboBill.setFocus();
         return;
     }
+    session.sWorkPno = inLastBrackets(cboBill.text());
     Connection connection = program.openBilling();
     const Recordset bill(connection, Sql("select * from qryBillingBalanceDueForPrivate where billno='")
                                          << session.sWorkPno << "'");

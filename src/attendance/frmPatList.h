@@ -21,7 +21,6 @@ public:
 
 private:
     void cboVehNo_Click();
-    void cboBill_Click();
     void OKButton_Click();
 };
 

@@ -1,0 +1,142 @@
+// " Prompt": the visits that doctors have sent to billing; and the day's prompts.
+#include "support/Workstation.h"
+
+namespace orvane {
+namespace {
+
+class Worklist : public WorkstationTest {
+protected:
+    const QString head = "Fullname\tBillNo\tDate\tTime\tClient\tDebt\tClinic\tClientCat";
+
+    void layVisits() {
+        Connection billing = ws.billing();
+        makePatient(billing, {.debt = -1500});
+        makePatient(billing, {.pno = "P/0002", .surname = "BAKARE"});
+        const struct {
+            const char* consultID;
+            const char* pno;
+            int day;
+            bool finished;
+        } visits[] = {{"001OFL0000001", "P/0001", 14, true},
+                      {"TODAY2", "P/0002", 14, true},
+                      {"WITH-DOCTOR", "P/0002", 14, false},
+                      {"BILLED", "P/0002", 14, true},
+                      {"EARLIER", "P/0001", 10, true}};
+        for (const auto& visit : visits) {
+            const QDate day(2026, 3, visit.day);
+            makeVisit(billing, {.consultID = visit.consultID, .pno = visit.pno, .date = day});
+            makeConsultation(billing,
+                             {.consultID = visit.consultID, .pno = visit.pno, .date = day, .finished = visit.finished});
+        }
+        makeItem(billing, {});
+        ws.run("update hRecords set BillDate='2026-03-14' where consultID='BILLED'");
+    }
+    void open() { ws.open("frmFlash"); }
+    QStringList bills(const char* grid = "dGexp", int column = 1) {
+        QStringList numbers;
+        for (const QString& row : ws.rows(QStringLiteral("frmFlash.") + grid).mid(1))
+            numbers << row.section('\t', column, column);
+        return numbers;
+    }
+    QString caption() { return ws.value("frmFlash.lblShow"); }
+};
+ORVANE_ON_EACH_ENGINE(Worklist);
+
+TEST_P(Worklist, HandsAVisitToTheCollationScreen) {
+    layVisits();
+    open();
+    EXPECT_EQ(ws.rows("frmFlash.dGexp").mid(0, 2),
+              QStringList({head, "ADEYEMI BOLA\t001OFL0000001\t14/03/2026\t09:00:00\tPRIVATE PATIENTS\t(1,500)\tOPD\t"
+                                 "PRIVATE"}));
+    EXPECT_EQ(bills(), QStringList({"001OFL0000001", "TODAY2"}));
+    EXPECT_EQ(caption(), "Patients from Doctor");
+    ws.set("frmFlash.DTPicker1", "2026-03-01");
+    ws.click("frmFlash.cmdPat");
+    QStringList ofTheRange = bills();
+    ofTheRange.sort();
+    EXPECT_EQ(ofTheRange, QStringList({"001OFL0000001", "EARLIER", "TODAY2"}));
+
+    ws.row("frmFlash.dGexp", "001OFL0000001");
+    ws.dblClick("frmFlash.dGexp");
+    EXPECT_FALSE(ws.program.loadedForm("frmFlash"));
+    EXPECT_EQ(ws.value("frmBillingVerify.lblBill"), "001OFL0000001");
+    EXPECT_EQ(ws.tableCount("BillingDetails where billNo='001OFL0000001'"), 1) << "the load collates";
+    EXPECT_EQ(ws.program.session.gSearchBillNo, "");
+    EXPECT_BOXES(ui, {});
+}
+
+TEST_P(Worklist, ShowsTheHistoryOfThePatientInTheRange) {
+    layVisits();
+    open();
+    ws.row("frmFlash.dGexp", "001OFL0000001");
+    ws.click("frmFlash.cmdExpected");
+    EXPECT_EQ(ws.value("frmFlash.SSTab1"), "1");
+    EXPECT_EQ(ws.rows("frmFlash.grdData"),
+              QStringList({"Date\tTime\tBillNo\tFullname", "14/03/2026\t09:00:00\t001OFL0000001\tADEYEMI BOLA"}));
+    EXPECT_EQ(caption(), "View Patient Attendance History for: ADEYEMI BOLA");
+    // The tab is open already: the button asks anew.
+    ws.set("frmFlash.DTPicker1", "2026-03-01");
+    ws.click("frmFlash.cmdDoc");
+    EXPECT_EQ(bills("grdData", 2), QStringList({"001OFL0000001", "EARLIER"}));
+    ws.pick("frmFlash.SSTab1", 0);
+    EXPECT_EQ(caption(), "Patients from Doctor");
+    ws.set("frmFlash.DTPicker2", "2026-03-02");
+    ws.pick("frmFlash.SSTab1", 1);
+    EXPECT_EQ(bills("grdData"), QStringList()) << "no visit in the range";
+    EXPECT_EQ(caption(), "View Patient Attendance History for: ADEYEMI BOLA");
+    EXPECT_BOXES(ui, {});
+}
+
+TEST_P(Worklist, AsksForARowWhereThereIsNone) {
+    open();
+    EXPECT_EQ(bills(), QStringList());
+    ws.dblClick("frmFlash.dGexp");
+    EXPECT_BOXES(ui, {"Please select a row "});
+    ws.pick("frmFlash.SSTab1", 1);
+    EXPECT_BOXES(ui, {"Please select a row to view Attendance History for the Patient"});
+    EXPECT_EQ(ws.value("frmFlash.SSTab1"), "0");
+    ws.click("frmFlash.cmdPrint");
+    EXPECT_BOXES(ui, {"No record is displayed for printing"});
+    EXPECT_TRUE(ws.program.loadedForm("frmFlash"));
+}
+
+TEST_P(Worklist, ListsOverdrawnDrugsAndPrintsWhatItLists) {
+    open();
+    ws.click("frmFlash.cmdCPC");
+    EXPECT_EQ(caption(), "---");
+    ws.run("update StockItemsRetail set UnitsInStock=-3 where ItemID='AMOXICILLIN 500MG'");
+    ws.run("update StockItemsRetail set UnitsInStock=-1 where ItemID='ARTEMETHER INJECTION'");
+    ws.run("update StockItemsRetail set UnitsInStock=0 where ItemID='PARACETAMOL 500MG'");
+    ws.click("frmFlash.cmdCPC");
+    EXPECT_EQ(ws.rows("frmFlash.dGexp"), QStringList({"Drug\tCategory\tUnitsinStock", "AMOXICILLIN 500MG\tTABLETS\t-3",
+                                                      "ARTEMETHER INJECTION\tINJECTIONS\t-1"}));
+    EXPECT_EQ(caption(), "Overdrawn System Drugs");
+    ws.dblClick("frmFlash.dGexp");
+    ws.click("frmFlash.cmdExpected");
+    EXPECT_BOXES(ui, {"Please select a row ", "Please select a row to view Attendance History for the Patient"});
+    ws.click("frmFlash.cmdPrint");
+    ASSERT_EQ(ui.reports.size(), 1);
+    EXPECT_EQ(ui.reports.first().title, "Overdrawn System Drugs");
+    EXPECT_EQ(ui.reports.first().rows, 2);
+    ws.run("update StockItemsRetail set UnitsInStock=5");
+    ws.click("frmFlash.cmdPrint");
+    EXPECT_BOXES(ui, {"No info for this request : \nOverdrawn System Drugs"});
+}
+
+TEST_P(Worklist, RemindsOfTheDaysAttendanceAndAppointments) {
+    layVisits();
+    for (const char* values :
+         {"('P/0001', '2026-03-14', 0)", "('P/0002', '2026-03-15', 0)", "('P/0002', '2026-03-14', 1)"})
+        ws.run(QStringLiteral("insert into hreferal (PNo, ApptDate, attendedTo) values ") + values);
+    ws.open("frmReminder");
+    ws.click("frmReminder.cmdExpected");
+    EXPECT_TRUE(ws.rows("frmReminder.dGexp").join('\n').contains("TODAY2"));
+    EXPECT_EQ(ws.value("frmReminder.lblShow"), "Hospital Attendance");
+    ws.click("frmReminder.cmdReorder");
+    EXPECT_EQ(ws.value("frmReminder.dGexp"), "1 rows");
+    EXPECT_TRUE(ws.rows("frmReminder.dGexp").last().startsWith("P/0001"));
+    EXPECT_EQ(ws.value("frmReminder.lblShow"), "Patients Appt Date Due Today");
+}
+
+} // namespace
+} // namespace orvane
