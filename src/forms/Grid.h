@@ -15,7 +15,9 @@ public:
     void clear();
     int rowCount() const;
     int columnCount() const;
-    QString columnName(int column) const; ///< also its head
+    QString columnName(int column) const;
+    QString columnHead(int column) const; ///< its name, unless another head was set
+    void setHead(const QString& column, const QString& head);
     int columnIndex(const QString& name) const; ///< -1 when there is none
     bool isHidden(int column) const;
     void hide(const QStringList& columns);
@@ -38,7 +40,7 @@ public:
     QString valueText() const override;                 ///< "N rows"
 
 private:
-    struct ColumnLook { bool hidden = false; QString format; int width = 0; };
+    struct ColumnLook { bool hidden = false; QString format; int width = 0; QString head; };
     Recordset m_rows;
     QHash<QString, ColumnLook> m_looks; ///< by lower-cased name
     int m_row = -1;

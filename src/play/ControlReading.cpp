@@ -32,7 +32,7 @@ QStringList rowsOfGrid(const Grid& grid) {
     for (int column = 0; column < grid.columnCount(); ++column)
         if (!grid.isHidden(column)) {
             shown << column;
-            heads << grid.columnName(column);
+            heads << grid.columnHead(column);
         }
     QStringList lines{joined(heads)};
     for (int row = 0; row < grid.rowCount(); ++row) {

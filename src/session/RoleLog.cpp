@@ -15,7 +15,8 @@ void appendLine(Program& program, const QString& fileName, QString line) {
         throw DataError(QStringLiteral("%1 cannot be written: %2").arg(fileName, file.errorString()));
     if (isNew)
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    file.write(line.toUtf8() + '\n');
+    if (file.write(line.toUtf8() + '\n') < 0 || !file.flush())
+        throw DataError(QStringLiteral("%1 cannot be written: %2").arg(fileName, file.errorString()));
 }
 
 QString stamp(const QDateTime& at) {

@@ -4,24 +4,34 @@
 
 namespace orvane {
 
-void UserRole::setRoleID(const QString& text) {
+bool UserRole::setRoleID(const QString& text) {
     const QString digits = text.trimmed();
-    if (digits.isEmpty())
-        return EmptyRoleID();
+    if (digits.isEmpty()) {
+        EmptyRoleID();
+        return false;
+    }
     bool isWhole = false;
     const qlonglong id = digits.toLongLong(&isWhole);
-    if (!isWhole || digits.size() > 9)
-        return InvalidRoleID();
+    if (!isWhole || digits.size() > 9) {
+        InvalidRoleID();
+        return false;
+    }
     m_roleID = id;
+    return true;
 }
 
-void UserRole::setUsername(const QString& text) {
+bool UserRole::setUsername(const QString& text) {
     const QString name = text.trimmed();
-    if (name.isEmpty())
-        return EmptyUsername();
-    if (name.size() > 18)
-        return InvalidUsername();
+    if (name.isEmpty()) {
+        EmptyUsername();
+        return false;
+    }
+    if (name.size() > 18) {
+        InvalidUsername();
+        return false;
+    }
     m_username = name;
+    return true;
 }
 
 void UserRole::Submit() {
@@ -52,8 +62,14 @@ Recordset UserRole::LoadUsername() {
 }
 
 Recordset UserRole::UserRoleMatch(const QString& id) {
+    QString digits;
+    for (const QChar character : id.trimmed()) {
+        if (!character.isDigit())
+            break;
+        digits += character;
+    }
     return load(QStringLiteral("UserRoleMatch"), Sql("select * from qryUserRole k WHERE k.RoleID = ")
-                                                     << id.trimmed().toLongLong());
+                                                     << digits.toLongLong());
 }
 
 Recordset UserRole::load(const QString& operation, const Sql& sql) {

@@ -13,15 +13,17 @@ public:
     std::function<void()> EmptyRoleID, InvalidRoleID, EmptyUsername, InvalidUsername, AllocationComplete, RecordExists;
 
     qlonglong RoleID() const { return m_roleID; }
-    void setRoleID(const QString& text); ///< a whole number of at most 9 digits
+    /// A whole number of at most 9 digits. A refused value raises its event, gives false and leaves the property.
+    bool setRoleID(const QString& text);
     const QString& username() const { return m_username; }
-    void setUsername(const QString& text); ///< at most 18 characters
+    bool setUsername(const QString& text); ///< at most 18 characters; refused likewise
 
     void Submit();
     Recordset LoadData();
     Recordset LoadRoleID();
     Recordset LoadUsername();
-    Recordset UserRoleMatch(const QString& id); ///< the users of one role; `id` is the head of a tree node, digits only
+    Recordset UserRoleMatch(
+        const QString& id); ///< the users of one role; `id` is the head of a tree node, whose first digits count
 
 private:
     Recordset load(const QString& operation, const Sql& sql);

@@ -8,6 +8,11 @@ frmDialog::frmDialog(Program& owner) : Screen(owner, QStringLiteral("frmDialog")
     for (TextBox* box : {&txtPass, &txtPassN, &txtPassC})
         box->masked();
     txtPassC.onLeave = [this] { txtPassC_LostFocus(); };
+    // Enter presses the button without leaving the box, so the passwords are compared first.
+    txtPassC.onEnter = [this] {
+        if (txtPassC_LostFocus())
+            OKButton.click();
+    };
     OKButton.onClick = [this] { OKButton_Click(); };
     CancelButton.onClick = [this] { unload(); };
 }
@@ -19,19 +24,15 @@ Layout frmDialog::layout() const {
                    buttons({}, {&CancelButton, &OKButton})});
 }
 
-void frmDialog::txtPassC_LostFocus() {
+bool frmDialog::txtPassC_LostFocus() {
     if (txtPassC.text() == txtPassN.text())
-        return;
+        return true;
     program.box(QStringLiteral("Alert! Unmatched password. Kindly re-type to go on."), Icon::Critical);
     txtPassC.setFocus();
+    return false;
 }
 
 void frmDialog::OKButton_Click() {
-    // Pressed by Enter the box never lost the focus, so the same test stands here too.
-    if (txtPassC.text() != txtPassN.text()) {
-        txtPassC_LostFocus();
-        return;
-    }
     changeUserPassword(program, txtUser.text(), txtPass.text(), txtPassN.text());
     for (TextBox* box : {&txtUser, &txtPass, &txtPassN, &txtPassC})
         box->clear();

@@ -21,7 +21,7 @@ public:
     Button* cancelButton() override { return &CancelButton; }
 
 private:
-    void txtPassC_LostFocus();
+    bool txtPassC_LostFocus(); ///< false: the passwords differ, and the user was told
     void OKButton_Click();
 };
 

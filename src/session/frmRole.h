@@ -24,6 +24,7 @@ public:
 private:
     bool txtRID_KeyPress(QChar key);
     void cmdSubmit_Click();
+    void waitForRoleID();
     void narrate(const QString& text) { StatusBar1.setPanel(1, text); }
 
     Role m_role;

@@ -5,6 +5,8 @@ namespace orvane {
 frmUserRole::frmUserRole(Program& owner)
     : Screen(owner, QStringLiteral("frmUserRole"), QStringLiteral("User Allocation To Roles")), oNewUserRole(owner) {
     answerEvents();
+    ListView1.hide({"RoleID", "LoginRole"});
+    ListView1.setHead("AccountStatus", "Account Status");
     cboRoleID.onClick = [this] { oNewUserRole.setRoleID(cboRoleID.text()); };
     cboUsername.onClick = [this] { oNewUserRole.setUsername(cboUsername.text()); };
     cboUsername.onLeave = [this] { oNewUserRole.setUsername(cboUsername.text()); };
@@ -49,7 +51,9 @@ void frmUserRole::cmdSubmit_Click() {
         program.box(QStringLiteral("Please enter values into both fields above"));
         return;
     }
-    oNewUserRole.Submit();
+    // A typed value reaches its property here; a role that was not meant must never be given.
+    if (oNewUserRole.setRoleID(cboRoleID.text()) && oNewUserRole.setUsername(cboUsername.text()))
+        oNewUserRole.Submit();
 }
 
 void frmUserRole::TreeView1_NodeClick() {

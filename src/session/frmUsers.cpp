@@ -9,6 +9,11 @@ frmUsers::frmUsers(Program& owner) : Screen(owner, QStringLiteral("frmUsers"), Q
     TreeView1.onClick = [this] { TreeView1_NodeClick(); };
     txtUserName.onChange = [this] { cmdApply.setEnabled(!txtUserName.text().trimmed().isEmpty()); };
     txtConfirmPWD.onLeave = [this] { txtConfirmPWD_LostFocus(); };
+    // Enter presses the button without leaving the box, so the passwords are compared first.
+    txtConfirmPWD.onEnter = [this] {
+        if (txtConfirmPWD_LostFocus() && cmdApply.isUsable())
+            cmdApply.click();
+    };
     cmdApply.onClick = [this] { cmdApply_Click(); };
     cmdRefresh.onClick = [this] { clearFields(); };
     cmdCancel.onClick = [this] { unload(); };
@@ -66,15 +71,17 @@ void frmUsers::TreeView1_NodeClick() {
     txtUserName.setText(user.text(QStringLiteral("Username")));
     txtFullName.setText(user.text(QStringLiteral("Fullname")));
     txtPassword.setText(user.text(QStringLiteral("Password")));
+    cboAcctStatus.setListIndex(-1); // a status that is not in its list leaves the box empty
     cboAcctStatus.setText(user.text(QStringLiteral("AccountStatus")));
     cboBranchCode.setText(user.text(QStringLiteral("BranchCode")));
 }
 
-void frmUsers::txtConfirmPWD_LostFocus() {
+bool frmUsers::txtConfirmPWD_LostFocus() {
     if (txtConfirmPWD.text() == txtPassword.text())
-        return;
+        return true;
     program.box(QStringLiteral("Alert! Unmatched password. Kindly re-type to go on."), Icon::Critical);
     txtConfirmPWD.setFocus();
+    return false;
 }
 
 void frmUsers::cmdApply_Click() {
@@ -86,11 +93,6 @@ void frmUsers::cmdApply_Click() {
     if (cboBranchCode.text().isEmpty()) {
         program.box(QStringLiteral("Alert! Branch Code is required."));
         cboBranchCode.setFocus();
-        return;
-    }
-    // Pressed by Enter the box never lost the focus, so the passwords are compared here too.
-    if (txtConfirmPWD.text() != txtPassword.text()) {
-        txtConfirmPWD_LostFocus();
         return;
     }
     if (!addAccount()) {

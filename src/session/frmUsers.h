@@ -29,7 +29,7 @@ private:
     void buildTree();
     void clearFields();
     void TreeView1_NodeClick();
-    void txtConfirmPWD_LostFocus();
+    bool txtConfirmPWD_LostFocus(); ///< false: the passwords differ, and the user was told
     void cmdApply_Click();
     bool addAccount(); ///< false: the name is taken
 };

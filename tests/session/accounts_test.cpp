@@ -1,0 +1,187 @@
+// Accounts: making them, their status and their passwords.
+#include "session/Scramble.h"
+#include "support/Workstation.h"
+
+#include <QDirIterator>
+
+namespace orvane {
+namespace {
+
+class Accounts : public WorkstationTest {
+protected:
+    static constexpr const char* unmatched = "Alert! Unmatched password. Kindly re-type to go on.";
+    static constexpr const char* unknown = "Alert! Indicated username not found in the list of accredited users.";
+
+    void turnSecurityOn() {
+        QFile ini(home.folder() + "/orvane.ini");
+        ASSERT_TRUE(ini.open(QIODevice::Append));
+        ini.write("\n[menu]\nmnusecurity = 1\n");
+    }
+    void prepare() override {
+        turnSecurityOn();
+        ws.run("insert into LagosBranches (BranchCode) values ('ANNEX')");
+        ws.run("insert into ApplicationUsers (Username, Fullname, Password) values ('musa', 'MUSA O''BRIEN', 'Pw''1')");
+    }
+    void set(const char* control, const QString& value) { ws.set(QStringLiteral("frmUsers.") + control, value); }
+    QString stored(const QString& user) {
+        return ws.scalar("select Password from ApplicationUsers where Username='" + user + "'");
+    }
+};
+ORVANE_ON_EACH_ENGINE(Accounts);
+
+TEST_P(Accounts, UsersAreAddedAndNeverChanged) {
+    ws.menu("mnuUsers");
+    EXPECT_EQ(ws.items("frmUsers.TreeView1"), QStringList({"Zelmont Trust Bank Plc", "AMINA BELLO", "MUSA O'BRIEN"}));
+    EXPECT_EQ(ws.items("frmUsers.cboBranchCode"), QStringList({"ANNEX", "HQ"}));
+    EXPECT_EQ(ws.state("frmUsers.cmdApply"), "visible disabled");
+    set("txtUserName", "  ");
+    EXPECT_EQ(ws.state("frmUsers.cmdApply"), "visible disabled");
+
+    ws.pick("frmUsers.TreeView1", "AMINA BELLO");
+    EXPECT_EQ(ws.value("frmUsers.cboAcctStatus") + ws.value("frmUsers.cboBranchCode"), "EnabledHQ");
+    ws.pick("frmUsers.TreeView1", "MUSA O'BRIEN");
+    EXPECT_EQ(ws.value("frmUsers.txtUserName") + ws.value("frmUsers.txtPassword"), "musaPw'1");
+    EXPECT_TRUE(ws.control<TextBox>("frmUsers.txtPassword").isMasked());
+    EXPECT_EQ(ws.value("frmUsers.cboAcctStatus") + ws.value("frmUsers.cboBranchCode"), "") << "of the user before";
+
+    Form& form = ws.form("frmUsers");
+    ws.click("frmUsers.cmdApply");
+    EXPECT_BOXES(ui, {"Alert! Account Status is required."});
+    EXPECT_EQ(form.focused()->name(), "cboAcctStatus");
+    set("cboAcctStatus", "Disabled");
+    ws.click("frmUsers.cmdApply");
+    EXPECT_BOXES(ui, {"Alert! Branch Code is required."});
+    EXPECT_EQ(form.focused()->name(), "cboBranchCode");
+    set("cboBranchCode", "HQ");
+    set("txtUserName", " MUSA ");
+    ws.click("frmUsers.cmdApply");
+    EXPECT_EQ(ui.takeBoxesWithTitles(),
+              (QList<TestUi::Box>{{"Alert! Username already assigned to someone else.", {}, Icon::Critical}}));
+    EXPECT_EQ(ws.tableCount("ApplicationUsers where AccountStatus is null"), 1);
+
+    set("txtUserName", " kemi ");
+    set("txtFullName", "KEMI ADE");
+    set("txtPassword", " S3cret ");
+    set("txtConfirmPWD", "S3cret");
+    ws.key("frmUsers.txtConfirmPWD", "\n");
+    EXPECT_EQ(ui.takeBoxesWithTitles(), (QList<TestUi::Box>{{unmatched, {}, Icon::Critical}}));
+    EXPECT_EQ(form.focused()->name(), "txtConfirmPWD");
+    set("txtConfirmPWD", " S3cret ");
+    ws.leave("frmUsers.txtConfirmPWD");
+    ws.key("frmUsers.txtConfirmPWD", "\n");
+    EXPECT_BOXES(ui, {"Account creation succeeded."});
+    EXPECT_EQ(ws.tableCount("ApplicationUsers where Username='kemi' and Fullname='KEMI ADE' and BranchCode='HQ' and "
+                            "AccountStatus='Disabled'"),
+              1);
+    EXPECT_EQ(stored("kemi"), "S3cret") << "trimmed, and not scrambled";
+    EXPECT_TRUE(ws.items("frmUsers.TreeView1").contains("KEMI ADE"));
+    EXPECT_EQ(ws.value("frmUsers.txtUserName") + ws.value("frmUsers.txtPassword") + ws.value("frmUsers.cboBranchCode"),
+              "");
+    EXPECT_EQ(ws.state("frmUsers.cmdApply"), "visible disabled");
+    EXPECT_EQ(form.focused()->name(), "txtUserName");
+}
+
+TEST_P(Accounts, AreEnabledAndDisabledByName) {
+    const struct {
+        const char* menu;
+        const char* answer;
+        TestUi::Box box;
+        const char* status; ///< of musa, afterwards
+    } cases[] = {
+        {"mnuAcctEnable", "  ", {"Alert! Username can't be empty.", {}, Icon::Exclamation}, ""},
+        {"mnuAcctEnable", "nobody", {unknown, {}, Icon::None}, ""},
+        {"mnuAcctEnable", " Musa ", {"Congrats! User Account Enabled successfully.", {}, Icon::None}, "Enabled"},
+        {"mnuAcctDisable", "musa", {"Congrats! User Account diasbled successfully.", {}, Icon::None}, "Disabled"},
+        {"mnuAcctDisable", "musa", {"Congrats! User Account diasbled successfully.", {}, Icon::None}, "Disabled"}};
+    for (const auto& test : cases) {
+        ui.answer(QString(test.answer));
+        ws.menu(test.menu);
+        EXPECT_QUESTIONS(ui, {"Kindly indicate the Account's Username."});
+        EXPECT_EQ(ui.takeBoxesWithTitles(), QList<TestUi::Box>{test.box}) << test.menu << test.answer;
+        EXPECT_EQ(ws.scalar("select AccountStatus from ApplicationUsers where Username='musa'"), test.status);
+    }
+    ui.answerCancel();
+    ws.menu("mnuAcctDisable");
+    ui.takeQuestions();
+    EXPECT_EQ(ws.tableCount("ApplicationUsers where AccountStatus='Disabled'"), 1);
+}
+
+TEST_P(Accounts, APasswordIsChangedByWhoKnowsTheOldOne) {
+    ws.menu("mnuChangePWD");
+    const struct {
+        const char* user;
+        const char* old;
+        const char* next;
+        const char* box;
+        const char* stored;
+    } cases[] = {{" ", "", "n", "Alert! Username can't be empty.", "Pw'1"},
+                 {"musa", " ", "n", "Alert! Old Account password can't be empty.", "Pw'1"},
+                 {"musa", "wrong", "n", unknown, "Pw'1"},
+                 {"nobody", "Pw'1", "n", unknown, "Pw'1"},
+                 {"musa", "' or '1'='1", "n", unknown, "Pw'1"},
+                 {"musa", "Pw'1", "N'ew 2", "Congrats! User Account's Password changed.", "N'ew 2"}};
+    for (const auto& test : cases) {
+        ws.set("frmDialog.txtUser", test.user);
+        ws.set("frmDialog.txtPass", test.old);
+        ws.set("frmDialog.txtPassN", test.next);
+        ws.set("frmDialog.txtPassC", test.next);
+        ws.leave("frmDialog.txtPassC");
+        ws.click("frmDialog.OKButton");
+        EXPECT_BOXES(ui, {test.box});
+        EXPECT_EQ(stored("musa"), test.stored);
+        for (const char* box : {"txtUser", "txtPass", "txtPassN", "txtPassC"})
+            EXPECT_EQ(ws.value(QStringLiteral("frmDialog.") + box), "");
+    }
+    EXPECT_EQ(stored("amina.b"), "") << "somebody else's";
+    ws.set("frmDialog.txtUser", "musa");
+    ws.set("frmDialog.txtPass", "N'ew 2");
+    ws.set("frmDialog.txtPassN", "typed");
+    ws.set("frmDialog.txtPassC", "tpyed");
+    ws.key("frmDialog.txtPassC", "\n");
+    EXPECT_EQ(ui.takeBoxesWithTitles(), (QList<TestUi::Box>{{unmatched, {}, Icon::Critical}}));
+    EXPECT_EQ(ws.form("frmDialog").focused()->name(), "txtPassC");
+    EXPECT_EQ(stored("musa"), "N'ew 2");
+}
+
+TEST_P(Accounts, ScrambledTextMapsOneForOneAndDropsABlank) {
+    QString printable;
+    for (char16_t code = 33; code < 127; ++code)
+        printable += QChar(code);
+    QString image = scramblePassword(ws.program, printable);
+    EXPECT_EQ(QSet<QChar>(image.begin(), image.end()).size(), 94) << "two characters share an image";
+    EXPECT_EQ(scramblePassword(ws.program, "a b"), scramblePassword(ws.program, "ab"));
+    EXPECT_BOXES(ui, {"Invalid character detected!"});
+}
+
+TEST_P(Accounts, NoPasswordReachesAFileBesideTheDatabase) {
+    const QString secret = "Gr33nM@ngo";
+    ws.open("frmDialog");
+    ws.set("frmDialog.txtUser", "musa");
+    ws.set("frmDialog.txtPass", "Pw'1");
+    ws.set("frmDialog.txtPassN", secret);
+    ws.set("frmDialog.txtPassC", secret);
+    ws.program.data().setStatementHook([](const QString& statement) {
+        if (statement.startsWith("UPDATE ApplicationUsers") || statement.contains("FROM Roles"))
+            throw DataError("disk full");
+    });
+    ws.click("frmDialog.OKButton");
+    EXPECT_BOXES(ui, {"disk full"});
+    ws.open("frmUserRole");
+    ws.open("frmRole");
+    ws.program.data().setStatementHook({});
+    ws.click("frmDialog.OKButton");
+    EXPECT_BOXES(ui, {"Congrats! User Account's Password changed."});
+    QDirIterator files(home.folder(), QDir::Files);
+    int looked = 0;
+    while (files.hasNext()) {
+        QFile file(files.next());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_FALSE(file.readAll().contains(secret.toUtf8())) << file.fileName().toStdString();
+        ++looked;
+    }
+    EXPECT_TRUE(QFile::exists(home.folder() + "/ServerErrorLog.txt"));
+    EXPECT_GE(looked, 3);
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,193 @@
+// Roles and who holds them.
+#include "session/Role.h"
+#include "session/UserRole.h"
+#include "support/Workstation.h"
+
+#include <QFileInfo>
+
+namespace orvane {
+namespace {
+
+class Roles : public WorkstationTest {
+protected:
+    /// The messages of the users' log since the last look; each line stamped and signed.
+    QStringList takeLog() {
+        QFile file(home.folder() + "/ServerUserActivities.txt");
+        QStringList messages;
+        if (!file.open(QIODevice::ReadOnly))
+            return messages;
+        EXPECT_EQ(file.permissions() & ~(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser),
+                  QFile::Permissions());
+        for (const QString& line : QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)) {
+            const QStringList parts = line.split("  |  ");
+            EXPECT_EQ(parts.size(), 3) << line.toStdString();
+            EXPECT_EQ(parts.first(), "14/03/2026 09:30:00");
+            EXPECT_EQ(parts.last(), "AMINA BELLO");
+            messages << parts.value(1);
+        }
+        file.remove();
+        return messages;
+    }
+    QString status() { return ws.value("frmRole.StatusBar1"); }
+};
+ORVANE_ON_EACH_ENGINE(Roles);
+
+TEST_P(Roles, PropertiesKeepWhatTheyHadWhenAValueIsRefused) {
+    Role role(ws.program);
+    UserRole allotment(ws.program);
+    QStringList events;
+    role.onRefused = [&] { events << "refused"; };
+    allotment.EmptyRoleID = [&] { events << "EmptyRoleID"; };
+    allotment.InvalidRoleID = [&] { events << "InvalidRoleID"; };
+    allotment.EmptyUsername = [&] { events << "EmptyUsername"; };
+    allotment.InvalidUsername = [&] { events << "InvalidUsername"; };
+    const struct {
+        const char* value;
+        qlonglong ofRole;
+        qlonglong ofUserRole;
+        QStringList events;
+    } ids[] = {{"7", 7, 7, {}},
+               {" 12345678 ", 12345678, 12345678, {}},
+               {"123456789", 12345678, 123456789, {"refused"}},
+               {"1234567890", 12345678, 123456789, {"refused", "InvalidRoleID"}},
+               {"  ", 12345678, 123456789, {"refused", "EmptyRoleID"}}};
+    for (const auto& test : ids) {
+        role.setRoleID(test.value);
+        allotment.setRoleID(test.value);
+        EXPECT_EQ(role.RoleID(), test.ofRole) << test.value;
+        EXPECT_EQ(allotment.RoleID(), test.ofUserRole) << test.value;
+        EXPECT_EQ(std::exchange(events, {}), test.events) << test.value;
+    }
+    const QString longest(18, 'x');
+    for (const QString& name : {longest, longest + 'y', QStringLiteral(" ")}) {
+        role.setRoleName(name);
+        allotment.setUsername(name);
+    }
+    EXPECT_EQ(role.RoleName(), longest);
+    EXPECT_EQ(allotment.username(), longest);
+    EXPECT_EQ(events, QStringList({"refused", "InvalidUsername", "refused", "EmptyUsername"}));
+}
+
+TEST_P(Roles, SubmitAndDeleteTellTheLogOnly) {
+    Role role(ws.program);
+    role.setRoleID("205");
+    role.setRoleName("WARD'S CLERK");
+    role.Submit();
+    role.Submit();
+    role.Delete(101); // a user holds it
+    role.Delete(999);
+    EXPECT_EQ(ws.tableCount("Roles where RoleID=205 and LoginRole='WARD''S CLERK'"), 1);
+    EXPECT_EQ(ws.tableCount("Roles where RoleID=101"), 1);
+    role.Delete(205);
+    EXPECT_EQ(ws.tableCount("Roles where RoleID=205"), 0);
+    EXPECT_EQ(
+        takeLog(),
+        QStringList({"Successfully created a new Role  205", "Attempted creating a RoleID 205 that already exists.",
+                     "Attempted deleting the Role for 101 that would lead to orphan User Accounts.",
+                     "Attempted to delete a non existing Role ", "Successfully deleted the Role for 205"}));
+    EXPECT_BOXES(ui, {});
+}
+
+TEST_P(Roles, AFaultGoesToTheErrorLogWithoutItsStatement) {
+    ws.program.data().setStatementHook([](const QString& statement) {
+        if (statement.contains("Roles"))
+            throw DataError("line one\nline two");
+    });
+    Role role(ws.program);
+    role.setRoleID("205");
+    role.Submit();
+    EXPECT_TRUE(UserRole(ws.program).LoadRoleID().eof());
+    EXPECT_BOXES(ui, {});
+    QFile file(home.folder() + "/ServerErrorLog.txt");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(file.permissions() & (QFile::ReadGroup | QFile::ReadOther));
+    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_TRUE(lines[0].startsWith("14/03/2026 09:30:00  |  Submit  |  ")) << lines[0].toStdString();
+    EXPECT_TRUE(lines[0].contains("  |  line one line two  |  "));
+    EXPECT_TRUE(lines[1].contains("  |  LoadRoleID  |  "));
+}
+
+TEST_P(Roles, RoleCreationNarratesAndAddsARole) {
+    ws.open("frmRole");
+    EXPECT_EQ(status(), "Waiting for AMINA BELLO to key in RoleID");
+    ws.click("frmRole.cmdSubmit");
+    EXPECT_EQ(ws.tableCount("Roles"), 2) << "nothing was keyed in";
+    ws.key("frmRole.txtRID", "2x0");
+    EXPECT_EQ(ws.value("frmRole.txtRID"), "20");
+    EXPECT_EQ(status(), "Accepting RoleID from AMINA BELLO...");
+    ws.key("frmRole.txtRID", "-");
+    EXPECT_EQ(status(), "Numeric entries expected here.");
+    ws.leave("frmRole.txtRID");
+    EXPECT_EQ(status(), "Waiting to Accept new Role Name from AMINA BELLO...");
+    ws.set("frmRole.txtRName", "CASHIER");
+    EXPECT_EQ(status(), "Accepting Role Name from AMINA BELLO...");
+    ws.leave("frmRole.txtRName");
+    EXPECT_EQ(status(), "Ready to Submit New Role Profile.");
+    // A refused id leaves the one that was accepted before.
+    ws.set("frmRole.txtRID", "123456789");
+    ws.leave("frmRole.txtRID");
+    ws.click("frmRole.cmdSubmit");
+    EXPECT_EQ(ws.rows("frmRole.DataGrid1").filter("CASHIER"), QStringList("20\tCASHIER"));
+    EXPECT_EQ(ws.value("frmRole.txtRID") + ws.value("frmRole.txtRName"), "");
+    // Enter presses the button without leaving the box.
+    ws.set("frmRole.txtRID", "21");
+    ws.set("frmRole.txtRName", "MATRON");
+    ws.key("frmRole.txtRName", "\n");
+    EXPECT_EQ(ws.tableCount("Roles where RoleID=21 and LoginRole='MATRON'"), 1);
+    EXPECT_EQ(ws.tableCount("Roles"), 4);
+}
+
+TEST_P(Roles, AllocationAnswersEachEventWithABox) {
+    ws.run("insert into ApplicationUsers (Username, AccountStatus) values ('ngozi.o', 'Enabled')");
+    ws.run("insert into ApplicationUsers (Username) values ('a.name.of.nineteen.c')");
+    ws.run("insert into Roles (RoleID, LoginRole) values (7, 'WARD')");
+    ws.run("insert into Roles (RoleID, LoginRole) values (1012, 'LONG')");
+    ws.open("frmUserRole");
+    QStringList nodes = ws.items("frmUserRole.TreeView1");
+    EXPECT_EQ(nodes.takeFirst(), "Available Roles");
+    nodes.sort();
+    EXPECT_EQ(nodes, QStringList({"101 : BILLING", "1012 : LONG", "102 : MANAGEMENT", "7 : WARD"}));
+    const struct {
+        const char* role;
+        const char* user;
+        QStringList boxes;
+        int rows;
+    } cases[] = {{"", "", {"Please enter values into both fields above"}, 2},
+                 {"101", "", {"Please enter values into both fields above"}, 2},
+                 {"101", "ngozi.o", {"Submission Successful."}, 3},
+                 {"101", "ngozi.o", {"Submission Failed! Matching Record Exists."}, 3},
+                 {"1234567890", "ngozi.o", {"Invalid RoleID."}, 3},
+                 {"102", "a.name.of.nineteen.c", {"Invalid Username.", "Invalid Username."}, 3},
+                 {"7", "ngozi.o", {"Submission Successful."}, 4}};
+    for (const auto& test : cases) {
+        ws.set("frmUserRole.cboRoleID", test.role);
+        ws.set("frmUserRole.cboUsername", test.user);
+        ws.click("frmUserRole.cmdSubmit");
+        const QList<TestUi::Box> boxes = ui.takeBoxesWithTitles();
+        QStringList texts;
+        for (const TestUi::Box& box : boxes)
+            texts << box.text;
+        EXPECT_EQ(texts, test.boxes) << test.role << ' ' << test.user;
+        if (*test.user) {
+            EXPECT_EQ(boxes.last().icon, Icon::Information);
+        }
+        EXPECT_EQ(ws.tableCount("UserRoles"), test.rows);
+    }
+    ws.set("frmUserRole.cboUsername", "");
+    ws.leave("frmUserRole.cboUsername");
+    EXPECT_BOXES(ui, {"Username cannot be empty."});
+
+    const QStringList head{"Username\tFullname\tAccount Status"};
+    ws.pick("frmUserRole.TreeView1", "102 : MANAGEMENT");
+    EXPECT_EQ(ws.rows("frmUserRole.ListView1"), head + QStringList("amina.b\tAMINA BELLO\tEnabled"));
+    ws.pick("frmUserRole.TreeView1", "7 : WARD");
+    EXPECT_EQ(ws.rows("frmUserRole.ListView1"), head + QStringList("ngozi.o\t\tEnabled"));
+    ws.pick("frmUserRole.TreeView1", "1012 : LONG");
+    EXPECT_EQ(ws.value("frmUserRole.ListView1"), "2 rows") << "matched by its first three digits";
+    ws.pick("frmUserRole.TreeView1", "Available Roles");
+    EXPECT_EQ(ws.value("frmUserRole.ListView1"), "0 rows");
+}
+
+} // namespace
+} // namespace orvane
