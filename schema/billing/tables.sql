@@ -656,6 +656,14 @@ create table drugs (
     reorderlevel float
 )
 go
+-- A price load that waits to be taken into drugs.
+create table drugsxxx (
+    drgName nvarchar(200) not null primary key,
+    drgCatName nvarchar(100),
+    qtyPerUnit float,
+    Cost float
+)
+go
 -- A category of drugs; catremarks groups them.
 create table drugcategories (
     drgCatname nvarchar(100) not null primary key,

@@ -4,6 +4,7 @@
 #include "billing/Forms.h"
 #include "receipts/Forms.h"
 #include "session/Forms.h"
+#include "stock/Forms.h"
 
 namespace orvane {
 
@@ -12,6 +13,7 @@ void registerScreens(Program& program) {
     registerAttendanceForms(program);
     registerReceiptForms(program);
     registerBillingForms(program);
+    registerStockForms(program);
 }
 
 } // namespace orvane
