@@ -85,7 +85,7 @@ public:
         m_copy = settings.value(group + "prefix").toString() + "bare";
         command("drop database if exists \"" + m_copy + '"');
         command("create database \"" + m_copy + "\" template \"" + settings.value(group + "prefix").toString() +
-                "Dunmarch\"");
+                "dunmarch\"");
         m_connection = connect(m_copy);
         run({"set client_min_messages = warning"});
     }

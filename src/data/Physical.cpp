@@ -7,6 +7,8 @@
 #include <QSqlDriver>
 #include <QSqlError>
 #include <QThread>
+#include <libpq-fe.h>
+#include <poll.h>
 
 namespace orvane {
 
@@ -39,6 +41,21 @@ bool mayBeSentAgain(const QString& code) {
 
 quintptr thisThread() {
     return reinterpret_cast<quintptr>(QThread::currentThreadId());
+}
+
+/// Whether PostgreSQL has said nothing on an idle connection. It announces that it closes one, so the socket of a dead
+/// connection has something to read; asking the socket costs no message.
+bool isQuiet(const PhysicalConnection& physical) {
+    if (physical.engine != Engine::Postgresql || !physical.database.isOpen()) {
+        return false;
+    }
+    const QVariant handle = physical.database.driver()->handle();
+    if (qstrcmp(handle.typeName(), "PGconn*") != 0) {
+        return false;
+    }
+    PGconn* const connection = *static_cast<PGconn* const*>(handle.constData());
+    pollfd socket = {PQsocket(connection), POLLIN, 0};
+    return PQstatus(connection) == CONNECTION_OK && poll(&socket, 1, 0) == 0;
 }
 
 bool changesRows(const QString& text) {
@@ -254,7 +271,7 @@ std::shared_ptr<PhysicalConnection> DataSource::Private::take(const QString& con
         }
         // A server that was restarted has closed its idle connections.
         const bool alive =
-            physical->engine == Engine::Sqlite ||
+            physical->engine == Engine::Sqlite || isQuiet(*physical) ||
             (physical->database.isOpen() && QSqlQuery(physical->database).exec(QStringLiteral("select 1")));
         if (alive) {
             physical->source = shared_from_this();

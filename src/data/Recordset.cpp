@@ -7,6 +7,8 @@
 #include "data/Rewrite.h"
 #include "data/Value.h"
 
+#include <QRegularExpression>
+
 namespace orvane {
 
 Recordset::Recordset() : d(std::make_shared<Private>()) {}
@@ -27,15 +29,36 @@ Recordset Recordset::detached() const {
     return copy;
 }
 
+namespace {
+
+/// The table of "select * from T where 1=2", which is opened only to add a row; null for any other statement.
+const Table* tableOfEmptyRows(const QString& tsql, const QString& database) {
+    static const QRegularExpression form(QStringLiteral("^select\\s+\\*\\s+from\\s+(\\w+)\\s+where\\s+1\\s*=\\s*2$"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    if (!tsql.endsWith(u'2'))
+        return nullptr;
+    const QRegularExpressionMatch match = form.match(tsql);
+    return match.hasMatch() ? Catalog::instance().table(match.captured(1), database) : nullptr;
+}
+
+} // namespace
+
 void Recordset::read(Connection& connection, const QString& tsql) {
+    d->physical = connection.d;
+    d->lease = connection.d->lease;
+    // The schema knows the columns of a table: an empty result needs no question to the server.
+    if (const Table* table = tableOfEmptyRows(tsql, connection.d->schema)) {
+        d->table = table;
+        for (const Column& column : table->columns)
+            d->rows.columns += column.name;
+        return;
+    }
     QSqlQuery query = connection.d->send(tsql);
     const Tokens tokens = tokenize(tsql);
     const QStringList sources = sourcesOf(tokens);
     d->rows = readRows(query, connection.d->engine);
     d->rows.columns = properHeads(d->rows.columns, tokens, sources);
     d->table = writableTable(tokens, connection.d->schema);
-    d->physical = connection.d;
-    d->lease = connection.d->lease;
 }
 
 int Recordset::columnIndex(const QString& column) const {

@@ -119,7 +119,7 @@ TEST_P(Shell, doubleClickOnTheStripSilencesUntilTheNextOne) {
 }
 
 TEST_P(Shell, namesItsUser) {
-    EXPECT_EQ(value("SbrTolmek"), QStringLiteral("||AMINA BELLO"));
+    EXPECT_EQ(value("SbrTolmek"), QStringLiteral("BILLING|amina.b|AMINA BELLO"));
     EXPECT_EQ(value("mnuEPE"), QStringLiteral("Log Off amina.b"));
     EXPECT_EQ(value("lblServer"), QStringLiteral("Server Date && Time: "));
 }
