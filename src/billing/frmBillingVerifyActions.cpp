@@ -25,7 +25,6 @@ void frmBillingVerify::cmdAddBill_Click() {
 void frmBillingVerify::cmdPrice_Click() {
     if (!hasPatient("No Patient is selected"))
         return;
-    session.lWorkSNo = qlonglong(grdData.currentRow() < 0 ? 0 : grdData.number("SNo"));
     {
         Connection connection = program.openBilling();
         const Recordset bill(connection, Sql("select isprocess from billing where billno='")
@@ -34,6 +33,11 @@ void frmBillingVerify::cmdPrice_Click() {
             program.box("Please Note! This Bill Item is Already Processed!!! Reverse Processing to Adjust");
             return;
         }
+        if (grdData.currentRow() < 0) {
+            program.box("Please specify Item");
+            return;
+        }
+        session.lWorkSNo = qlonglong(grdData.number("SNo"));
         const Recordset line(connection, Sql("select sno from billingdetails where sno=") << session.lWorkSNo);
         if (!line.eof())
             program.box("Please Note! This Selected Item is Already Billed");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "demo/Check.h"
 #include "support/TestHome.h"
 #include "support/Workstation.h"
 
@@ -60,6 +61,22 @@ protected:
             if (tsql.contains(text, Qt::CaseInsensitive))
                 throw DataError("disk full");
         });
+    }
+};
+
+/// The same, and after each test the databases must be free of findings.
+class SoundBillTest : public VerifyTest {
+protected:
+    void TearDown() override { EXPECT_EQ(checkDatabases(ws.program).findings, QStringList()); }
+
+    /// The audit rows of these actions, "action: remarks", a line each.
+    QString audit(const QString& actionStart) {
+        Connection trail = ws.billing().beside(GetParam() == Engine::Sqlite ? QStringLiteral("Audit") : QString());
+        QStringList found;
+        for (Recordset row = trail.run("select * from AuditTrail order by SNo"); !row.eof(); row.moveNext())
+            if (row.text("userAction").startsWith(actionStart))
+                found << row.text("userAction") + QLatin1Char('|') + row.text("Remarks");
+        return found.join('\n');
     }
 };
 

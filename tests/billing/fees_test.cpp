@@ -1,0 +1,120 @@
+#include "VerifyTest.h"
+
+namespace orvane {
+
+namespace {
+
+class Fees : public SoundBillTest {
+protected:
+    void chargeScheme(const QString& percent, const QString& text = "SCHEME FEE") {
+        set("txtNHIS", percent);
+        ui.answer(text);
+        click("cmdNHIS");
+        EXPECT_QUESTIONS(ui, {"Enter Item Description"});
+    }
+    QString fee() {
+        return rows(
+            "select a.Price, a.SubTotal, d.SubTotal, a.revType, d.revType, a.Category, a.billType, a.Capitated, "
+            "a.attendedto, a.isBilled, a.suppres, a.conID, d.BillBy from BillAccum a inner join BillingDetails d "
+            "on d.SNo=a.SNo where a.drgName='SCHEME FEE'");
+    }
+};
+
+ORVANE_ON_EACH_ENGINE(Fees);
+
+/// Base and revenue type of the scheme's fee by the setting: capitated items count, and a fee is whole kobo.
+TEST_P(Fees, SettingChoosesBaseAndRevenueType) {
+    const struct {
+        const char* setting;
+        const char* fee;
+        const char* revType;
+    } cases[] = {{"", "125.06", "DRUG"},
+                 {"ALL", "125.06", "DRUG"},
+                 {"DRUG", "50.03", "CONSULTATION"},
+                 {"DRUGS ONLY", "50.03", "DRUG"}};
+    layVisit();
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.setting);
+        ws.run("delete from BillAccum");
+        ws.run("delete from BillingDetails");
+        ws.run("delete from Tranxaction");
+        item({.name = "DRUG", .price = 1000.55});
+        item({.name = "TEST", .billType = "LAB", .price = 1500.65, .capitated = "NO"});
+        load();
+        ws.program.session.gNHISFee = c.setting;
+        chargeScheme("5");
+        EXPECT_EQ(fee(), QString("%1|%1|%1|%2|%2|CONSULTATION|SERVICE|NO|1|1|0|0|amina.b").arg(c.fee, c.revType));
+        EXPECT_EQ(ws.scalar("select Amount from Tranxaction where Remarks='SCHEME FEE'"), QString("-") + c.fee);
+        EXPECT_EQ(ws.scalar("select round(Amountbilled-2501.2, 2) as n from Billing"), c.fee);
+    }
+    EXPECT_EQ(audit("insert Service/NHIS").section('\n', 0, 0),
+              "insert Service/NHIS  (5%) fee for Drugs/Services for ADEYEMI BOLA|SCHEME FEE");
+}
+
+TEST_P(Fees, SchemeFeeOnNothingLeavesNoLine) {
+    layVisit();
+    load();
+    chargeScheme("10");
+    EXPECT_EQ(lines(), "") << "a line of 0 is taken away by the collation";
+    EXPECT_EQ(debt(), "0");
+    for (const char* wrong : {"", "ten", "-5"}) {
+        set("txtNHIS", wrong);
+        click("cmdNHIS");
+        EXPECT_BOXES(ui, {"Specify NHIS fee! Numeric Only"});
+    }
+    set("txtNHIS", "5");
+    ui.answerCancel();
+    click("cmdNHIS");
+    EXPECT_EQ(ws.tableCount("BillAccum"), 1);
+    ui.takeQuestions();
+}
+
+TEST_P(Fees, ProfessionalFeeIsWholeKoboAndBilledOnce) {
+    layVisit();
+    item({.name = "DRUG", .price = 1000.55});
+    load();
+    set("txtProf", "7.5");
+    click("cmdBill");
+    EXPECT_BOXES(ui, {"7.5% Prof fee of 1,000.55 Added\nProf Fee is based on Current Bill\nProf Fee Charged is 75.04"});
+    EXPECT_EQ(rows("select drgName, Price, Qty, SubTotal, billType, Category, Capitated, PNo, coyName, billTo, suppres "
+                   "from BillAccum where drgName like 'Prof%'"),
+              "Prof Fee (7.5%)|75.04|1|75.04|SERVICE|CONSULTATION|NO|P/0001|0001|0001|0");
+    EXPECT_EQ(account(), "-1000.55|-1000.55|DRUG\n-75.04|-1075.59|Prof Fee (7.5%)");
+    click("cmdRefresh");
+    EXPECT_EQ(value("lblCurr"), "1,075.59");
+    EXPECT_EQ(audit("insert Prof Fee"), "insert Prof Fee (7.5%) for: ADEYEMI BOLA|75.04");
+}
+
+TEST_P(Fees, FaultLeavesTheBillAsItWas) {
+    layVisit({.category = "HMO", .client = "0201"}, {.category = "HMO", .client = "0201"});
+    item({.name = "DRUG", .price = 1000});
+    item({.name = "TEST", .client = "0201", .price = 500});
+    load();
+    save();
+    ui.forgetBoxes();
+    const QString before = lines() + account() + rows("select * from BillAccum") + rows("select * from Billing");
+    const auto unchanged = [&] {
+        EXPECT_BOXES(ui, {"disk full"});
+        ws.program.data().setStatementHook({});
+        EXPECT_EQ(lines() + account() + rows("select * from BillAccum") + rows("select * from Billing"), before);
+        EXPECT_EQ(ws.tableCount("BillingDetailsAdjust"), 0);
+    };
+    breakAt(ws.program, "amountBilled=");
+    chargeScheme("10");
+    unchanged();
+    breakAt(ws.program, "hPatients set DebtBF");
+    ui.answer(true);
+    click("cmdCap");
+    EXPECT_QUESTIONS(ui, {"Are you sure to Capitate all Items in this Bill"});
+    unchanged();
+    ui.answer(true);
+    click("cmdCap");
+    EXPECT_BOXES(ui, {" Bill Item successfully Capitated"});
+    EXPECT_EQ(debt(), "0");
+    EXPECT_EQ(audit("Capitated  Bill Item for ").section('\n', -1),
+              "Capitated  Bill Item for ADEYEMI BOLA|Item Capitated TEST: Qty:1 Amount: 500.00");
+}
+
+} // namespace
+
+} // namespace orvane
