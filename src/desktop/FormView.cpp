@@ -44,6 +44,9 @@ void FormView::orderTabs() {
         QWidget* editor = binding->editor();
         if (!editor || editor->focusPolicy() == Qt::NoFocus)
             continue;
+        // The line inside a list hands its focus to the list, a date to its line: what has the focus is put in order.
+        while (editor->focusProxy())
+            editor = editor->focusProxy();
         if (previous)
             setTabOrder(previous, editor);
         previous = editor;

@@ -58,7 +58,8 @@ bool growsAcross(const Layout& item) {
     if (item.control && (item.kind == Layout::Field || item.kind == Layout::Cell)) {
         const ControlKind kind = item.control->kind();
         const bool text = kind == ControlKind::TextBox || kind == ControlKind::ComboBox;
-        return isList(*item.control) || kind == ControlKind::ProgressBar ||
+        const bool navigates = kind == ControlKind::Tree && item.characters > 0; // a tree beside what it leads to
+        return (isList(*item.control) && !navigates) || kind == ControlKind::ProgressBar ||
                (text && (item.characters == 0 || isMultiline(*item.control)));
     }
     if (item.kind == Layout::Card)
@@ -395,7 +396,9 @@ QWidget* LayoutBuilder::tabs(const Layout& item) {
     for (const Layout& page : item.children) {
         auto* widget = new Compact<QWidget>(tabs);
         const QScopedValueRollback<QWidget*> inside(m_parent, widget);
+        m_view.mnemonics().setPage(++m_pages);
         QLayout* content = column(page.children);
+        m_view.mnemonics().setPage(0);
         content->setContentsMargins(look::spacing, look::spacing, look::spacing, look::spacing);
         widget->setLayout(content);
         const int index = tabs->addTab(widget, page.text);

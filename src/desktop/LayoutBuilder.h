@@ -41,6 +41,7 @@ private:
 
     FormView& m_view;
     QWidget* m_parent; ///< of the widgets being made
+    int m_pages = 0;   ///< of tab strips, made so far
 };
 
 } // namespace orvane

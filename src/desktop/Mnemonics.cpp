@@ -26,7 +26,7 @@ QString candidates(const QString& text) {
 Mnemonics::Mnemonics(const QString& reserved) : m_reserved(reserved.toUpper()) {}
 
 int Mnemonics::add(Kind kind, const QString& caption, const std::function<void(const QString&)>& show) {
-    m_items.append({kind, caption, show, {}});
+    m_items.append({kind, caption, show, m_page, {}, false});
     return int(m_items.size()) - 1;
 }
 
@@ -71,46 +71,83 @@ QString Mnemonics::marked(const QString& text, QChar letter) {
     return marked;
 }
 
-bool Mnemonics::isFree(QChar letter) const {
-    return !m_reserved.contains(letter) &&
-           std::none_of(m_items.cbegin(), m_items.cend(), [&](const Item& item) { return item.letter == letter; });
+QVector<Mnemonics::Item*> Mnemonics::holders(QChar letter, const Item& item) {
+    QVector<Item*> found;
+    for (Item& other : m_items) {
+        const bool together = other.page == item.page || other.page == 0 || item.page == 0;
+        if (&other != &item && together && other.letter == letter)
+            found << &other;
+    }
+    return found;
 }
 
-QChar Mnemonics::choose(const QString& text, bool mayShare) const {
-    const QString letters = candidates(text);
-    for (const QChar letter : letters)
-        if (isFree(letter))
+QChar Mnemonics::freeLetter(const Item& item) {
+    for (const QChar letter : candidates(plain(item.caption)))
+        if (!m_reserved.contains(letter) && holders(letter, item).isEmpty())
             return letter;
-    if (!mayShare)
-        return {};
+    return {};
+}
+
+QChar Mnemonics::sharedLetter(const Item& field) {
     QChar best;
     qsizetype fewest = 0;
-    for (const QChar letter : letters) {
-        if (m_reserved.contains(letter))
-            continue;
-        const auto pressed = [&](const Item& item) { return item.letter == letter && item.kind == Press; };
-        if (std::any_of(m_items.cbegin(), m_items.cend(), pressed))
-            continue;
-        const auto users =
-            std::count_if(m_items.cbegin(), m_items.cend(), [&](const Item& item) { return item.letter == letter; });
-        if (best.isNull() || users < fewest) {
+    for (const QChar letter : candidates(plain(field.caption))) {
+        const QVector<Item*> others = holders(letter, field);
+        const bool pressed =
+            std::any_of(others.cbegin(), others.cend(), [](const Item* other) { return other->kind == Press; });
+        if (!m_reserved.contains(letter) && !pressed && (best.isNull() || others.size() < fewest)) {
             best = letter;
-            fewest = users;
+            fewest = others.size();
         }
     }
     return best;
 }
 
-void Mnemonics::assign() {
-    for (Item& item : m_items) {
-        const QChar wish = asked(item.caption);
-        if (item.kind == Press && !wish.isNull() && isFree(wish))
-            item.letter = wish;
+void Mnemonics::takeFromButtons(Item& field) {
+    for (const bool mayLeaveOneWithout : {false, true}) {
+        for (const QChar letter : candidates(plain(field.caption))) {
+            const QVector<Item*> owners = holders(letter, field);
+            const bool asked =
+                std::any_of(owners.cbegin(), owners.cend(), [](const Item* owner) { return owner->wished; });
+            if (m_reserved.contains(letter) || asked)
+                continue;
+            field.letter = letter;
+            bool allFound = true;
+            for (Item* owner : owners) {
+                owner->letter = freeLetter(*owner);
+                allFound = allFound && !owner->letter.isNull();
+            }
+            if (allFound || mayLeaveOneWithout)
+                return;
+            field.letter = {};
+            for (Item* owner : owners)
+                owner->letter = letter;
+        }
     }
-    for (const Kind kind : {Press, Field})
-        for (Item& item : m_items)
-            if (item.kind == kind && item.letter.isNull())
-                item.letter = choose(plain(item.caption), kind == Field);
+}
+
+void Mnemonics::assign() {
+    for (const Kind kind : {Press, Field}) {
+        for (Item& item : m_items) {
+            const QChar wish = asked(item.caption);
+            if (item.kind != kind || wish.isNull() || m_reserved.contains(wish) || !holders(wish, item).isEmpty())
+                continue;
+            item.letter = wish;
+            item.wished = true;
+        }
+    }
+    for (Item& item : m_items)
+        if (item.kind == Press && item.letter.isNull())
+            item.letter = freeLetter(item);
+    for (Item& item : m_items) {
+        if (item.kind != Field || !item.letter.isNull())
+            continue;
+        item.letter = freeLetter(item);
+        if (item.letter.isNull())
+            item.letter = sharedLetter(item);
+        if (item.letter.isNull())
+            takeFromButtons(item);
+    }
     for (const Item& item : m_items)
         item.show(marked(plain(item.caption), item.letter));
 }

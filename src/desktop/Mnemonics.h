@@ -6,9 +6,10 @@
 
 namespace orvane {
 
-/// Gives each label, button and tab of a form the letter that it answers to with Alt. Letters of what is pressed are
-/// unique; labels of fields share one only when their words have no free letter left (Alt then goes from one to the
-/// next).
+/// Gives each label, button and tab of a form the letter that it answers to with Alt. What is pressed has its letter
+/// for itself or has none; fields share one when their words have no free letter left (Alt then goes from one to the
+/// next), and take one from a button rather than have none. What lies on different pages of a tab strip is never in
+/// sight together and does not clash.
 class Mnemonics {
 public:
     explicit Mnemonics(const QString& reserved = {});
@@ -17,6 +18,8 @@ public:
     /// `caption` as its form writes it ("&" before the letter it asks for); `show` takes the caption with its letter
     /// marked. Gives a handle for captionChanged.
     int add(Kind kind, const QString& caption, const std::function<void(const QString&)>& show);
+    /// What is added from now on lies on this page; 0: on none, in sight with every other.
+    void setPage(int page) { m_page = page; }
     void assign();
     /// The same thing says something else now: it keeps its letter where the new caption has it.
     void captionChanged(int handle, const QString& caption);
@@ -33,13 +36,20 @@ private:
         Kind kind;
         QString caption;
         std::function<void(const QString&)> show;
+        int page;
         QChar letter;
+        bool wished = false; ///< the letter is the one that its caption asks for
     };
-    QChar choose(const QString& text, bool mayShare) const;
-    bool isFree(QChar letter) const;
+    /// The items in sight with this one that have the letter.
+    QVector<Item*> holders(QChar letter, const Item& item);
+    QChar freeLetter(const Item& item);
+    QChar sharedLetter(const Item& field);
+    /// Takes a letter from buttons that have not asked for it, from one that finds another if it can.
+    void takeFromButtons(Item& field);
 
     QString m_reserved;
     QVector<Item> m_items;
+    int m_page = 0;
 };
 
 } // namespace orvane

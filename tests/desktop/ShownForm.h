@@ -10,6 +10,8 @@ public:
     explicit ShownForm(Ui& ui, const QString& name = QStringLiteral("frmShown")) : SampleForm(ui, name) {
         txtAmt0.numeric();
         cmdExtra.onClick = [this] { note("cmdExtra Click"); };
+        tmrFast.onTimer = [this] { note("tmrFast Timer"); };
+        tmrTick.setEnabled(false);
     }
 
     Layout layout() const override {
@@ -26,6 +28,7 @@ public:
              cell(status), buttons({&cmdExtra}, {&cmdClose, &cmdSave})});
     }
 
+    Timer tmrFast{*this, QStringLiteral("tmrFast"), 1, false};
     Button cmdExtra{*this, QStringLiteral("cmdExtra"), QStringLiteral("Save Copy")};
 
 private:

@@ -331,12 +331,72 @@ TEST(MnemonicsTest, AsksForFreeLettersAndSharesThemOnlyAmongFields) {
     add(Mnemonics::Field, "A A");
     add(Mnemonics::Press, "Profit && &Loss");
     add(Mnemonics::Field, "12 %");
+    letters.setPage(1);
+    add(Mnemonics::Press, "X");
+    letters.setPage(2);
+    add(Mnemonics::Press, "X");
+    add(Mnemonics::Field, "Xi");
+    letters.setPage(0);
+    add(Mnemonics::Press, "Ze");
+    add(Mnemonics::Field, "Z");
+    add(Mnemonics::Field, "U");
+    add(Mnemonics::Press, "U");
     letters.assign();
-    EXPECT_EQ(shown, (QStringList{"F&ind", "&OK", "O&K", "OK", "OK", "&AA", "&A A", "Profit && &Loss", "&12 %"}));
+    EXPECT_EQ(shown, (QStringList{"Fi&nd", "&OK", "OK", "OK", "O&K", "&AA", "&A A", "Profit && &Loss", "&12 %", "&X",
+                                  "&X", "X&i", "Z&e", "&Z", "&U", "U"}));
     letters.captionChanged(third, QStringLiteral("Other"));
     EXPECT_EQ(shown.at(third), "Other");
     letters.captionChanged(1, QStringLiteral("Go on"));
     EXPECT_EQ(shown.at(1), "Go &on") << "its letter goes along";
+}
+
+TEST_F(ViewTest, WhatIsLockedCanBeReadAndNotChanged) {
+    form.cboColor.setListIndex(1);
+    form.dtDate.setDate(QDate(2026, 3, 4));
+    form.cboColor.setLocked(true);
+    form.cboTown.setLocked(true);
+    form.dtDate.setLocked(true);
+    form.txtName.setLocked(true);
+    settleEvents();
+    type(form.txtName, "x");
+    type(form.cboTown, "ABA");
+    type(form.cboColor, "RED");
+    type(form.dtDate, "5/3/2026");
+    for (const int key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageDown}) {
+        QTest::keyClick(widget(form.cboColor), Qt::Key(key));
+        QTest::keyClick(editor(form.cboColor), Qt::Key(key));
+        QTest::keyClick(editor(form.dtDate), Qt::Key(key));
+    }
+    QTest::mouseClick(widget(form.cboColor), Qt::LeftButton);
+    settleEvents();
+    EXPECT_FALSE(widget<QComboBox>(form.cboColor)->view()->isVisible());
+    EXPECT_EQ(form.txtName.text(), "");
+    EXPECT_EQ(form.cboTown.text(), "");
+    EXPECT_EQ(form.cboColor.text(), "GREEN");
+    EXPECT_EQ(form.dtDate.date(), QDate(2026, 3, 4));
+    EXPECT_TRUE(widget(form.cboColor)->isEnabled());
+}
+
+TEST_F(ViewTest, ATimerTicksWhileItIsEnabledAndItsFormRests) {
+    form.tmrFast.setEnabled(true);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return form.events.contains("tmrFast Timer"); }));
+    form.cmdSave.onClick = [this] {
+        form.events.clear();
+        QTest::qWait(20);
+        EXPECT_FALSE(form.events.contains("tmrFast Timer")) << "not into a handler that runs";
+    };
+    press(form.cmdSave);
+    form.tmrFast.setEnabled(false);
+    events();
+    QTest::qWait(20);
+    EXPECT_EQ(events(), QStringList{});
+
+    FormWindow scripted(form, ViewSetting{{}, true});
+    form.tmrFast.setEnabled(true);
+    window.reset();
+    events();
+    QTest::qWait(20);
+    EXPECT_EQ(events(), QStringList{}) << "in a script the script says when";
 }
 
 TEST_F(ViewTest, AClosedFormIsNotTouchedAgain) {
