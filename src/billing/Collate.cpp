@@ -188,9 +188,13 @@ QString reselectText() {
 }
 
 qlonglong numberOfAddedItem(Connection& connection, const QString& consultID, const QString& name) {
-    const Recordset added(connection, Sql("select top 1 SNO from billaccum where consultID='")
-                                          << consultID << "' and drgName='" << name << "' order by SNo desc");
-    return added.integer("SNO");
+    // The name is compared here: a comparison in SQL would miss one that ends in a blank.
+    for (Recordset items(connection, Sql("select SNo,drgName from billaccum where consultID='")
+                                         << consultID << "' order by SNo desc");
+         !items.eof(); items.moveNext())
+        if (items.text("drgName") == name)
+            return items.integer("SNo");
+    throw DataError("The item that was just added cannot be found.");
 }
 
 void collateBillItems(Program& program, const BillInHand& bill) {

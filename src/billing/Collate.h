@@ -35,7 +35,8 @@ bool isVisitUnchanged(Connection& connection, const QString& consultID, const QS
 QString reselectText();
 
 /// The number of the item that the caller's transaction has just added to the visit under this name. Other departments'
-/// programs add items at any time, so that the newest of all visits need not be the caller's.
+/// programs add items at any time, so that the newest of all visits need not be the caller's. Raises DataError when
+/// there is none.
 qlonglong numberOfAddedItem(Connection& connection, const QString& consultID, const QString& name);
 
 /// The waiting items of the visit become lines of its bill: one unit an item, with its line, its charge to the running

@@ -160,6 +160,8 @@ void frmBillingVerify::saveBillRow(Connection& connection) {
     bill.set("PNo", m_bill.pno);
     bill.set("clientID", m_bill.retainID);
     bill.set("Amountbilled", 0);
+    if (bill.text("AmountBIlledInWord") != "XXX")
+        bill.set("AmountBIlledInWord", getValInWord(0));
     bill.set("profFee", amountIn(txtProf));
     bill.set("billingMonth", QLocale::c().standaloneMonthName(dtDate.date().month()));
     bill.set("billingYear", QString::number(dtDate.date().year()));

@@ -365,7 +365,7 @@ TEST_P(BillPat, LineBearsTheNumberOfItsOwnItem) {
     SecondHome otherHome(home);
     Workstation laboratory(otherHome.folder());
     ws.program.data().setStatementHook([&](const QString& tsql) {
-        if (!tsql.contains("top 1 SNO from billaccum", Qt::CaseInsensitive))
+        if (!tsql.contains("SNo,drgName from billaccum", Qt::CaseInsensitive))
             return;
         ws.program.data().setStatementHook({});
         Connection connection = laboratory.billing();
