@@ -106,11 +106,14 @@ void distributePayment(Program& program, Connection& connection, const Receipt& 
         share.paid = left > subTotal - nothingLeft ? subTotal : left;
         share.toPay = subTotal;
         addShare(connection, receipt, share);
-        // By name: a second line of the same item counts as covered with the first.
+        // By name: a second line of the same item counts as covered with the first. By number too: a name that ends
+        // in a blank is not found by its name.
         connection.execute(Sql("update BillAccum set isRct=1 where consultID = '")
-                           << receipt.billNo << "' and drgName ='" << share.billItem << "'");
+                           << receipt.billNo << "' and (drgName ='" << share.billItem << "' or SNo=" << share.sno
+                           << ")");
         connection.execute(Sql("update billingDetails set isRct=1 where billNo = '")
-                           << receipt.billNo << "' and drgName ='" << share.billItem << "'");
+                           << receipt.billNo << "' and (drgName ='" << share.billItem << "' or SNo=" << share.sno
+                           << ")");
         left -= share.paid;
         if (left < nothingLeft)
             return;
