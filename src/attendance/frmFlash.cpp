@@ -25,9 +25,9 @@ Layout frmFlash::layout() const {
     return column(
         {row({field("Attendance between", DTPicker1), field("and", DTPicker2), cell(cmdPat), stretch(), cell(cmdCPC)}),
          cell(lblShow),
-         tabs(SSTab1, {layout::page("Patients", {cell(dGexp)}),
+         tabs(SSTab1, {layout::page("Patients", {cell(dGexp), row({cell(cmdExpected), stretch()})}),
                        layout::page("Attendance History", {cell(grdData), row({cell(cmdDoc), stretch()})})}),
-         buttons({&cmdExpected, &cmdPrint}, {&cmdClose})});
+         buttons({&cmdPrint}, {&cmdClose})});
 }
 
 void frmFlash::Form_Load() {

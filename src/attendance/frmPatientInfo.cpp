@@ -1,27 +1,31 @@
 #include "attendance/frmPatientInfo.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 namespace {
 
+enum class Holds { Text, Date, LongText };
+
 struct CardField {
     const char* column;
     const char* label;
-    bool isDate = false;
+    Holds holds = Holds::Text;
 };
 
-// The card of a patient as it is shown, in reading order; two columns of fields.
+// The card of a patient as it is shown, in reading order; long texts stand below the others.
 constexpr CardField cardFields[] = {
     {"pno", "File No"},
     {"oldpno", "Old File No"},
-    {"regdate", "Registered", true},
-    {"expirydate", "Card Expires", true},
+    {"regdate", "Registered", Holds::Date},
+    {"expirydate", "Card Expires", Holds::Date},
     {"pSurname", "Surname"},
     {"pFirstname", "First Name"},
-    {"homeAddress", "Home Address"},
-    {"officeAddress", "Office Address"},
+    {"homeAddress", "Home Address", Holds::LongText},
+    {"officeAddress", "Office Address", Holds::LongText},
     {"pPhoneNo", "Phone"},
-    {"DOB", "Date of Birth", true},
+    {"DOB", "Date of Birth", Holds::Date},
     {"email", "E-mail"},
     {"sex", "Sex"},
     {"pCatID", "Category"},
@@ -33,14 +37,14 @@ constexpr CardField cardFields[] = {
     {"introducedby", "Introduced by"},
     {"policyType", "Policy Type"},
     {"cardType", "Card Type"},
-    {"pMembers", "Members"},
+    {"pMembers", "Members", Holds::LongText},
     {"bloodGroup", "Blood Group"},
     {"genotype", "Genotype"},
     {"occupation", "Occupation"},
     {"religion", "Religion"},
     {"nextOfKin", "Next of Kin"},
     {"relationToKin", "Relation to Kin"},
-    {"kinAddress", "Address of Kin"},
+    {"kinAddress", "Address of Kin", Holds::LongText},
     {"FileDuration", "File Duration"},
 };
 
@@ -48,8 +52,11 @@ constexpr CardField cardFields[] = {
 
 frmPatientInfo::frmPatientInfo(Program& owner)
     : Screen(owner, QStringLiteral("frmPatientInfo"), QStringLiteral("Patient Information")) {
-    for (const CardField& field : cardFields)
-        m_fields.push_back(std::make_unique<Label>(*this, QStringLiteral("lbl_") + QLatin1String(field.column)));
+    for (const CardField& field : cardFields) {
+        m_fields.push_back(std::make_unique<TextBox>(*this, QStringLiteral("txt_") + QLatin1String(field.column)));
+        m_fields.back()->setLocked(true);
+    }
+    txtAge.setLocked(true);
     TreeView1.onClick = [this] { TreeView1_NodeClick(); };
     cmdREpairs.onClick = [this] { cmdREpairs_Click(); };
     cmdTyres.onClick = [this] { cmdTyres_Click(); };
@@ -60,12 +67,23 @@ frmPatientInfo::~frmPatientInfo() = default;
 
 Layout frmPatientInfo::layout() const {
     using namespace orvane::layout;
-    Layout columns[3] = {column({}), column({}), column({})};
-    for (std::size_t i = 0; i < m_fields.size(); ++i)
-        columns[i * 3 / m_fields.size()].children.append(field(QLatin1String(cardFields[i].label), *m_fields[i]));
-    columns[2].children.append(field("Age", lblAge));
+    constexpr int characters = 28, columnCount = 3;
+    Layout columns[columnCount] = {column({}), column({}), column({})};
+    Layout longTexts[2] = {column({}), column({})};
+    const auto shortFields = std::count_if(std::begin(cardFields), std::end(cardFields),
+                                           [](const CardField& card) { return card.holds != Holds::LongText; });
+    int shortSeen = 0, longSeen = 0;
+    for (std::size_t i = 0; i < m_fields.size(); ++i) {
+        const QString label = QLatin1String(cardFields[i].label);
+        if (cardFields[i].holds == Holds::LongText)
+            longTexts[longSeen++ % 2].children.append(field(label, *m_fields[i]));
+        else
+            columns[shortSeen++ * columnCount / shortFields].children.append(field(label, *m_fields[i], characters));
+    }
+    columns[columnCount - 1].children.append(field("Age", txtAge, characters));
     return column({row({cell(lblHeading), stretch(), cell(LabelCount)}),
-                   growing(row({cell(TreeView1, 34), growing(column({row({columns[0], columns[1], columns[2]}),
+                   growing(row({cell(TreeView1, 52), growing(column({row({columns[0], columns[1], columns[2]}),
+                                                                     row({longTexts[0], longTexts[1]}),
                                                                      cell(lblDisplay), cell(grdData)}))})),
                    buttons({&cmdREpairs, &cmdTyres}, {&CancelButton})});
 }
@@ -103,15 +121,15 @@ void frmPatientInfo::showCard(const Recordset& patient) {
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         const QString name = QLatin1String(cardFields[i].column);
         const bool starred = name == QLatin1String("pCatID") || name == QLatin1String("empNo");
-        QString text =
-            cardFields[i].isDate ? patient.date(name).toString(QStringLiteral("dd/MM/yyyy")) : patient.text(name);
+        QString text = cardFields[i].holds == Holds::Date ? patient.date(name).toString(QStringLiteral("dd/MM/yyyy"))
+                                                          : patient.text(name);
         if (text.isEmpty() && starred)
             text = QStringLiteral("**");
         m_fields[i]->setText(text);
     }
     lblHeading.setText(QStringLiteral("Patient Information  : ") + m_name);
     const QDate born = patient.date(QStringLiteral("DOB"));
-    lblAge.setText(born.isValid()
+    txtAge.setText(born.isValid()
                        ? QString::number(program.ui().now().date().year() - born.year()) + QStringLiteral(" yrs")
                        : QStringLiteral("--"));
 }

@@ -13,7 +13,7 @@ public:
     Label lblHeading{*this, "lblHeading", "Patient Information"};
     Label LabelCount{*this, "Label"};
     Tree TreeView1{*this, "TreeView1"};
-    Label lblAge{*this, "lblAge"};
+    TextBox txtAge{*this, "txtAge"};
     Label lblDisplay{*this, "lblDisplay"};
     Grid grdData{*this, "grdData"};
     Button cmdREpairs{*this, "cmdREpairs", "&Balance List"};
@@ -30,7 +30,8 @@ private:
     void cmdREpairs_Click();
     void cmdTyres_Click();
 
-    std::vector<std::unique_ptr<Label>> m_fields; ///< one a column of the card, in the order of the table in the source
+    std::vector<std::unique_ptr<TextBox>>
+        m_fields; ///< one a column of the card, in the order of the table in the source
     QString m_pno;
     QString m_name;
 };

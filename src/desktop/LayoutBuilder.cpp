@@ -16,6 +16,7 @@ namespace {
 
 constexpr int cardWidth = 300;
 constexpr int markedSlack = 2;      ///< pixels; an underlined letter parts its neighbours a little
+constexpr int narrowestList = 160;
 constexpr int narrowestField = 110; ///< of a field without a width of its own, pixels
 
 bool isMultiline(const Control& control) {
@@ -157,7 +158,7 @@ QWidget* LayoutBuilder::control(const Layout& item, Place place) {
         widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     }
     if (isList(*item.control))
-        widget->setMinimumSize(160, 72);
+        widget->setMinimumSize(std::max(narrowestList, look::charactersWidth(*widget, item.characters)), 72);
     if (!item.text.isEmpty())
         binding->editor()->setAccessibleName(Mnemonics::plain(item.text));
     return widget;

@@ -37,13 +37,14 @@ frmDrugPrice::frmDrugPrice(Program& owner)
 
 Layout frmDrugPrice::layout() const {
     using namespace orvane::layout;
-    return column(
-        {row({field("Quick Search (Enter a few Letters)", txtSearch, 30), stretch()}), cell(grdData),
-         row({growing(column({field("Service/Drug Name", txtDrug, 44), field("Category", txtCat, 30),
-                              field("Unit Dosage for Billing", txtDosage, 12),
-                              field("Client Type (Select Private)", cboClient, 16), field("Cost", txtCost, 16)})),
-              card({large("Price (based on Private Price value)", lblPrice), field("Cost In Word", lblWord)})}),
-         buttons({&cmdEdit, &cmdDel, &cmdRefresh, &cmdLab}, {&cmdCancel, &CancelButton, &OKButton})});
+    return column({row({field("Quick Search (Enter a few Letters)", txtSearch, 30), stretch()}), cell(grdData),
+                   row({column({field("Service/Drug Name", txtDrug, 44), field("Category", txtCat, 30),
+                                field("Unit Dosage for Billing", txtDosage, 12)}),
+                        column({field("Client Type (Select Private)", cboClient, 16), field("Cost", txtCost, 16),
+                                large("Price (based on Private Price value)", lblPrice)}),
+                        stretch()}),
+                   field("Cost In Word", lblWord),
+                   buttons({&cmdEdit, &cmdDel, &cmdRefresh, &cmdLab}, {&cmdCancel, &CancelButton, &OKButton})});
 }
 
 void frmDrugPrice::Form_Load() {

@@ -65,14 +65,14 @@ TEST_P(LookupTest, PatientInfoShowsACardAndTwoHistories) {
     EXPECT_EQ(ws.value("frmPatientInfo.Label"), "No of Patients : 3");
     ws.pick("frmPatientInfo.TreeView1", "ADEYEMI BOLA [P/0001]");
     const QList<std::pair<const char*, const char*>> card = {{"lblHeading", "Patient Information  : ADEYEMI BOLA"},
-                                                             {"lbl_pno", "P/0001"},
-                                                             {"lbl_oldpno", "OLD7"},
-                                                             {"lbl_DOB", "31/12/1986"},
-                                                             {"lbl_regdate", "01/02/2020"},
-                                                             {"lbl_pCatID", "STAFF"},
-                                                             {"lbl_empNo", "**"},
-                                                             {"lbl_email", ""},
-                                                             {"lblAge", "40 yrs"}};
+                                                             {"txt_pno", "P/0001"},
+                                                             {"txt_oldpno", "OLD7"},
+                                                             {"txt_DOB", "31/12/1986"},
+                                                             {"txt_regdate", "01/02/2020"},
+                                                             {"txt_pCatID", "STAFF"},
+                                                             {"txt_empNo", "**"},
+                                                             {"txt_email", ""},
+                                                             {"txtAge", "40 yrs"}};
     for (const auto& [label, text] : card)
         EXPECT_EQ(ws.value(QStringLiteral("frmPatientInfo.") + label), text) << label;
     ws.click("frmPatientInfo.cmdREpairs");
@@ -86,9 +86,9 @@ TEST_P(LookupTest, PatientInfoShowsACardAndTwoHistories) {
     EXPECT_EQ(ws.value("frmPatientInfo.lblDisplay"), "Frequency of Hospital Visits by ADEYEMI BOLA");
 
     ws.pick("frmPatientInfo.TreeView1", "O'NEILL ADA [P/0002]");
-    EXPECT_EQ(ws.value("frmPatientInfo.lblAge"), "--");
-    EXPECT_EQ(ws.value("frmPatientInfo.lbl_pCatID"), "**");
-    EXPECT_EQ(ws.value("frmPatientInfo.lbl_oldpno"), "") << "of the patient before";
+    EXPECT_EQ(ws.value("frmPatientInfo.txtAge"), "--");
+    EXPECT_EQ(ws.value("frmPatientInfo.txt_pCatID"), "**");
+    EXPECT_EQ(ws.value("frmPatientInfo.txt_oldpno"), "") << "of the patient before";
 }
 
 TEST_P(LookupTest, PatListDisplaysAPrivateBillWithABalance) {

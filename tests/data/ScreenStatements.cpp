@@ -43,6 +43,7 @@ const char* const attendance[] = {
     "hpatients where pno like 'P/0001'",
     "select bDate,BalanceDate,billNo,pNo,Fullname,Balance from qryhBillingbalanceForPrivate where pNo='P/0001'",
     "select * from qryhVisits where pno='P/0001'",
+    "select bdate,pno,billno,clientID from qryBillingBalanceDueForPrivate where billno='001OFL0000001'",
     "select bdate,pno,billno,clientID from qryBillingBalanceDueForPrivate where pno='P/0001'",
     "SELECT pno,Fullname,ConsultID as BillNo,Date,Time,Client,Debt,Clinic,ClientCatID as ClientCat from "
     "vwhConsultingVisitsForBilling where date='2026-03-14' order by fullname asc ",
