@@ -67,6 +67,24 @@ void PriceAdjustScreen::setAmounts(Recordset& row, const ItemChange& change) {
     row.set("drgName", change.newItem);
 }
 
+void PriceAdjustScreen::offerClients(ComboBox& box, Connection& connection, const Sql& clients, const QString& billTo) {
+    box.addItem("");
+    for (Recordset client(connection, clients); !client.eof(); client.moveNext()) {
+        box.addItem(client.text("retainName"), client.text("retainCode"));
+        if (client.text("retainCode") == billTo)
+            box.setListIndex(box.count() - 1);
+    }
+}
+
+QString PriceAdjustScreen::chosenClient(const ComboBox& box) {
+    return box.listIndex() < 0 ? QString() : box.itemData(box.listIndex()).toString();
+}
+
+Sql PriceAdjustScreen::payers(const QString& billTo) const {
+    return Sql("select retainCode,retainName from hretainership where retainCode in ('")
+           << billTo << "','" << session.gBillTo << "') order by retainCode desc";
+}
+
 bool PriceAdjustScreen::isFrozen() {
     Connection connection = program.openBilling();
     if (!isBillProcessed(connection, m_billNo))

@@ -43,6 +43,13 @@ protected:
     /// Price, quantity, amount and item of the change into the row; not yet updated.
     static void setAmounts(Recordset& row, const ItemChange& change);
 
+    /// A box of clients by name, their retainCode behind, after a blank; `clients` selects both. Shows the one of
+    /// `billTo`.
+    static void offerClients(ComboBox& box, Connection& connection, const Sql& clients, const QString& billTo);
+    static QString chosenClient(const ComboBox& box); ///< its retainCode; empty for the blank
+    /// The client `billTo` and the private account.
+    Sql payers(const QString& billTo) const;
+
     qlonglong m_sno = 0;
     QString m_billNo;
     QString m_oldItem;

@@ -72,8 +72,8 @@ void frmBillDiscount::cboVehNo_Click() {
                                          << lblBill.text() << "'");
     const double billed = bill.eof() ? 0 : bill.number(QStringLiteral("AmountBilled"));
     const double paid = bill.eof() ? 0 : bill.number(QStringLiteral("Amountpaid"));
-    txtDue.setText(formatNumber(billed - paid, QStringLiteral("0.00")));
-    lblAmt.setText(formatNumber(paid, QStringLiteral("0.00")));
+    txtDue.setText(formatTwoDecimals(billed - paid));
+    lblAmt.setText(formatTwoDecimals(paid));
 }
 
 void frmBillDiscount::OKButton_Click() {

@@ -24,19 +24,7 @@ void frmPriceAdjustCustom::Form_Load() {
     if (!showRow(line, "billNo"))
         return;
     cboHead.setText(line.text("BillHead"));
-    fillBillTo(connection, line.text("billTo"));
-}
-
-/// The line's own client and the private account.
-void frmPriceAdjustCustom::fillBillTo(Connection& connection, const QString& billTo) {
-    cboPat.addItem("");
-    Recordset client(connection, Sql("select retainCode,retainName from hretainership where retainCode in ('")
-                                     << billTo << "','" << session.gBillTo << "') order by retainCode desc");
-    for (; !client.eof(); client.moveNext()) {
-        cboPat.addItem(client.text("retainName"), client.text("retainCode"));
-        if (client.text("retainCode") == billTo)
-            cboPat.setListIndex(cboPat.count() - 1);
-    }
+    offerClients(cboPat, connection, payers(line.text("billTo")), line.text("billTo"));
 }
 
 Recordset frmPriceAdjustCustom::openRow(Connection& connection) const {
@@ -52,7 +40,7 @@ std::vector<PriceAdjustScreen::Check> frmPriceAdjustCustom::checks() {
 void frmPriceAdjustCustom::saveRow(Connection& connection, Recordset& row) {
     const ItemChange now = change();
     const double charged = row.number("SubTotal");
-    const QString billTo = cboPat.listIndex() < 0 ? QString() : cboPat.itemData(cboPat.listIndex()).toString();
+    const QString billTo = chosenClient(cboPat);
     setAmounts(row, now);
     row.set("BillHead", cboHead.text().trimmed());
     if (row.text("BillType") == QLatin1String("INVESTIGATION"))

@@ -14,13 +14,12 @@ public:
     void Form_Load() override;
 
 private:
-    void fillBillTo(Connection& connection, const QString& billTo);
     Recordset openRow(Connection& connection) const override;
     std::vector<Check> checks() override;
     void saveRow(Connection& connection, Recordset& row) override;
 
     ComboBox cboHead{*this, "cboHead"};
-    ComboBox cboPat{*this, "cboPat", ComboBox::ListOnly}; ///< names of clients, their retainCode behind
+    ComboBox cboPat{*this, "cboPat", ComboBox::ListOnly};
 };
 
 } // namespace orvane

@@ -20,13 +20,9 @@ void frmPriceAdjustSplit::Form_Load() {
     const Recordset line = openRow(connection);
     if (!showRow(line, "billNo"))
         return;
-    cboPat.addItem("");
-    Recordset client(connection, Sql("select retainName,retainID,retainCode from hretainerShip order by retainNAME "));
-    for (; !client.eof(); client.moveNext()) {
-        cboPat.addItem(client.text("retainName"), client.text("retainCode"));
-        if (client.text("retainCode") == line.text("billTo"))
-            cboPat.setListIndex(cboPat.count() - 1);
-    }
+    offerClients(cboPat, connection,
+                 Sql("select retainName,retainID,retainCode from hretainerShip order by retainNAME "),
+                 line.text("billTo"));
 }
 
 Recordset frmPriceAdjustSplit::openRow(Connection& connection) const {
@@ -40,7 +36,7 @@ std::vector<PriceAdjustScreen::Check> frmPriceAdjustSplit::checks() {
 }
 
 void frmPriceAdjustSplit::saveRow(Connection&, Recordset& row) {
-    row.set("billTo", cboPat.itemData(cboPat.listIndex()).toString());
+    row.set("billTo", chosenClient(cboPat));
     row.update();
 }
 

@@ -17,7 +17,7 @@ private:
     std::vector<Check> checks() override;
     void saveRow(Connection& connection, Recordset& row) override;
 
-    ComboBox cboPat{*this, "cboPat", ComboBox::ListOnly}; ///< names of clients, their retainCode behind
+    ComboBox cboPat{*this, "cboPat", ComboBox::ListOnly};
 };
 
 } // namespace orvane

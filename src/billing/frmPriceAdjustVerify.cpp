@@ -46,7 +46,7 @@ void frmPriceAdjustVerify::Form_Load() {
         return;
     }
     readVisit(connection);
-    showItem(item);
+    showItem(connection, item);
 }
 
 void frmPriceAdjustVerify::fillRevenueTypes(Connection& connection) {
@@ -75,7 +75,7 @@ void frmPriceAdjustVerify::readVisit(Connection& connection) {
     m_retainID = visit.text("retainID");
 }
 
-void frmPriceAdjustVerify::showItem(const Recordset& item) {
+void frmPriceAdjustVerify::showItem(Connection& connection, const Recordset& item) {
     m_pno = item.text("PNo");
     m_billTo = item.text("billTo");
     m_coyName = item.text("coyName");
@@ -89,10 +89,7 @@ void frmPriceAdjustVerify::showItem(const Recordset& item) {
     if (!revType.isEmpty() && !cboRev.items().contains(revType, Qt::CaseInsensitive))
         cboRev.addItem(revType);
     cboRev.setText(revType.isEmpty() ? QStringLiteral("OTHERS") : revType);
-    cboPat.addItems({"", m_billTo});
-    if (m_billTo != session.gBillTo)
-        cboPat.addItem(session.gBillTo);
-    cboPat.setText(m_billTo);
+    offerClients(cboPat, connection, payers(m_billTo), m_billTo);
 }
 
 void frmPriceAdjustVerify::chkAll_Click() {
@@ -125,7 +122,7 @@ void frmPriceAdjustVerify::saveRow(Connection& connection, Recordset& item) {
 
 /// Who pays the item from now on. A mere request for the tariff leaves that alone.
 QString frmPriceAdjustVerify::newBillTo() const {
-    return chkRct.isChecked() || cboPat.text().isEmpty() ? m_billTo : cboPat.text();
+    return chkRct.isChecked() || cboPat.text().isEmpty() ? m_billTo : chosenClient(cboPat);
 }
 
 void frmPriceAdjustVerify::saveItem(Recordset& item, const ItemChange& now) {

@@ -15,7 +15,7 @@ public:
 private:
     void fillRevenueTypes(Connection& connection);
     void readVisit(Connection& connection);
-    void showItem(const Recordset& item);
+    void showItem(Connection& connection, const Recordset& item);
     void chkAll_Click();
 
     // Saving.

@@ -53,8 +53,8 @@ TEST_P(Adjust, ChecksInOrder) {
             shown("txtDrug"), shown("txtQty"),    shown("txtPrice"),
             shown("lblSub"),  shown("cboCap"),    shown("cboRev"),
             shown("cboPat"),  shown("cboAttend"), ws.items("frmPriceAdjustVerify.cboPat").join(',')};
-        EXPECT_EQ(shownValues, (QStringList{"WOUND DRESSING", "1", "2500.00", "2,500.00", "NO", "SERVICES", "0001",
-                                            "YES", ",0001"}));
+        EXPECT_EQ(shownValues, (QStringList{"WOUND DRESSING", "1", "2500.00", "2,500.00", "NO", "SERVICES",
+                                            "PRIVATE PATIENTS", "YES", ",PRIVATE PATIENTS"}));
         put("cboRev", "OTHERS");
         const struct {
             const char* control;
@@ -165,7 +165,7 @@ TEST_P(Adjust, WaitingItemIsBilledOrLeavesTheBill) {
     // The patient pays this one himself.
     adjust("SECOND", [&] {
         put("cboCap", "NO");
-        put("cboPat", "0001");
+        put("cboPat", "PRIVATE PATIENTS");
         press("cmdSave");
     });
     EXPECT_EQ(
@@ -317,7 +317,7 @@ TEST_P(Adjust, AsksForTheTariffAndRemembersTheChoice) {
     adjust("PARACETAMOL 500MG", [&] {
         put("txtPrice", "45");
         put("cboRev", "SERVICES");
-        put("cboPat", "0001");
+        put("cboPat", "PRIVATE PATIENTS");
         put("chkRct", "yes");
         press("cmdSave");
     });

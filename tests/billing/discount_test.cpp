@@ -65,7 +65,7 @@ TEST_P(DiscountTest, MovesTheBillByANegativeLine) {
 TEST_P(DiscountTest, ChecksInOrder) {
     fill("DISCOUNT", "");
     EXPECT_EQ(ws.value("frmBillDiscount.Label5"), "Bill/Discount for: ADEYEMI BOLA");
-    EXPECT_EQ(ws.value("frmBillDiscount.txtDue") + '|' + ws.value("frmBillDiscount.lblAmt"), "500.00|2000.00");
+    EXPECT_EQ(ws.value("frmBillDiscount.txtDue") + '|' + ws.value("frmBillDiscount.lblAmt"), "500.00|2,000.00");
     const auto refused = [&](const char* text) {
         ws.click("frmBillDiscount.OKButton");
         EXPECT_BOXES(ui, {text});
