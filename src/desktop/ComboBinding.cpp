@@ -126,9 +126,13 @@ void ComboBinding::refresh() {
     QLineEdit* line = m_combo->lineEdit();
     const int cursor = line->cursorPosition();
     const bool typing = line->hasFocus() && line->text().compare(m_box->text(), Qt::CaseInsensitive) == 0;
-    m_combo->setCurrentIndex(m_box->listIndex());
+    if (m_combo->currentIndex() != m_box->listIndex())
+        m_combo->setCurrentIndex(m_box->listIndex());
     if (line->text() != m_box->text())
         m_combo->setEditText(m_box->text());
+    // Another index has emptied what the entries are searched for.
+    if (m_combo->completer()->popup()->isVisible() && m_combo->completer()->completionPrefix() != line->text())
+        m_combo->completer()->setCompletionPrefix(line->text());
     line->setCursorPosition(typing ? cursor : 0);
     line->setToolTip(look::plainHint(m_box->text()));
 }

@@ -203,8 +203,8 @@ TEST_F(ViewTest, ACompletionPicksItsOwnEntryAmongEqualOnes) {
     type(form.cboTown, "ab");
     EXPECT_EQ(form.cboTown.text(), "ab") << "free text is the value as it is typed";
     QCompleter* completer = town->completer();
-    ASSERT_EQ(completer->completionCount(), 4) << "IBADAN contains it too";
-    Q_EMIT completer->activated(completer->completionModel()->index(3, 0));
+    ASSERT_EQ(completer->completionCount(), 2) << "both of that name, and no other";
+    Q_EMIT completer->activated(completer->completionModel()->index(1, 0));
     const QStringList seen = events();
     EXPECT_EQ(seen.count("cboTown Click"), 2) << "once as it was typed, once picked: " << qPrintable(seen.join(';'));
     EXPECT_EQ(form.cboTown.listIndex(), 3);
