@@ -16,6 +16,7 @@ frmReceiptDeposit::frmReceiptDeposit(Program& owner) : Screen(owner, "frmReceipt
     for (TextBox* box : {&txtDue, &txtHt})
         box->numeric();
     txtDuty.setLocked(true);
+    txtDuty.multiline();
     cmdInv.onClick = [this] { cmdInv_Click(); };
     cmdAdd.onClick = [this] { cmdAdd_Click(); };
     cmdCancel.onClick = [this] { cmdCancel_Click(); };
@@ -37,11 +38,12 @@ Layout frmReceiptDeposit::layout() const {
                           {"Bill No", &lblBill},
                           {"Clinic Type", &lblClinic2},
                           {"Admission", &lblAdm}}),
-                   row({column({field("Receipt Date", dtDate), field("Payment Item", cboClinic, 20),
-                                field("Being Payment for", cboPayFor, 34), field("Diagnosis", txtDiag, 40), stretch()}),
-                        card({field("Debt:", lblBF), field("Initial Payments:", lblAmt), field("Amount Due", txtDue),
-                              large("Receipt Amount", txtHt), field("In Words", txtDuty)})}),
-                   stretch(), buttons({&cmdPrint}, {&cmdAdd, &cmdCancel, &CancelButton, &OKButton})});
+                   group("Advance Payment / Deposit",
+                         {row({column({field("Receipt Date", dtDate), field("Payment Item", cboClinic, 20),
+                                       field("Being Payment for", cboPayFor, 34), field("Diagnosis", txtDiag, 40)}),
+                               card({field("Debt:", lblBF), field("Initial Payments:", lblAmt),
+                                     field("Amount Due", txtDue), large("Receipt Amount", txtHt), cell(txtDuty)})})}),
+                   buttons({&cmdPrint}, {&cmdAdd, &cmdCancel, &CancelButton, &OKButton})});
 }
 
 void frmReceiptDeposit::Form_Load() {
@@ -61,6 +63,8 @@ void frmReceiptDeposit::setEntry(bool entering) {
                                                             &txtDiag, &dtDate, &OKButton, &cmdCancel})
         control->setEnabled(entering);
     cmdAdd.setEnabled(!entering);
+    if (!entering)
+        cmdAdd.setFocus();
 }
 
 void frmReceiptDeposit::cmdInv_Click() {

@@ -17,6 +17,7 @@ frmReceiptManual::frmReceiptManual(Program& owner) : Screen(owner, "frmReceiptMa
         box->numeric();
     for (TextBox* box : {&txtEmp, &txtDuty})
         box->setLocked(true);
+    txtDuty.multiline();
     connectHandlers();
 }
 
@@ -38,11 +39,11 @@ Layout frmReceiptManual::layout() const {
     return column({row({field("Attendance between", DTPicker1), field("and", DTPicker2), cell(cmdList), stretch()}),
                    field("Patient", cboVehNo),
                    facts({{"Bill No", &lblBill}, {"Client", &lblCoy}, {"Attendance", &lblDate}}),
-                   row({column({field("Receipt No", txtRct, 18), field("Receipt Date", dtDate),
-                                field("Being Payment for", cboCat, 34), field("Received By", cboReceived, 34)}),
-                        column({field("Pay Type", cboPay, 14), field("Clinic Type", cboClinic, 24), stretch()}),
+                   row({column({row({field("Receipt No", txtRct, 18), field("Pay Type", cboPay, 14)}),
+                                row({field("Receipt Date", dtDate), field("Clinic Type", cboClinic, 24)}),
+                                field("Being Payment for", cboCat), field("Received By", cboReceived)}),
                         card({field("Amount Billed", txtBill), field("Debt", txtDebt), field("Amount Due", txtEmp),
-                              large("Amount Paid", txtHt), field("In Words", txtDuty)})}),
+                              large("Amount Paid", txtHt), cell(txtDuty)})}),
                    cell(grdData), row({stretch(), field("Total Paid:", lblTotal)}),
                    buttons({&cmdRefresh, &cmdPrint}, {&cmdAdd, &CancelButton, &OKButton})});
 }
@@ -55,6 +56,7 @@ void frmReceiptManual::Form_Load() {
     loadLists();
     for (const char* column : {"AmountBilled", "AmountPaid", "Balance"})
         grdData.setFormat(QLatin1String(column), "#,###.00");
+    grdData.setWidth("AmountInWord", 30);
     listVisits(Sql("select distinct recdate,pno,fullname,consultID from qryhVisits where  recdate = '")
                << session.dWorkDate << "'");
     refreshGrid();
@@ -83,6 +85,8 @@ void frmReceiptManual::setEntry(bool entering) {
                                                             &cboClinic, &txtBill, &txtDebt, &txtHt, &OKButton})
         control->setEnabled(entering);
     cmdAdd.setEnabled(!entering);
+    if (!entering)
+        cmdAdd.setFocus();
 }
 
 void frmReceiptManual::listVisits(const Sql& sql) {

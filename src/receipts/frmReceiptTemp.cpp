@@ -21,6 +21,7 @@ frmReceiptTemp::frmReceiptTemp(Program& owner) : Screen(owner, "frmReceiptTemp",
         box->numeric();
     for (TextBox* box : {&txtBill, &txtEmp, &txtDuty, &txtDiag})
         box->setLocked(true);
+    txtDuty.multiline();
     connectHandlers();
 }
 
@@ -39,17 +40,19 @@ void frmReceiptTemp::connectHandlers() {
 
 Layout frmReceiptTemp::layout() const {
     using namespace orvane::layout;
-    return column(
-        {row({field("Attendance Date between", DTPicker1), field("and", DTPicker2), cell(cmdInv), stretch()}),
-         field("Patient", cboVehNo),
-         facts({{"Receipt", &Label5}, {"Receipt No", &lblRct}, {"Bill date", &lblDate}, {"Clinic Type", &lblClinic2}}),
-         growing(row({column({field("Bill No", txtBill, 18), field("Receipt Date", dtDate),
-                              field("Being Payment for", cboCat, 34), field("Pay Type", cboPay, 14),
-                              field("Diagnosis", txtDiag, 34), cell(chkRev), stretch()}),
-                      growing(cell(grdData)),
-                      card({field("Current Bill", lblCurr), field("Amount Paid", lblDep), field("Amount Due", txtEmp),
-                            large("Fresh Payment", txtHt), field("In Words", txtDuty)})})),
-         buttons({&cmdRev, &cmdPrint}, {&cmdAdd, &cmdCancel, &CancelButton, &OKButton})});
+    return column({row({field("Attendance Date between", DTPicker1), field("and", DTPicker2), cell(cmdInv), stretch()}),
+                   field("Patient", cboVehNo),
+                   facts({{"Receipt for", &Label5},
+                          {"Receipt No", &lblRct},
+                          {"Bill date", &lblDate},
+                          {"Clinic Type", &lblClinic2}}),
+                   row({column({row({field("Bill No", txtBill, 20), field("Receipt Date", dtDate)}),
+                                row({field("Being Payment for", cboCat, 38), field("Pay Type", cboPay, 14)}),
+                                field("Diagnosis", txtDiag), cell(chkRev)}),
+                        card({field("Current Bill", lblCurr), field("Amount Paid", lblDep), field("Amount Due", txtEmp),
+                              large("Fresh Payment", txtHt), cell(txtDuty)})}),
+                   growing(cell(grdData)),
+                   buttons({&cmdRev, &cmdPrint}, {&cmdAdd, &cmdCancel, &CancelButton, &OKButton})});
 }
 
 void frmReceiptTemp::Form_Load() {
@@ -76,6 +79,8 @@ void frmReceiptTemp::setEntry(bool entering) {
          std::initializer_list<Control*>{&cboVehNo, &cboCat, &cboPay, &txtHt, &dtDate, &OKButton, &cmdCancel})
         control->setEnabled(entering);
     cmdAdd.setEnabled(!entering);
+    if (!entering)
+        cmdAdd.setFocus();
     cmdInv.setEnabled(true);
     cmdPrint.setEnabled(true);
 }
