@@ -39,6 +39,7 @@ private:
     void clearPatient();
     QDate showPatient(Connection& connection);
     void checkAppointment(Connection& connection);
+    void checkReview();
 
     // Saving (frmRecordsOfflineSave.cpp).
     void OKButton_Click();

@@ -37,6 +37,7 @@ void frmRecordsOffline::cboVehNo_Click() {
     }
     piX.setFile(session.gPatientsFolder + QString(sPatientNo).remove("/") + ".JPG");
     checkAppointment(connection);
+    checkReview(); // the purpose may have been chosen first, or for the patient before
 }
 
 /// A visit of this patient on this date that is still open.
@@ -95,7 +96,13 @@ void frmRecordsOffline::checkAppointment(Connection& connection) {
 
 void frmRecordsOffline::cboClient_Click() {
     session.sClientName = cboClient.text();
-    if (bFilling || cboClient.text() != "REVIEW")
+    if (!bFilling)
+        checkReview();
+}
+
+/// A review costs nothing, so it must follow the patient's last visit closely.
+void frmRecordsOffline::checkReview() {
+    if (cboClient.text() != "REVIEW")
         return;
     Connection connection = program.openBilling();
     const Recordset last(connection, Sql("select top 1 consultID,recDate from hrecords where pNo='")

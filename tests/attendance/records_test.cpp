@@ -225,6 +225,16 @@ TEST_P(Attendance, ReviewIsRefusedAfterTwelveWholeHours) {
         EXPECT_EQ(row("select Price, SubTotal from BillAccum"), QString("%1|%1").arg(at.fee));
         EXPECT_EQ(row("select Remarks from hRecords where attendedto=0"), at.purpose);
     }
+
+    // The purpose before the patient.
+    ws.run("update hRecords set attendedto=1");
+    ws.click("frmRecordsOffline.cmdAdd");
+    ws.set("frmRecordsOffline.cboClient", "REVIEW");
+    EXPECT_BOXES(ui, {});
+    begin();
+    EXPECT_EQ(ui.takeBoxes(), QStringList{tooLate});
+    EXPECT_EQ(value("cboClient"), "CONSULTATION");
+    EXPECT_EQ(ws.program.session.sClientName, "CONSULTATION");
 }
 
 TEST_P(Attendance, FollowUpHalvesTheFeeAndClosesItsAppointment) {
