@@ -151,7 +151,7 @@ void frmDebtInfo::cmdExport_Click() {
         program.box("No record is displayed for printing");
         return;
     }
-    const QString file = exportFileName("Debt Info " + Label5.text(), ui().now());
+    const QString file = exportFileName(ui().exportFolder(), "Debt Info " + Label5.text(), ui().now());
     exportWorkbook(grdData, file);
     ui().exported(file);
 }

@@ -14,9 +14,8 @@ rptPanelSummary::rptPanelSummary(Program& owner) : Screen(owner, "rptPanelSummar
 
 Layout rptPanelSummary::layout() const {
     using namespace orvane::layout;
-    const QString dates = showsClients() ? "Between" : "Receipt Date between";
-    return column({row({field(dates, DTPicker1), field("and", DTPicker2), cell(cmdInv), stretch()}), cell(lblPanel),
-                   cell(cboVehNo, 60), stretch(), buttons({}, {&CancelButton, &OKButton})});
+    return column({row({field("Receipt Date between", DTPicker1), field("and", DTPicker2), cell(cmdInv), stretch()}),
+                   cell(lblPanel), cell(cboVehNo, 60), stretch(), buttons({}, {&CancelButton, &OKButton})});
 }
 
 void rptPanelSummary::Form_Load() {
@@ -25,6 +24,8 @@ void rptPanelSummary::Form_Load() {
     DTPicker2.setDate(today);
     lblPanel.setText(session.sRptPanelLabel);
     if (showsClients()) {
+        DTPicker1.setVisible(false);
+        DTPicker2.setVisible(false);
         cmdInv.setCaption("&Get Clients");
         OKButton.setCaption("&Display Bills");
     }

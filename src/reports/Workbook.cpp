@@ -3,7 +3,6 @@
 #include "data/DataError.h"
 
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <algorithm>
 #include <xlsxwriter.h>
 
@@ -13,6 +12,7 @@ namespace {
 
 constexpr int longestCell = 32767; ///< characters, the limit of the file format
 constexpr int widestColumn = 60;   ///< characters
+constexpr int firstSheetYear = 1900;
 
 /// The sheet's format of a grid's column; the grids' "#,###.00" shows zero as ".00", which a sheet does alike.
 lxw_format* columnFormat(lxw_workbook* book, const QString& look) {
@@ -29,14 +29,23 @@ struct SheetColumn {
     int width; ///< characters
 };
 
+/// The date that a cell holds; the embedded engine keeps dates as ISO texts. None before the sheet's calendar begins.
+QDate cellDate(const QVariant& value) {
+    const QString text = value.toString();
+    const QDate date = value.userType() == QMetaType::QDate ? value.toDate()
+                       : text.size() == 10                  ? QDate::fromString(text, Qt::ISODate)
+                                                            : QDate();
+    return date.year() >= firstSheetYear ? date : QDate();
+}
+
 /// Writes one cell; gives the characters that it shows.
 int writeCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t column, const Grid& grid, int gridRow,
               const SheetColumn& look, lxw_format* dateFormat) {
     const QVariant value = grid.value(gridRow, look.gridColumn);
-    const QString shown = grid.cellText(gridRow, look.gridColumn);
     if (value.isNull())
         return 0;
-    const QDate date = QDate::fromString(shown, QStringLiteral("dd/MM/yyyy"));
+    const QString shown = grid.cellText(gridRow, look.gridColumn);
+    const QDate date = cellDate(value);
     if (date.isValid()) {
         lxw_datetime day = {date.year(), date.month(), date.day(), 0, 0, 0};
         worksheet_write_datetime(sheet, row, column, &day, dateFormat);
@@ -90,11 +99,10 @@ void exportWorkbook(const Grid& grid, const QString& file) {
     QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
 }
 
-QString exportFileName(const QString& title, const QDateTime& now) {
+QString exportFileName(const QString& folder, const QString& title, const QDateTime& now) {
     static const QRegularExpression unfit(QStringLiteral("[^\\w .-]+"), QRegularExpression::UseUnicodePropertiesOption);
     QString name = title;
     name.replace(unfit, QStringLiteral(" "));
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     QDir().mkpath(folder);
     return folder + QLatin1Char('/') + name.simplified().left(80) +
            now.toString(QStringLiteral(" yyyy-MM-dd HH.mm.ss")) + QStringLiteral(".xlsx");

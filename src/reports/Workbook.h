@@ -10,8 +10,8 @@ namespace orvane {
 /// of it then.
 void exportWorkbook(const Grid& grid, const QString& file);
 
-/// A file name for an export in the user's document folder (made when missing): title and time of day, without
-/// characters that a file name cannot bear.
-QString exportFileName(const QString& title, const QDateTime& now);
+/// A file for an export in a folder (made when missing): title and time of day, without characters that a file name
+/// cannot bear.
+QString exportFileName(const QString& folder, const QString& title, const QDateTime& now);
 
 } // namespace orvane

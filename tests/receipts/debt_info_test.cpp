@@ -41,7 +41,7 @@ protected:
             double amount, total;
             const char* remarks;
         } events[] = {{"2026-03-10", billNo, -3000, -3000, "=cmd|' /C calc'!A0"},
-                      {"2026-03-10", billNo, 1000, -2000, "Payment"},
+                      {"2026-03-10", billNo, 1000, -2000, "10/03/2026"},
                       {"2026-03-14", "001OFL0000002", -500.5, -2500.5, "MALARIA \U0001F600"}};
         for (const auto& event : events) {
             Recordset row(connection, Sql("select * from Tranxaction where 1=2"));
@@ -58,7 +58,7 @@ protected:
     const QStringList account = {
         "1\t10/03/2026\t\tO'NEILL ADA\t00012/001\t=cmd|' /C calc'!A0\t3,000.00\t.00\t(3,000)\t001OFL0000001\tPRIVATE "
         "PATIENTS",
-        "2\t10/03/2026\t\tO'NEILL ADA\t00012/001\tPayment\t.00\t1,000.00\t(2,000)\t001OFL0000001\tPRIVATE PATIENTS",
+        "2\t10/03/2026\t\tO'NEILL ADA\t00012/001\t10/03/2026\t.00\t1,000.00\t(2,000)\t001OFL0000001\tPRIVATE PATIENTS",
         "3\t14/03/2026\t\tO'NEILL ADA\t00012/001\tMALARIA \U0001F600\t500.50\t.00\t(2,501)\t001OFL0000002\tPRIVATE "
         "PATIENTS"};
 
@@ -168,7 +168,8 @@ TEST_P(DebtInfo, ExportsWhatTheGridShows) {
     EXPECT_TRUE(sheet.contains("<v>46091</v>")) << "the 10th of March 2026 as a date";
     EXPECT_TRUE(sheet.contains("<col min=\"4\" max=\"4\" width=\"13")) << "as wide as O'NEILL ADA";
     const QString texts = workbookPart(file, "xl/sharedStrings.xml");
-    for (const char* text : {">SNO<", ">Comapany<", ">=cmd|' /C calc'!A0<", ">MALARIA \U0001F600<", ">00012/001<"})
+    for (const char* text :
+         {">SNO<", ">10/03/2026<", ">Comapany<", ">=cmd|' /C calc'!A0<", ">MALARIA \U0001F600<", ">00012/001<"})
         EXPECT_TRUE(texts.contains(text)) << text;
     const QString formats = workbookPart(file, "xl/styles.xml");
     for (const char* format : {"\"#,###.00\"", "\"#,##;(#,##0)\"", "\"dd/mm/yyyy\""})
