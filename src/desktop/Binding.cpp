@@ -86,6 +86,14 @@ void Binding::user(const std::function<void()>& act) {
         schedule();
 }
 
+void Binding::focusCame() {
+    if (!m_control || !m_control->onFocus || m_view.isScripted())
+        return;
+    // After the leaving of the control that had it, which waits as well.
+    QMetaObject::invokeMethod(
+        this, [this] { user([this] { m_control->gotFocus(); }); }, Qt::QueuedConnection);
+}
+
 void Binding::focusLeft() {
     if (!m_control || !m_control->onLeave || m_view.isScripted())
         return;
@@ -108,6 +116,9 @@ bool Binding::acceptsKey(const QKeyEvent& event) {
 
 bool Binding::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
+    case QEvent::FocusIn:
+        focusCame();
+        break;
     case QEvent::FocusOut: {
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
         if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason && reason != Qt::MenuBarFocusReason)

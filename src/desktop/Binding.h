@@ -48,6 +48,7 @@ private:
     void schedule();
     void showState();
     void takeFocus();
+    void focusCame();
     void focusLeft();
     bool acceptsKey(const QKeyEvent& event);
 

@@ -62,6 +62,10 @@ void Control::dblClick() {
     raise(onDblClick);
 }
 
+void Control::gotFocus() {
+    raise(onFocus);
+}
+
 void Control::leave() {
     raise(onLeave);
 }

@@ -59,11 +59,13 @@ public:
 
     Handler onClick;
     Handler onDblClick;
+    Handler onFocus;        ///< the control has got the focus from its user
     Handler onLeave;        ///< the focus has left the control
     std::function<bool(QChar)> onKeyPress; ///< false drops the character
 
     void click();           ///< raises the event as the user does
     void dblClick();
+    void gotFocus();
     void leave();
     bool keyPress(QChar key); ///< false: the character was dropped
 

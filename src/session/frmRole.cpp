@@ -22,7 +22,7 @@ frmRole::frmRole(Program& owner)
     };
     cmdSubmit.onClick = [this] { cmdSubmit_Click(); };
     cmdCancel.onClick = [this] { unload(); };
-    cmdCancel.setToolTip(QStringLiteral("Click here to unload the form."));
+    cmdCancel.onFocus = [this] { narrate(QStringLiteral("Click here to unload the form.")); };
 }
 
 Layout frmRole::layout() const {

@@ -113,8 +113,9 @@ TEST_F(ViewTest, EnterPressesTheDefaultButtonAndEscTheCancelButton) {
 TEST_F(ViewTest, LeavingAFieldIsAnEventOfItsForm) {
     editor(form.txtName)->setFocus();
     events();
+    form.txtCode.onFocus = [this] { form.note("txtCode Focus"); };
     QTest::keyClick(editor(form.txtName), Qt::Key_Tab);
-    EXPECT_EQ(allEvents(), QStringList{"txtName Leave"});
+    EXPECT_EQ(allEvents(), (QStringList{"txtName Leave", "txtCode Focus"}));
     EXPECT_EQ(QApplication::focusWidget(), editor(form.txtCode)) << "the next one in reading order";
 }
 

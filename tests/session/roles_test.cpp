@@ -136,6 +136,8 @@ TEST_P(Roles, RoleCreationNarratesAndAddsARole) {
     ws.key("frmRole.txtRName", "\n");
     EXPECT_EQ(ws.tableCount("Roles where RoleID=21 and LoginRole='MATRON'"), 1);
     EXPECT_EQ(ws.tableCount("Roles"), 4);
+    ws.control("frmRole.cmdCancel").gotFocus();
+    EXPECT_EQ(status(), "Click here to unload the form.");
 }
 
 TEST_P(Roles, AllocationAnswersEachEventWithABox) {
