@@ -1,4 +1,5 @@
 // The windows of the open forms: the main window, those inside it, dialogs, and a script that works on them.
+#include "demo/Tool.h"
 #include "desktop/DesktopUi.h"
 #include "desktop/FormWindow.h"
 #include "desktop/ShellWindow.h"
@@ -20,6 +21,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <filesystem>
 
 namespace orvane {
 namespace {
@@ -208,56 +210,98 @@ TEST_F(WindowsTest, ABusyPointerGivesWayToABox) {
     EXPECT_FALSE(QApplication::overrideCursor());
 }
 
-class ScriptTest : public WorkstationTest {
-protected:
-    QString play(const QString& script, const PlayOptions& options, int* code) {
-        QBuffer input, output;
-        input.setData(script.toUtf8());
-        input.open(QIODevice::ReadOnly);
-        output.open(QIODevice::WriteOnly);
-        *code = runPlay(home.folder(), input, output, options);
-        return QString::fromUtf8(output.data());
-    }
+/// Plays a script without windows (`out` empty), or on the real ones with its pictures and prints in `out`.
+struct Played {
+    int code = -1;
+    QString output;
 };
-INSTANTIATE_TEST_SUITE_P(OnSqlite, ScriptTest, ::testing::Values(Engine::Sqlite));
 
-TEST_P(ScriptTest, SaysTheSameOnRealWindowsAsOnTheModel) {
-    const QString script = QStringLiteral(R"(
+Played play(const QString& home, const QByteArray& script, const QString& out = {}) {
+    QBuffer input, output;
+    input.setData(script);
+    input.open(QIODevice::ReadOnly);
+    output.open(QIODevice::WriteOnly);
+    Played played;
+    if (out.isEmpty()) {
+        played.code = runPlay(home, input, output, {});
+    } else {
+        DesktopUi desktop;
+        desktop.windows().setMainSize({1366, 768});
+        desktop.windows().setScripted(true);
+        desktop.windows().setPrintFolder(out);
+        DesktopShower shower(desktop);
+        WindowDriver driver(desktop.windows(), out);
+        PlayOptions options;
+        options.driver = &driver;
+        options.shower = &shower;
+        played.code = runPlay(home, input, output, options);
+    }
+    played.output = QString::fromUtf8(output.data());
+    return played;
+}
+
+TEST(ScriptTest, TheTourOfTheDemonstrationHospitalIsTheSameOnRealWindows) {
+    QFile tour(QStringLiteral(ORVANE_SOURCE_DIR "/demo/tour.play"));
+    ASSERT_TRUE(tour.open(QIODevice::ReadOnly));
+    const QByteArray script = tour.readAll();
+    const QTemporaryDir folder;
+    const QString out = folder.filePath(QStringLiteral("out"));
+    QDir().mkpath(out);
+    const QString model = folder.filePath(QStringLiteral("model")), twin = folder.filePath(QStringLiteral("twin"));
+    QString words;
+    QTextStream stream(&words);
+    const QStringList demo{"demo", "--home", model, "--patients", "60",        "--days",
+                           "5",    "--seed", "1",   "--until",    "2026-03-13"};
+    ASSERT_EQ(runDatabaseTool(demo, stream, stream), 0) << qPrintable(words);
+    std::filesystem::copy(model.toStdString(), twin.toStdString(), std::filesystem::copy_options::recursive);
+    const Played onModel = play(model, script);
+    EXPECT_EQ(onModel.code, 0) << qPrintable(onModel.output);
+    EXPECT_EQ(play(twin, script, out).output, onModel.output);
+    EXPECT_EQ(QImage(out + QStringLiteral("/01-shell.png")).size(), QSize(1366, 768));
+    EXPECT_TRUE(QFile::exists(out + QStringLiteral("/frmCashReceipt-1.pdf")));
+}
+
+// What the tour does not touch: an emptied date, entries read back, a list picked by its number, keys one by one.
+TEST(ScriptTest, ActsOnWidgetsAsOnTheModel) {
+    TestHome home;
+    {
+        Workstation station(home.folder());
+        station.layHospital();
+    }
+    const QByteArray script = R"(
 clock server "2026-03-14 09:30:00"
 start
 state MdiTolmek.mnuAccts
 menu mnuOffAttd
-set frmRecordsOffline.txtName "A"
-click frmRecordsOffline.cmdOK
+key frmRecordsOffline.txtName "AD"
+print frmRecordsOffline.txtName
+key frmRecordsOffline.txtName "\n"
 items frmRecordsOffline.cboVehNo
 set frmRecordsOffline.dtNext "2026-03-20"
 print frmRecordsOffline.dtNext
 set frmRecordsOffline.dtNext ""
 print frmRecordsOffline.dtNext
+set frmRecordsOffline.chkCon "yes"
+print frmRecordsOffline.chkCon
+leave frmRecordsOffline.txtName
+dblclick MdiTolmek.Picture1
 timer MdiTolmek.Timer2
 print MdiTolmek.lblDate
-picture main.png
+rows frmRecordsOffline.grdData
+open frmUsers
+pick frmUsers.TreeView1 "AMINA"
+close frmUsers
 close frmRecordsOffline
+answer no
+close MdiTolmek
 answer yes
 close MdiTolmek
-)");
-    // The session that the fixture started holds the home: end it first.
-    ui.answer(true);
-    ws.close(QStringLiteral("MdiTolmek"));
-    ui.takeQuestions();
-    int modelCode = -1, windowCode = -1;
-    const QString onModel = play(script, {}, &modelCode);
-    QTemporaryDir out;
-    DesktopUi desktop;
-    desktop.windows().setMainSize({1366, 768});
-    desktop.windows().setScripted(true);
-    DesktopShower shower(desktop);
-    WindowDriver driver(desktop.windows(), out.path());
-    const QString onWindows = play(script, {std::nullopt, &driver, &shower}, &windowCode);
-    EXPECT_EQ(onWindows, onModel);
-    EXPECT_EQ(modelCode, 0) << qPrintable(onModel);
-    EXPECT_EQ(windowCode, 0);
-    EXPECT_EQ(QImage(out.filePath(QStringLiteral("main.png"))).size(), QSize(1366, 768));
+)";
+    const QTemporaryDir out;
+    const Played onModel = play(home.folder(), script);
+    const Played onWindows = play(home.folder(), script, out.path());
+    EXPECT_EQ(onModel.code, 0) << qPrintable(onModel.output);
+    EXPECT_EQ(onWindows.output, onModel.output);
 }
 
 } // namespace
