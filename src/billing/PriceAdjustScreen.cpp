@@ -24,6 +24,15 @@ PriceAdjustScreen::PriceAdjustScreen(Program& owner, const QString& formName, co
     CancelButton.onClick = [this] { unload(); };
 }
 
+Layout PriceAdjustScreen::fieldsAbove(std::initializer_list<Layout> further) const {
+    using namespace orvane::layout;
+    Layout all = column({field("Item", txtDrug, 60), field("Quantity", txtQty, 10), field("Unit Price", txtPrice, 14),
+                         field("Amount", lblSub)});
+    for (const Layout& part : further)
+        all.children.append(part);
+    return all;
+}
+
 bool PriceAdjustScreen::showRow(const Recordset& row, const QString& billColumn) {
     if (row.eof()) {
         cmdSave.setEnabled(false);

@@ -29,6 +29,8 @@ protected:
     /// What follows when the save has been committed.
     virtual void afterSave() {}
 
+    /// The fields that all of them have, with those of one screen below.
+    Layout fieldsAbove(std::initializer_list<Layout> further) const;
     /// Shows a row of BillAccum or BillingDetails and keeps it as the old state; `billColumn` bears the bill's number.
     /// Without a row nothing can be saved: false.
     bool showRow(const Recordset& row, const QString& billColumn);

@@ -254,7 +254,8 @@ void frmBillingVerify::getDiagnosis(Connection& connection) {
 }
 
 void frmBillingVerify::getApprvCode(Connection& connection) {
-    const Recordset code(connection, Sql("select * from hApprvCode where consultID='") << m_bill.consultID << "'");
+    const Recordset code(connection, Sql("select * from hApprvCode where consultID='")
+                                         << m_bill.consultID << "' order by SNO");
     txtApprv.setText(code.eof() ? QString() : code.text("ApprvCode"));
 }
 

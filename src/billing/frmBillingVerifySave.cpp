@@ -182,7 +182,8 @@ void frmBillingVerify::saveApprvCode() {
         return;
     try {
         Connection connection = program.openBilling();
-        Recordset row(connection, Sql("select * from hApprvCode where consultID='") << m_bill.consultID << "'");
+        Recordset row(connection, Sql("select * from hApprvCode where consultID='")
+                                      << m_bill.consultID << "' order by SNO");
         const bool isNew = row.eof();
         if (isNew) {
             row.addNew();

@@ -6,9 +6,7 @@ frmPriceAdjust::frmPriceAdjust(Program& owner) : PriceAdjustScreen(owner, "frmPr
 
 Layout frmPriceAdjust::layout() const {
     using namespace orvane::layout;
-    return column({field("Item", txtDrug, 44), field("Quantity", txtQty, 10), field("Unit Price", txtPrice, 14),
-                   field("Amount", lblSub), field("Capitated", cboCap, 8), stretch(),
-                   buttons({}, {&CancelButton, &cmdSave})});
+    return fieldsAbove({field("Capitated", cboCap, 8), stretch(), buttons({}, {&CancelButton, &cmdSave})});
 }
 
 void frmPriceAdjust::Form_Load() {

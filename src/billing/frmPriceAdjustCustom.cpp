@@ -11,9 +11,8 @@ frmPriceAdjustCustom::frmPriceAdjustCustom(Program& owner)
 
 Layout frmPriceAdjustCustom::layout() const {
     using namespace orvane::layout;
-    return column({field("Item", txtDrug, 44), field("Quantity", txtQty, 10), field("Unit Price", txtPrice, 14),
-                   field("Amount", lblSub), field("Rpt Heading", cboHead, 44), field("Bill To", cboPat, 44), stretch(),
-                   buttons({}, {&CancelButton, &cmdSave})});
+    return fieldsAbove({field("Rpt Heading", cboHead, 44), field("Bill To", cboPat, 44), stretch(),
+                        buttons({}, {&CancelButton, &cmdSave})});
 }
 
 void frmPriceAdjustCustom::Form_Load() {

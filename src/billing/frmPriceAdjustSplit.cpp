@@ -10,9 +10,7 @@ frmPriceAdjustSplit::frmPriceAdjustSplit(Program& owner)
 
 Layout frmPriceAdjustSplit::layout() const {
     using namespace orvane::layout;
-    return column({field("Item", txtDrug, 44), field("Quantity", txtQty, 10), field("Unit Price", txtPrice, 14),
-                   field("Amount", lblSub), field("Bill To", cboPat, 44), stretch(),
-                   buttons({}, {&CancelButton, &cmdSave})});
+    return fieldsAbove({field("Bill To", cboPat, 44), stretch(), buttons({}, {&CancelButton, &cmdSave})});
 }
 
 void frmPriceAdjustSplit::Form_Load() {

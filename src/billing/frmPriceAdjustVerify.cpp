@@ -26,10 +26,9 @@ frmPriceAdjustVerify::frmPriceAdjustVerify(Program& owner)
 
 Layout frmPriceAdjustVerify::layout() const {
     using namespace orvane::layout;
-    return column({field("Item", txtDrug, 44), field("Quantity", txtQty, 10), field("Unit Price", txtPrice, 14),
-                   field("Amount", lblSub), field("Capitated", cboCap, 8), field("Attended", cboAttend, 8),
-                   field("Revenue Type", cboRev, 24), field("Bill To", cboPat, 30), cell(chkAll), cell(chkRct),
-                   stretch(), buttons({&cmdCancel}, {&CancelButton, &cmdSave})});
+    return fieldsAbove({field("Capitated", cboCap, 8), field("Attended", cboAttend, 8),
+                        field("Revenue Type", cboRev, 24), field("Bill To", cboPat, 44), cell(chkAll), cell(chkRct),
+                        stretch(), buttons({&cmdCancel}, {&CancelButton, &cmdSave})});
 }
 
 void frmPriceAdjustVerify::Form_Load() {
