@@ -45,7 +45,7 @@ Options readOptions(const QCoreApplication& application) {
     const QCommandLineOption play(QStringLiteral("play"), QStringLiteral("Play a script ('-': standard input)."),
                                   QStringLiteral("FILE"));
     const QCommandLineOption window(QStringLiteral("window"), QStringLiteral("Play the script on the real windows."));
-    const QCommandLineOption out(QStringLiteral("out"), QStringLiteral("Where a script's pictures and prints go."),
+    const QCommandLineOption out(QStringLiteral("out"), QStringLiteral("Where a script's pictures, prints and exports go."),
                                  QStringLiteral("DIR"));
     parser.addOptions({home, user, login, play, window, out});
     parser.process(application);
@@ -73,7 +73,7 @@ int play(const Options& options, Driver* driver, Shower* shower) {
         return complain(options.play + QStringLiteral(": ") + script.errorString());
     if (!output.open(stdout, QIODevice::WriteOnly))
         return complain(QStringLiteral("The standard output cannot be written."));
-    return runPlay(options.home, script, output, {options.user, driver, shower});
+    return runPlay(options.home, script, output, {options.user, options.out, driver, shower});
 }
 
 int playOnWindows(const Options& options) {

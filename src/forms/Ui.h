@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QStandardPaths>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -33,6 +34,10 @@ public:
     virtual void printForm(Form& form) = 0; ///< the form as it stands, on the default printer, or a dialog's choice
     /// A list report: `file` is the layout's name, `title` the window title.
     virtual void viewReport(const QString& file, const QString& title, const Recordset& rows) = 0;
+    /// Where workbooks are saved: the user's documents.
+    virtual QString exportFolder() const {
+        return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    }
     /// A saved workbook is opened with the desktop's program.
     virtual void exported(const QString& file) = 0;
     virtual void playSound(const QString& file) = 0;

@@ -12,6 +12,7 @@ int runPlay(const QString& homeFolder, QIODevice& script, QIODevice& output, con
     Shower noWindows;
     EventLog log(output);
     ScriptUi ui(log, options.shower ? *options.shower : noWindows);
+    ui.setExportFolder(options.outFolder.isEmpty() ? homeFolder : options.outFolder);
     Program program(homeFolder, ui);
     registerScreens(program);
     const Player::Entry entry{[&] { Main(program, options.userName); },

@@ -11,6 +11,7 @@ namespace orvane {
 
 struct PlayOptions {
     std::optional<QString> userName; ///< instead of the one in sysdoc.sys
+    QString outFolder;               ///< where exports go; empty: the home folder
     Driver* driver = nullptr;        ///< over real windows; null: on the form model
     Shower* shower = nullptr;        ///< shows the real windows; null: none
 };

@@ -28,6 +28,7 @@ public:
     std::function<void(Form&)> runInside;
     void queueAnswer(const Answer& answer) { m_answers.push_back(answer); }
     const std::deque<Answer>& unusedAnswers() const { return m_answers; }
+    void setExportFolder(const QString& folder) { m_exportFolder = folder; }
     void setClock(const QDateTime& at) { m_clock = at; }
     /// The form that alone takes its user's actions now; null when none is modal.
     Form* modalForm() const { return m_modal.isEmpty() ? nullptr : m_modal.last(); }
@@ -43,6 +44,7 @@ public:
     void processEvents() override;
     void printForm(Form& form) override;
     void viewReport(const QString& file, const QString& title, const Recordset& rows) override;
+    QString exportFolder() const override { return m_exportFolder; }
     void exported(const QString& file) override;
     void playSound(const QString& file) override;
     QDateTime now() const override;
@@ -57,6 +59,7 @@ private:
     Shower& m_shower;
     std::deque<Answer> m_answers;
     QDateTime m_clock; ///< invalid: the real one
+    QString m_exportFolder;
     QSet<const Form*> m_open;
     QVector<Form*> m_modal;
 };

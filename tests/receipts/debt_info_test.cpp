@@ -8,9 +8,6 @@ namespace {
 
 class DebtInfo : public ReceiptTest {
 protected:
-    DebtInfo() { qputenv("HOME", home.folder().toUtf8()); } // its documents are where exports go
-    ~DebtInfo() override { qputenv("HOME", m_home); }
-
     void set(const QString& control, const QString& value) { ws.set("frmDebtInfo." + control, value); }
     void click(const QString& control) { ws.click("frmDebtInfo." + control); }
     QString value(const QString& control) { return ws.value("frmDebtInfo." + control); }
@@ -63,7 +60,6 @@ protected:
         "PATIENTS"};
 
 private:
-    QByteArray m_home = qgetenv("HOME");
 };
 
 ORVANE_ON_EACH_ENGINE(DebtInfo);
@@ -157,7 +153,7 @@ TEST_P(DebtInfo, ExportsWhatTheGridShows) {
     click("cmdExport");
     ASSERT_EQ(ui.exports.size(), 1);
     const QString file = ui.exports.first();
-    EXPECT_EQ(file, home.folder() + "/Documents/Debt Info Search for O NEILL ADA 2026-03-14 09.30.00.xlsx");
+    EXPECT_EQ(file, ui.exportFolder() + "/Debt Info Search for O NEILL ADA 2026-03-14 09.30.00.xlsx");
     EXPECT_FALSE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther));
 
     const QString sheet = workbookPart(file, "xl/worksheets/sheet1.xml");
@@ -176,8 +172,8 @@ TEST_P(DebtInfo, ExportsWhatTheGridShows) {
         EXPECT_TRUE(formats.contains(format)) << format;
 
     // A folder that takes no file: said once, and the screen stands.
-    ASSERT_TRUE(QDir(home.folder() + "/Documents").removeRecursively());
-    QFile blocker(home.folder() + "/Documents");
+    ASSERT_TRUE(QDir(ui.exportFolder()).removeRecursively());
+    QFile blocker(ui.exportFolder());
     ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
     click("cmdExport");
     EXPECT_EQ(ui.takeBoxes().value(0).left(file.size()), file);

@@ -8,6 +8,7 @@
 #include "support/TestHome.h"
 
 #include <QRandomGenerator>
+#include <QTemporaryDir>
 
 namespace orvane {
 namespace {
@@ -35,6 +36,7 @@ public:
     void processEvents() override {}
     void printForm(Form&) override {}
     void viewReport(const QString&, const QString&, const Recordset&) override {}
+    QString exportFolder() const override { return m_documents.path(); }
     void exported(const QString&) override {}
     void playSound(const QString&) override {}
     QDateTime now() const override { return QDateTime(QDate(2026, 3, 14), QTime(9, 30)); }
@@ -42,6 +44,7 @@ public:
 
 private:
     QRandomGenerator& m_random;
+    QTemporaryDir m_documents;
 };
 
 class EveryScreenTest : public ::testing::TestWithParam<Engine> {

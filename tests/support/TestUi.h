@@ -4,6 +4,7 @@
 #include "support/Print.h"
 
 #include <QStringList>
+#include <QTemporaryDir>
 #include <deque>
 #include <functional>
 
@@ -61,6 +62,7 @@ public:
     void processEvents() override {}
     void printForm(Form& form) override;
     void viewReport(const QString& file, const QString& title, const Recordset& rows) override;
+    QString exportFolder() const override { return m_documents.path(); }
     void exported(const QString& file) override { exports << file; }
     void playSound(const QString& file) override { sounds << file; }
     QDateTime now() const override { return clock; }
@@ -77,6 +79,7 @@ private:
     };
     std::optional<Answer> takeAnswer(const QString& asked);
 
+    QTemporaryDir m_documents;
     std::deque<Answer> m_answers;
     std::deque<Modal> m_modals;
     QList<Box> m_boxes;
