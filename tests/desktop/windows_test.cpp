@@ -26,7 +26,7 @@
 namespace orvane {
 namespace {
 
-/// The sample form without its menus, so that it is no main window: its menus go to another form.
+/// A small form without menus, so that it is no main window.
 class PlainForm : public Form {
 public:
     PlainForm(Ui& ui, const QString& name) : Form(ui, name, name) {}
