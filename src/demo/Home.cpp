@@ -17,8 +17,9 @@ constexpr const char* serverName = "HALDEN";
 /// Hidden entries of the main window that a hospital may turn on.
 constexpr const char* menuSection = "[menu]\n"
                                     "; hidden entries of the main window: 1 shows an entry\n"
-                                    "mnuRct = 0\n"
-                                    "mnuAdmDepo = 0\n"
+                                    "mnuRct = 1\n"
+                                    "mnuAdmDepo = 1\n"
+                                    "mnuDisc = 1\n"
                                     "mnusecurity = 0\n";
 
 void writeFile(const QString& path, const QByteArray& content) {
