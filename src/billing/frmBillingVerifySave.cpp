@@ -148,8 +148,8 @@ void frmBillingVerify::saveVisit(Connection& connection) {
                                                               << "'  where consultID = '" << m_bill.consultID << "'");
 }
 
-/// The Billing row. Its amount is that of the bill's lines, never the sum on the screen; a bill without lines amounts
-/// to nothing, and one whose items were all capitated keeps the mark of that in its words.
+/// The Billing row. Its amount is that of the bill's lines, never the sum on the screen. A bill without lines keeps the
+/// amount that it has, such as that of a paper receipt, and "XXX" for its words: the mark of a capitated or paper bill.
 void frmBillingVerify::saveBillRow(Connection& connection) {
     Recordset bill(connection, Sql("select * from billing where billNo='") << m_bill.consultID << "'");
     if (bill.eof()) {
@@ -159,9 +159,8 @@ void frmBillingVerify::saveBillRow(Connection& connection) {
     bill.set("bdate", dtDate.date());
     bill.set("PNo", m_bill.pno);
     bill.set("clientID", m_bill.retainID);
-    bill.set("Amountbilled", 0);
     if (bill.text("AmountBIlledInWord") != "XXX")
-        bill.set("AmountBIlledInWord", getValInWord(0));
+        bill.set("AmountBIlledInWord", getValInWord(bill.number("Amountbilled")));
     bill.set("profFee", amountIn(txtProf));
     bill.set("billingMonth", QLocale::c().standaloneMonthName(dtDate.date().month()));
     bill.set("billingYear", QString::number(dtDate.date().year()));

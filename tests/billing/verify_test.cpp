@@ -253,17 +253,19 @@ TEST_P(Verify, SaveWithoutReceiptFreezesTheVisit) {
     EXPECT_EQ(ws.scalar("select Amountbilled from Billing"), "1200.75");
 }
 
-/// The words of a bill are those of its amount, also when its last line is gone; "XXX" marks a bill capitated whole.
-TEST_P(Verify, BillWithoutLinesAmountsToNothingInWordsToo) {
+/// A bill without lines keeps its amount, such as that of a paper receipt, and its words follow; "XXX" marks a bill
+/// that was capitated whole or written on paper.
+TEST_P(Verify, BillWithoutLinesKeepsItsAmount) {
     layVisit();
     item({.price = 700});
     load();
     EXPECT_EQ(rows("select Amountbilled, AmountBIlledInWord from Billing"), "700|SEVEN HUNDRED NAIRA");
     ws.run("delete from BillAccum");
     ws.run("delete from BillingDetails");
-    for (const char* words : {" NAIRA", "XXX"}) {
+    ws.run("update Billing set Amountbilled=250");
+    for (const char* words : {"TWO HUNDRED AND FIFTY NAIRA", "XXX"}) {
         save();
-        EXPECT_EQ(rows("select Amountbilled, AmountBIlledInWord from Billing"), QString("0|") + words);
+        EXPECT_EQ(rows("select Amountbilled, AmountBIlledInWord from Billing"), QString("250|") + words);
         ws.run("update Billing set AmountBIlledInWord='XXX'");
         click("cmdRefresh");
     }
