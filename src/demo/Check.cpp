@@ -23,6 +23,11 @@ struct Check {
     "(select ReceiptNo,billNo,AmountPaid,SUBSTRING(Remarks, 21, 50) as Reversed from Payments "                        \
     "where Remarks like 'REVERSAL for RctNo: %')"
 
+/// The bills of which an item that a receipt covers was changed.
+#define ADJUSTED_PAID_BILLS                                                                                            \
+    "(select distinct p.billNo from BillingDetailsAdjust j inner join PaymentDetails p "                               \
+    "on p.billNo = j.billNo and p.BillItem = j.BillItem)"
+
 /// Every line, waiting item and trace of a change that bears the name of a balance carried from earlier visits.
 #define CARRIED_BALANCES                                                                                               \
     "(select consultID as billNo,drgName as Item from BillAccum "                                                      \
@@ -135,17 +140,15 @@ constexpr Check billingChecks[] = {
     // covered under the name of another one and renamed later shows in the trace of the changes.
     {"covered item without payment",
      "select top 1000 a.SNo,a.consultID,a.drgName from BillAccum a left join BillingDetails d on d.SNo = a.SNo "
-     "where a.isRct = 1 and not exists (select p.SNo from PaymentDetails p where p.billNo = a.consultID "
-     "and (p.snoID = a.SNo or p.BillItem = a.drgName or p.BillItem = d.drgName)) "
-     "and not exists (select p.SNo from PaymentDetails p inner join BillingDetailsAdjust j on j.billNo = p.billNo "
-     "and j.BillItem = p.BillItem where p.billNo = a.consultID)",
+     "left join " ADJUSTED_PAID_BILLS " t on t.billNo = a.consultID "
+     "where a.isRct = 1 and t.billNo is null and not exists (select p.SNo from PaymentDetails p "
+     "where p.billNo = a.consultID and (p.snoID = a.SNo or p.BillItem = a.drgName or p.BillItem = d.drgName))",
      "visit %2: the item %1, %3, is marked as covered by a receipt, but no receipt covers it"},
     {"covered line without payment",
      "select top 1000 d.SNo,d.billNo,d.drgName from BillingDetails d left join BillAccum a on a.SNo = d.SNo "
-     "where d.isRct = 1 and not exists (select p.SNo from PaymentDetails p where p.billNo = d.billNo "
-     "and (p.snoID = d.SNo or p.BillItem = d.drgName or p.BillItem = a.drgName)) "
-     "and not exists (select p.SNo from PaymentDetails p inner join BillingDetailsAdjust j on j.billNo = p.billNo "
-     "and j.BillItem = p.BillItem where p.billNo = d.billNo)",
+     "left join " ADJUSTED_PAID_BILLS " t on t.billNo = d.billNo "
+     "where d.isRct = 1 and t.billNo is null and not exists (select p.SNo from PaymentDetails p "
+     "where p.billNo = d.billNo and (p.snoID = d.SNo or p.BillItem = d.drgName or p.BillItem = a.drgName))",
      "bill %2: the line %3 of the item %1 is marked as covered by a receipt, but no receipt covers it"},
     {"correction without patient",
      "select top 1000 r.SNo,r.billNo,r.PNo,r.Debt from hDebtReview r "
@@ -182,6 +185,7 @@ constexpr Check billingChecks[] = {
 };
 
 #undef REVERSALS
+#undef ADJUSTED_PAID_BILLS
 #undef CARRIED_BALANCES
 
 constexpr Check accountingChecks[] = {
