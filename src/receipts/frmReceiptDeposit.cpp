@@ -97,6 +97,8 @@ void frmReceiptDeposit::cboVehNo_Click() {
     if (cboVehNo.listIndex() < 0)
         return;
     if (cboPay.text().isEmpty()) {
+        // The patient before may not stay in hand under the name of this one.
+        resetFields();
         program.box("Please enter Payment type");
         cboPay.setFocus();
         return;
@@ -116,9 +118,11 @@ void frmReceiptDeposit::cboVehNo_Click() {
         sendToReceiptEntry();
         return;
     }
-    loadReceiptNumber(connection);
+    const QString number = nextReceiptNumber(connection);
     loadAccount(connection);
     txtDiag.setText(diagnosisOfVisit(connection, lblBill.text()));
+    // Only now: a patient whom a fault left half read gets no receipt.
+    lblRct.setText(number);
     showAdmission(connection);
 }
 
@@ -141,16 +145,16 @@ void frmReceiptDeposit::sendToReceiptEntry() {
     program.open("frmReceiptTemp");
 }
 
-/// Shows the number that comes next; the save forms it again.
-void frmReceiptDeposit::loadReceiptNumber(Connection& connection) {
+/// The number that comes next, empty when there is none; the save forms it again. Reads what goes with it.
+QString frmReceiptDeposit::nextReceiptNumber(Connection& connection) {
     const Recordset patient(connection, Sql("select coyname from qryhfullname where pno='") << m_pno << "'");
     m_clientID = patient.eof() ? QString() : patient.text("coyname");
     const ReceiptNumber receipt = formReceiptNumber(program, connection, ReceiptForm::ClinicCoded, lblBill.text());
-    lblRct.setText(receipt.number);
     lblClinic2.setText(receipt.clinicType);
     m_clinicID = receipt.clinicID;
     if (receipt.number.isEmpty())
         program.box(receipt.refusal);
+    return receipt.number;
 }
 
 void frmReceiptDeposit::loadAccount(Connection& connection) {

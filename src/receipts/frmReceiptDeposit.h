@@ -49,7 +49,7 @@ private:
     bool billExists(Connection& connection) const;
     void sendToReceiptEntry();
     void clearPatient();
-    void loadReceiptNumber(Connection& connection);
+    QString nextReceiptNumber(Connection& connection);
     void loadAccount(Connection& connection);
     void showAdmission(Connection& connection);
     void OKButton_Click();

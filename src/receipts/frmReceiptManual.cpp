@@ -120,11 +120,12 @@ void frmReceiptManual::cboVehNo_Click() {
     m_pno = entry.number;
     lblDate.setText(entry.name.mid(entry.name.lastIndexOf(" @ ") + 3));
     session.gConsultID = entry.bill;
-    lblBill.setText(entry.bill);
     Connection connection = program.openBilling();
     const Recordset patient(connection,
                             Sql("select fullname,coyname,pcatID,clientcatID,debt from qryhfullname where pno='")
                                 << m_pno << "'");
+    // Only now: a patient whom a fault left half read gets no bill.
+    lblBill.setText(entry.bill);
     if (patient.eof())
         return;
     txtDebt.setText(formatTwoDecimals(patient.number("debt")));
@@ -197,11 +198,13 @@ bool frmReceiptManual::checkFields() {
         {cboReceived.text().isEmpty(), "Please enter Name of Receiver", cboReceived},
         {cboPay.text().isEmpty(), "Please enter Payment type", cboPay},
         {cboClinic.text().isEmpty(), "Please enter Clinic type", cboClinic},
-        // Texts where a number belongs, and a patient nobody picked, are refused in the words of their own checks.
+        // Texts where a number belongs, a patient nobody picked and a receiver without his number are refused in the
+        // words of their own checks.
         {!parseAmount(txtHt.text()) || *parseAmount(txtHt.text()) < 0, "Please enter Amount Paid", txtHt},
         {!txtBill.text().trimmed().isEmpty() && parseAmount(txtBill.text()).value_or(-1) < 0,
          "Please enter Amount Billed", txtBill},
         {cboVehNo.listIndex() < 0 || lblBill.text().isEmpty(), "Please Select Patient Name", cboVehNo},
+        {readListEntry(cboReceived.text()).number.isEmpty(), "Please enter Name of Receiver", cboReceived},
     };
     for (const auto& check : checks) {
         if (check.missing) {

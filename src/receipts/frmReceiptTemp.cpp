@@ -116,6 +116,7 @@ void frmReceiptTemp::cboVehNo_Click() {
 void frmReceiptTemp::loadBillFigures() {
     clearBill();
     txtBill.setText("0");
+    QString billNo, pno;
     {
         Connection connection = program.openBilling();
         const Recordset bill(connection,
@@ -123,9 +124,9 @@ void frmReceiptTemp::loadBillFigures() {
                                  "qryBillingBalanceDueForPrivate where billno='")
                                  << session.gConsultID << "'");
         if (!bill.eof()) {
-            m_billNo = bill.text("billno");
-            m_pno = bill.text("pno");
-            txtBill.setText(m_billNo);
+            billNo = bill.text("billno");
+            pno = bill.text("pno");
+            txtBill.setText(billNo);
             lblDate.setText(bill.date("Date").toString("dd/MM/yyyy"));
             lblCurr.setText(formatTwoDecimals(bill.number("amountbilled")));
         }
@@ -135,6 +136,9 @@ void frmReceiptTemp::loadBillFigures() {
     const double paid = refreshBillAmountPaid(program, session.gConsultID);
     lblDep.setText(formatTwoDecimals(paid));
     txtEmp.setText(formatTwoDecimals(parseAmount(lblCurr.text()).value_or(0) - paid));
+    // Only now: a bill that a fault left half read takes no money.
+    m_billNo = billNo;
+    m_pno = pno;
 }
 
 void frmReceiptTemp::clearBill() {
@@ -166,10 +170,12 @@ void frmReceiptTemp::chkRev_Click() {
 }
 
 void frmReceiptTemp::cmdAdd_Click() {
+    // A reversal of which nobody knows whether it was saved still stands here, with its purpose and its date.
+    if (m_reversal)
+        resetFields();
     setEntry(true);
     cmdInv_Click();
     chkRev.setChecked(false);
-    m_reversal = false;
     lblRct.setText(numberToCome);
     cboVehNo.setFocus();
 }

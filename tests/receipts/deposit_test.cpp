@@ -214,6 +214,36 @@ TEST_P(Deposit, PaymentItems) {
     }
 }
 
+/// Money never goes to a patient who was left for another, nor to one whose account was not read to the end.
+TEST_P(Deposit, APatientInHandIsReadWholeOrNotAtAll) {
+    layVisit();
+    layVisit({.pno = "P/0002", .surname = "OTHER", .debt = -700}, {.consultID = "001OFL0000002", .pno = "P/0002"});
+    ws.run("insert into Tranxaction (entryDate, PNo, billNo, Amount, RunningTotal, Remarks) values "
+           "('2026-03-01','P/0002','OLD',-700,-700,'OLD')");
+    begin();
+    set("cboPay", "");
+    ws.pick("frmReceiptDeposit.cboVehNo", "OTHER");
+    EXPECT_BOXES(ui, {"Please enter Payment type"});
+    set("cboPay", "CASH");
+    set("txtHt", "100");
+    click("OKButton");
+    EXPECT_BOXES(ui, {"Please enter Patient No"});
+
+    breakAt("vwDebtInfoForPatUnionGrouped");
+    ws.pick("frmReceiptDeposit.cboVehNo", "OTHER");
+    EXPECT_BOXES(ui, {"disk full"});
+    set("txtHt", "100");
+    click("OKButton");
+    EXPECT_BOXES(ui, {"Receipt No Required"});
+    EXPECT_EQ(ws.tableCount("Payments"), 0);
+
+    ws.pick("frmReceiptDeposit.cboVehNo", "OTHER");
+    set("txtHt", "100");
+    save();
+    EXPECT_EQ(rows("select PNo, AmtBF from Billing"), "P/0002|-700");
+    EXPECT_EQ(rows("select PNo, AmountPaid from Payments"), "P/0002|100");
+}
+
 } // namespace
 
 } // namespace orvane

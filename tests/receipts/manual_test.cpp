@@ -114,6 +114,8 @@ TEST_P(Manual, ChecksInOrder) {
     set("txtBill", "-10");
     refused("Please enter Amount Billed");
     set("txtBill", "");
+    set("cboReceived", "BELLO AMINA");
+    refused("Please enter Name of Receiver");
     set("cboVehNo", "SOMEBODY");
     refused("Please Select Patient Name");
     EXPECT_EQ(ws.tableCount("Payments"), 0);
@@ -150,6 +152,21 @@ TEST_P(Manual, AFaultKeepsNothingAndTheFieldsStand) {
     EXPECT_BOXES(ui, {"disk full"});
     EXPECT_EQ(ws.state("frmReceiptManual.OKButton"), "visible disabled") << "it may be saved";
     EXPECT_EQ(bill(), "500|500|1");
+}
+
+TEST_P(Manual, APatientWhoWasReadInPartGetsNoBill) {
+    layVisit();
+    ws.open("frmReceiptManual");
+    click("cmdAdd");
+    breakAt("qryhfullname");
+    fill("1", "500", "500");
+    EXPECT_BOXES(ui, {"disk full"});
+    click("OKButton");
+    EXPECT_BOXES(ui, {"Please Select Patient Name"});
+    fill("1", "500", "500");
+    save();
+    EXPECT_BOXES(ui, {"Record Succesfully saved"});
+    EXPECT_EQ(rows("select clientID from Billing"), "PRIVATE");
 }
 
 } // namespace

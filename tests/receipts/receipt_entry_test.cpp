@@ -364,6 +364,48 @@ TEST_P(ReceiptEntry, HostileTextsAreOnlyTexts) {
     EXPECT_EQ(bill(), "1000|0|0");
 }
 
+TEST_P(ReceiptEntry, ABillThatWasReadInPartTakesNoMoney) {
+    layVisit();
+    layBill(1000);
+    ws.open("frmReceiptTemp");
+    click("cmdAdd");
+    breakAt("qryhVisitsForAttend");
+    ws.pick("frmReceiptTemp.cboVehNo", billNo);
+    EXPECT_BOXES(ui, {"disk full"});
+    set("txtHt", "10");
+    click("OKButton");
+    EXPECT_BOXES(ui, {"Please enter Customer Name"});
+    ws.pick("frmReceiptTemp.cboVehNo", billNo);
+    save();
+    EXPECT_BOXES(ui, {"Record Succesfully saved"});
+    EXPECT_EQ(payments(), "1|1000|10|CASH|PAYMENT");
+}
+
+/// A reversal whose commit nobody saw leaves neither its date nor its purpose to the next receipt.
+TEST_P(ReceiptEntry, TheReceiptAfterAnUnseenReversalIsAReceipt) {
+    layVisit();
+    layBill(1000);
+    receive("400");
+    ws.run("update Payments set ReceiptDate='2026-03-12'");
+    begin();
+    ws.row("frmReceiptTemp.grdData", "1");
+    click("cmdRev");
+    set("chkRev", "yes");
+    breakAt("transaction committed");
+    save();
+    EXPECT_BOXES(ui, {"disk full"});
+    EXPECT_EQ(ws.state("frmReceiptTemp.OKButton"), "visible disabled") << "it may be saved";
+    begin();
+    set("txtHt", "250");
+    save();
+    EXPECT_BOXES(ui, {"Record Succesfully saved"});
+    EXPECT_EQ(rows("select ReceiptDate, PaymentFor, AmountPaid, Remarks from Payments order by SNo"),
+              "2026-03-12|CONSULTATION AND DRUGS|400|PAYMENT\n"
+              "2026-03-12|REVERSAL for RctNo: 1|-400|REVERSAL for RctNo: 1\n"
+              "2026-03-14|GOODS PURCHASED|250|PAYMENT");
+    EXPECT_EQ(bill(), "1000|250|0");
+}
+
 } // namespace
 
 } // namespace orvane
