@@ -88,12 +88,20 @@ void frmBillDiscount::OKButton_Click() {
     }
     if (!program.question("Are you sure to save?", "About to save"))
         return;
-    if (!save(isDiscount() ? -round2(*amount) : round2(*amount))) {
+    bool saved = false;
+    try {
+        saved = save(isDiscount() ? -round2(*amount) : round2(*amount));
+    } catch (const CommitUnknown&) {
+        // It may be saved: only a fresh look at the bill may save it again.
+        clearFields();
+        throw;
+    }
+    if (!saved) {
         program.box(billProcessedText());
         return;
     }
-    program.box("Record Succesfully saved");
     clearFields();
+    program.box("Record Succesfully saved");
 }
 
 bool frmBillDiscount::checkFields() {
@@ -169,7 +177,7 @@ void frmBillDiscount::moveBill(Connection& connection, double amount) {
     const double billed = round2(bill.number("Amountbilled") + amount);
     bill.set("Amountbilled", billed);
     bill.set("AmountBIlledInWord", getValInWord(program, billed));
-    bill.set("isPaid", billed <= bill.number("AmountPaid") ? 1 : 0);
+    bill.set("isPaid", billed <= round2(bill.number("AmountPaid")) ? 1 : 0);
     bill.update();
 }
 
