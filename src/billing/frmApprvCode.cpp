@@ -58,7 +58,9 @@ void frmApprvCode::cboVehNo_Click() {
     const auto bracket = entry.lastIndexOf(QLatin1Char('['));
     m_consultID = entry.mid(bracket + 1).chopped(1);
     m_patient = entry.left(entry.lastIndexOf(QLatin1String(" @"), bracket));
-    bEditing = false;
+    // The code of another visit that was being edited is none of this one.
+    if (bEditing)
+        clearCode();
     Connection connection = program.openBilling();
     const Recordset visit(connection, Sql("select * from qryhPreConsultForClinics where consultID='")
                                           << m_consultID << "'");
@@ -108,6 +110,10 @@ void frmApprvCode::OKButton_Click() {
     program.writeAuditTrail(session.gUsername, QStringLiteral("Add Apprv Code for ") + m_patient, m_consultID,
                             txtApprv.text(), session.sComputerName);
     fillGrid();
+    clearCode();
+}
+
+void frmApprvCode::clearCode() {
     txtApprv.clear();
     txtRem.clear();
     cboBill.setListIndex(-1);
@@ -163,13 +169,10 @@ void frmApprvCode::resetFields() {
     for (Label* label : {&lblDetails, &lblCoy, &lblBill, &lblNo, &lblSex, &lblAge, &lblRef})
         label->clear();
     cboVehNo.setListIndex(-1);
-    cboBill.setListIndex(-1);
-    txtApprv.clear();
-    txtRem.clear();
+    clearCode();
     grdData.clear();
     m_consultID.clear();
     m_patient.clear();
-    bEditing = false;
 }
 
 } // namespace orvane

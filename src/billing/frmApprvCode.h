@@ -44,6 +44,7 @@ private:
     void save();
     void cmdEdit_Click();
     void cmdDel_Click();
+    void clearCode();
     void resetFields();
 
     QString m_consultID; ///< the visit in hand; empty without one

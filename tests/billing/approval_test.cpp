@@ -96,6 +96,24 @@ TEST_P(Approval, EditingChangesTheFirstCodeOfTheVisit) {
         << "the edit of a deleted code is a new one";
 }
 
+TEST_P(Approval, ACodeBeingEditedStaysWithItsVisit) {
+    Connection connection = ws.billing();
+    makeVisit(connection, {.consultID = "001OFL0000003", .pno = "P/0002", .category = "HMO", .client = "0201"});
+    press("cmdInv");
+    ws.pick("frmApprvCode.cboVehNo", "001OFL0000002");
+    give("2026-03-10", "CH/88", "CLAIMS");
+    press("cmdEdit");
+    ws.pick("frmApprvCode.cboVehNo", "001OFL0000003");
+    press("OKButton");
+    EXPECT_BOXES(ui, {"Specify Approval Code for this Treatment"});
+    // What was typed before the visit was picked is meant for it.
+    put("txtApprv", "CH/99");
+    ws.pick("frmApprvCode.cboVehNo", "001OFL0000003");
+    give("2026-03-14", shown("txtApprv"), "CLAIMS");
+    EXPECT_EQ(rows("select consultID, ApprvCode from hApprvCode order by SNO"),
+              "001OFL0000002|CH/88\n001OFL0000003|CH/99");
+}
+
 } // namespace
 
 } // namespace orvane
