@@ -64,7 +64,7 @@ void frmCoyUpdate::OkButton_Click() {
         tellProcessed();
         return;
     }
-    program.writeAuditTrail(session.gUsername, QStringLiteral("Update Patients' Company Profile"), session.gConsultID,
+    program.writeAuditTrail(session.gUsername, QStringLiteral("Update Patients' Company Profile"), txtBill.text(),
                             QStringLiteral("UpDate Patient Company Profile: ") + session.sBillCoy +
                                 QStringLiteral(" Now: ") + m_clientName + QStringLiteral("/") + cboClient.text(),
                             session.sComputerName);

@@ -95,6 +95,9 @@ void frmBillingVerify::cmdAcct_Click() {
     if (!m_bill.consultID.isEmpty())
         takeInHand();
     session.sDebtMode = "AUTO";
+    // One that is still open shows the patient before.
+    if (Form* shown = program.loadedForm("frmDebtInfo"))
+        shown->unload();
     program.open("frmDebtInfo");
 }
 

@@ -180,6 +180,25 @@ TEST_P(DebtInfo, ExportsWhatTheGridShows) {
     EXPECT_EQ(ui.exports.size(), 1);
 }
 
+/// The collation screen asks for the account of one patient after the other.
+TEST_P(DebtInfo, ShowsThePatientInHandAlsoWhenItIsStillOpen) {
+    layVisit();
+    layVisit({.pno = "P/0002", .surname = "OTHER"}, {.consultID = "001OFL0000002", .pno = "P/0002"});
+    ws.open("frmBillingVerify");
+    for (const auto& [bill, name, pno] :
+         {std::tuple(billNo, "ADEYEMI BOLA", "P/0001"), std::tuple("001OFL0000002", "OTHER BOLA", "P/0002")}) {
+        ws.run(QString("insert into Tranxaction (entryDate, PNo, billNo, Amount, RunningTotal, Remarks) values "
+                       "('2026-03-14','%1','%2',-5,-5,'ITEM')")
+                   .arg(pno, bill));
+        ws.set("frmBillingVerify.txtSearch", bill);
+        ws.click("frmBillingVerify.cmdOK");
+        ws.click("frmBillingVerify.cmdAcct");
+        EXPECT_EQ(value("Label5"), name);
+        EXPECT_TRUE(shown().value(0).endsWith(pno)) << shown().value(0).toStdString();
+    }
+    EXPECT_BOXES(ui, {});
+}
+
 } // namespace
 
 } // namespace orvane
