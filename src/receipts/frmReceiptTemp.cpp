@@ -50,7 +50,7 @@ Layout frmReceiptTemp::layout() const {
                                 row({field("Being Payment for", cboCat, 38), field("Pay Type", cboPay, 14)}),
                                 field("Diagnosis", txtDiag), cell(chkRev)}),
                         card({field("Current Bill", lblCurr), field("Amount Paid", lblDep), field("Amount Due", txtEmp),
-                              large("Fresh Payment", txtHt), cell(txtDuty)})}),
+                              large("Fresh Payment", txtHt), cell(lblDuty), cell(txtDuty)})}),
                    growing(cell(grdData)),
                    buttons({&cmdRev, &cmdPrint}, {&cmdAdd, &cmdCancel, &CancelButton, &OKButton})});
 }

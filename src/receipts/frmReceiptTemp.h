@@ -24,6 +24,7 @@ public:
     Label lblDep{*this, "lblDep"};
     TextBox txtEmp{*this, "txtEmp"};
     TextBox txtHt{*this, "txtHt"};
+    Label lblDuty{*this, "lblDuty", "Amount Paid in Words"};
     TextBox txtDuty{*this, "txtDuty"};
     DatePicker dtDate{*this, "dtDate"};
     ComboBox cboCat{*this, "cboCat"};
