@@ -39,6 +39,8 @@ bool mayBeSentAgain(const QString& code) {
     return code == QStringLiteral("40001") || code == QStringLiteral("40P01");
 }
 
+std::atomic<bool> takesGate = true;
+
 quintptr thisThread() {
     return reinterpret_cast<quintptr>(QThread::currentThreadId());
 }
@@ -70,6 +72,10 @@ PhysicalConnection::~PhysicalConnection() {
     database.close();
     database = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);
+}
+
+void setGateForTests(bool taken) {
+    takesGate = taken;
 }
 
 QString withLiterals(const QString& text, const QVariantList& values) {
@@ -180,7 +186,9 @@ void PhysicalConnection::begin() {
             sendNative(QStringLiteral("begin immediate"));
         } else if (engine == Engine::Postgresql) {
             sendNative(QStringLiteral("begin isolation level read committed"));
-            sendNative(QStringLiteral("select pg_advisory_xact_lock(7461)"));
+            if (takesGate) {
+                sendNative(QStringLiteral("select pg_advisory_xact_lock(7461)"));
+            }
         } else {
             sendNative(QStringLiteral("begin transaction"));
             QSqlQuery gateResult = sendNative(QStringLiteral(

@@ -81,6 +81,10 @@ private:
 /// A statement whose marks ? are replaced by its values; it holds no other literals.
 QString withLiterals(const QString& text, const QVariantList& values);
 
+/// For tests only: whether transactions of this process take the money gate of a PostgreSQL database (they do). Without
+/// it the numbers and balances of several workstations run into each other, which shows that a proof of them can fail.
+void setGateForTests(bool taken);
+
 /// Opens a new connection; `create` makes the database where it is missing, and no schema version is asked for.
 std::shared_ptr<PhysicalConnection> openPhysical(const std::shared_ptr<DataSource::Private>& source,
                                                  const QString& connectionString, bool create);
