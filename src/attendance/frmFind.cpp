@@ -1,5 +1,7 @@
 #include "attendance/frmFind.h"
 
+#include <utility>
+
 namespace orvane {
 
 frmFind::frmFind(Program& owner) : Screen(owner, QStringLiteral("frmFind"), QStringLiteral("Find a Record ")) {
@@ -38,7 +40,10 @@ void frmFind::cmdID_Click() {
 
 void frmFind::cmdRestore_Click() {
     TxtID.clear();
+    // Emptied without its search, which would read every patient of the hospital only to clear them again.
+    const auto search = std::exchange(txtName.onChange, nullptr);
     txtName.clear();
+    txtName.onChange = search;
     grdData.clear();
 }
 

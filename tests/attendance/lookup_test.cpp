@@ -53,9 +53,18 @@ TEST_P(LookupTest, FindNarrowsAsOneTypes) {
     EXPECT_EQ(found(), QStringList{"P/0002"});
     ws.click("frmFind.cmdName");
     EXPECT_EQ(found(), QStringList{"P/0001"});
+    QStringList searches;
+    ws.program.data().setStatementHook([&](const QString& tsql) {
+        if (tsql.contains("hpatients"))
+            searches << tsql;
+    });
     ws.click("frmFind.cmdRestore");
     EXPECT_EQ(ws.value("frmFind.txtName") + ws.value("frmFind.TxtID"), "");
     EXPECT_EQ(found(), QStringList());
+    EXPECT_EQ(searches, QStringList()) << "nobody is looked for";
+    ws.set("frmFind.txtName", "ADE");
+    EXPECT_EQ(searches.size(), 1) << "typing still searches";
+    ws.program.data().setStatementHook({});
 }
 
 TEST_P(LookupTest, PatientInfoShowsACardAndTwoHistories) {
