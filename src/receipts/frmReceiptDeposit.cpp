@@ -193,6 +193,11 @@ void frmReceiptDeposit::cboClinic_Click() {
     }
 }
 
+/// Naira in whole kobo, as it is printed; 0 where the field holds no number.
+double frmReceiptDeposit::receiptAmount() const {
+    return round2(parseAmount(txtHt.text()).value_or(0));
+}
+
 bool frmReceiptDeposit::checkFields() {
     const auto refuse = [this](const char* text, Control& control) {
         program.box(QLatin1String(text));
@@ -201,7 +206,7 @@ bool frmReceiptDeposit::checkFields() {
     };
     if (txtHt.text().trimmed().isEmpty())
         return refuse("Please enter Receipt Amount", txtHt);
-    if (parseAmount(txtHt.text()).value_or(0) <= 0)
+    if (receiptAmount() <= 0)
         return refuse("Receipt Amount Cannot be zero or less", txtHt);
     if (txtDue.text().trimmed().isEmpty())
         txtDue.setText("0");
@@ -264,7 +269,7 @@ frmReceiptDeposit::Outcome frmReceiptDeposit::save() {
     outcome.receipt = formReceiptNumber(program, connection, ReceiptForm::ClinicCoded, lblBill.text());
     if (outcome.receipt.number.isEmpty())
         return outcome;
-    const double amount = *parseAmount(txtHt.text());
+    const double amount = receiptAmount();
     writeBill(connection);
     writePayment(connection, outcome.receipt.number);
     postPatientTran(program, connection, session.dWorkDate, m_pno, lblBill.text(), amount, session.gBillTo, "Deposit");
@@ -281,8 +286,8 @@ void frmReceiptDeposit::writeBill(Connection& connection) {
     bill.set("billNo", lblBill.text());
     bill.set("PNo", m_pno);
     bill.set("clientID", m_clientID);
-    bill.set("Amountbilled", *parseAmount(txtDue.text()));
-    bill.set("AmountPaid", *parseAmount(txtHt.text()));
+    bill.set("Amountbilled", round2(*parseAmount(txtDue.text())));
+    bill.set("AmountPaid", receiptAmount());
     bill.set("profFee", 0);
     bill.set("AmtBF", m_debtBF);
     bill.set("billingMonth", QLocale::c().monthName(session.dWorkDate.month()));
@@ -299,8 +304,8 @@ void frmReceiptDeposit::writePayment(Connection& connection, const QString& rece
     receipt.billNo = lblBill.text();
     receipt.pno = m_pno;
     receipt.paymentFor = cboPayFor.text();
-    receipt.amountBilled = *parseAmount(txtDue.text());
-    receipt.amountPaid = *parseAmount(txtHt.text());
+    receipt.amountBilled = round2(*parseAmount(txtDue.text()));
+    receipt.amountPaid = receiptAmount();
     receipt.amountInWord = txtDuty.text();
     receipt.payType = cboPay.text();
     receipt.time = ui().now().time();

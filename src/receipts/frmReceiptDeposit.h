@@ -53,6 +53,7 @@ private:
     void loadAccount(Connection& connection);
     void showAdmission(Connection& connection);
     void OKButton_Click();
+    double receiptAmount() const;
     bool checkFields();
     /// How a save ended; it has written nothing when the bill exists or no number could be formed.
     struct Outcome {

@@ -218,8 +218,9 @@ bool frmReceiptManual::checkFields() {
 
 /// False: the bill is on an invoice already and may not grow any more.
 bool frmReceiptManual::save() {
-    const double billed = parseAmount(txtBill.text()).value_or(0);
-    const double paid = *parseAmount(txtHt.text());
+    // In whole kobo, as they are printed.
+    const double billed = round2(parseAmount(txtBill.text()).value_or(0));
+    const double paid = round2(*parseAmount(txtHt.text()));
     session.gConsultID = lblBill.text();
     Connection connection = program.openBilling();
     Transaction transaction(connection);
@@ -228,7 +229,7 @@ bool frmReceiptManual::save() {
         return false;
     const double newTotal = writeBill(bill, billed, paid);
     postPatientTran(program, connection, dtDate.date(), m_pno, lblBill.text(), 0 - billed, session.gBillTo, "Payment");
-    writePayment(connection, newTotal);
+    writePayment(connection, newTotal, paid);
     postPatientTran(program, connection, dtDate.date(), m_pno, lblBill.text(), paid, session.gBillTo, "Payment");
     Recordset total(connection, Sql("select * from Billing where billno='") << lblBill.text() << "'");
     total.set("isPaid", isPaidFlag(total.number("AmountPaid"), total.number("Amountbilled")));
@@ -263,7 +264,7 @@ double frmReceiptManual::writeBill(Recordset& bill, double addedBill, double add
 }
 
 // The remark of a manual receipt is always "CASH", whatever its pay type.
-void frmReceiptManual::writePayment(Connection& connection, double billed) {
+void frmReceiptManual::writePayment(Connection& connection, double billed, double paid) {
     Receipt receipt;
     receipt.receiptDate = dtDate.date();
     receipt.receiptNo = formReceiptNumber(program, connection, ReceiptForm::Paper, txtRct.text()).number;
@@ -272,7 +273,7 @@ void frmReceiptManual::writePayment(Connection& connection, double billed) {
     receipt.pno = m_pno;
     receipt.paymentFor = cboCat.text();
     receipt.amountBilled = billed;
-    receipt.amountPaid = *parseAmount(txtHt.text());
+    receipt.amountPaid = paid;
     receipt.amountInWord = txtDuty.text();
     receipt.receivedBy = readListEntry(cboReceived.text()).number;
     receipt.payType = cboPay.text();

@@ -56,7 +56,7 @@ private:
     bool save();
     /// Adds the bill or enlarges it; all in naira. Gives the bill's new total.
     double writeBill(Recordset& bill, double addedBill, double addedPayment);
-    void writePayment(Connection& connection, double billed);
+    void writePayment(Connection& connection, double billed, double paid);
     void resetFields();
     void clearPatient();
     void setEntry(bool entering);

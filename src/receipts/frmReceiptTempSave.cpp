@@ -95,7 +95,8 @@ bool frmReceiptTemp::isCustomerPicked() const {
 }
 
 ReceiptNumber frmReceiptTemp::save() {
-    const double amount = *parseAmount(txtHt.text());
+    // In whole kobo, as it is printed: a reversal takes back what the grid shows.
+    const double amount = round2(*parseAmount(txtHt.text()));
     session.gConsultID = m_billNo;
     Connection connection = program.openBilling();
     Transaction transaction(connection);

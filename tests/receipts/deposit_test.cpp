@@ -110,7 +110,7 @@ TEST_P(Deposit, ChecksInOrder) {
         EXPECT_BOXES(ui, {text});
     };
     refused("Please enter Receipt Amount");
-    for (const char* none : {"0", "-5", "abc"}) {
+    for (const char* none : {"0", "-5", "abc", "0.004"}) {
         set("txtHt", none);
         refused("Receipt Amount Cannot be zero or less");
     }

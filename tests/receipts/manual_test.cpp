@@ -121,6 +121,16 @@ TEST_P(Manual, ChecksInOrder) {
     EXPECT_EQ(ws.tableCount("Payments"), 0);
 }
 
+TEST_P(Manual, MoneyIsInWholeKobo) {
+    layVisit();
+    fill("1", "500.004", "499.996");
+    save();
+    EXPECT_BOXES(ui, {"Record Succesfully saved"});
+    EXPECT_EQ(bill(), "500|500|1");
+    EXPECT_EQ(rows("select Amountbilled, AmountPaid from Payments"), "500|500");
+    EXPECT_EQ(debt(), "0");
+}
+
 TEST_P(Manual, ABillOnAnInvoiceIsFrozen) {
     layVisit();
     layBill(1000);

@@ -247,6 +247,17 @@ TEST_P(ReceiptEntry, WhatCannotBeReversed) {
     EXPECT_EQ(ws.value("frmCashReceipt.txtBal"), "0.00");
 }
 
+/// What is typed below a kobo is neither printed nor kept, so that the reversal of what is shown leaves nothing behind.
+TEST_P(ReceiptEntry, MoneyIsInWholeKobo) {
+    layVisit();
+    layBill(1000);
+    receive("250.006");
+    EXPECT_EQ(payments(), "1|1000|250.01|CASH|PAYMENT");
+    reverse("1");
+    EXPECT_EQ(bill(), "1000|0|0");
+    EXPECT_EQ(debt(), "-1000");
+}
+
 /// Whatever fails on the way, nothing is kept of it, the fields stand, and the next press saves once.
 TEST_P(ReceiptEntry, AFaultKeepsNothingAndTheFieldsStand) {
     layVisit();
