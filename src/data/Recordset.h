@@ -47,8 +47,8 @@ public:
     bool isNull(const QString& column) const;
 
     void addNew();
-    /// Null variants, empty QDate and empty QDateTime become null. NaN, infinities, U+0000, lone surrogates and a text
-    /// for a number column that is no number raise DataError naming the column.
+    /// Null variants, empty QDate and empty QDateTime become null. NaN, infinities, numbers from 1e13 on (either sign),
+    /// U+0000, lone surrogates and a text for a number column that is no number raise DataError naming the column.
     void set(const QString& column, const QVariant& value);
     void update();
 

@@ -11,6 +11,10 @@ namespace orvane {
 
 namespace {
 
+/// From here on a running total would silently lose the kobo of what is added to it: a double holds fifteen digits for
+/// sure.
+constexpr double firstTooLarge = 1e13;
+
 const auto kDateTime = QStringLiteral("yyyy-MM-dd HH:mm:ss");
 
 [[noreturn]] void refuse(const QVariant& value, const QString& column, const char* what) {
@@ -33,6 +37,9 @@ double numberFor(const QVariant& value, const QString& column) {
         value.typeId() == QMetaType::QString ? value.toString().trimmed().toDouble(&ok) : value.toDouble(&ok);
     if (!ok || !std::isfinite(number)) {
         refuse(value, column, "number");
+    }
+    if (std::abs(number) >= firstTooLarge) {
+        throw DataError(QStringLiteral("%1 is too large: column %2.").arg(valueText(value), column));
     }
     return number;
 }

@@ -142,6 +142,8 @@ TEST_P(RecordsetTest, RefusesWhatTheColumnMayNotHold) {
                  {"AmountPaid", QStringLiteral("inf")},
                  {"AmountPaid", std::nan("")},
                  {"AmountPaid", std::numeric_limits<double>::infinity()},
+                 {"AmountPaid", 1e13},
+                 {"AmountPaid", QStringLiteral("-10000000000000")},
                  {"isPost", 1.5},
                  {"ReceiptDate", QStringLiteral("14/03/2026")},
                  {"ReceiptDate", QStringLiteral("2026-02-30")},

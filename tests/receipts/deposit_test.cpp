@@ -26,6 +26,20 @@ protected:
 
 ORVANE_ON_EACH_ENGINE(Deposit);
 
+TEST_P(Deposit, AnAmountTooLargeToBeSummedIsRefusedWhole) {
+    layVisit();
+    begin();
+    set("txtDue", "5000");
+    set("txtHt", "99999999999999999999");
+    save();
+    EXPECT_EQ(ui.takeBoxes().size(), 1);
+    EXPECT_EQ(value("txtHt"), "99999999999999999999") << "to be corrected";
+    EXPECT_EQ(account() + rows("select AmountPaid from Payments") + bill(), "");
+    set("txtHt", "9,000,000,000,000.01");
+    save();
+    EXPECT_EQ(rows("select AmountPaid from Payments"), "9000000000000.01");
+}
+
 TEST_P(Deposit, OpensTheBillAndRaisesTheAccount) {
     layVisit({.client = "0001", .debt = -1500.5});
     ws.run("insert into Tranxaction (entryDate, PNo, billNo, Amount, RunningTotal, Remarks) values "
