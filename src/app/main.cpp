@@ -45,7 +45,8 @@ Options readOptions(const QCoreApplication& application) {
     const QCommandLineOption play(QStringLiteral("play"), QStringLiteral("Play a script ('-': standard input)."),
                                   QStringLiteral("FILE"));
     const QCommandLineOption window(QStringLiteral("window"), QStringLiteral("Play the script on the real windows."));
-    const QCommandLineOption out(QStringLiteral("out"), QStringLiteral("Where a script's pictures, prints and exports go."),
+    const QCommandLineOption out(QStringLiteral("out"),
+                                 QStringLiteral("Where a script's pictures, prints and exports go."),
                                  QStringLiteral("DIR"));
     parser.addOptions({home, user, login, play, window, out});
     parser.process(application);

@@ -70,8 +70,8 @@ public:
     /// Creates what `open` refuses to create: the embedded database file, or the server's database. For orvane-db and
     /// tests.
     Connection create(const QString& connectionString);
-    /// From now on new connections of the embedded engine do not wait for the disk at a commit: a power cut may take the
-    /// database with it. Only for databases that can be made again, such as the demonstration hospital.
+    /// From now on new connections of the embedded engine do not wait for the disk at a commit: a power cut may take
+    /// the database with it. Only for databases that can be made again, such as the demonstration hospital.
     void setDisposable();
     /// Fixes what the server's clock shows to this workstation's connections; nothing frees it again. For scripts and
     /// tests. SQL Server's own clock cannot be fixed.

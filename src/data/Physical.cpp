@@ -22,6 +22,10 @@ QString cleanText(const QSqlError& error) {
     if (text.isEmpty()) {
         text = error.driverText().trimmed();
     }
+    // The driver puts the server's error code in brackets behind its text, and a lost server has none.
+    if (text.endsWith(QStringLiteral("()"))) {
+        text = text.chopped(2).trimmed();
+    }
     if (text.startsWith(QStringLiteral("ERROR:"))) {
         text = text.mid(6).trimmed().section(QStringLiteral("\nLINE "), 0, 0);
     }
@@ -169,9 +173,9 @@ void PhysicalConnection::fail(const QSqlError& error, const QString& text) {
              code.startsWith(QStringLiteral("08"));
     if (broken) {
         throw DataError(QStringLiteral("The connection to the database server is lost. %1").arg(cleanText(error)),
-                        text);
+                        text, code);
     }
-    throw DataError(isBusy(code) ? QString::fromUtf8(kBusy) : cleanText(error), text);
+    throw DataError(isBusy(code) ? QString::fromUtf8(kBusy) : cleanText(error), text, code);
 }
 
 void PhysicalConnection::begin() {

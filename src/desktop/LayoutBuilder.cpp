@@ -15,7 +15,7 @@ namespace orvane {
 namespace {
 
 constexpr int cardWidth = 300;
-constexpr int markedSlack = 2;      ///< pixels; an underlined letter parts its neighbours a little
+constexpr int markedSlack = 2; ///< pixels; an underlined letter parts its neighbours a little
 constexpr int narrowestList = 160;
 constexpr int narrowestField = 110; ///< of a field without a width of its own, pixels
 

@@ -13,13 +13,29 @@ class Form;
 
 /// What a control is; the desktop picks its widget by it, the script player its reading of `set`.
 enum class ControlKind {
-    Label, TextBox, ComboBox, CheckBox, OptionButton, ListBox, DatePicker, Button, Frame, TabStrip,
-    Tree, Grid, EntryGrid, Picture, ProgressBar, StatusBar, Timer, Menu
+    Label,
+    TextBox,
+    ComboBox,
+    CheckBox,
+    OptionButton,
+    ListBox,
+    DatePicker,
+    Button,
+    Frame,
+    TabStrip,
+    Tree,
+    Grid,
+    EntryGrid,
+    Picture,
+    ProgressBar,
+    StatusBar,
+    Timer,
+    Menu
 };
 
 /// One named part of a form. It knows no widget: the desktop and the script player show and drive it.
-/// Its handlers are plain functions, set by the form; the user's and the code's actions raise them through Form::run, where a fault of
-/// the database is caught and shown once.
+/// Its handlers are plain functions, set by the form; the user's and the code's actions raise them through Form::run,
+/// where a fault of the database is caught and shown once.
 class Control : public QObject {
     Q_OBJECT
 
@@ -44,14 +60,16 @@ public:
     /// A frame's `enabled` and `visible` reach the controls inside it.
     void setParentFrame(Control* frame) { m_frame = frame; }
     Control* parentFrame() const { return m_frame; }
-    bool isUsable() const;  ///< enabled and visible, and so are the frames around it
-    bool isShown() const;   ///< visible, and so are the frames around it
-    std::optional<unsigned> color() const { return m_color; } ///< background of a strip or label as 0xRRGGBB; none: the usual one
+    bool isUsable() const; ///< enabled and visible, and so are the frames around it
+    bool isShown() const;  ///< visible, and so are the frames around it
+    std::optional<unsigned> color() const {
+        return m_color;
+    } ///< background of a strip or label as 0xRRGGBB; none: the usual one
     void setColor(std::optional<unsigned> rgb);
-    void setFocus();        ///< asks the desktop for the focus; the form remembers it for scripts
+    void setFocus(); ///< asks the desktop for the focus; the form remembers it for scripts
 
-    /// Counts the changes of a list's entries, a tree's nodes or a grid's rows and columns, so that a view that shows them knows
-    /// whether it must read them anew or whether only the choice has moved.
+    /// Counts the changes of a list's entries, a tree's nodes or a grid's rows and columns, so that a view that shows
+    /// them knows whether it must read them anew or whether only the choice has moved.
     unsigned contentRevision() const { return m_contentRevision; }
 
     /// The value as the script player prints it and expects it.
@@ -59,24 +77,24 @@ public:
 
     Handler onClick;
     Handler onDblClick;
-    Handler onFocus;        ///< the control has got the focus from its user
-    Handler onLeave;        ///< the focus has left the control
+    Handler onFocus;                       ///< the control has got the focus from its user
+    Handler onLeave;                       ///< the focus has left the control
     std::function<bool(QChar)> onKeyPress; ///< false drops the character
 
-    void click();           ///< raises the event as the user does
+    void click(); ///< raises the event as the user does
     void dblClick();
     void gotFocus();
     void leave();
     bool keyPress(QChar key); ///< false: the character was dropped
 
 Q_SIGNALS:
-    void changed();         ///< anything that is shown has changed
+    void changed(); ///< anything that is shown has changed
     void focusWanted();
 
 protected:
     void raise(const Handler& handler); ///< runs it at the form's edge, where faults are caught
-    void touch();           ///< something shown has changed
-    void touchContent();    ///< as touch, for entries, nodes, rows and columns
+    void touch();                       ///< something shown has changed
+    void touchContent();                ///< as touch, for entries, nodes, rows and columns
 
 private:
     Form& m_form;

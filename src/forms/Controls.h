@@ -10,7 +10,9 @@ namespace orvane {
 
 class Label : public Control {
 public:
-    Label(Form& form, const QString& name, const QString& caption = {}) : Control(form, ControlKind::Label, name) { setCaption(caption); }
+    Label(Form& form, const QString& name, const QString& caption = {}) : Control(form, ControlKind::Label, name) {
+        setCaption(caption);
+    }
     Handler onChange; ///< raised when code changes the caption, where a screen asks for it
     void setText(const QString& text);
     const QString& text() const { return caption(); }
@@ -27,13 +29,25 @@ public:
     bool isLocked() const { return m_locked; }
     void setLocked(bool locked);
     bool isMasked() const { return m_masked; }
-    TextBox& masked() { m_masked = true; return *this; }
+    TextBox& masked() {
+        m_masked = true;
+        return *this;
+    }
     bool isMultiline() const { return m_multiline; }
-    TextBox& multiline() { m_multiline = true; return *this; }
+    TextBox& multiline() {
+        m_multiline = true;
+        return *this;
+    }
     bool isUpperCase() const { return m_upper; }
-    TextBox& upperCase() { m_upper = true; return *this; } ///< typed letters become capitals
+    TextBox& upperCase() {
+        m_upper = true;
+        return *this;
+    } ///< typed letters become capitals
     bool isNumeric() const { return m_numeric; }
-    TextBox& numeric() { m_numeric = true; return *this; } ///< shown right aligned
+    TextBox& numeric() {
+        m_numeric = true;
+        return *this;
+    } ///< shown right aligned
     int maxLength() const { return m_maxLength; }
     void setMaxLength(int length) { m_maxLength = length; } ///< 0: no limit
     QString valueText() const override { return m_text; }
@@ -47,14 +61,15 @@ private:
     int m_maxLength = 0;
 };
 
-/// A drop-down with free text, or a list only. Choosing an index, by the user or by code, sets the text and raises onClick;
-/// setting a list-only box to a text that is not in its list changes nothing.
+/// A drop-down with free text, or a list only. Choosing an index, by the user or by code, sets the text and raises
+/// onClick; setting a list-only box to a text that is not in its list changes nothing.
 class ComboBox : public Control {
 public:
     enum Style { FreeText, ListOnly };
-    ComboBox(Form& form, const QString& name, Style style = FreeText) : Control(form, ControlKind::ComboBox, name), m_style(style) {}
+    ComboBox(Form& form, const QString& name, Style style = FreeText)
+        : Control(form, ControlKind::ComboBox, name), m_style(style) {}
     Style style() const { return m_style; }
-    void clear();                     ///< no entries, no text, index -1; raises nothing
+    void clear(); ///< no entries, no text, index -1; raises nothing
     void addItem(const QString& text, const QVariant& data = {});
     void addItems(const QStringList& texts);
     int count() const { return int(m_items.size()); }
@@ -62,20 +77,27 @@ public:
     QVariant itemData(int index) const { return m_items.at(index).data; }
     QStringList items() const;
     int listIndex() const { return m_index; } ///< -1: the text is not taken from the list
-    void setListIndex(int index);     ///< -1 clears the text; any index raises onClick
+    void setListIndex(int index);             ///< -1 clears the text; any index raises onClick
     const QString& text() const { return m_text; }
-    /// The text of an entry (without regard to case) takes that entry's index and raises onClick; a free text sets index -1 and raises onChange.
+    /// The text of an entry (without regard to case) takes that entry's index and raises onClick; a free text sets
+    /// index -1 and raises onChange.
     void setText(const QString& text);
     bool isLocked() const { return m_locked; }
     void setLocked(bool locked);
     bool isUpperCase() const { return m_upper; }
-    ComboBox& upperCase() { m_upper = true; return *this; }
+    ComboBox& upperCase() {
+        m_upper = true;
+        return *this;
+    }
     QString valueText() const override { return m_text; }
 
     Handler onChange; ///< the text was typed (not picked)
 
 private:
-    struct Item { QString text; QVariant data; };
+    struct Item {
+        QString text;
+        QVariant data;
+    };
     QVector<Item> m_items;
     QString m_text;
     int m_index = -1;
@@ -86,7 +108,9 @@ private:
 /// Raises onClick whenever the tick changes, by the user or by code.
 class CheckBox : public Control {
 public:
-    CheckBox(Form& form, const QString& name, const QString& caption) : Control(form, ControlKind::CheckBox, name) { setCaption(caption); }
+    CheckBox(Form& form, const QString& name, const QString& caption) : Control(form, ControlKind::CheckBox, name) {
+        setCaption(caption);
+    }
     bool isChecked() const { return m_checked; }
     void setChecked(bool checked);
     QString valueText() const override { return m_checked ? QStringLiteral("yes") : QStringLiteral("no"); }
@@ -98,7 +122,10 @@ private:
 /// One of a group: checking it unchecks the others of the same frame (or form).
 class OptionButton : public Control {
 public:
-    OptionButton(Form& form, const QString& name, const QString& caption) : Control(form, ControlKind::OptionButton, name) { setCaption(caption); }
+    OptionButton(Form& form, const QString& name, const QString& caption)
+        : Control(form, ControlKind::OptionButton, name) {
+        setCaption(caption);
+    }
     bool isChecked() const { return m_checked; }
     void setChecked(bool checked);
     QString valueText() const override { return m_checked ? QStringLiteral("yes") : QStringLiteral("no"); }
@@ -118,10 +145,14 @@ public:
     QVariant itemData(int index) const { return m_items.at(index).data; }
     bool isSelected(int index) const { return m_items.at(index).selected; }
     void setSelected(int index, bool selected); ///< raises onClick
-    QString valueText() const override; ///< the selected entries, one a line
+    QString valueText() const override;         ///< the selected entries, one a line
 
 private:
-    struct Item { QString text; QVariant data; bool selected = false; };
+    struct Item {
+        QString text;
+        QVariant data;
+        bool selected = false;
+    };
     QVector<Item> m_items;
 };
 
@@ -146,13 +177,17 @@ private:
 
 class Button : public Control {
 public:
-    Button(Form& form, const QString& name, const QString& caption) : Control(form, ControlKind::Button, name) { setCaption(caption); }
+    Button(Form& form, const QString& name, const QString& caption) : Control(form, ControlKind::Button, name) {
+        setCaption(caption);
+    }
 };
 
 /// A box around controls; its enabled and visible flags reach them. Controls join by Frame::holds.
 class Frame : public Control {
 public:
-    Frame(Form& form, const QString& name, const QString& caption = {}) : Control(form, ControlKind::Frame, name) { setCaption(caption); }
+    Frame(Form& form, const QString& name, const QString& caption = {}) : Control(form, ControlKind::Frame, name) {
+        setCaption(caption);
+    }
     void holds(std::initializer_list<Control*> controls);
 };
 
@@ -171,7 +206,12 @@ private:
 /// Nodes with a key and a text; clicking one sets the selected node and raises onClick.
 class Tree : public Control {
 public:
-    struct Node { QString key; QString text; QString parentKey; bool expanded = false; };
+    struct Node {
+        QString key;
+        QString text;
+        QString parentKey;
+        bool expanded = false;
+    };
     Tree(Form& form, const QString& name) : Control(form, ControlKind::Tree, name) {}
     void clear();
     void addNode(const Node& node);
@@ -212,7 +252,8 @@ private:
 /// Panels counted from 1, as the screens count them.
 class StatusBar : public Control {
 public:
-    StatusBar(Form& form, const QString& name, int panels) : Control(form, ControlKind::StatusBar, name), m_panels(panels) {}
+    StatusBar(Form& form, const QString& name, int panels)
+        : Control(form, ControlKind::StatusBar, name), m_panels(panels) {}
     int panels() const { return int(m_panels.size()); }
     QString panel(int number) const { return m_panels.at(number - 1); }
     void setPanel(int number, const QString& text);
@@ -226,7 +267,9 @@ private:
 class Timer : public Control {
 public:
     Timer(Form& form, const QString& name, int milliseconds, bool startEnabled)
-        : Control(form, ControlKind::Timer, name), m_interval(milliseconds) { setEnabled(startEnabled); }
+        : Control(form, ControlKind::Timer, name), m_interval(milliseconds) {
+        setEnabled(startEnabled);
+    }
     int interval() const { return m_interval; }
     void tick(); ///< does nothing while disabled
     Handler onTimer;

@@ -31,18 +31,20 @@ public:
     Control* find(const QString& name) const;
 
     virtual Layout layout() const = 0;
-    /// A form that is a document gives its page as it stands now: shown as a preview and printed the same. Nothing: a plain screen.
+    /// A form that is a document gives its page as it stands now: shown as a preview and printed the same. Nothing: a
+    /// plain screen.
     virtual std::optional<Page> page() const { return std::nullopt; }
     virtual void Form_Load() {}
-    virtual void Form_Activate() {} ///< the program opens the form, newly loaded or already on the screen
+    virtual void Form_Activate() {}             ///< the program opens the form, newly loaded or already on the screen
     virtual bool Form_Unload() { return true; } ///< false refuses to close
     /// Pressed by Enter and by Esc; null when there is none.
     virtual Button* defaultButton() { return nullptr; }
     virtual Button* cancelButton() { return nullptr; }
 
-    void load();            ///< runs Form_Load once, at the edge where faults are caught
+    void load(); ///< runs Form_Load once, at the edge where faults are caught
     bool isLoaded() const { return m_loaded; }
-    /// Closes the form: Form_Unload may refuse; then `onClosed` and Ui::closed. The form object is deleted later by its owner.
+    /// Closes the form: Form_Unload may refuse; then `onClosed` and Ui::closed. The form object is deleted later by its
+    /// owner.
     bool unload();
     /// Closes the form without asking Form_Unload: the program ends.
     void abandon();
@@ -53,11 +55,12 @@ public:
     void activated();
     std::function<void(Form&)> onActivated;
 
-    /// Runs a handler. Outermost, it is the edge: a DataError is shown once in a plain box and the screen stays. Inside another handler of
-    /// this form the fault rises to that one.
+    /// Runs a handler. Outermost, it is the edge: a DataError is shown once in a plain box and the screen stays. Inside
+    /// another handler of this form the fault rises to that one.
     void run(const std::function<void()>& handler);
-    /// What the desktop and the script player call for everything that a user does: as run, but while a handler of this form still
-    /// runs (a save under way) and when the form has closed it does nothing, so that no button can be pressed twice.
+    /// What the desktop and the script player call for everything that a user does: as run, but while a handler of this
+    /// form still runs (a save under way) and when the form has closed it does nothing, so that no button can be
+    /// pressed twice.
     void userEvent(const std::function<void()>& event);
     /// Runs last, after a fault was shown: put the pointer and the like back.
     virtual void afterFault() {}

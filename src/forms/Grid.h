@@ -10,7 +10,8 @@ class Grid : public Control {
 public:
     Grid(Form& form, const QString& name) : Control(form, ControlKind::Grid, name) {}
 
-    /// Takes all rows and columns; hidden columns and formats that were set before by name go on to hold. The current row becomes the first, or -1.
+    /// Takes all rows and columns; hidden columns and formats that were set before by name go on to hold. The current
+    /// row becomes the first, or -1.
     void load(const Recordset& rows);
     void clear();
     int rowCount() const;
@@ -31,37 +32,42 @@ public:
     int currentRow() const { return m_row; }
     /// As the user's click on the row: makes it current and raises onClick. -1 or out of range: no row, no event.
     void selectRow(int row);
-    QString text(const QString& column) const;          ///< of the current row; "" without one. An unknown name is asserted.
-    double number(const QString& column) const;         ///< of the current row; null and no row as 0
+    QString text(const QString& column) const;  ///< of the current row; "" without one. An unknown name is asserted.
+    double number(const QString& column) const; ///< of the current row; null and no row as 0
     QDate date(const QString& column) const;
     QVariant value(int row, int column) const;
-    QString cellText(int row, int column) const;        ///< as shown: formatted, dates dd/MM/yyyy
+    QString cellText(int row, int column) const;                   ///< as shown: formatted, dates dd/MM/yyyy
     int findRow(const QString& column, const QString& text) const; ///< -1 when none
-    QString valueText() const override;                 ///< "N rows"
+    QString valueText() const override;                            ///< "N rows"
 
 private:
-    struct ColumnLook { bool hidden = false; QString format; int width = 0; QString head; };
+    struct ColumnLook {
+        bool hidden = false;
+        QString format;
+        int width = 0;
+        QString head;
+    };
     Recordset m_rows;
     QHash<QString, ColumnLook> m_looks; ///< by lower-cased name
     int m_row = -1;
 };
 
-/// A grid of cells by row and column. Row 0 is the head, whose text is given joined by "|" as the system states it; the last row is the
-/// empty one to type into next.
+/// A grid of cells by row and column. Row 0 is the head, whose text is given joined by "|" as the system states it; the
+/// last row is the empty one to type into next.
 class EntryGrid : public Control {
 public:
     EntryGrid(Form& form, const QString& name) : Control(form, ControlKind::EntryGrid, name) {}
     void setHead(const QString& head); ///< "----Item----|---Price---|...": one column each, dashes are padding only
     int columns() const { return int(m_heads.size()); }
     const QString& head(int column) const { return m_heads.at(column); } ///< without its dashes
-    int rows() const { return int(m_cells.size()) + 1; } ///< head row included
+    int rows() const { return int(m_cells.size()) + 1; }                 ///< head row included
     void addRow();
-    void removeRow(int row);  ///< row 1 is the first below the head
-    void clear();             ///< leaves the head and one empty row
+    void removeRow(int row); ///< row 1 is the first below the head
+    void clear();            ///< leaves the head and one empty row
     QString cell(int row, int column) const;
     void setCell(int row, int column, const QString& text);
     int currentRow() const { return m_row; } ///< -1 when none
-    void selectRow(int row);  ///< as the user's click
+    void selectRow(int row);                 ///< as the user's click
     bool isMoney(int column) const;
     void setMoney(const QList<int>& columns); ///< shown right aligned
     QString valueText() const override;

@@ -11,20 +11,21 @@ class Button;
 class Control;
 class TabStrip;
 
-/// How a form is laid out, in words: the desktop turns it into widgets, in one spacing and with labels aligned down the form.
+/// How a form is laid out, in words: the desktop turns it into widgets, in one spacing and with labels aligned down the
+/// form.
 struct Layout {
     enum Kind {
-        Row,      ///< children side by side
-        Column,   ///< children below each other; successive fields align their labels
-        Field,    ///< label text left of the control
-        Cell,     ///< the control alone
-        Facts,    ///< label-over-value pairs in one line: the facts of the thing in hand
-        Card,     ///< a framed summary column: label left, amount right; a Field in it with emphasis shows large
-        Group,    ///< a heading and a frame around its children; `control` may be the Frame it belongs to
-        Tabs,     ///< one Page each child; `control` is the TabStrip
+        Row,    ///< children side by side
+        Column, ///< children below each other; successive fields align their labels
+        Field,  ///< label text left of the control
+        Cell,   ///< the control alone
+        Facts,  ///< label-over-value pairs in one line: the facts of the thing in hand
+        Card,   ///< a framed summary column: label left, amount right; a Field in it with emphasis shows large
+        Group,  ///< a heading and a frame around its children; `control` may be the Frame it belongs to
+        Tabs,   ///< one Page each child; `control` is the TabStrip
         Page,
-        Buttons,  ///< one row at the bottom: the first child's left, the second child's right; the default last
-        Stretch   ///< takes the room that is left
+        Buttons, ///< one row at the bottom: the first child's left, the second child's right; the default last
+        Stretch  ///< takes the room that is left
     };
     Kind kind = Column;
     QString text;

@@ -23,7 +23,8 @@ public:
     virtual void box(const QString& text, Icon icon = Icon::None, const QString& title = {}) = 0;
     virtual bool question(const QString& text, const QString& title = {}) = 0;
     /// Empty optional: cancelled.
-    virtual std::optional<QString> inputBox(const QString& prompt, const QString& title = {}, const QString& initial = {}) = 0;
+    virtual std::optional<QString> inputBox(const QString& prompt, const QString& title = {},
+                                            const QString& initial = {}) = 0;
 
     virtual void show(Form& form) = 0;      ///< shows it, or brings it forward
     virtual void showModal(Form& form) = 0; ///< returns when the form has closed
@@ -35,14 +36,12 @@ public:
     /// A list report: `file` is the layout's name, `title` the window title.
     virtual void viewReport(const QString& file, const QString& title, const Recordset& rows) = 0;
     /// Where workbooks are saved: the user's documents.
-    virtual QString exportFolder() const {
-        return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    }
+    virtual QString exportFolder() const { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }
     /// A saved workbook is opened with the desktop's program.
     virtual void exported(const QString& file) = 0;
     virtual void playSound(const QString& file) = 0;
-    virtual QDateTime now() const = 0;      ///< the workstation's clock
-    virtual void quit() = 0;                ///< ends the program after the current event
+    virtual QDateTime now() const = 0; ///< the workstation's clock
+    virtual void quit() = 0;           ///< ends the program after the current event
 };
 
 } // namespace orvane

@@ -1,7 +1,7 @@
 #include "session/MdiTolmek.h"
 
-#include "session/StartFiles.h"
 #include "session/Accounts.h"
+#include "session/StartFiles.h"
 
 namespace orvane {
 

@@ -16,8 +16,8 @@ class Program;
 /// Makes a form of its class; registered under the form's own name.
 using FormFactory = std::function<std::unique_ptr<Form>(Program&)>;
 
-/// One run of the program on one workstation: the session, the data source, the user interface and the forms. No global state, so two
-/// workstations can run in one process.
+/// One run of the program on one workstation: the session, the data source, the user interface and the forms. No global
+/// state, so two workstations can run in one process.
 class Program {
 public:
     /// `homeFolder`: the program's folder with made.sys, sysdoc.sys, orvane.ini, pictures and sound.
@@ -61,10 +61,12 @@ public:
     bool question(const QString& text, const QString& title = {});
 
     // Shared routines of the session (session/*.cpp).
-    /// The server's date and time from qrySysDateTime; invalid when the view is empty. A fault is shown and gives the invalid date.
+    /// The server's date and time from qrySysDateTime; invalid when the view is empty. A fault is shown and gives the
+    /// invalid date.
     QDateTime getServerDateTime();
     /// One audit row over a connection of its own, stamped with the shell's clock. A fault is shown, never raised.
-    void writeAuditTrail(const QString& userName, const QString& action, const QString& tranCode, const QString& remarks, const QString& source);
+    void writeAuditTrail(const QString& userName, const QString& action, const QString& tranCode,
+                         const QString& remarks, const QString& source);
     void openUserActivity(bool isLogout, bool autoLogoff, const QString& remarks);
     void closeUserActivity(bool isLogout, bool autoLogoff, const QString& remarks);
     void readEnvironmentIdentity();
@@ -84,7 +86,7 @@ private:
     Ui& m_ui;
     std::unique_ptr<DataSource> m_data; ///< made on first use, so that its faults show where the program starts
     std::unique_ptr<QLockFile> m_lock;
-    std::map<QString, FormFactory> m_factories;      ///< by lower-cased name
+    std::map<QString, FormFactory> m_factories;       ///< by lower-cased name
     std::map<QString, std::unique_ptr<Form>> m_forms; ///< loaded, by lower-cased name
     std::vector<std::unique_ptr<Form>> m_closedForms;
     QList<Form*> m_shown; ///< open screens inside the shell, the active one last

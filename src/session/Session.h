@@ -45,22 +45,22 @@ struct Session {
     QDate dLoginTrailDate;
 
     // Numbers and words.
-    QString gIDNo;        ///< what fetchIDNo returned last; empty means failure
+    QString gIDNo;         ///< what fetchIDNo returned last; empty means failure
     double dBillTotal = 0; ///< naira; what amountToUpperWords words
     QString sAmountWords;
 
     // The bill in hand.
     QString gConsultID, sBillPno, sBillPatName, sBillCoy, sBillPatLabel;
     double dAmountGen = 0, dAmountBal = 0, dAmountPaid = 0; ///< naira
-    double dDebtBF = 0;   ///< naira
-    QString sPrintBillNo; ///< the receipt or bill to print
-    QString gSearchBillNo; ///< handed to the collation screen by the worklist
+    double dDebtBF = 0;                                     ///< naira
+    QString sPrintBillNo;                                   ///< the receipt or bill to print
+    QString gSearchBillNo;                                  ///< handed to the collation screen by the worklist
     QString sWorkPno;
     qlonglong lWorkSNo = 0;
     QDate dWorkDate;
     QString sAdjustItem;
     QString sAuditCoy;
-    QString sClientName;  ///< the purpose of a visit, on the attendance screen
+    QString sClientName; ///< the purpose of a visit, on the attendance screen
     QString sDebtMode, sRptPanelMode, sRptKind;
     QString sRptPanelLabel; ///< what the label of rptPanelSummary asks for
     QString sRctLine1, sRctLine2, sRctLine3, sRctLine4, sRctLine5;
