@@ -1,8 +1,9 @@
 #pragma once
 
-#include "support/TestHome.h"
+#include "bench/HomeCopy.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QStringList>
 #include <memory>
 
@@ -14,23 +15,36 @@ struct BareStatement {
     bool audit = false;
 };
 
-/// The engine itself, without a data layer between: sqlite3 or libpq on a copy of a home folder's databases.
+/// What the engine did for one statement.
+struct Examination {
+    QStringList plan;
+    qint64 rows = 0; ///< that came back
+    qint64 work = 0; ///< SQLite: steps of its virtual machine; PostgreSQL: pages looked at
+    /// SQLite: rows stepped over in tables or indexes that no condition narrows; PostgreSQL: those, and the rows that
+    /// a filter threw away behind an index.
+    qint64 stepsOver = 0;
+};
+
+/// The engine itself, without a data layer between: sqlite3 or libpq on the databases of a home folder. Every call
+/// raises DataError when the engine refuses.
 class BareEngine {
 public:
     virtual ~BareEngine() = default;
-    /// Copies the databases as they stand; no connection to them may be open. Aborts when the engine refuses.
-    static std::unique_ptr<BareEngine> onCopyOf(const TestHome& home);
+    /// Works on the databases themselves. `clock` is what getdate() shows. The embedded engine does not wait for the
+    /// disk at a commit, as a data source after setDisposable().
+    static std::unique_ptr<BareEngine> open(const QString& homeFolder, const QDateTime& clock);
 
-    /// What a workstation sent, as the engine gets it.
+    /// What a Recorder kept of a workstation, as the engine gets it.
     QList<BareStatement> translated(const QStringList& statements) const;
-    /// Runs one statement and reads all its rows. Aborts on an error: the replay would be worth nothing.
+    /// Runs one statement and reads all its rows.
     virtual void run(const BareStatement& statement) = 0;
+    /// Runs it and says how the engine did it.
+    virtual Examination examine(const BareStatement& statement) = 0;
 
 protected:
     explicit BareEngine(Engine engine) : m_engine(engine) {}
 
 private:
-    virtual QByteArray beginTransaction() const = 0;
     Engine m_engine;
 };
 

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace orvane {
+
+// Each compares a small and a large hospital of the same engine, works on copies of both, and prints a table. Raises
+// DataError when a hospital cannot be worked on.
+
+/// What the actions of a visit cost: in the large hospital against the small one, and against the bare engine.
+void benchActions(const QString& smallHome, const QString& largeHome, int rounds);
+/// What the numbers, views and lists ask, and whether it grows with the tables.
+void benchGrowth(const QString& smallHome, const QString& largeHome, int rounds);
+
+} // namespace orvane

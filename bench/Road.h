@@ -1,0 +1,45 @@
+#pragma once
+
+#include "bench/Site.h"
+
+namespace orvane {
+
+/// A patient as the attendance screen finds one.
+struct RoadPatient {
+    QString number, surname;
+};
+
+/// The road of one visit through a workstation's screens, from the attendance to a receipt and its reversal. Each save,
+/// and the load of the bill, is a measured stretch of the site's recorder.
+class Road {
+public:
+    /// The stretches that a walk measures, in their order.
+    static const QStringList actions;
+    static constexpr int itemsOfAVisit = 20;
+
+    explicit Road(Site& site);
+
+    /// Private patients of the whole hospital, as far apart as there are many: with a valid card and no open visit.
+    QVector<RoadPatient> patients(int count);
+    /// Raises DataError when a screen says what it must not.
+    void walk(const RoadPatient& patient);
+
+private:
+    QString attend(const RoadPatient& patient);
+    void deposit(const QString& visit);
+    void seeDoctor(const RoadPatient& patient, const QString& visit);
+    void loadBill(const QString& visit);
+    void saveBill();
+    void receive(const QString& visit);
+    void reverse();
+
+    Form& opened(const QString& name);
+    void closeReceipt();
+    void expectBoxes(const QString& step, const QStringList& expected);
+
+    Site& m_site;
+    QStringList m_items; ///< names of drugs
+    QString m_clinic, m_officer;
+};
+
+} // namespace orvane
