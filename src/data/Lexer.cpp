@@ -19,6 +19,9 @@ public:
     explicit Lexer(const QString& text) : m_text(text) {}
 
     Tokens run() {
+        if (m_text.contains(QChar(u'\0'))) {
+            throw DataError(QStringLiteral("The statement holds a character that cannot be sent (U+0000)."), m_text);
+        }
         while (skipBlanks(), m_at < m_text.size()) {
             m_tokens.append(next());
             m_space = false;
@@ -119,8 +122,15 @@ private:
         return text;
     }
 
+    /// An engine may read any other mark as one that opens a quote, and swallow the literals behind it.
     QString symbol() {
+        static const QString marks = QStringLiteral("(),.;:=<>!+-*/%&|^~");
         static const QStringList pairs = {"<>", "<=", ">=", "!=", "||"};
+        if (!marks.contains(peek())) {
+            throw DataError(QStringLiteral("The statement holds a mark that is no part of the dialect (U+%1).")
+                                .arg(peek().unicode(), 4, 16, QLatin1Char('0')),
+                            m_text);
+        }
         const QString pair = m_text.mid(m_at, 2);
         const qsizetype length = pairs.contains(pair) ? 2 : 1;
         m_at += length;

@@ -28,7 +28,7 @@ using Tokens = QList<Token>;
 
 /// The tokens of a T-SQL text; comments and blanks are dropped, a blank is remembered at the token behind it.
 /// A number ends where a letter follows that makes no exponent ("12.5where"). Raises DataError for a text that ends
-/// inside quotes, brackets or a comment.
+/// inside quotes, brackets or a comment, or holds U+0000 or, outside quotes, a mark that is no part of the dialect.
 Tokens tokenize(const QString& tsql);
 
 /// The index of the parenthesis that closes the one at `open`, or of the last token when there is none.

@@ -1,12 +1,16 @@
 #include "data/Render.h"
 
 #include "data/Catalog.h"
+#include "data/DataError.h"
 #include "data/Functions.h"
 #include "data/Rewrite.h"
 
 namespace orvane {
 
 namespace {
+
+/// Some calls write an argument twice, so that calls inside calls double and double again.
+constexpr qsizetype longestStatement = 16 * 1024 * 1024;
 
 class Renderer {
 public:
@@ -42,7 +46,7 @@ private:
             write(textAt(i, end), token.spaceBefore);
         } else {
             write(plain(token), token.spaceBefore);
-            if (token.is("end") && m_engine == Engine::Sqlite && m_tokens[i - 1].kind == TokenKind::Text) {
+            if (token.is("end") && i > 0 && m_engine == Engine::Sqlite && m_tokens[i - 1].kind == TokenKind::Text) {
                 write(QStringLiteral("collate nocase"), true);
             }
         }
@@ -61,14 +65,17 @@ private:
             return i;
         }
         const bool parenthesised = m_tokens[i + 1].isSymbol("(");
-        const QString limit = m_tokens[parenthesised ? i + 2 : i + 1].text;
+        const Token& number = m_tokens[parenthesised ? i + 2 : i + 1];
         const qsizetype rest = parenthesised ? i + 4 : i + 2;
+        if (number.kind != TokenKind::Number || (parenthesised && !m_tokens[i + 3].isSymbol(")"))) {
+            throw DataError(QStringLiteral("A number is expected behind \"top\"."));
+        }
         qsizetype last = rest;
         while (last < end && !m_tokens[last].is("union")) {
             last = m_tokens[last].isSymbol("(") ? closingParenthesis(m_tokens, last) + 1 : last + 1;
         }
         write(inner(rest, last), true);
-        write(QStringLiteral("limit ") + limit, true);
+        write(QStringLiteral("limit ") + number.text, true);
         return last;
     }
 
@@ -169,12 +176,15 @@ private:
     QString inner(qsizetype begin, qsizetype end) const { return Renderer(m_tokens, m_engine).run(begin, end); }
 
     void write(const QString& text, bool space) {
-        const auto binds = [](QChar c) {
-            return c.isLetterOrNumber() || c == u'_' || c == u'\'' || c == u'"' || c == u'[';
-        };
+        if (m_out.size() + text.size() > longestStatement) {
+            throw DataError(QStringLiteral("The statement becomes too long."));
+        }
+        const auto binds = [](QChar c) { return c.isLetterOrNumber() || QStringView(u"_$@#'\"[").contains(c); };
         if (!m_out.isEmpty() && !text.isEmpty()) {
             const QChar last = m_out.back();
-            const bool runsTogether = (binds(last) || last == u')' || last == u']') && binds(text.front());
+            // PostgreSQL reads U&'...' as a text with escapes in it.
+            const bool runsTogether =
+                (binds(last) || last == u')' || last == u']' || last == u'&') && binds(text.front());
             if (!last.isSpace() && !text.front().isSpace() && (space || runsTogether)) {
                 m_out += u' ';
             }
@@ -198,6 +208,10 @@ QString renderName(const Token& name, Engine engine) {
         return QStringLiteral("\"") + lower.replace(u'"', QStringLiteral("\"\"")) + QStringLiteral("\"");
     }
     QString text = name.text;
+    // SQLite closes a name at the first bracket.
+    if (engine == Engine::Sqlite && text.contains(u']')) {
+        return QStringLiteral("\"") + text.replace(u'"', QStringLiteral("\"\"")) + QStringLiteral("\"");
+    }
     return QStringLiteral("[") + text.replace(u']', QStringLiteral("]]")) + QStringLiteral("]");
 }
 

@@ -1,6 +1,7 @@
 #include "data/Rewrite.h"
 
 #include "data/Catalog.h"
+#include "data/DataError.h"
 
 #include <QRegularExpression>
 
@@ -11,6 +12,9 @@ namespace {
 bool isOneOf(const Token& token, std::initializer_list<const char*> words) {
     return std::any_of(words.begin(), words.end(), [&](const char* word) { return token.is(word); });
 }
+
+/// Far more than any statement of the system has.
+constexpr qsizetype mostTokens = 20'000;
 
 /// A word in front of a parenthesis that is no function's name.
 bool isKeywordBeforeParenthesis(const Token& token) {
@@ -118,6 +122,10 @@ void rewriteNotIn(Tokens& tokens) {
         result += tokenize(QStringLiteral(") orvane_in where orvane_in.orvane_key ="));
         result += value;
         result += tokenize(QStringLiteral("))"));
+        if (tokens.size() + result.size() > mostTokens) {
+            // Each "not in" doubles the value in front of it, which may hold a "not in" of its own.
+            throw DataError(QStringLiteral("The statement has too many \"not in\" inside one another."));
+        }
         tokens = tokens.mid(0, start) + result + tokens.mid(close + 1);
         // What the subquery holds is looked at again: it may bear a "not in" of its own.
         i = start;
@@ -237,6 +245,9 @@ void rewriteLikeForPostgresql(Tokens& tokens) {
         }
         pattern = pattern.toLower();
         const qsizetype last = tokens[i - 1].is("not") ? i - 2 : i - 1;
+        if (last < 0) {
+            continue;
+        }
         const qsizetype start = operandStart(tokens, last);
         tokens.insert(last + 1, symbolToken(QStringLiteral(")")));
         tokens.insert(start, symbolToken(QStringLiteral("(")));
@@ -324,7 +335,7 @@ void rewriteLiterals(Tokens& tokens) {
             if (column && isLiteral(right) && wholeOperand) {
                 fitToColumn(right, column->kind);
             }
-        } else if (tokens[i].is("in") && tokens[i + 1].isSymbol("(")) {
+        } else if (tokens[i].is("in") && i > 0 && tokens[i + 1].isSymbol("(")) {
             const Column* column = columnOf(tokens, tokens[i - 1].is("not") ? i - 2 : i - 1, sources);
             for (qsizetype k = i + 2; k < closingParenthesis(tokens, i + 1) && isLiteral(tokens[k]); k += 2) {
                 trimCompared(tokens[k]);

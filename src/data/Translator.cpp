@@ -13,13 +13,21 @@ namespace orvane {
 
 namespace {
 
+/// No statement of the system comes near it; without it one could use up the machine's stack.
+constexpr int deepestNesting = 100;
+
 void checkParentheses(const Tokens& tokens, const QString& tsql) {
-    int depth = 0;
+    int depth = 0, deepest = 0, tops = 0;
     for (qsizetype i = 0; i < tokens.size() && depth >= 0; ++i) {
         depth += tokens[i].isSymbol("(") ? 1 : tokens[i].isSymbol(")") ? -1 : 0;
+        deepest = std::max(deepest, depth);
+        tops += tokens[i].is("top") ? 1 : 0;
     }
     if (depth != 0) {
         throw DataError(QStringLiteral("The parentheses of the statement do not match."), tsql);
+    }
+    if (deepest + tops > deepestNesting) {
+        throw DataError(QStringLiteral("The statement is nested too deeply."), tsql);
     }
 }
 
