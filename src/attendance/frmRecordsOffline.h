@@ -46,6 +46,9 @@ private:
     bool isComplete();
     void saveEdited();
     void saveNew();
+    bool changeVisit();
+    bool enterVisit(const QDateTime& now); ///< false: the patient has an open visit, and nothing was saved
+    void afterSave(const QString& message);
     void setVisitColumns(Recordset& visit) const;
     void addVisit(Connection& connection, QTime at);
     void updatePatientAndAppointment(Connection& connection);

@@ -5,6 +5,8 @@
 namespace orvane {
 
 void frmRecordsOffline::OKButton_Click() {
+    if (settlesSave())
+        return;
     tmrBill.setEnabled(false);
     Label5.setColor({});
     if (!isComplete())
@@ -13,6 +15,13 @@ void frmRecordsOffline::OKButton_Click() {
         saveEdited();
     else
         saveNew();
+}
+
+void frmRecordsOffline::afterSave(const QString& message) {
+    program.box(message);
+    setButtons(false);
+    clearForm();
+    cmdRefresh_Click();
 }
 
 bool frmRecordsOffline::isComplete() {
@@ -56,8 +65,13 @@ void frmRecordsOffline::setVisitColumns(Recordset& visit) const {
     visit.set("coyName", lblCoy.text().isEmpty() ? QVariant() : lblCoy.text());
 }
 
-/// Changes the visit only; its bill items are not touched.
 void frmRecordsOffline::saveEdited() {
+    saveOnce(
+        OKButton, [this] { return changeVisit(); }, [this] { afterSave("Record Succesfully Edited and Updated"); });
+}
+
+/// Changes the visit only; its bill items are not touched.
+bool frmRecordsOffline::changeVisit() {
     Connection connection = program.openBilling();
     Transaction transaction(connection);
     Recordset visit(connection, Sql("select * from hRecords where recID=") << lRecID);
@@ -67,33 +81,30 @@ void frmRecordsOffline::saveEdited() {
     visit.set("exitDate", dtDate.date());
     visit.update();
     transaction.commit();
-    program.box("Record Succesfully Edited and Updated");
-    setButtons(false);
-    clearForm();
-    cmdRefresh_Click();
+    return true;
 }
 
 void frmRecordsOffline::saveNew() {
     const QDateTime now = program.getServerDateTime();
     if (!now.isValid())
         return;
+    if (!saveOnce(
+            OKButton, [&] { return enterVisit(now); }, [this] { afterSave("Record Succesfully saved"); }))
+        refuseDuplicate();
+}
+
+bool frmRecordsOffline::enterVisit(const QDateTime& now) {
     Connection connection = program.openBilling();
     Transaction transaction(connection);
     // Another workstation may have entered the same patient since the pick.
-    if (hasOpenVisit(connection)) {
-        transaction.rollback();
-        refuseDuplicate();
-        return;
-    }
+    if (hasOpenVisit(connection))
+        return false;
     lblBill.setText(genConsultID(connection, session.gHospID));
     addVisit(connection, now.time());
     postConsultationFee(connection, {cboType.text(), session.sClientName, lblNo.text(), lblBill.text(), now.date()});
     updatePatientAndAppointment(connection);
     transaction.commit();
-    program.box("Record Succesfully saved");
-    setButtons(false);
-    clearForm();
-    cmdRefresh_Click();
+    return true;
 }
 
 void frmRecordsOffline::addVisit(Connection& connection, QTime at) {

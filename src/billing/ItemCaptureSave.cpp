@@ -7,6 +7,8 @@
 namespace orvane {
 
 void ItemCapture::OKButton_Click() {
+    if (settlesSave())
+        return;
     if (dtDate.isEmpty()) {
         program.box(m_dateRefusal);
         dtDate.setFocus();
@@ -19,17 +21,13 @@ void ItemCapture::OKButton_Click() {
     }
     if (!program.question("Are you sure to save?", "About to save"))
         return;
-    try {
-        if (const QString refusal = saveLines(); !refusal.isEmpty()) {
-            program.box(refusal);
-            return;
-        }
-    } catch (const CommitUnknown&) {
-        // They may be saved: lines that still stood here as new would go on the bill twice.
-        unload();
-        throw;
-    }
-    unload();
+    QString refusal;
+    const auto save = [&] {
+        refusal = saveLines();
+        return refusal.isEmpty();
+    };
+    if (!saveOnce(OKButton, save, [this] { unload(); }))
+        program.box(refusal);
 }
 
 /// The new lines, their charges and the bill's row, all or nothing. Gives why nothing was saved; empty: all was.

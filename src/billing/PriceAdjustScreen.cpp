@@ -102,20 +102,19 @@ bool PriceAdjustScreen::isFrozen() {
     return true;
 }
 
-bool PriceAdjustScreen::changeBill(const std::function<void(Connection&)>& steps) {
-    bool open = false;
-    {
+void PriceAdjustScreen::changeBill(Button& button, const std::function<void(Connection&)>& steps,
+                                   std::function<void()> afterChange) {
+    const auto save = [&] {
         Connection connection = program.openBilling();
         Transaction transaction(connection);
-        open = !isBillProcessed(connection, m_billNo);
-        if (open) {
-            steps(connection);
-            transaction.commit();
-        }
-    }
-    if (!open)
+        if (isBillProcessed(connection, m_billNo))
+            return false;
+        steps(connection);
+        transaction.commit();
+        return true;
+    };
+    if (!saveOnce(button, save, std::move(afterChange)))
         program.box(billProcessedText());
-    return open;
 }
 
 void PriceAdjustScreen::requireUnchanged(const Recordset& row) const {
@@ -136,17 +135,17 @@ bool PriceAdjustScreen::checkFields() {
 }
 
 void PriceAdjustScreen::cmdSave_Click() {
-    if (isFrozen() || !checkFields())
+    if (settlesSave() || isFrozen() || !checkFields())
         return;
-    const bool saved = changeBill([this](Connection& connection) {
+    const auto steps = [this](Connection& connection) {
         Recordset row = openRow(connection);
         requireUnchanged(row);
         saveRow(connection, row);
+    };
+    changeBill(cmdSave, steps, [this] {
+        afterSave();
+        unload();
     });
-    if (!saved)
-        return;
-    afterSave();
-    unload();
 }
 
 } // namespace orvane

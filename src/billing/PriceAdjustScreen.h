@@ -36,8 +36,9 @@ protected:
     bool showRow(const Recordset& row, const QString& billColumn);
     /// A processed bill is refused with its box.
     bool isFrozen();
-    /// `steps` in one transaction; false, with the box, when a batch has taken the bill meanwhile.
-    bool changeBill(const std::function<void(Connection&)>& steps);
+    /// `steps` in one transaction, as saveOnce of `button`, then `afterChange`; only the box when a batch has taken the
+    /// bill meanwhile.
+    void changeBill(Button& button, const std::function<void(Connection&)>& steps, std::function<void()> afterChange);
     /// Refuses, with a DataError, to write over what somebody else has changed since the screen has read it.
     void requireUnchanged(const Recordset& row) const;
     ItemChange change() const; ///< from the state read to what the fields say

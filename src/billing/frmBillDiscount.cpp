@@ -77,7 +77,7 @@ void frmBillDiscount::cboVehNo_Click() {
 }
 
 void frmBillDiscount::OKButton_Click() {
-    if (!checkFields())
+    if (settlesSave() || !checkFields())
         return;
     const std::optional<double> amount = parseAmount(txtHt.text());
     // The entry type makes the sign: a negative amount would turn a discount into a charge. A line of 0 is none.
@@ -88,20 +88,14 @@ void frmBillDiscount::OKButton_Click() {
     }
     if (!program.question("Are you sure to save?", "About to save"))
         return;
-    bool saved = false;
-    try {
-        saved = save(isDiscount() ? -round2(*amount) : round2(*amount));
-    } catch (const CommitUnknown&) {
-        // It may be saved: only a fresh look at the bill may save it again.
+    const double signedAmount = isDiscount() ? -round2(*amount) : round2(*amount);
+    const auto afterSave = [this] {
         clearFields();
-        throw;
-    }
-    if (!saved) {
+        program.box("Record Succesfully saved");
+    };
+    if (!saveOnce(
+            OKButton, [&] { return save(signedAmount); }, afterSave))
         program.box(billProcessedText());
-        return;
-    }
-    clearFields();
-    program.box("Record Succesfully saved");
 }
 
 bool frmBillDiscount::checkFields() {

@@ -122,7 +122,7 @@ void frmBillingVerify::Form_Load() {
 
 /// The worklist hands over the visit that its user has picked.
 void frmBillingVerify::Form_Activate() {
-    if (session.gSearchBillNo.isEmpty())
+    if (session.gSearchBillNo.isEmpty() || settlesSave())
         return;
     txtSearch.setText(std::exchange(session.gSearchBillNo, QString()));
     cmdOK_Click();

@@ -79,9 +79,8 @@ private:
     bool isBillOpen();
     bool areDatesGiven();
     void confirmProfFee();
-    QString saveBill(const Receipt* receipt);
     QString writeBill(const Receipt* receipt);
-    void lockSavedBill();
+    void afterSave(const QString& receiptNo);
     void saveVisit(Connection& connection);
     void saveBillRow(Connection& connection);
     void saveApprvCode();
@@ -126,6 +125,9 @@ private:
     bool isFeeGiven(TextBox& box, const QString& refusal);
     void addFeeItem(Connection& connection, const QString& text, double fee, const QString& revType, bool billed);
     void addFeeLine(Connection& connection, const QString& text, double fee, const QString& revType);
+    void addServiceFee(Connection& connection, const QString& text);
+    bool isManager();
+    bool changeBill(Button& button, const std::function<void(Connection&)>& steps, std::function<void()> afterChange);
     void updateBillTotal(Connection& connection);
     void capitateItems(Connection& connection);
     void capitateItem(Connection& connection, const Recordset& item, const Charge& charge);

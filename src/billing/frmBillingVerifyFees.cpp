@@ -73,100 +73,101 @@ void frmBillingVerify::updateBillTotal(Connection& connection) {
 }
 
 void frmBillingVerify::cmdBill_Click() {
-    if (!isFeeGiven(txtProf, "Specify Prof fee! Numeric Only"))
+    if (settlesSave() || !isFeeGiven(txtProf, "Specify Prof fee! Numeric Only"))
         return;
     const double bill = parseAmount(lblCurr.text()).value_or(0);
     const QString percent = txtProf.text().trimmed();
     const double fee = round2(bill * amountIn(txtProf) / 100);
     const QString text = "Prof Fee (" + percent + "%)";
-    bool open = false;
-    {
+    const auto steps = [&](Connection& connection) { addFeeItem(connection, text, fee, {}, false); };
+    changeBill(cmdBill, steps, [=, this] {
+        program.writeAuditTrail(session.gUsername, "insert Prof Fee (" + percent + "%) for: " + m_bill.patient,
+                                m_bill.consultID, formatTwoDecimals(fee), session.sComputerName);
+        session.sAdjustItem = text;
+        getAccumBill();
+        program.box(percent + "% Prof fee of " + formatTwoDecimals(bill) +
+                    " Added\nProf Fee is based on Current Bill\nProf Fee Charged is " + formatTwoDecimals(fee));
+    });
+}
+
+/// `steps` in one transaction, as saveOnce of `button`; false, with the box, when a batch has taken the bill meanwhile.
+bool frmBillingVerify::changeBill(Button& button, const std::function<void(Connection&)>& steps,
+                                  std::function<void()> afterChange) {
+    const auto save = [&] {
         Connection connection = program.openBilling();
         Transaction transaction(connection);
-        open = !isBillProcessed(connection, m_bill.consultID);
-        if (open) {
-            addFeeItem(connection, text, fee, {}, false);
-            transaction.commit();
-        }
-    }
-    if (!open) {
+        if (isBillProcessed(connection, m_bill.consultID))
+            return false;
+        steps(connection);
+        transaction.commit();
+        return true;
+    };
+    const bool changed = saveOnce(button, save, std::move(afterChange));
+    if (!changed)
         program.box(billProcessedText());
-        return;
-    }
-    program.writeAuditTrail(session.gUsername, "insert Prof Fee (" + percent + "%) for: " + m_bill.patient,
-                            m_bill.consultID, formatTwoDecimals(fee), session.sComputerName);
-    session.sAdjustItem = text;
-    getAccumBill();
-    program.box(percent + "% Prof fee of " + formatTwoDecimals(bill) +
-                " Added\nProf Fee is based on Current Bill\nProf Fee Charged is " + formatTwoDecimals(fee));
+    return changed;
 }
 
 void frmBillingVerify::cmdNHIS_Click() {
-    if (!isFeeGiven(txtNHIS, "Specify NHIS fee! Numeric Only"))
+    if (settlesSave() || !isFeeGiven(txtNHIS, "Specify NHIS fee! Numeric Only"))
         return;
     const QString percent = txtNHIS.text().trimmed();
     const std::optional<QString> text = ui().inputBox("Enter Item Description", {}, "NHIS  (" + percent + "%) Fee");
     if (!text || text->trimmed().isEmpty())
         return;
+    const auto steps = [&](Connection& connection) { addServiceFee(connection, *text); };
+    changeBill(cmdNHIS, steps, [this, percent, item = *text] {
+        program.writeAuditTrail(session.gUsername,
+                                "insert Service/NHIS  (" + percent + "%) fee for Drugs/Services for " + m_bill.patient,
+                                m_bill.consultID, item, session.sComputerName);
+        session.sAdjustItem = item;
+        getAccumBill();
+    });
+}
+
+void frmBillingVerify::addServiceFee(Connection& connection, const QString& text) {
     const bool all = session.gNHISFee.isEmpty() || session.gNHISFee == "ALL";
     const QString revType = session.gNHISFee == "DRUG" ? "CONSULTATION" : "DRUG";
-    bool open = false;
-    {
-        Connection connection = program.openBilling();
-        Transaction transaction(connection);
-        open = !isBillProcessed(connection, m_bill.consultID);
-        if (open) {
-            const Recordset base =
-                all ? Recordset(connection, Sql("select sum(subtotal) as Subtotal from BillAccum where consultid='")
-                                                << m_bill.consultID << "'")
-                    : Recordset(connection,
-                                Sql("select sum(isnull(subtotal,0)) as Subtotal from BillAccum where consultid='")
-                                    << m_bill.consultID << "' and billtype='DRUG'");
-            const double fee = round2(base.number("Subtotal") * amountIn(txtNHIS) / 100);
-            addFeeItem(connection, *text, fee, revType, true);
-            addFeeLine(connection, *text, fee, revType);
-            postPatientTran(program, connection, session.gServerDate, m_bill.pno, m_bill.consultID, 0 - fee,
-                            m_bill.retainCode, *text);
-            updateBillTotal(connection);
-            transaction.commit();
-        }
-    }
-    if (!open) {
-        program.box(billProcessedText());
-        return;
-    }
-    program.writeAuditTrail(session.gUsername,
-                            "insert Service/NHIS  (" + percent + "%) fee for Drugs/Services for " + m_bill.patient,
-                            m_bill.consultID, *text, session.sComputerName);
-    session.sAdjustItem = *text;
-    getAccumBill();
+    const Recordset base =
+        all ? Recordset(connection, Sql("select sum(subtotal) as Subtotal from BillAccum where consultid='")
+                                        << m_bill.consultID << "'")
+            : Recordset(connection, Sql("select sum(isnull(subtotal,0)) as Subtotal from BillAccum where consultid='")
+                                        << m_bill.consultID << "' and billtype='DRUG'");
+    const double fee = round2(base.number("Subtotal") * amountIn(txtNHIS) / 100);
+    addFeeItem(connection, text, fee, revType, true);
+    addFeeLine(connection, text, fee, revType);
+    postPatientTran(program, connection, session.gServerDate, m_bill.pno, m_bill.consultID, 0 - fee, m_bill.retainCode,
+                    text);
+    updateBillTotal(connection);
+}
+
+bool frmBillingVerify::isManager() {
+    Connection connection = program.openBilling();
+    return !Recordset(connection, Sql("select  * from vwUsers where loginRole='MANAGEMENT' and username='")
+                                      << session.gUsername << "'")
+                .eof();
 }
 
 /// The bill is emptied: every item falls under the contract, and what was charged for it goes back to the account.
 void frmBillingVerify::cmdCap_Click() {
-    if (!hasPatient("No Patient is selected"))
+    if (settlesSave() || !hasPatient("No Patient is selected"))
         return;
-    Connection connection = program.openBilling();
-    if (Recordset(connection, Sql("select  * from vwUsers where loginRole='MANAGEMENT' and username='")
-                                  << session.gUsername << "'")
-            .eof()) {
+    if (!isManager()) {
         program.box("Only User with Mgt Previlege can initiate this Action");
         return;
     }
     if (!program.question("Are you sure to Capitate all Items in this Bill", "Capitation"))
         return;
-    bool open = false;
-    {
-        Transaction transaction(connection);
-        open = !isBillProcessed(connection, m_bill.consultID);
-        if (open) {
-            capitateItems(connection);
-            updateBillTotal(connection);
-            transaction.commit();
-        }
-    }
-    program.box(open ? " Bill Item successfully Capitated" : billProcessedText());
-    getAccumBill();
+    const auto steps = [this](Connection& saving) {
+        capitateItems(saving);
+        updateBillTotal(saving);
+    };
+    const bool changed = changeBill(cmdCap, steps, [this] {
+        program.box(" Bill Item successfully Capitated");
+        getAccumBill();
+    });
+    if (!changed)
+        getAccumBill();
 }
 
 void frmBillingVerify::capitateItems(Connection& connection) {

@@ -9,7 +9,7 @@
 namespace orvane {
 
 void frmBillingVerify::OKButton_Click() {
-    if (!isBillInHand() || !isBillOpen() || !areDatesGiven())
+    if (settlesSave() || !isBillInHand() || !isBillOpen() || !areDatesGiven())
         return;
     if (chkRct.isChecked() && fraReceipt.isEnabled() && !isReceiptComplete())
         return;
@@ -32,16 +32,28 @@ void frmBillingVerify::OKButton_Click() {
         receipt = receiptOnScreen();
     }
 
-    if (const QString refusal = saveBill(receipt ? &*receipt : nullptr); !refusal.isEmpty()) {
+    QString refusal;
+    const auto save = [&] {
+        ui().setBusy(true);
+        refusal = writeBill(receipt ? &*receipt : nullptr);
+        ui().setBusy(false);
+        return refusal.isEmpty();
+    };
+    if (!saveOnce(OKButton, save, [this, number = lblRct.text()] { afterSave(number); }))
         program.box(refusal);
-        return;
-    }
+}
+
+/// `receiptNo` is empty where no receipt was taken. The saved bill is locked first, so that no fault in what follows
+/// leaves one that could be saved again.
+void frmBillingVerify::afterSave(const QString& receiptNo) {
+    m_saved = true;
+    OKButton.setEnabled(false);
     saveApprvCode();
     cmdCancel.setEnabled(true);
-    if (receipt)
-        showCashReceipt(program, receipt->receiptNo);
-    else
+    if (receiptNo.isEmpty())
         program.box("Record Succesfully saved");
+    else
+        showCashReceipt(program, receiptNo);
 }
 
 bool frmBillingVerify::isBillInHand() {
@@ -92,29 +104,7 @@ void frmBillingVerify::confirmProfFee() {
 }
 
 /// The bill, what it still lacks, its date and its receipt, all or nothing. Gives why nothing was saved; empty: all
-/// was.
-QString frmBillingVerify::saveBill(const Receipt* receipt) {
-    ui().setBusy(true);
-    QString refusal;
-    try {
-        refusal = writeBill(receipt);
-    } catch (const CommitUnknown&) {
-        // It may be saved: only a fresh look at the bill may save it again.
-        lockSavedBill();
-        throw;
-    }
-    if (refusal.isEmpty())
-        lockSavedBill();
-    ui().setBusy(false);
-    return refusal;
-}
-
-void frmBillingVerify::lockSavedBill() {
-    m_saved = true;
-    OKButton.setEnabled(false);
-}
-
-/// A batch may have taken the bill, or another user its visit, since it was loaded.
+/// was. A batch may have taken the bill, or another user its visit, since it was loaded.
 QString frmBillingVerify::writeBill(const Receipt* receipt) {
     Connection connection = program.openBilling();
     Transaction transaction(connection);

@@ -227,16 +227,18 @@ void frmPriceAdjustVerify::rememberChoice() {
 }
 
 void frmPriceAdjustVerify::cmdCancel_Click() {
-    if (isFrozen())
+    if (settlesSave() || isFrozen())
         return;
     if (!program.question("Are you sure to Remove Bill Item", "Adjustment"))
         return;
-    if (!changeBill([this](Connection& connection) { remove(connection); }))
-        return;
-    program.box(" Bill Item successfully Removed");
-    audit("Remove Bill Item for " + session.sBillPatName,
-          m_oldItem + ": Qty:" + QString::number(dQty) + " Amount: " + formatNumber(m_oldAmount, "0.00"));
-    unload();
+    changeBill(
+        cmdCancel, [this](Connection& connection) { remove(connection); },
+        [this] {
+            program.box(" Bill Item successfully Removed");
+            audit("Remove Bill Item for " + session.sBillPatName,
+                  m_oldItem + ": Qty:" + QString::number(dQty) + " Amount: " + formatNumber(m_oldAmount, "0.00"));
+            unload();
+        });
 }
 
 /// Only what was charged goes back, to the account that bore it: an item that never reached the bill has charged

@@ -126,6 +126,11 @@ qint64 DataSource::statementsSent() const {
     return d->statementsSent;
 }
 
+void DataSource::setWaits(int lockMilliseconds, int outcomePauseMilliseconds) {
+    d->lockWait = lockMilliseconds;
+    d->outcomePause = outcomePauseMilliseconds;
+}
+
 void DataSource::setStatementHook(std::function<void(const QString&)> hook) {
     d->setHook(std::move(hook));
 }

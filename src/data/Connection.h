@@ -43,7 +43,10 @@ public:
 private:
     friend class DataSource;
     friend class Recordset;
+    friend class BulkInsert;
     friend void createSchema(Connection&, const QString&);
+    friend void dropIndexes(Connection&, const QString&);
+    friend void createIndexes(Connection&, const QString&);
     friend class Transaction;
     explicit Connection(std::shared_ptr<PhysicalConnection> physical);
     void giveBack() noexcept;
@@ -81,9 +84,15 @@ public:
     int openTransactions() const;
     /// Statements sent to the engine so far, for benchmarks and tests.
     qint64 statementsSent() const;
-    /// Called before every statement with its T-SQL, and with "begin transaction", "commit transaction" (before it) and
-    /// "transaction committed" (after it); for tests that break things. A DataError that it raises stands for the
-    /// engine's: before a statement the statement failed, before a commit all was rolled back, after it CommitUnknown.
+    /// What became of the transaction of a CommitUnknown, as the database says now. Raises nothing.
+    CommitOutcome outcomeOf(const CommitTicket& ticket);
+    /// How long a connection that is opened from now on waits for a lock (60 s unless told), and a commit whose answer
+    /// was lost for the database to come back, pause by pause. For tests.
+    void setWaits(int lockMilliseconds, int outcomePauseMilliseconds);
+    /// Called before every statement with its T-SQL, and with "begin transaction", "commit transaction" (before it),
+    /// "transaction committed" (after it) and "outcome of commit" (before it is asked for); for tests that break things.
+    /// A DataError that it raises stands for the engine's: before a statement the statement failed, before a commit all
+    /// was rolled back, after it CommitUnknown, before the outcome the database cannot be asked.
     void setStatementHook(std::function<void(const QString&)> hook);
     QString homeFolder() const;
 

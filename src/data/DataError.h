@@ -27,10 +27,30 @@ private:
     QByteArray m_what;
 };
 
-/// The connection broke while a commit was under way: nobody knows whether the rows were saved.
+/// By which a database knows a transaction whose commit it has not answered.
+struct CommitTicket {
+    QString connectionString;
+    QString transaction; ///< the engine's own number of it; empty where the engine cannot be asked
+};
+
+/// What became of such a transaction.
+enum class CommitOutcome {
+    Saved,
+    NotSaved,
+    Unknown ///< the database cannot be reached, or has not noticed yet that nobody waits for its answer
+};
+
+/// The connection broke while a commit was under way, and the database could not be asked at once whether the rows were
+/// saved; DataSource::outcomeOf asks again.
 class CommitUnknown : public DataError {
 public:
-    using DataError::DataError;
+    CommitUnknown(QString description, QString statement, CommitTicket ticket)
+        : DataError(std::move(description), std::move(statement)), m_ticket(std::move(ticket)) {}
+
+    const CommitTicket& ticket() const { return m_ticket; }
+
+private:
+    CommitTicket m_ticket;
 };
 
 } // namespace orvane

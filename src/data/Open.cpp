@@ -1,5 +1,5 @@
+#include "data/Faults.h"
 #include "data/Physical.h"
-
 #include "data/Schema.h"
 
 #include <QDir>
@@ -19,11 +19,6 @@ using Physical = std::shared_ptr<PhysicalConnection>;
 QString uniqueName() {
     static std::atomic<qint64> last = 0;
     return QStringLiteral("orvane-%1").arg(++last);
-}
-
-[[noreturn]] void cannotOpen(const QString& what, const QSqlError& error) {
-    const QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
-    throw DataError(QStringLiteral("%1 cannot be opened: %2").arg(what, text.trimmed()));
 }
 
 /// Which tables a database of that name holds.
@@ -84,11 +79,13 @@ void openSqlite(const Physical& physical, const ServerEntry& entry, const Connec
     }
     physical->gate = path;
     physical->database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), physical->name);
-    physical->database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=60000"));
+    physical->database.setConnectOptions(
+        QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1").arg(physical->source->lockWait));
     physical->database.setDatabaseName(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded) +
                                        (create ? QStringLiteral("?mode=rwc") : QStringLiteral("?mode=rw")));
     if (!physical->database.open()) {
-        cannotOpen(QStringLiteral("The database file %1").arg(path), physical->database.lastError());
+        throw DataError(QStringLiteral("The database file %1 cannot be opened: %2")
+                            .arg(path, engineWords(physical->database.lastError())));
     }
     prepareSqlite(physical, physical->source);
     if (sqlite3_db_readonly(handleOf(physical->database), "main") == 1) {
@@ -123,6 +120,16 @@ QString serverDatabase(const ServerEntry& entry, const ConnectionTarget& target)
     return entry.engine == Engine::Postgresql ? name.toLower() : name;
 }
 
+/// A server or a network that is gone is noticed within half a minute on both sides: a program that waits for a dead
+/// server does not hang, and a workstation that died in mid-save does not keep the gate from all others.
+QString postgresqlOptions(int lockWait) {
+    return QStringLiteral("connect_timeout=10;tcp_user_timeout=30000;keepalives_idle=15;keepalives_interval=5;"
+                          "keepalives_count=3;options='-c lock_timeout=%1 -c client_min_messages=warning "
+                          "-c idle_in_transaction_session_timeout=30000 -c tcp_keepalives_idle=15 "
+                          "-c tcp_keepalives_interval=5 -c tcp_keepalives_count=3'")
+        .arg(lockWait);
+}
+
 void connectServer(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target,
                    const QString& database) {
     const bool postgresql = entry.engine == Engine::Postgresql;
@@ -134,9 +141,7 @@ void connectServer(const Physical& physical, const ServerEntry& entry, const Con
         physical->database.setHostName(entry.host);
         physical->database.setPort(entry.port > 0 ? entry.port : 5432);
         physical->database.setDatabaseName(database);
-        physical->database.setConnectOptions(
-            QStringLiteral("connect_timeout=10;tcp_user_timeout=30000;"
-                           "options='-c lock_timeout=60000 -c client_min_messages=warning'"));
+        physical->database.setConnectOptions(postgresqlOptions(physical->source->lockWait));
     } else {
         physical->database.setDatabaseName(
             QStringLiteral("Driver={%1};Server=%2,%3;Database=%4;TrustServerCertificate=yes")
@@ -145,7 +150,9 @@ void connectServer(const Physical& physical, const ServerEntry& entry, const Con
                 .arg(database));
     }
     if (!physical->database.open()) {
-        cannotOpen(QStringLiteral("The database %1 on %2").arg(database, entry.host), physical->database.lastError());
+        throw DataError(QStringLiteral("The database server cannot be reached. Please try again; if it stays so, tell "
+                                       "the administrator.\n(The database %1 on %2 cannot be opened: %3)")
+                            .arg(database, entry.host, engineWords(physical->database.lastError())));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "data/Physical.h"
 
 #include "data/Assert.h"
+#include "data/Faults.h"
 #include "data/Translator.h"
 #include "data/Value.h"
 
@@ -13,35 +14,6 @@
 namespace orvane {
 
 namespace {
-
-constexpr auto kBusy = "The database is in use by another workstation. Nothing was saved; please try again.";
-
-/// The database's own words, without the marks that its client library puts around them.
-QString cleanText(const QSqlError& error) {
-    QString text = error.databaseText().trimmed();
-    if (text.isEmpty()) {
-        text = error.driverText().trimmed();
-    }
-    // The driver puts the server's error code in brackets behind its text, and a lost server has none.
-    if (text.endsWith(QStringLiteral("()"))) {
-        text = text.chopped(2).trimmed();
-    }
-    if (text.startsWith(QStringLiteral("ERROR:"))) {
-        text = text.mid(6).trimmed().section(QStringLiteral("\nLINE "), 0, 0);
-    }
-    return text;
-}
-
-/// SQLite 5, 6: busy, locked. PostgreSQL 55P03, 40001, 40P01: lock not had in time, serialization, deadlock.
-bool isBusy(const QString& code) {
-    static const QStringList codes = {"5", "6", "261", "517", "55P03", "40001", "40P01"};
-    return codes.contains(code);
-}
-
-/// What the engine itself has undone, so that sending it once more writes it once.
-bool mayBeSentAgain(const QString& code) {
-    return code == QStringLiteral("40001") || code == QStringLiteral("40P01");
-}
 
 std::atomic<bool> takesGate = true;
 
@@ -114,8 +86,8 @@ QSqlQuery PhysicalConnection::send(const QString& tsql, const QVariantList& boun
     QSqlQuery query(database);
     query.setForwardOnly(true);
     for (int attempt = 1; !execute(query, text, bound); ++attempt) {
-        if (inTransaction || attempt == 3 || !mayBeSentAgain(query.lastError().nativeErrorCode())) {
-            fail(query.lastError(), text);
+        if (inTransaction || attempt == 3 || !mayBeSentAgain(query.lastError())) {
+            fail(query.lastError(), text, inTransaction);
         }
     }
     return query;
@@ -143,9 +115,15 @@ QSqlQuery PhysicalConnection::sendNative(const QString& text) {
     QSqlQuery query(database);
     query.setForwardOnly(true);
     if (!query.exec(text)) {
-        fail(query.lastError(), text);
+        fail(query.lastError(), text, inTransaction);
     }
     return query;
+}
+
+void PhysicalConnection::requireAllRead(const QSqlQuery& query) {
+    if (query.lastError().isValid()) {
+        fail(query.lastError(), query.lastQuery(), inTransaction);
+    }
 }
 
 /// A write beside this workstation's own open transaction would wait for that transaction, which waits for the write.
@@ -166,44 +144,61 @@ void PhysicalConnection::tellClock() {
     clockVersion = source->clockVersion;
 }
 
-void PhysicalConnection::fail(const QSqlError& error, const QString& text) {
+void PhysicalConnection::fail(const QSqlError& error, const QString& text, bool saving) {
     poisoned = inTransaction;
-    const QString code = error.nativeErrorCode();
-    broken = broken || !database.isOpen() || code.startsWith(QStringLiteral("57P0")) ||
-             code.startsWith(QStringLiteral("08"));
-    if (broken) {
-        throw DataError(QStringLiteral("The connection to the database server is lost. %1").arg(cleanText(error)),
-                        text, code);
+    broken = broken || !database.isOpen() || endsConnection(error);
+    throw DataError(faultText(engine, error, broken, saving), text, error.nativeErrorCode());
+}
+
+/// A statement that begins a transaction: where it fails, nothing of the transaction is saved.
+QSqlQuery PhysicalConnection::sendBegin(const QString& text) {
+    QSqlQuery query(database);
+    query.setForwardOnly(true);
+    if (!query.exec(text)) {
+        fail(query.lastError(), text, true);
     }
-    throw DataError(isBusy(code) ? QString::fromUtf8(kBusy) : cleanText(error), text, code);
+    return query;
+}
+
+/// Begins and takes the money gate. PostgreSQL gives the transaction its number here, by which outcomeOf asks for it.
+void PhysicalConnection::enterGate() {
+    if (!hasEngineTransaction()) {
+        return;
+    }
+    if (engine == Engine::Sqlite) {
+        sendBegin(QStringLiteral("begin immediate"));
+    } else if (engine == Engine::Postgresql) {
+        sendBegin(QStringLiteral("begin isolation level read committed"));
+        QSqlQuery gateResult =
+            sendBegin(takesGate ? QStringLiteral("select pg_advisory_xact_lock(7461), txid_current() as number")
+                                : QStringLiteral("select txid_current() as number"));
+        transaction = gateResult.next() ? gateResult.value(QStringLiteral("number")).toString() : QString();
+        requireAllRead(gateResult);
+    } else {
+        sendBegin(QStringLiteral("begin transaction"));
+        QSqlQuery gateResult = sendBegin(QStringLiteral(
+            "declare @r int; exec @r = sp_getapplock 'orvane', 'Exclusive', 'Transaction', 60000; select @r"));
+        if (!gateResult.next() || gateResult.value(0).toInt() < 0) {
+            throw DataError(
+                QStringLiteral("The database is in use by another workstation. Nothing was saved. Please try again."));
+        }
+    }
 }
 
 void PhysicalConnection::begin() {
     ORVANE_ASSERT(!inTransaction);
     source->enterGate(gate);
+    transaction.clear();
     bool begun = false;
     try {
         source->callHook(QStringLiteral("begin transaction"));
         tellClock();
         begun = engine != Engine::Sqlite;
-        if (engine == Engine::Sqlite) {
-            sendNative(QStringLiteral("begin immediate"));
-        } else if (engine == Engine::Postgresql) {
-            sendNative(QStringLiteral("begin isolation level read committed"));
-            if (takesGate) {
-                sendNative(QStringLiteral("select pg_advisory_xact_lock(7461)"));
-            }
-        } else {
-            sendNative(QStringLiteral("begin transaction"));
-            QSqlQuery gateResult = sendNative(QStringLiteral(
-                "declare @r int; exec @r = sp_getapplock 'orvane', 'Exclusive', 'Transaction', 60000; select @r"));
-            if (!gateResult.next() || gateResult.value(0).toInt() < 0) {
-                throw DataError(QString::fromUtf8(kBusy));
-            }
-        }
+        enterGate();
     } catch (...) {
-        if (begun && database.isOpen()) {
-            QSqlQuery(database).exec(QStringLiteral("rollback"));
+        // It may have begun before it failed, and a transaction that is left open would hold what it has locked.
+        if (begun) {
+            broken = broken || !database.isOpen() || !QSqlQuery(database).exec(QStringLiteral("rollback"));
         }
         source->leaveGate(gate);
         throw;
@@ -213,50 +208,16 @@ void PhysicalConnection::begin() {
     ++source->openTransactions;
 }
 
-void PhysicalConnection::commit() {
-    if (poisoned) {
-        rollback();
-        throw DataError(QStringLiteral("An earlier statement of this transaction failed. Nothing of it is saved."));
-    }
-    try {
-        source->callHook(QStringLiteral("commit transaction"));
-    } catch (...) {
-        rollback();
-        throw;
-    }
-    QSqlQuery query(database);
-    const bool done =
-        query.exec(engine == Engine::SqlServer ? QStringLiteral("commit transaction") : QStringLiteral("commit"));
-    if (!done) {
-        const QSqlError error = query.lastError();
-        try {
-            fail(error, QStringLiteral("commit"));
-        } catch (const DataError& fault) {
-            const bool unknown = broken;
-            rollback();
-            if (unknown) {
-                throw CommitUnknown(
-                    QStringLiteral("The connection broke while saving. Check whether the entry was saved before "
-                                   "entering it again. ") +
-                        fault.description(),
-                    fault.statement());
-            }
-            throw;
-        }
-    }
-    endTransaction();
-    try {
-        source->callHook(QStringLiteral("transaction committed"));
-    } catch (const DataError& fault) {
-        throw CommitUnknown(fault.description(), fault.statement());
-    }
+/// The gate of the embedded engine is the transaction itself: without it each statement is for itself.
+bool PhysicalConnection::hasEngineTransaction() const {
+    return engine != Engine::Sqlite || takesGate;
 }
 
 void PhysicalConnection::rollback() noexcept {
     const QString text =
         engine == Engine::SqlServer ? QStringLiteral("rollback transaction") : QStringLiteral("rollback");
     // A connection that cannot say that its transaction is gone is not used again; the engine undoes it when it closes.
-    broken = broken || !database.isOpen() || !QSqlQuery(database).exec(text);
+    broken = broken || !database.isOpen() || (hasEngineTransaction() && !QSqlQuery(database).exec(text));
     endTransaction();
 }
 

@@ -30,11 +30,14 @@ struct PhysicalConnection {
     bool inTransaction = false;
     bool poisoned = false; ///< a statement of the open transaction failed
     int clockVersion = 0;  ///< of the server clock that PostgreSQL was told
+    QString transaction;   ///< the engine's own number of the open transaction, where it has one
 
     /// Sends one T-SQL statement, with ? for each bound value. Raises DataError; a failure poisons an open transaction.
     QSqlQuery send(const QString& tsql, const QVariantList& bound = {});
     /// Sends text in the engine's own words, outside the rules for statements: begin, commit, settings.
     QSqlQuery sendNative(const QString& text);
+    /// Raises DataError when the rows of a query ended in a fault, not in their last row.
+    void requireAllRead(const QSqlQuery& query);
 
     void begin();
     void commit();
@@ -44,7 +47,12 @@ private:
     bool execute(QSqlQuery& query, const QString& text, const QVariantList& bound);
     void refuseSelfLock(const QString& text) const;
     void tellClock();
-    [[noreturn]] void fail(const QSqlError& error, const QString& text);
+    [[noreturn]] void fail(const QSqlError& error, const QString& text, bool saving);
+    QSqlQuery sendBegin(const QString& text);
+    void enterGate();
+    bool hasEngineTransaction() const;
+    void settleCommit(const QSqlError& error);
+    CommitTicket ticket() const;
     void endTransaction();
 };
 
@@ -57,9 +65,14 @@ struct DataSource::Private : std::enable_shared_from_this<DataSource::Private> {
     std::atomic<qint64> statementsSent = 0;
     std::atomic<int> clockVersion = 0;
     std::atomic<bool> disposable = false; ///< commits do not wait for the disk
+    std::atomic<int> lockWait = 60000;    ///< milliseconds, of new connections
+    std::atomic<int> outcomePause = 700;  ///< milliseconds between two tries to learn what became of a commit
 
     std::shared_ptr<PhysicalConnection> take(const QString& connectionString);
     void giveBack(std::shared_ptr<PhysicalConnection> physical) noexcept;
+
+    CommitOutcome outcomeOf(const CommitTicket& ticket);
+    CommitOutcome outcomeSoon(const CommitTicket& ticket); ///< tries for some seconds
 
     void callHook(const QString& tsql, const QVariantList& bound = {});
     void setHook(std::function<void(const QString&)> hook);
@@ -81,8 +94,8 @@ private:
 /// A statement whose marks ? are replaced by its values; it holds no other literals.
 QString withLiterals(const QString& text, const QVariantList& values);
 
-/// For tests only: whether transactions of this process take the money gate of a PostgreSQL database (they do). Without
-/// it the numbers and balances of several workstations run into each other, which shows that a proof of them can fail.
+/// For tests only: whether transactions of this process take the money gate of a database (they do). Without it the
+/// numbers and balances of several workstations run into each other, which shows that a proof of them can fail.
 void setGateForTests(bool taken);
 
 /// Opens a new connection; `create` makes the database where it is missing, and no schema version is asked for.

@@ -57,6 +57,7 @@ void Recordset::read(Connection& connection, const QString& tsql) {
     const Tokens tokens = tokenize(tsql);
     const QStringList sources = sourcesOf(tokens);
     d->rows = readRows(query, connection.d->engine);
+    connection.d->requireAllRead(query);
     d->rows.columns = properHeads(d->rows.columns, tokens, sources);
     d->table = writableTable(tokens, connection.d->schema);
 }

@@ -15,7 +15,8 @@ public:
     Transaction& operator=(const Transaction&) = delete;
 
     /// Raises DataError when a statement of this transaction failed before (it is then rolled back), or when the commit
-    /// fails; CommitUnknown when the connection broke during the commit.
+    /// fails. When the connection breaks during the commit, a new one asks whether it came through: then this returns
+    /// as ever, else it raises DataError, and CommitUnknown when the database cannot be asked for some seconds.
     void commit();
     void rollback(); ///< does nothing after commit or rollback
 

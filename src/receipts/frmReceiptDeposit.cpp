@@ -231,52 +231,45 @@ bool frmReceiptDeposit::checkFields() {
 }
 
 void frmReceiptDeposit::OKButton_Click() {
-    if (!checkFields())
+    if (settlesSave() || !checkFields())
         return;
     if (!program.question("Are you sure to save?", "About to save"))
         return;
-    Outcome outcome;
-    try {
-        outcome = save();
-    } catch (const CommitUnknown&) {
-        // It may be saved: only a fresh look at the visit may save it again.
-        setEntry(false);
-        throw;
-    }
-    if (outcome.billExists) {
+    if (saveOnce(
+            OKButton, [this] { return save(); }, [this] { afterSave(); }))
+        return;
+    if (m_billExists)
         sendToReceiptEntry();
-        return;
-    }
-    if (outcome.receipt.number.isEmpty()) {
-        program.box(outcome.receipt.refusal);
-        return;
-    }
-    resetFields();
-    setEntry(false);
-    showCashReceipt(program, outcome.receipt.number);
+    else
+        program.box(m_receipt.refusal);
 }
 
-frmReceiptDeposit::Outcome frmReceiptDeposit::save() {
-    Outcome outcome;
+void frmReceiptDeposit::afterSave() {
+    resetFields();
+    setEntry(false);
+    showCashReceipt(program, m_receipt.number);
+}
+
+bool frmReceiptDeposit::save() {
     session.gConsultID = lblBill.text();
     Connection connection = program.openBilling();
     Transaction transaction(connection);
     session.dWorkDate = dtDate.date();
-    outcome.billExists = billExists(connection);
-    if (outcome.billExists)
-        return outcome;
+    m_billExists = billExists(connection);
+    if (m_billExists)
+        return false;
     // Another cashier may have taken the number that was shown: it is formed again behind the gate.
-    outcome.receipt = formReceiptNumber(program, connection, ReceiptForm::ClinicCoded, lblBill.text());
-    if (outcome.receipt.number.isEmpty())
-        return outcome;
+    m_receipt = formReceiptNumber(program, connection, ReceiptForm::ClinicCoded, lblBill.text());
+    if (m_receipt.number.isEmpty())
+        return false;
     const double amount = receiptAmount();
     writeBill(connection);
-    writePayment(connection, outcome.receipt.number);
+    writePayment(connection, m_receipt.number);
     postPatientTran(program, connection, session.dWorkDate, m_pno, lblBill.text(), amount, session.gBillTo, "Deposit");
     program.writeAuditTrail(session.gUsername, "insert Payment for: " + cboVehNo.text(), session.gConsultID,
                             QString::number(amount, 'f', 2), session.sComputerName);
     transaction.commit();
-    return outcome;
+    return true;
 }
 
 void frmReceiptDeposit::writeBill(Connection& connection) {

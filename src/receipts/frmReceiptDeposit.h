@@ -55,12 +55,8 @@ private:
     void OKButton_Click();
     double receiptAmount() const;
     bool checkFields();
-    /// How a save ended; it has written nothing when the bill exists or no number could be formed.
-    struct Outcome {
-        bool billExists = false;
-        ReceiptNumber receipt;
-    };
-    Outcome save();
+    bool save(); ///< false: the bill exists or no number could be formed, and nothing was saved
+    void afterSave();
     void writeBill(Connection& connection);
     void writePayment(Connection& connection, const QString& receiptNo);
     void resetFields();
@@ -69,7 +65,9 @@ private:
     QString m_pno;
     QString m_clientID;
     QString m_clinicID;
-    double m_debtBF = 0; ///< naira, minus is owed
+    double m_debtBF = 0;       ///< naira, minus is owed
+    bool m_billExists = false; ///< why the save under way was refused
+    ReceiptNumber m_receipt;   ///< of the save under way
 };
 
 } // namespace orvane

@@ -161,22 +161,16 @@ void frmReceiptManual::cmdPrint_Click() {
 }
 
 void frmReceiptManual::OKButton_Click() {
-    if (!checkFields())
+    if (settlesSave() || !checkFields())
         return;
     if (!program.question("Are you sure to save? Please Confirm Receipt Date before Saving", "About to save"))
         return;
-    bool saved = false;
-    try {
-        saved = save();
-    } catch (const CommitUnknown&) {
-        // It may be saved: only a fresh look at the bill may save it again.
-        setEntry(false);
-        throw;
-    }
-    if (!saved) {
+    if (!saveOnce(
+            OKButton, [this] { return save(); }, [this] { afterSave(); }))
         program.box("This Bill is already processed! to Modify, unProcess the Batch");
-        return;
-    }
+}
+
+void frmReceiptManual::afterSave() {
     // At once, so that no fault in what follows leaves an entry that could be saved again.
     resetFields();
     setEntry(false);

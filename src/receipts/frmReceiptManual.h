@@ -54,6 +54,7 @@ private:
     void OKButton_Click();
     bool checkFields();
     bool save();
+    void afterSave();
     /// Adds the bill or enlarges it; all in naira. Gives the bill's new total.
     double writeBill(Recordset& bill, double addedBill, double addedPayment);
     void writePayment(Connection& connection, double billed, double paid);

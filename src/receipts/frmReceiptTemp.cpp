@@ -170,9 +170,6 @@ void frmReceiptTemp::chkRev_Click() {
 }
 
 void frmReceiptTemp::cmdAdd_Click() {
-    // A reversal of which nobody knows whether it was saved still stands here, with its purpose and its date.
-    if (m_reversal)
-        resetFields();
     setEntry(true);
     cmdInv_Click();
     chkRev.setChecked(false);

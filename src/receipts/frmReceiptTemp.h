@@ -65,7 +65,8 @@ private:
     void OKButton_Click();
     bool checkFields();
     bool isCustomerPicked() const;
-    ReceiptNumber save(); ///< without a number nothing was saved
+    bool save(); ///< false: no number could be formed, and nothing was saved
+    void afterSave();
     void writePayment(Connection& connection, const QString& receiptNo, double amount);
     void settleBill(Connection& connection, double amount);
 
@@ -73,6 +74,7 @@ private:
     QString m_pno;
     QString m_reversedNo; ///< the receipt under reversal
     bool m_reversal = false;
+    ReceiptNumber m_receipt; ///< of the save under way
 };
 
 } // namespace orvane

@@ -10,23 +10,19 @@
 namespace orvane {
 
 void frmReceiptTemp::OKButton_Click() {
-    if (!checkFields())
+    if (settlesSave() || !checkFields())
         return;
     if (!program.question("Are you sure to save?", "About to save"))
         return;
-    ReceiptNumber receipt;
-    try {
-        receipt = save();
-    } catch (const CommitUnknown&) {
-        // It may be saved: only a fresh look at the bill may save it again.
-        setEntry(false);
-        throw;
-    }
-    if (receipt.number.isEmpty()) {
-        program.box(receipt.refusal);
-        unload();
+    if (saveOnce(
+            OKButton, [this] { return save(); }, [this] { afterSave(); }))
         return;
-    }
+    program.box(m_receipt.refusal);
+    unload();
+}
+
+void frmReceiptTemp::afterSave() {
+    const ReceiptNumber receipt = m_receipt;
     const bool wasReversal = m_reversal;
     // At once, so that no fault in what follows leaves an entry that could be saved again.
     resetFields();
@@ -94,24 +90,24 @@ bool frmReceiptTemp::isCustomerPicked() const {
     return cboVehNo.listIndex() >= 0 && !m_billNo.isEmpty();
 }
 
-ReceiptNumber frmReceiptTemp::save() {
+bool frmReceiptTemp::save() {
     // In whole kobo, as it is printed: a reversal takes back what the grid shows.
     const double amount = round2(*parseAmount(txtHt.text()));
     session.gConsultID = m_billNo;
     Connection connection = program.openBilling();
     Transaction transaction(connection);
     lblClinic2.setText(clinicOfVisit(connection, session.gConsultID));
-    ReceiptNumber receipt = formReceiptNumber(program, connection, ReceiptForm::Generated);
-    if (receipt.number.isEmpty())
-        return receipt;
-    writePayment(connection, receipt.number, amount);
+    m_receipt = formReceiptNumber(program, connection, ReceiptForm::Generated);
+    if (m_receipt.number.isEmpty())
+        return false;
+    writePayment(connection, m_receipt.number, amount);
     postPatientTran(program, connection, dtDate.date(), m_pno, m_billNo, amount, session.gBillTo, "Payment");
     program.writeAuditTrail(session.gUsername,
                             (m_reversal ? "Reversal Entry (Payment) for: " : "insert Payment for: ") + cboVehNo.text(),
                             session.gConsultID, QString::number(amount, 'f', 2), session.sComputerName);
     settleBill(connection, amount);
     transaction.commit();
-    return receipt;
+    return true;
 }
 
 void frmReceiptTemp::writePayment(Connection& connection, const QString& receiptNo, double amount) {

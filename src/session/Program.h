@@ -99,10 +99,33 @@ public:
     Screen(Program& owner, const QString& name, const QString& caption)
         : Form(owner.ui(), name, caption), program(owner), session(owner.session) {}
     void afterEvent() override { program.flushBoxes(); }
+    bool Form_Unload() override;
 
 protected:
+    /// Runs `save`, which commits one transaction and tells whether it did, and then `afterSave`; gives what `save`
+    /// told. When nobody can say whether the commit came through, CommitUnknown is raised, the entry stays on the
+    /// screen and is locked but for `button`, whose next press looks it up: see settlesSave. `afterSave` must therefore
+    /// live off what the screen keeps.
+    bool saveOnce(Button& button, const std::function<bool()>& save, std::function<void()> afterSave);
+    /// The first question of every handler that saves. True: the save before this one was open, and the user has been
+    /// told what became of it: it was saved, and what follows a save was done; or it was not, and can be saved again;
+    /// or nobody knows yet. Nothing else may be done then.
+    bool settlesSave();
+
     Program& program;
     Session& session;
+
+private:
+    /// A save of which nobody knows whether the database has it.
+    struct OpenSave {
+        CommitTicket ticket;
+        std::function<void()> afterSave;
+        QList<Control*> locked; ///< until it is known
+    };
+
+    QList<Control*> lockAllBut(const Control& button);
+
+    std::optional<OpenSave> m_openSave;
 };
 
 } // namespace orvane

@@ -1,0 +1,74 @@
+// A save whose commit was not answered: nothing is entered twice, and the screen finds out whether it was saved.
+#include "session/Program.h"
+
+namespace orvane {
+
+namespace {
+
+const QString unknownText = QStringLiteral(
+    "The connection to the database broke while this was being saved. It is not known whether it was saved.\n\n"
+    "How to find out: press the same button again when the server is back. This screen then looks whether it was "
+    "saved, and does not save it twice.");
+const QString stillUnknownText =
+    QStringLiteral("The database cannot be asked yet, so it is still not known whether the entry was saved. Please "
+                   "press the same button again when the server is back.");
+const QString savedText = QStringLiteral("The entry was saved before the connection broke. It is not saved again.");
+const QString notSavedText =
+    QStringLiteral("The entry was not saved when the connection broke. Please check it and save it again.");
+const QString leftOpenText = QStringLiteral(
+    "It is still not known whether the last entry was saved. Please look it up before you enter it again.");
+
+} // namespace
+
+bool Screen::saveOnce(Button& button, const std::function<bool()>& save, std::function<void()> afterSave) {
+    try {
+        if (!save())
+            return false;
+    } catch (const CommitUnknown& fault) {
+        m_openSave = {fault.ticket(), std::move(afterSave), lockAllBut(button)};
+        throw CommitUnknown(unknownText, fault.statement(), fault.ticket());
+    }
+    afterSave();
+    return true;
+}
+
+bool Screen::settlesSave() {
+    if (!m_openSave)
+        return false;
+    const CommitOutcome outcome = program.data().outcomeOf(m_openSave->ticket);
+    if (outcome == CommitOutcome::Unknown) {
+        program.box(stillUnknownText);
+        return true;
+    }
+    const OpenSave settled = *std::exchange(m_openSave, std::nullopt);
+    for (Control* control : settled.locked)
+        control->setEnabled(true);
+    program.box(outcome == CommitOutcome::Saved ? savedText : notSavedText);
+    if (outcome == CommitOutcome::Saved)
+        settled.afterSave();
+    return true;
+}
+
+/// Whoever closes the screen is told what is known by then. An entry that was not saved stays, to be saved again.
+bool Screen::Form_Unload() {
+    if (!settlesSave())
+        return true;
+    if (!m_openSave)
+        return false;
+    program.box(leftOpenText);
+    return true;
+}
+
+/// The way out stays open too; labels and tabs only show.
+QList<Control*> Screen::lockAllBut(const Control& button) {
+    QList<Control*> locked;
+    for (Control* control : controls())
+        if (control->isEnabled() && control != &button && control != cancelButton() &&
+            control->kind() != ControlKind::Label && control->kind() != ControlKind::TabStrip)
+            locked << control;
+    for (Control* control : locked)
+        control->setEnabled(false);
+    return locked;
+}
+
+} // namespace orvane
