@@ -18,11 +18,33 @@ QStringList stamp(Engine engine) {
             QStringLiteral("insert into orvaneSchema (version) values (%1)").arg(version)};
 }
 
+bool isIndex(const QString& statement) {
+    return statement.startsWith(QStringLiteral("create index "), Qt::CaseInsensitive) ||
+           statement.startsWith(QStringLiteral("create unique index "), Qt::CaseInsensitive);
+}
+
 /// SQL Server has no index on an expression: there the statements that ask for the highest number read the table.
 bool engineHas(Engine engine, const QString& statement) {
-    const bool index = statement.contains(QStringLiteral("index "), Qt::CaseInsensitive) &&
-                       !statement.contains(QStringLiteral("create table"), Qt::CaseInsensitive);
-    return engine != Engine::SqlServer || !index || statement.count(u'(') == 1;
+    return engine != Engine::SqlServer || !isIndex(statement) || statement.count(u'(') == 1;
+}
+
+/// The schema's indexes that the engine has, in T-SQL.
+QStringList indexesOf(Engine engine, const QString& database) {
+    QStringList indexes;
+    for (const QString& statement : Catalog::instance().statements(database)) {
+        if (isIndex(statement) && engineHas(engine, statement)) {
+            indexes += statement;
+        }
+    }
+    return indexes;
+}
+
+/// "drop index NAME" for "create index NAME on TABLE (...)".
+QString dropOf(const QString& index, Engine engine) {
+    const QStringList words = index.simplified().split(u' ');
+    const qsizetype name = words.indexOf(QStringLiteral("index")) + 1;
+    const QString drop = QStringLiteral("drop index ") + words.at(name);
+    return engine == Engine::SqlServer ? drop + QStringLiteral(" on ") + words.at(name + 2) : drop;
 }
 
 } // namespace
@@ -51,6 +73,22 @@ QString schemaScript(Engine engine, const QString& database) {
 
 void createSchema(Connection& connection, const QString& database) {
     connection.runNative(schemaStatements(connection.engine(), database));
+}
+
+void dropIndexes(Connection& connection, const QString& database) {
+    QStringList statements;
+    for (const QString& index : indexesOf(connection.engine(), database)) {
+        statements += dropOf(index, connection.engine());
+    }
+    connection.runNative(statements);
+}
+
+void createIndexes(Connection& connection, const QString& database) {
+    QStringList statements;
+    for (const QString& index : indexesOf(connection.engine(), database)) {
+        statements += translate(index, connection.engine());
+    }
+    connection.runNative(statements);
 }
 
 void createDatabases(DataSource& source, const QString& billingConnectionString,

@@ -19,6 +19,11 @@ QString schemaScript(Engine engine, const QString& database);
 /// Makes the schema in a database that DataSource::create has made.
 void createSchema(Connection& connection, const QString& database);
 
+/// Takes all indexes away from a database that is about to be loaded, and makes them again: on rows that are there an
+/// index costs a fraction of one that follows every row. Raises DataError, and changes nothing, when one fails.
+void dropIndexes(Connection& connection, const QString& database);
+void createIndexes(Connection& connection, const QString& database);
+
 /// Creates the billing and the accounting database (and on the embedded engine the audit trail's file) with their
 /// schema.
 void createDatabases(DataSource& source, const QString& billingConnectionString,

@@ -1,6 +1,7 @@
 #include "demo/CsvLoad.h"
 
 #include "data/Recordset.h"
+#include "data/ShownText.h"
 #include "data/Transaction.h"
 #include "demo/Csv.h"
 
@@ -18,7 +19,8 @@ struct Place {
 };
 
 [[noreturn]] void refuse(const Place& place, const QString& message) {
-    const QString column = place.column.isEmpty() ? QString() : QStringLiteral(" column %1:").arg(place.column);
+    const QString column =
+        place.column.isEmpty() ? QString() : QStringLiteral(" column %1:").arg(shownText(place.column));
     throw DataError(QStringLiteral("%1:%2:%3 %4").arg(place.file).arg(place.line).arg(column, message));
 }
 
@@ -33,7 +35,7 @@ QVariant numberOf(const QString& text, const Place& place) {
     bool ok = false;
     const double value = text.toDouble(&ok);
     if (!ok || !std::isfinite(value))
-        refuse(place, QStringLiteral("\"%1\" is no number").arg(text));
+        refuse(place, QStringLiteral("\"%1\" is no number").arg(shownText(text)));
     return value;
 }
 
@@ -41,20 +43,20 @@ QVariant integerOf(const QString& text, const Place& place) {
     bool ok = false;
     const qlonglong value = text.toLongLong(&ok);
     if (!ok)
-        refuse(place, QStringLiteral("\"%1\" is no whole number").arg(text));
+        refuse(place, QStringLiteral("\"%1\" is no whole number").arg(shownText(text)));
     return value;
 }
 
 QVariant flagOf(const QString& text, const Place& place) {
     if (text != QLatin1String("0") && text != QLatin1String("1"))
-        refuse(place, QStringLiteral("\"%1\" is neither 0 nor 1").arg(text));
+        refuse(place, QStringLiteral("\"%1\" is neither 0 nor 1").arg(shownText(text)));
     return text.toInt();
 }
 
 QVariant dateOf(const QString& text, const Place& place) {
     const QDate date = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
     if (!date.isValid())
-        refuse(place, QStringLiteral("\"%1\" is no date of the form yyyy-mm-dd").arg(text));
+        refuse(place, QStringLiteral("\"%1\" is no date of the form yyyy-mm-dd").arg(shownText(text)));
     return date;
 }
 
@@ -63,7 +65,8 @@ QVariant dateTimeOf(const QString& text, const Place& place) {
     if (!at.isValid())
         at = QDate::fromString(text, QStringLiteral("yyyy-MM-dd")).startOfDay();
     if (!at.isValid())
-        refuse(place, QStringLiteral("\"%1\" is no date and time of the form yyyy-mm-dd hh:mm:ss").arg(text));
+        refuse(place,
+               QStringLiteral("\"%1\" is no date and time of the form yyyy-mm-dd hh:mm:ss").arg(shownText(text)));
     return at;
 }
 
@@ -106,7 +109,50 @@ QVector<const Column*> readHeads(CsvReader& reader, const Table& table, const QS
     return columns;
 }
 
-void addRow(Recordset& rows, const QVector<const Column*>& columns, const CsvRecord& record, const QString& file) {
+void setField(Recordset& rows, const Column& column, const QString& text, const Place& place) {
+    const QVariant value = valueOf(column, text, place);
+    try {
+        rows.set(column.name, value);
+    } catch (const DataError& error) {
+        refuse(Place{place.file, place.line, {}}, error.description());
+    }
+}
+
+/// The engines' numbers for rules of a table that a row may break, and what that means for the file.
+struct RuleFault {
+    Engine engine;
+    const char* code;
+    const char* text;
+};
+
+constexpr auto keyTaken = "a row with this key is there already";
+constexpr auto valueMissing = "a column that must have a value has none";
+constexpr auto numberTooLarge = "a number is too large for its column";
+
+constexpr RuleFault ruleFaults[] = {
+    {Engine::Sqlite, "1555", keyTaken},
+    {Engine::Sqlite, "2067", keyTaken},
+    {Engine::Sqlite, "2579", keyTaken},
+    {Engine::Sqlite, "1299", valueMissing},
+    {Engine::Postgresql, "23505", keyTaken},
+    {Engine::Postgresql, "23502", valueMissing},
+    {Engine::Postgresql, "22003", numberTooLarge},
+    {Engine::SqlServer, "2627", keyTaken},
+    {Engine::SqlServer, "2601", keyTaken},
+    {Engine::SqlServer, "515", valueMissing},
+    {Engine::SqlServer, "8115", numberTooLarge},
+};
+
+QString brokenRule(Engine engine, const DataError& error) {
+    for (const RuleFault& fault : ruleFaults) {
+        if (fault.engine == engine && error.code() == QLatin1String(fault.code))
+            return QLatin1String(fault.text);
+    }
+    return onOneLine(error.description());
+}
+
+void addRow(const Connection& connection, Recordset& rows, const QVector<const Column*>& columns,
+            const CsvRecord& record, const QString& file) {
     if (record.fields.size() != columns.size())
         refuse(Place{file, record.line, {}},
                QStringLiteral("%1 fields, but %2 heads").arg(record.fields.size()).arg(columns.size()));
@@ -114,13 +160,12 @@ void addRow(Recordset& rows, const QVector<const Column*>& columns, const CsvRec
     for (int i = 0; i < int(columns.size()); ++i) {
         const CsvField& field = record.fields.at(i);
         if (!field.isNoValue())
-            rows.set(columns.at(i)->name,
-                     valueOf(*columns.at(i), field.text, Place{file, record.line, columns.at(i)->name}));
+            setField(rows, *columns.at(i), field.text, Place{file, record.line, columns.at(i)->name});
     }
     try {
         rows.update();
     } catch (const DataError& error) {
-        refuse(Place{file, record.line, {}}, error.description());
+        refuse(Place{file, record.line, {}}, brokenRule(connection.engine(), error));
     }
 }
 
@@ -144,7 +189,7 @@ int loadCsv(Connection& connection, const Table& table, const QString& fileName,
     Recordset rows = connection.run(QStringLiteral("select * from [%1] where 1=2").arg(table.name));
     int count = 0;
     while (const auto record = reader.next()) {
-        addRow(rows, columns, *record, fileName);
+        addRow(connection, rows, columns, *record, fileName);
         ++count;
     }
     if (reader.fault())

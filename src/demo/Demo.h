@@ -11,6 +11,7 @@ struct DemoOptions {
     QString home;
     int patients = 500;
     int days = 30;
+    int bills = 0; ///< more than 0: so many bills with five lines each, for benchmarks, see BulkHospital.h
     quint64 seed = 1;
     QDate until; ///< the last day of the history
 };

@@ -22,7 +22,7 @@ QVector<QStringList> demoFacts(const QString& name) {
     return facts;
 }
 
-void addRow(Recordset& rows, DemoValues values) {
+void addRow(Recordset& rows, const RowValues& values) {
     rows.addNew();
     for (const auto& [column, value] : values)
         rows.set(QString::fromLatin1(column), value);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/Connection.h"
+#include "data/BulkInsert.h"
 #include "data/Recordset.h"
 #include "demo/Demo.h"
 #include "demo/DemoRandom.h"
@@ -34,6 +34,8 @@ struct DemoPatient {
     QString clientID, category;
     bool feeForService = false;
     QDate born, cardExpires;
+    double balance = 0; ///< of the running account, naira; minus is owed
+    QDate firstVisit;   ///< none: has not come yet
 };
 
 struct DemoEmployee {
@@ -60,9 +62,8 @@ struct DemoHospital {
 /// The records below the heads of a CSV file of the demonstration hospital.
 QVector<QStringList> demoFacts(const QString& name);
 
-using DemoValues = std::initializer_list<std::pair<const char*, QVariant>>;
 /// Adds one row to an open recordset.
-void addRow(Recordset& rows, DemoValues values);
+void addRow(Recordset& rows, const RowValues& values);
 
 // Each writes its rows in a transaction of its own.
 void makeSettings(Connection& billing, const DemoHospital& hospital);
@@ -72,6 +73,10 @@ void makePrices(Connection& billing, DemoHospital& hospital);
 void makeClients(Connection& billing, DemoHospital& hospital);
 void makeEmployees(Connection& billing, DemoHospital& hospital);
 void makePatients(Connection& billing, DemoHospital& hospital);
+/// The patients alone, not written yet.
+void drawPatients(DemoHospital& hospital);
+/// Writes the patients with their balances, in the open transaction.
+void writePatients(Connection& billing, DemoHospital& hospital);
 /// The visits of the days, entered on the program's own screens; `day` is called after each day with its number from 1.
 void makeVisits(DemoHospital& hospital, const std::function<void(int day)>& day);
 

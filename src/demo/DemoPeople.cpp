@@ -24,27 +24,22 @@ constexpr Share shares[] = {{50, "PRIVATE"}, {20, "HMO"},   {13, "NHIS"}, {2, "P
 
 /// Names by the people they come from, so that surname and first name go together.
 struct Names {
-    QVector<QStringList> surnames, firstNames;
+    QVector<QStringList> surnames;
+    QHash<std::pair<QString, QString>, QStringList> firstNames; ///< by sex and origin
+
+    Names() : surnames(demoFacts(QStringLiteral("surnames"))) {
+        for (const QStringList& name : demoFacts(QStringLiteral("firstnames")))
+            firstNames[{name.at(1), name.at(2)}].append(name.at(0));
+    }
 
     /// One of the first names of this sex and origin; an English one now and then, or where there is none.
     QString firstName(const QString& sex, const QString& origin, DemoRandom& random) const {
         const bool english = random.chance(20);
-        QStringList own, others;
-        for (const QStringList& name : firstNames) {
-            if (name.at(1) != sex)
-                continue;
-            if (name.at(2) == origin)
-                own.append(name.at(0));
-            else if (name.at(2) == QLatin1String("ENGLISH"))
-                others.append(name.at(0));
-        }
-        return random.pick(english || own.isEmpty() ? others : own);
+        const auto own = firstNames.constFind({sex, origin});
+        return random.pick(english || own == firstNames.constEnd() ? firstNames[{sex, QStringLiteral("ENGLISH")}]
+                                                                   : *own);
     }
 };
-
-Names readNames() {
-    return {demoFacts(QStringLiteral("surnames")), demoFacts(QStringLiteral("firstnames"))};
-}
 
 QString address(DemoRandom& random) {
     const int number = random.between(1, 120);
@@ -101,7 +96,8 @@ QString receivablesAccount(const QString& type) {
 
 DemoPatient makePatient(int number, const DemoHospital& hospital, const Names& names, DemoRandom& random) {
     DemoPatient patient;
-    patient.number = QStringLiteral("%1/001").arg(number, 5, 10, QLatin1Char('0'));
+    const int width = qMax(5, int(QString::number(hospital.options.patients).size()));
+    patient.number = QStringLiteral("%1/001").arg(number, width, 10, QLatin1Char('0'));
     const QStringList& surname = random.pick(names.surnames);
     patient.surname = surname.at(0);
     patient.sex = random.chance(55) ? QStringLiteral("F") : QStringLiteral("M");
@@ -115,41 +111,49 @@ DemoPatient makePatient(int number, const DemoHospital& hospital, const Names& n
     patient.born = born(today, random);
     patient.cardExpires =
         random.chance(3) ? today.addDays(-random.between(1, 200)) : today.addDays(random.between(30, 700));
+    if (number % 50 == 7) // the names that break careless statements
+        patient.surname = number % 100 == 7 ? QStringLiteral("O'NEILL") : QStringLiteral("D'ALMEIDA");
     return patient;
 }
 
-void addPatient(Recordset& rows, const DemoPatient& patient, const DemoHospital& hospital, DemoRandom& random) {
+/// A patient registered 60 days to some years ago, and not after the first visit.
+QDate registered(const DemoPatient& patient, QDate today, DemoRandom& random) {
+    const QDate drawn = today.addDays(-random.between(60, 2000));
+    return patient.firstVisit.isValid() ? qMin(drawn, patient.firstVisit) : drawn;
+}
+
+RowValues patientRow(const DemoPatient& patient, const DemoHospital& hospital, DemoRandom& random) {
     const QDate today = hospital.options.until;
     const bool privately = patient.category == QLatin1String("PRIVATE");
     const QString home = address(random);
     const bool child = patient.born.addYears(17) > today;
-    addRow(rows, {{"PNo", patient.number},
-                  {"OldPNo", QStringLiteral("H%1").arg(random.between(1000, 99999))},
-                  {"psurname", patient.surname},
-                  {"pfirstname", patient.firstName},
-                  {"clientcatID", patient.category},
-                  {"coyName", patient.clientID},
-                  {"pCatID", child ? "CHILD" : "ADULT"},
-                  {"ref", patient.feeForService ? "YES" : "NO"},
-                  {"DebtBF", 0},
-                  {"policyType", privately ? "NONE" : "STANDARD"},
-                  {"cardType", "SINGLE"},
-                  {"regdate", today.addDays(-random.between(60, 2000))},
-                  {"expirydate", patient.cardExpires},
-                  {"DOB", patient.born},
-                  {"sex", patient.sex == QLatin1String("F") ? "FEMALE" : "MALE"},
-                  {"pPhoneNo", phone(random)},
-                  {"homeAddress", home},
-                  {"occupation", child ? QStringLiteral("PUPIL") : random.pick(occupations)},
-                  {"religion", random.chance(50) ? "CHRISTIANITY" : "ISLAM"},
-                  {"empNo", privately ? QString() : QStringLiteral("S%1").arg(random.between(100, 9999))},
-                  {"status", random.chance(50) ? "MARRIED" : "SINGLE"},
-                  {"bloodGroup", random.pick(bloodGroups)},
-                  {"genotype", random.pick(genotypes)},
-                  {"nextOfKin", QStringLiteral("%1 %2").arg(patient.surname, random.chance(50) ? "FOLAKE" : "JOHN")},
-                  {"relationToKin", random.pick(kinships)},
-                  {"kinAddress", home},
-                  {"FileDuration", "1 YEAR"}});
+    return {{"PNo", patient.number},
+            {"OldPNo", QStringLiteral("H%1").arg(random.between(1000, 99999))},
+            {"psurname", patient.surname},
+            {"pfirstname", patient.firstName},
+            {"clientcatID", patient.category},
+            {"coyName", patient.clientID},
+            {"pCatID", child ? "CHILD" : "ADULT"},
+            {"ref", patient.feeForService ? "YES" : "NO"},
+            {"DebtBF", patient.balance},
+            {"policyType", privately ? "NONE" : "STANDARD"},
+            {"cardType", "SINGLE"},
+            {"regdate", registered(patient, today, random)},
+            {"expirydate", patient.cardExpires},
+            {"DOB", patient.born},
+            {"sex", patient.sex == QLatin1String("F") ? "FEMALE" : "MALE"},
+            {"pPhoneNo", phone(random)},
+            {"homeAddress", home},
+            {"occupation", child ? QStringLiteral("PUPIL") : random.pick(occupations)},
+            {"religion", random.chance(50) ? "CHRISTIANITY" : "ISLAM"},
+            {"empNo", privately ? QString() : QStringLiteral("S%1").arg(random.between(100, 9999))},
+            {"status", random.chance(50) ? "MARRIED" : "SINGLE"},
+            {"bloodGroup", random.pick(bloodGroups)},
+            {"genotype", random.pick(genotypes)},
+            {"nextOfKin", QStringLiteral("%1 %2").arg(patient.surname, random.chance(50) ? "FOLAKE" : "JOHN")},
+            {"relationToKin", random.pick(kinships)},
+            {"kinAddress", home},
+            {"FileDuration", "1 YEAR"}};
 }
 
 } // namespace
@@ -189,7 +193,7 @@ void makeEmployees(Connection& billing, DemoHospital& hospital) {
     hospital.employees = {{"E001", "BELLO", "AMINA", "ACC"},    {"E002", "OKAFOR", "CHIDI", "ACC"},
                           {"E003", "ADEYEMO", "BUKOLA", "ACC"}, {"E004", "IGBINOSA", "EFOSA", "ACC"},
                           {"E005", "YUSUF", "HALIMA", "REC"},   {"E006", "EZE", "OBINNA", "REC"}};
-    const Names names = readNames();
+    const Names names;
     const QStringList departments = {"MED", "MED", "MED", "MED", "MED", "MED",
                                      "REC", "NUR", "NUR", "LAB", "PHA", "ACC"};
     for (const QString& department : departments) {
@@ -211,17 +215,29 @@ void makeEmployees(Connection& billing, DemoHospital& hospital) {
 }
 
 void makePatients(Connection& billing, DemoHospital& hospital) {
-    const Names names = readNames();
+    const Names names;
     Transaction transaction(billing);
-    Recordset rows(billing, Sql("select * from hPatients where 1=2"));
+    BulkInsert rows(billing, QStringLiteral("hPatients"));
     for (int number = 1; number <= hospital.options.patients; ++number) {
-        DemoPatient patient = makePatient(number, hospital, names, hospital.random);
-        if (number % 50 == 7) // the names that break careless statements
-            patient.surname = number % 100 == 7 ? QStringLiteral("O'NEILL") : QStringLiteral("D'ALMEIDA");
-        addPatient(rows, patient, hospital, hospital.random);
-        hospital.patients.append(patient);
+        hospital.patients.append(makePatient(number, hospital, names, hospital.random));
+        rows.add(patientRow(hospital.patients.last(), hospital, hospital.random));
     }
+    rows.flush();
     transaction.commit();
+}
+
+void drawPatients(DemoHospital& hospital) {
+    const Names names;
+    hospital.patients.reserve(hospital.options.patients);
+    for (int number = 1; number <= hospital.options.patients; ++number)
+        hospital.patients.append(makePatient(number, hospital, names, hospital.random));
+}
+
+void writePatients(Connection& billing, DemoHospital& hospital) {
+    BulkInsert rows(billing, QStringLiteral("hPatients"));
+    for (const DemoPatient& patient : hospital.patients)
+        rows.add(patientRow(patient, hospital, hospital.random));
+    rows.flush();
 }
 
 } // namespace orvane

@@ -138,37 +138,13 @@ private:
         int minutes = 25;
         for (DemoVisit& visit : visits) {
             visit.orders = ordersOf(m_hospital);
-            addConsultation(rows, visit, m_hospital.random.pick(doctors), opening.addSecs(60 * minutes));
+            const DemoEmployee& doctor = m_hospital.random.pick(doctors);
+            addRow(rows, consultationRow(visit, doctor, QDateTime(m_day, opening.addSecs(60 * minutes)), m_hospital));
             connection.execute(Sql("update hRecords set attendedto=1,attendedtoByDoc=1 where consultID='")
                                << visit.consultID << "'");
             minutes += 12;
         }
         transaction.commit();
-    }
-
-    void addConsultation(Recordset& rows, const DemoVisit& visit, const DemoEmployee& doctor, QTime at) {
-        QStringList prescription, tests, services;
-        for (const DemoOrder& ordered : visit.orders) {
-            if (ordered.item->kind == QLatin1String("DRUG"))
-                prescription.append(QStringLiteral("%1 (%2) %3")
-                                        .arg(ordered.item->name)
-                                        .arg(ordered.quantity)
-                                        .arg(m_hospital.random.pick(dosages)));
-            else
-                (ordered.item->kind == QLatin1String("LAB") ? tests : services).append(ordered.item->name);
-        }
-        addRow(rows, {{"consultID", visit.consultID},
-                      {"billno", visit.consultID},
-                      {"PNo", visit.patient->number},
-                      {"CDate", m_day},
-                      {"cTime", at.toString(QStringLiteral("HH:mm"))},
-                      {"Diagnosis", m_hospital.random.pick(m_hospital.diagnoses).at(1)},
-                      {"prescription", prescription.join(QLatin1Char('\n'))},
-                      {"Investigate", tests.join(QLatin1Char('\n'))},
-                      {"services", services.join(QLatin1Char('\n'))},
-                      {"treatplan", QStringLiteral("REVIEW IN %1 DAYS").arg(m_hospital.random.between(3, 21))},
-                      {"treatedby", QStringLiteral("%1 %2").arg(doctor.lastName, doctor.firstName)},
-                      {"attendedto", 1}});
     }
 
     void admit(const QVector<DemoVisit>& visits) {
@@ -215,6 +191,31 @@ void makeAppointments(DemoHospital& hospital) {
 }
 
 } // namespace
+
+RowValues consultationRow(const DemoVisit& visit, const DemoEmployee& doctor, QDateTime at, DemoHospital& hospital) {
+    QStringList prescription, tests, services;
+    for (const DemoOrder& ordered : visit.orders) {
+        if (ordered.item->kind == QLatin1String("DRUG"))
+            prescription.append(QStringLiteral("%1 (%2) %3")
+                                    .arg(ordered.item->name)
+                                    .arg(ordered.quantity)
+                                    .arg(hospital.random.pick(dosages)));
+        else
+            (ordered.item->kind == QLatin1String("LAB") ? tests : services).append(ordered.item->name);
+    }
+    return {{"consultID", visit.consultID},
+            {"billno", visit.consultID},
+            {"PNo", visit.patient->number},
+            {"CDate", at.date()},
+            {"cTime", at.time().toString(QStringLiteral("HH:mm"))},
+            {"Diagnosis", hospital.random.pick(hospital.diagnoses).at(1)},
+            {"prescription", prescription.join(QLatin1Char('\n'))},
+            {"Investigate", tests.join(QLatin1Char('\n'))},
+            {"services", services.join(QLatin1Char('\n'))},
+            {"treatplan", QStringLiteral("REVIEW IN %1 DAYS").arg(hospital.random.between(3, 21))},
+            {"treatedby", QStringLiteral("%1 %2").arg(doctor.lastName, doctor.firstName)},
+            {"attendedto", 1}};
+}
 
 void makeVisits(DemoHospital& hospital, const std::function<void(int)>& dayDone) {
     for (int number = 1; number <= hospital.options.days; ++number) {

@@ -17,4 +17,7 @@ struct DemoVisit {
     QVector<DemoOrder> orders;
 };
 
+/// The row of hconsulting that the doctor leaves, finished.
+RowValues consultationRow(const DemoVisit& visit, const DemoEmployee& doctor, QDateTime at, DemoHospital& hospital);
+
 } // namespace orvane

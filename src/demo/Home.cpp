@@ -36,6 +36,8 @@ QByteArray iniFile(const HomeOptions& options) {
         text += QStringLiteral("host = %1\n").arg(options.host);
         if (options.port > 0)
             text += QStringLiteral("port = %1\n").arg(options.port);
+        if (!options.prefix.isEmpty())
+            text += QStringLiteral("prefix = %1\n").arg(options.prefix);
     }
     return (text + QLatin1Char('\n') + QLatin1String(menuSection)).toUtf8();
 }

@@ -10,7 +10,8 @@ namespace orvane {
 struct HomeOptions {
     QString engine = QStringLiteral("sqlite"); ///< as orvane.ini writes it
     QString host = QStringLiteral("127.0.0.1");
-    int port = 0; ///< 0: the engine's usual one
+    int port = 0;   ///< 0: the engine's usual one
+    QString prefix; ///< stands in front of the database names on a server that holds several hospitals
 };
 
 /// Files made while one lives are readable by their owner alone.

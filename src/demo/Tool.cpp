@@ -13,6 +13,7 @@
 #include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace orvane {
 
@@ -57,6 +58,7 @@ constexpr Option allOptions[] = {
     {"engine", "ENGINE", "sqlite", "sqlite, postgresql or sqlserver"},
     {"host", "HOST", "127.0.0.1", "the server's host, where the engine is a server"},
     {"port", "PORT", "0", "the server's port; 0: the engine's usual one"},
+    {"prefix", "WORD", "", "stands before the database names on a server, which can so hold several hospitals"},
     {"database", "NAME", "billing", "billing, accounting or audit"},
     {"fullname", "TEXT", "", "the user's full name"},
     {"role", "ROLE", "", "a role of the user; may be given several times"},
@@ -65,6 +67,8 @@ constexpr Option allOptions[] = {
     {"password", "TEXT", "", "the password for the login screen"},
     {"patients", "N", "500", "how many patients"},
     {"days", "D", "30", "how many days of visits"},
+    {"bills", "N", "0",
+     "for benchmarks: N bills of five lines in the days (730, when they are not given), and 5 patients for 2 bills"},
     {"seed", "S", "1", "another seed makes another hospital"},
     {"until", "YYYY-MM-DD", "", "the last day of visits; today, when it is not given"},
 };
@@ -99,9 +103,17 @@ private:
     Program m_program;
 };
 
+HomeOptions homeOptions(const Call& call) {
+    HomeOptions options{engineOption(call), call.parser.value(QStringLiteral("host")),
+                        call.number(QStringLiteral("port"), 0, 65535), call.parser.value(QStringLiteral("prefix"))};
+    static const QRegularExpression word(QStringLiteral("^[a-z][a-z0-9_]{0,29}$"));
+    if (!options.prefix.isEmpty() && !word.match(options.prefix).hasMatch())
+        throw UsageError{QStringLiteral("--prefix is a word of small letters, digits and underscores.")};
+    return options;
+}
+
 int create(Call& call) {
-    const HomeOptions options{engineOption(call), call.parser.value(QStringLiteral("host")),
-                              call.number(QStringLiteral("port"), 0, 65535)};
+    const HomeOptions options = homeOptions(call);
     const QString home = call.required(QStringLiteral("home"));
     const PrivateFiles guard;
     writeHomeFiles(home, options);
@@ -176,14 +188,18 @@ int demo(Call& call) {
     options.home = QFileInfo(call.required(QStringLiteral("home"))).absoluteFilePath();
     options.patients = call.number(QStringLiteral("patients"), 1, 99999);
     options.days = call.number(QStringLiteral("days"), 1, 3650);
+    options.bills = call.number(QStringLiteral("bills"), 0, 1000000);
+    if (options.bills > 0) {
+        options.patients = options.bills * 5 / 2;
+        options.days = call.parser.isSet(QStringLiteral("days")) ? options.days : 730;
+    }
     options.seed = quint64(call.number(QStringLiteral("seed"), 0, 2147483647));
     options.until = QDate::currentDate();
     if (call.parser.isSet(QStringLiteral("until")))
         options.until = QDate::fromString(call.parser.value(QStringLiteral("until")), QStringLiteral("yyyy-MM-dd"));
     if (!options.until.isValid())
         throw UsageError{QStringLiteral("--until is a date of the form yyyy-mm-dd.")};
-    const HomeOptions home{engineOption(call), call.parser.value(QStringLiteral("host")),
-                           call.number(QStringLiteral("port"), 0, 65535)};
+    const HomeOptions home = homeOptions(call);
     const PrivateFiles guard;
     writeHomeFiles(options.home, home);
     {
@@ -205,7 +221,11 @@ struct Command {
 
 const QVector<Command>& commands() {
     static const QVector<Command> all = {
-        {"create", {}, {"home", "engine", "host", "port"}, "makes the databases of a home folder, empty", create},
+        {"create",
+         {},
+         {"home", "engine", "host", "port", "prefix"},
+         "makes the databases of a home folder, empty",
+         create},
         {"schema", {}, {"engine", "database"}, "writes the script that makes a database", schema},
         {"load",
          {"TABLE", "FILE.csv"},
@@ -220,7 +240,7 @@ const QVector<Command>& commands() {
         {"check", {}, {"home"}, "looks for amounts, numbers and rows that do not agree", check},
         {"demo",
          {},
-         {"home", "engine", "host", "port", "patients", "days", "seed", "until"},
+         {"home", "engine", "host", "port", "prefix", "patients", "days", "bills", "seed", "until"},
          "makes a demonstration hospital",
          demo},
     };

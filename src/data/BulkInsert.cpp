@@ -1,0 +1,67 @@
+#include "data/BulkInsert.h"
+
+#include "data/Assert.h"
+#include "data/Physical.h"
+#include "data/Translator.h"
+#include "data/Value.h"
+
+#include <exception>
+
+namespace orvane {
+
+namespace {
+
+/// More rows than this no engine takes faster, and SQL Server not at all.
+constexpr int rowsInStatement = 500;
+
+} // namespace
+
+BulkInsert::BulkInsert(Connection& connection, const QString& table)
+    : m_connection(connection), m_table(Catalog::instance().table(table, connection.d->schema)) {
+    ORVANE_ASSERT(m_table);
+}
+
+BulkInsert::~BulkInsert() {
+    ORVANE_ASSERT(m_waiting == 0 || std::uncaught_exceptions() > 0);
+}
+
+void BulkInsert::begin(const RowValues& first) {
+    QStringList names;
+    for (const auto& [name, value] : first) {
+        const Column* column = m_table->column(QString::fromLatin1(name));
+        ORVANE_ASSERT(column);
+        m_columns.append(*column);
+        names.append(QStringLiteral("[%1]").arg(column->name));
+    }
+    m_head = translate(QStringLiteral("insert into [%1] (%2) values ").arg(m_table->name, names.join(u',')),
+                       m_connection.d->engine) +
+             u' ';
+}
+
+void BulkInsert::add(const RowValues& row) {
+    if (m_columns.isEmpty())
+        begin(row);
+    ORVANE_ASSERT(row.size() == m_columns.size());
+    m_text += m_waiting == 0 ? m_head : QStringLiteral(",");
+    for (qsizetype i = 0; i < row.size(); ++i) {
+        const Column& column = m_columns.at(i);
+        ORVANE_ASSERT(column.name.compare(QLatin1StringView(row.at(i).first), Qt::CaseInsensitive) == 0);
+        m_text += i == 0 ? u'(' : u',';
+        m_text += valueLiteral(valueForBinding(valueForColumn(row.at(i).second, column.name, column.kind)));
+    }
+    m_text += u')';
+    if (++m_waiting == rowsInStatement)
+        flush();
+}
+
+void BulkInsert::flush() {
+    if (m_waiting == 0)
+        return;
+    ORVANE_ASSERT(m_connection.inTransaction());
+    PhysicalConnection& physical = *m_connection.d;
+    physical.sendNative(physical.engine == Engine::SqlServer ? translate(m_text, physical.engine) : m_text);
+    m_text.truncate(0); // keeps its memory
+    m_waiting = 0;
+}
+
+} // namespace orvane

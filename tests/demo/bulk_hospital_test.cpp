@@ -1,0 +1,186 @@
+#include "demo/Hand.h"
+#include "demo/Home.h"
+#include "demo/QuietUi.h"
+#include "demo/Tool.h"
+
+#include "data/Catalog.h"
+#include "data/Recordset.h"
+#include "data/ServerList.h"
+#include "screens/Screens.h"
+#include "session/Main.h"
+#include "support/TestHome.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+using namespace orvane;
+
+namespace {
+
+const QDate lastDay(2026, 3, 13);
+
+int runTool(const QString& command, const QString& home, const QStringList& options, QString* said) {
+    QTextStream out(said);
+    return runDatabaseTool(QStringList{command, "--home", home} + options, out, out);
+}
+
+void makeHospital(const QString& home, const QStringList& options) {
+    QString said;
+    ASSERT_EQ(runTool("demo", home, QStringList{"--until", "2026-03-13"} + options, &said), 0) << said.toStdString();
+}
+
+void expectSound(const QString& home) {
+    QString said;
+    EXPECT_EQ(runTool("check", home, {}, &said), 0) << said.toStdString();
+}
+
+/// Rows that the screens leave behind a saved visit; the others of the bulk load are written by shared routines.
+struct Trace {
+    const char* table;
+    const char* rows;
+};
+
+constexpr Trace traces[] = {
+    {"hRecords", "select * from hRecords where BillDate is not null"},
+    {"BillAccum", "select * from BillAccum where attendedto=1"},
+    {"BillingDetails", "select * from BillingDetails"},
+    {"Billing", "select * from Billing where admdate is null"},
+    {"Payments", "select * from Payments"},
+    {"PaymentTypes", "select * from PaymentTypes"},
+    {"PaymentDetails", "select * from PaymentDetails where snoID > 0"},
+    {"Tranxaction", "select * from Tranxaction"},
+    {"hApprvCode", "select * from hApprvCode"},
+    {"UserActivities", "select * from UserActivities"},
+};
+
+/// What the rows of a table have in common: which columns are empty, and the words of columns that hold states.
+QSet<QString> shapes(Connection& connection, const Trace& trace) {
+    static const QStringList stateColumns = {"Capitated", "usage", "dosage", "PaymentFor", "referal"};
+    const Table& table = *Catalog::instance().table(QString::fromLatin1(trace.table));
+    QSet<QString> found;
+    for (Recordset row = connection.run(QString::fromLatin1(trace.rows)); !row.eof(); row.moveNext()) {
+        QStringList cells;
+        for (const Column& column : table.columns) {
+            const bool state =
+                column.kind == ColumnKind::Flag || stateColumns.contains(column.name, Qt::CaseInsensitive);
+            const QString text = row.text(column.name);
+            cells.append(column.name + (row.isNull(column.name) ? " null"
+                                        : state                 ? ' ' + text
+                                        : text.isEmpty()        ? " empty"
+                                                                : " given"));
+        }
+        found.insert(cells.join(','));
+    }
+    return found;
+}
+
+TEST(BulkHospitalShape, leavesNoRowThatTheScreensWouldNotHaveLeft) {
+    const TestHome bulk, ordinary;
+    makeHospital(bulk.folder(), {"--bills", "200", "--days", "10"});
+    makeHospital(ordinary.folder(), {"--patients", "80", "--days", "8"});
+    DataSource bulkData(bulk.folder()), ordinaryData(ordinary.folder());
+    Connection loaded = bulkData.open(TestHome::billing()), known = ordinaryData.open(TestHome::billing());
+    for (const Trace& trace : traces) {
+        const QSet<QString> shapesLoaded = shapes(loaded, trace);
+        EXPECT_FALSE(shapesLoaded.isEmpty()) << trace.table;
+        for (const QString& shape : shapesLoaded - shapes(known, trace))
+            ADD_FAILURE() << trace.table << ": " << shape.toStdString();
+    }
+}
+
+class BulkHospital : public ::testing::TestWithParam<Engine> {
+protected:
+    TestHome home{GetParam()};
+    QuietUi ui;
+    Program program{home.folder(), ui};
+
+    QString scalar(const QString& tsql) {
+        const Recordset row = program.openBilling().run(tsql);
+        return row.eof() ? QString() : row.text(0);
+    }
+};
+
+TEST_P(BulkHospital, isSoundAndGoesOnUnderTheScreens) {
+    makeHospital(home.folder(), {"--bills", "60", "--days", "20"});
+    expectSound(home.folder());
+    ui.setClock(QDateTime(lastDay, QTime(21, 0)));
+    program.data().setServerClock(QDateTime(lastDay, QTime(21, 0)));
+    registerScreens(program);
+    ASSERT_TRUE(Main(program, "amina.b")) << ui.takeBoxes().join(" / ").toStdString();
+
+    const struct {
+        const char* statement;
+        const char* count;
+    } sizes[] = {
+        {"select count(*) from Billing", "60"},
+        {"select count(*) from BillingDetails", "300"},
+        {"select count(*) from hPatients", "150"},
+        {"select count(*) from vwhConsultingVisitsForBilling", "312"},
+        {"select count(*) from vwhConsultingVisitsForBilling where Date='2026-03-13'", "42"},
+        {"select count(*) from (select consultID from BillAccum where attendedto=0 group by consultID "
+         "having count(*)=20) t",
+         "300"},
+        {"select count(*) from hPatients where DebtBF<0 and regdate>'2026-03-13'", "0"},
+    };
+    for (const auto& [statement, count] : sizes)
+        EXPECT_EQ(scalar(statement), count) << statement;
+    for (const char* kind : {"isPaid=0 and AmountPaid=0", "AmountPaid=Amountbilled", "AmountPaid<>Amountbilled"})
+        EXPECT_NE(scalar(QStringLiteral("select count(*) from Billing where Amountbilled>0 and %1").arg(kind)), "0");
+
+    // A waiting visit is collated, paid and saved; its numbers follow the loaded ones.
+    const QString receipts = scalar("select ID from IDgen where DestName='RECEIPT2'");
+    EXPECT_EQ(receipts, scalar("select count(*) from Payments"));
+    const QString visit = scalar("select top 1 h.consultID from hRecords h where h.clientCat='PRIVATE' and h.BillDate "
+                                 "is null and (select count(*) from BillAccum a where a.consultID=h.consultID)=20");
+    program.open("frmBillingVerify");
+    Form& form = program.form("frmBillingVerify");
+    Hand hand(form);
+    hand.type("txtSearch", visit);
+    hand.click("cmdOK");
+    EXPECT_EQ(scalar("select count(*) from BillingDetails where billNo='" + visit + "'"), "20");
+    hand.tick("chkRct");
+    hand.choose("cboPayFor", "CONSULTING AND DRUGS");
+    hand.type("txtAmt(0)", "1000");
+    hand.click("OKButton");
+    EXPECT_EQ(ui.takeBoxes(), QStringList());
+    EXPECT_EQ(scalar("select ReceiptNo from Payments where billNo='" + visit + "'"),
+              QString::number(receipts.toInt() + 1));
+    expectSound(home.folder());
+}
+
+ORVANE_ON_EACH_ENGINE(BulkHospital);
+
+TEST(BulkHospitalSeed, makesTheSameHospitalForTheSameSeed) {
+    const TestHome homes[3];
+    const char* const seeds[] = {"5", "5", "6"};
+    QStringList sums;
+    for (int i = 0; i < 3; ++i) {
+        makeHospital(homes[i].folder(), {"--bills", "40", "--days", "10", "--seed", seeds[i]});
+        DataSource data(homes[i].folder());
+        Connection billing = data.open(TestHome::billing());
+        QStringList cells;
+        for (const char* table : {"BillAccum", "PaymentDetails", "hPatients"})
+            for (Recordset row = billing.run(QStringLiteral("select * from [%1]").arg(table)); !row.eof();
+                 row.moveNext())
+                for (int column = 0; column < int(row.columns().size()); ++column)
+                    cells.append(row.text(column));
+        sums.append(cells.join('|'));
+    }
+    EXPECT_TRUE(sums.at(0) == sums.at(1));
+    EXPECT_FALSE(sums.at(0) == sums.at(2));
+}
+
+TEST(HomeFiles, aPrefixKeepsTheHospitalsOfOneServerApart) {
+    QTemporaryDir folder;
+    writeHomeFiles(folder.filePath("home"), {"postgresql", "db.example", 5433, "big_"});
+    const ServerEntry entry = ServerList(folder.filePath("home")).entry("HALDEN");
+    EXPECT_EQ(entry.prefix, "big_");
+    EXPECT_EQ(entry.host, "db.example");
+    EXPECT_EQ(entry.port, 5433);
+    QString said;
+    for (const char* word : {"Big_", "a;drop", "1a"})
+        EXPECT_EQ(runTool("create", folder.filePath("none"), {"--engine", "postgresql", "--prefix", word}, &said), 2);
+    EXPECT_FALSE(QFileInfo::exists(folder.filePath("none")));
+}
+
+} // namespace
