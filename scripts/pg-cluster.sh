@@ -2,10 +2,11 @@
 # A private PostgreSQL cluster for tests and benchmarks.
 #   scripts/pg-cluster.sh start DIR   starts one in DIR (made if it is missing) and prints the line for the environment
 #   scripts/pg-cluster.sh stop DIR    stops it and removes its files
+#   scripts/pg-cluster.sh halt DIR    stops it and keeps its files; start then starts it again on the same port
 # It listens on a free port of 127.0.0.1 and writes nothing safely (fsync off): for tests only.
 set -euo pipefail
 
-usage="usage: $0 start|stop DIR"
+usage="usage: $0 start|stop|halt DIR"
 action=${1:?$usage}
 directory=$(realpath -m "${2:?$usage}")
 cd / # a folder that the server's own user may enter
@@ -44,6 +45,10 @@ start() {
     echo "ORVANE_TEST_PG=host=127.0.0.1 port=$port"
 }
 
+halt() {
+    as_owner "$binaries/pg_ctl" --pgdata="$directory/data" --mode=fast --wait --silent stop >&2
+}
+
 stop() {
     as_owner "$binaries/pg_ctl" --pgdata="$directory/data" --mode=immediate --silent stop >&2 || true
     rm -rf "$directory"
@@ -52,5 +57,6 @@ stop() {
 case "$action" in
 start) start ;;
 stop) stop ;;
+halt) halt ;;
 *) echo "$usage" >&2; exit 1 ;;
 esac
