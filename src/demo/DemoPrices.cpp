@@ -125,7 +125,7 @@ QVector<PriceList> priceLists(const DemoHospital& hospital) {
     return lists;
 }
 
-void fillList(Recordset& rows, const char* nameColumn, const QVector<DemoItem>& items, const PriceList& list,
+void fillList(BulkInsert& rows, const char* nameColumn, const QVector<DemoItem>& items, const PriceList& list,
               DemoRandom& random) {
     for (const DemoItem& item : items) {
         const bool missing = random.chance(list.missing);
@@ -133,11 +133,11 @@ void fillList(Recordset& rows, const char* nameColumn, const QVector<DemoItem>& 
         const bool covered = random.chance(capitatedCategories.contains(item.category) ? 60 : 5);
         if (missing || item.price == 0)
             continue;
-        addRow(rows, {{nameColumn, item.name},
-                      {"company", list.key},
-                      {"Price", zero ? 0 : roundedPrice(item.price * list.percent / 100)},
-                      {"Capitated", list.capitation && covered ? "YES" : "NO"},
-                      {"RevType", item.revType}});
+        rows.add({{nameColumn, item.name},
+                  {"company", list.key},
+                  {"Price", zero ? 0 : roundedPrice(item.price * list.percent / 100)},
+                  {"Capitated", list.capitation && covered ? "YES" : "NO"},
+                  {"RevType", item.revType}});
     }
 }
 
@@ -148,14 +148,16 @@ void makePrices(Connection& billing, DemoHospital& hospital) {
     Transaction transaction(billing);
     makeDrugs(billing, hospital);
     makeTestsAndServices(billing, hospital);
-    Recordset drugs(billing, Sql("select * from DrugNHIS where 1=2"));
-    Recordset tests(billing, Sql("select * from LabServiceNHIS where 1=2"));
-    Recordset services(billing, Sql("select * from hServiceNHIS where 1=2"));
+    BulkInsert drugs(billing, QStringLiteral("DrugNHIS"));
+    BulkInsert tests(billing, QStringLiteral("LabServiceNHIS"));
+    BulkInsert services(billing, QStringLiteral("hServiceNHIS"));
     for (const PriceList& list : priceLists(hospital)) {
         fillList(drugs, "drgName", hospital.drugs, list, hospital.random);
         fillList(tests, "drgName", hospital.labServices, list, hospital.random);
         fillList(services, "service", hospital.services, list, hospital.random);
     }
+    for (BulkInsert* rows : {&drugs, &tests, &services})
+        rows->flush();
     transaction.commit();
 }
 
