@@ -35,42 +35,75 @@ public:
     }
 };
 
+/// Which patients a worker enters in turn and which visits it bills.
+struct Field {
+    QStringList patients, visits;
+};
+
+Field sharedField() {
+    Field field;
+    for (int i = 0; i < sharedPatients; ++i)
+        field.patients << patientOfWorkers(i);
+    for (int i = 0; i < sharedVisits; ++i)
+        field.visits << visitOfWorkers(i);
+    return field;
+}
+
 class Worker {
 public:
-    Worker(const QString& home, int number) : m_number(number), m_program(home, m_ui) {
+    Worker(const QString& home, const QStringList& options) : m_options(options), m_program(home, m_ui) {
         const QDateTime today(QDate(2026, 3, 14), QTime(9, 30));
         m_ui.setClock(today);
         m_program.data().setServerClock(today);
         registerScreens(m_program);
         if (!Main(m_program, QStringLiteral("amina.b")))
             throw DataError(m_ui.takeBoxes().join(QLatin1Char('\n')));
-        // A transaction lasts long enough for the others to come upon it.
-        m_program.data().setStatementHook([](const QString& tsql) {
-            if (tsql == QLatin1String("commit transaction"))
-                QThread::msleep(3);
-        });
         m_ui.takeBoxes();
+        setHook();
     }
 
     /// Waits until everybody is there, so that the work overlaps, and does it.
-    void work(int rounds) {
+    void work(const QStringList& numbers, int rounds, const AroundWork& around) {
         tell({"ready"});
         QTextStream(stdin).readLine();
-        for (int round = 0; round < rounds; ++round) {
-            const QString& shared = sharedVisits.at((m_number + round) % sharedVisits.size());
-            QString visit;
-            attempt([&] { visit = attend(); });
-            if (!visit.isEmpty()) {
-                attempt([&] { deposit(visit, 500.5); });
-                attempt([&] { collate(visit, 700.25); });
-            }
-            order(shared, 40 + m_number);
-            attempt([&] { collate(shared, 0); });
-            attempt([&] { receiveAndReverse(shared, 300.1 + m_number); });
-        }
+        around(m_program, [&] { workRounds(numbers, rounds); });
     }
 
 private:
+    void workRounds(const QStringList& numbers, int rounds) {
+        for (const QString& number : numbers) {
+            m_number = number.toInt();
+            m_field = m_options.contains("own") ? Field{{patientOfWorkers(m_number)}, {visitOfWorkers(m_number)}}
+                                                : sharedField();
+            for (int round = 0; round < rounds; ++round)
+                workRound(round);
+        }
+    }
+
+    void setHook() {
+        // A balance that was read is out of date for a while, and a transaction lasts long enough for the others.
+        if (m_options.contains("linger"))
+            m_program.data().setStatementHook([](const QString& tsql) {
+                if (tsql == QLatin1String("commit transaction") ||
+                    tsql.startsWith(QLatin1String("insert into [Tranxaction]")))
+                    QThread::msleep(3);
+            });
+    }
+
+    void workRound(int round) {
+        const qsizetype turn = (m_number + round) % m_field.visits.size();
+        const QString& shared = m_field.visits.at(turn);
+        QString visit;
+        attempt([&] { visit = attend(); });
+        if (!visit.isEmpty()) {
+            attempt([&] { deposit(visit, 500.5); });
+            attempt([&] { collate(visit, 700.25); });
+        }
+        order(shared, m_field.patients.at(turn), 40 + m_number);
+        attempt([&] { collate(shared, 0); });
+        attempt([&] { receiveAndReverse(shared, 300.1 + m_number); });
+    }
+
     template <typename Step>
     void attempt(Step step) {
         try {
@@ -92,8 +125,8 @@ private:
         m_out << line.replace(QLatin1Char('\n'), QLatin1Char(' ')) << Qt::endl;
     }
 
-    void tellReceipt(const QString& number, const QString& bill, double amount) {
-        tell({"receipt", number, bill, QString::number(amount, 'f', 2)});
+    void tellReceipt(const char* kind, const QString& number, const QString& bill, double amount) {
+        tell({kind, number, bill, QString::number(amount, 'f', 2)});
     }
 
     void expectBoxes(const QString& step, const QStringList& expected) {
@@ -121,7 +154,7 @@ private:
         Form& form = opened(QStringLiteral("frmRecordsOffline"));
         Hand hand(form);
         for (int attempts = 0; attempts < 200; ++attempts) {
-            const QString pno = sharedPatients.at(m_next++ % sharedPatients.size());
+            const QString pno = m_field.patients.at(m_next++ % m_field.patients.size());
             hand.click(QStringLiteral("cmdAdd"));
             hand.type(QStringLiteral("txtName"), QStringLiteral("PROOF"));
             hand.click(QStringLiteral("cmdOK"));
@@ -163,16 +196,15 @@ private:
         hand.type(QStringLiteral("txtHt"), QString::number(amount, 'f', 2));
         hand.click(QStringLiteral("OKButton"));
         expectBoxes(QStringLiteral("deposit"), {});
-        tellReceipt(shownReceipt(QStringLiteral("deposit")), visit, amount);
+        tellReceipt("deposit", shownReceipt(QStringLiteral("deposit")), visit, amount);
     }
 
     /// What an outlet has given to the patient of a visit.
-    void order(const QString& visit, double price) {
+    void order(const QString& visit, const QString& pno, double price) {
         Connection connection = m_program.openBilling();
-        makeItem(connection, {.consultID = visit,
-                              .pno = sharedPatients.at(sharedVisits.indexOf(visit)),
-                              .name = QStringLiteral("ITEM OF %1").arg(m_number),
-                              .price = price});
+        makeItem(connection,
+                 {.consultID = visit, .pno = pno, .name = QStringLiteral("ITEM OF %1").arg(m_number), .price = price});
+        tell({"item", visit, QString::number(price, 'f', 2)});
     }
 
     /// Collates and saves a visit, with a receipt where `cash` (naira) is above 0.
@@ -189,9 +221,10 @@ private:
         }
         hand.click(QStringLiteral("OKButton"));
         expectBoxes(step, cash > 0 ? QStringList() : QStringList{saved});
-        tell({"bill", visit});
         if (cash > 0)
-            tellReceipt(shownReceipt(step), visit, cash);
+            tellReceipt("paidbill", shownReceipt(step), visit, cash);
+        else
+            tell({"bill", visit});
     }
 
     void receiveAndReverse(const QString& bill, double amount) {
@@ -204,7 +237,7 @@ private:
         hand.click(QStringLiteral("OKButton"));
         expectBoxes(QStringLiteral("receipt"), {saved});
         const QString number = shownReceipt(QStringLiteral("receipt"));
-        tellReceipt(number, bill, amount);
+        tellReceipt("receipt", number, bill, amount);
 
         // The screen leaves the saved receipt selected.
         const auto& grid = static_cast<const Grid&>(*form.find(QStringLiteral("grdData")));
@@ -214,11 +247,13 @@ private:
         hand.tick(QStringLiteral("chkRev"));
         hand.click(QStringLiteral("OKButton"));
         expectBoxes(QStringLiteral("reversal"), {saved});
-        tellReceipt(grid.text(QStringLiteral("ReceiptNo")), bill, -amount);
+        tellReceipt("reversal", grid.text(QStringLiteral("ReceiptNo")), bill, -amount);
     }
 
-    int m_number;
-    int m_next = 0; ///< patient
+    QStringList m_options;
+    int m_number = 0;
+    Field m_field;
+    qsizetype m_next = 0; ///< patient
     WorkerUi m_ui;
     Program m_program;
     QTextStream m_out{stdout};
@@ -226,10 +261,20 @@ private:
 
 } // namespace
 
-int runWorker(const QStringList& arguments) {
-    setGateForTests(arguments.value(3) != QLatin1String("no-gate"));
+QString patientOfWorkers(int number) {
+    return QStringLiteral("P/%1").arg(number + 1, 4, 10, QLatin1Char('0'));
+}
+
+QString visitOfWorkers(int number) {
+    return QStringLiteral("001OFL%1").arg(number + 1, 7, 10, QLatin1Char('0'));
+}
+
+int runWorker(const QStringList& arguments, const AroundWork& around) {
+    const QStringList options = arguments.mid(3);
+    setGateForTests(!options.contains("no-gate"));
     try {
-        Worker(arguments.value(0), arguments.value(1).toInt()).work(arguments.value(2).toInt());
+        Worker worker(arguments.value(0), options);
+        worker.work(arguments.value(1).split(','), arguments.value(2).toInt(), around);
     } catch (const DataError& fault) {
         QTextStream(stderr) << fault.description() << Qt::endl;
         return 1;

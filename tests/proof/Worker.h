@@ -1,23 +1,35 @@
 #pragma once
 
+#include "session/Program.h"
+
 #include <QStringList>
+#include <functional>
 
 namespace orvane {
 
-/// The visits that all workers bill and receive money for, and the patients whom they all enter.
-inline const QStringList sharedVisits = {"001OFL0000001", "001OFL0000002"};
-inline const QStringList sharedPatients = {"P/0001", "P/0002", "P/0003", "P/0004", "P/0005", "P/0006"};
+/// The patients and visits that the workers find, counted from 0.
+QString patientOfWorkers(int number);
+QString visitOfWorkers(int number);
+/// So many of the patients are entered by all workers, and so many of the visits billed by all of them.
+constexpr int sharedPatients = 6;
+constexpr int sharedVisits = 2;
 
-/// The saves of one round of a worker: visit, deposit, bill with receipt, bill of a shared visit, receipt, reversal.
-constexpr int visitsARound = 1;
-constexpr int receiptsARound = 4;
-constexpr int billsARound = 2;
+/// The saves of one round, in order, as a worker tells them.
+inline const QStringList savesOfARound = {"visit", "deposit", "paidbill", "bill", "receipt", "reversal"};
 
-/// One workstation: enters, bills and receives for `rounds` rounds on the real screens. Arguments: home folder, number,
-/// rounds, "gate" or "no-gate". Writes "ready" and begins when a line comes in. Then it writes a line of words apart by
-/// tabs for each save that the screen reported:
-///   visit NUMBER PATIENT, bill NUMBER, receipt NUMBER BILL AMOUNT (naira, minus for a reversal)
-/// and "trouble STEP TEXT" for each one that was refused or faulty. Gives the exit code.
-int runWorker(const QStringList& arguments);
+/// One workstation that works on the real screens. Arguments: home folder, its numbers apart by commas (it does the
+/// work of each in turn), rounds for each number, and any of
+///   own          the numbers' own patients and visits, instead of those that all workers share
+///   no-gate      transactions do not take the money gate
+///   linger       waits between reading a balance and writing the next one, and before each commit, so that the others
+///                come upon it
+/// Writes "ready" and begins when a line comes in. Then it writes a line of words apart by tabs for each save that the
+/// screen reported (amounts in naira, minus for a reversal):
+///   visit NUMBER PATIENT, bill NUMBER, and deposit | paidbill | receipt | reversal RECEIPT BILL AMOUNT
+/// further "item BILL PRICE" for each item that it laid, and "trouble STEP TEXT" for each save that was refused or
+/// faulty. Gives the exit code. `around` is given the running program and the work, which it must do.
+using AroundWork = std::function<void(Program&, const std::function<void()>& work)>;
+int runWorker(
+    const QStringList& arguments, const AroundWork& around = [](Program&, const auto& work) { work(); });
 
 } // namespace orvane
