@@ -169,10 +169,10 @@ QString translateIndex(const Tokens& original, Engine engine) {
         rewriteTextJoins(tokens);
     }
     qsizetype on = 0;
-    while (on < tokens.size() && !tokens[on].is("on")) {
+    while (on < tokens.size() && !tokens[on].is("on") && !tokens[on].isSymbol("(")) {
         ++on;
     }
-    if (on + 2 >= tokens.size() || !tokens[on + 2].isSymbol("(")) {
+    if (on + 2 >= tokens.size() || !tokens[on].is("on") || !tokens[on + 2].isSymbol("(")) {
         throw DataError(QStringLiteral("An index definition names no columns."),
                         render(tokens, 0, tokens.size(), engine));
     }

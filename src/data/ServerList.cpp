@@ -1,6 +1,8 @@
 #include "data/ServerList.h"
 
 #include "data/DataError.h"
+#include "data/ShownText.h"
+#include "data/TextFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -51,19 +53,16 @@ QString withDatabase(const QString& connectionString, const QString& database) {
 }
 
 ServerList::ServerList(const QString& homeFolder) : m_homeFolder(homeFolder) {
-    QFile file(QDir(homeFolder).filePath(QStringLiteral("orvane.ini")));
-    if (!file.exists()) {
+    const QString path = QDir(homeFolder).filePath(QStringLiteral("orvane.ini"));
+    if (!QFile::exists(path)) {
         return;
-    }
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw DataError(QStringLiteral("%1 cannot be read: %2").arg(file.fileName(), file.errorString()));
     }
     ServerEntry* entry = nullptr;
     bool inMenu = false; // the section of the shell, which reads it by itself
     int number = 0;
-    for (const QString& raw : QString::fromUtf8(file.readAll()).split(u'\n')) {
+    for (const QString& raw : readTextLines(path)) {
         const QString line = withoutComment(raw);
-        const QString place = QStringLiteral("%1, line %2").arg(file.fileName()).arg(++number);
+        const QString place = QStringLiteral("%1, line %2").arg(path).arg(++number);
         if (line.isEmpty()) {
             continue;
         }
@@ -91,14 +90,14 @@ void ServerList::set(ServerEntry& entry, const QString& key, const QString& valu
     if (key == QStringLiteral("engine")) {
         if (!engineNames().contains(value.toLower())) {
             throw DataError(QStringLiteral("%1: the engine \"%2\" is not known; it is sqlite, postgresql or sqlserver.")
-                                .arg(place, value));
+                                .arg(place, shownText(value)));
         }
         entry.engine = engineNames().value(value.toLower());
     } else if (key == QStringLiteral("port")) {
         bool ok = false;
         entry.port = value.toInt(&ok);
         if (!ok || entry.port < 1 || entry.port > 65535) {
-            throw DataError(QStringLiteral("%1: \"%2\" is no port.").arg(place, value));
+            throw DataError(QStringLiteral("%1: \"%2\" is no port.").arg(place, shownText(value)));
         }
     } else if (key == QStringLiteral("folder")) {
         entry.folder = value;
@@ -109,7 +108,7 @@ void ServerList::set(ServerEntry& entry, const QString& key, const QString& valu
     } else if (key == QStringLiteral("driver")) {
         entry.driver = value;
     } else {
-        throw DataError(QStringLiteral("%1: the key \"%2\" is not known.").arg(place, key));
+        throw DataError(QStringLiteral("%1: the key \"%2\" is not known.").arg(place, shownText(key)));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "play/EventLog.h"
 
+#include "data/ShownText.h"
+
 #include <QFileDevice>
 
 namespace orvane {
@@ -20,12 +22,6 @@ QString iconName(Icon icon) {
         return QStringLiteral("question");
     }
     return {};
-}
-
-QString withoutLineBreaks(QString text) {
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\\n"));
-    text.replace(QLatin1Char('\n'), QStringLiteral("\\n"));
-    return text.replace(QLatin1Char('\r'), QStringLiteral("\\n"));
 }
 
 } // namespace
@@ -61,11 +57,11 @@ QString EventLog::quoted(const QString& text) {
     QString inside = text;
     inside.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
     inside.replace(QLatin1Char('"'), QStringLiteral("\\\""));
-    return QLatin1Char('"') + withoutLineBreaks(inside) + QLatin1Char('"');
+    return QLatin1Char('"') + onOneLine(inside) + QLatin1Char('"');
 }
 
 QString EventLog::oneLine(const QString& text) {
-    return withoutLineBreaks(text).replace(QLatin1Char('\t'), QStringLiteral("\\t"));
+    return onOneLine(text).replace(QLatin1Char('\t'), QStringLiteral("\\t"));
 }
 
 } // namespace orvane

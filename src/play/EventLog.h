@@ -22,9 +22,9 @@ public:
     void fail(const QString& reason); ///< "FAIL line N: reason", once
     bool hasFailed() const { return m_failed; }
 
-    /// A text in double quotes, with \" and \\ and \n, as scripts write it.
+    /// A text in double quotes, with \", \\, \n and \uXXXX, as scripts write it.
     static QString quoted(const QString& text);
-    /// A value that goes out unquoted: kept on its line, line breaks as \n and tabs as \t.
+    /// A value that goes out unquoted: kept on its line, line breaks as \n, tabs as \t, control characters as \uXXXX.
     static QString oneLine(const QString& text);
 
 private:

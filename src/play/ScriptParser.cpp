@@ -65,9 +65,23 @@ private:
         const QChar character = m_at < m_line.size() ? m_line.at(m_at) : QChar();
         if (character == QLatin1Char('n'))
             return QLatin1Char('\n');
+        if (character == QLatin1Char('u'))
+            return codedCharacter(error);
         if (character != QLatin1Char('"') && character != QLatin1Char('\\'))
-            error = QStringLiteral("a backslash that is not followed by \", \\ or n");
+            error = QStringLiteral("a backslash that is not followed by \", \\, n or u");
         return character;
+    }
+
+    /// The character whose code stands in four hexadecimal digits behind the u.
+    QChar codedCharacter(QString& error) {
+        const QString digits = m_line.mid(m_at + 1, 4);
+        bool isNumber = false;
+        const ushort code = digits.toUShort(&isNumber, 16);
+        if (digits.size() != 4 || !isNumber || digits.front() == QLatin1Char(' ') || code == 0 ||
+            QChar::isSurrogate(code))
+            error = QStringLiteral("no character of four hexadecimal digits behind \\u");
+        m_at += digits.size();
+        return QChar(code);
     }
 
     const QString& m_line;

@@ -24,7 +24,7 @@ struct ScriptLine {
 constexpr qsizetype maxScriptLine = 65536;
 
 /// Takes any bytes: one line in UTF-8, with or without its line end. Words stand apart by blanks or tabs; `#` where a
-/// word could begin starts a comment; inside double quotes \" and \\ and \n are the escapes. Raises nothing.
+/// word could begin starts a comment; inside double quotes \", \\, \n and \uXXXX are the escapes. Raises nothing.
 ScriptLine parseScriptLine(const QByteArray& line);
 
 } // namespace orvane

@@ -1,6 +1,6 @@
 #include "session/StartFiles.h"
 
-#include "session/TextFile.h"
+#include "data/TextFile.h"
 
 #include <QDir>
 #include <QFile>

@@ -225,6 +225,7 @@ TEST(Translator, LetsNoLiteralBreakOut) {
         {QStringLiteral("select x%1"), Engine::Sqlite, QStringLiteral("select x %1")},
         {QStringLiteral("select a[%1]]\"]"), Engine::Sqlite, QStringLiteral("select a \"%1]\"\"\"")},
         {QStringLiteral("create table %1 (a int)"), Engine::Sqlite, {}},
+        {QStringLiteral("create index i(a on T (b))"), Engine::Sqlite, {}},
         {QStringLiteral("create table T (%1 int)"), Engine::Postgresql, {}},
         {QStringLiteral("create table T (a [%1])"), Engine::Postgresql, {}},
         {QStringLiteral("create table T (a int default)"), Engine::Postgresql, {}},

@@ -39,6 +39,11 @@ TEST_P(CsvLoad, refusesTheWholeFileForOneBadRowAndSaysWhere) {
         QByteArray content;
         const char* message;
     } cases[] = {
+        {heads + "1/001,AGAIN,,0\n", "patients.csv:3: a row with this key is there already"},
+        {heads + ",AGAIN,,0\n", "patients.csv:3: a column that must have a value has none"},
+        {heads + "2/001,BAD,,1e13\n", "patients.csv:3: 10000000000000 is too large: column DebtBF."},
+        {heads + "2/001,BAD,,\"\x1b[2J\n0123456789012345678901234567890123456789\"\n",
+         "patients.csv:3: column DebtBF: \"\\u001b[2J\\n01234567890123456789012345678901234...\" is no number"},
         {heads + "2/001,BAD,2023-02-29,0\n",
          "patients.csv:3: column DOB: \"2023-02-29\" is no date of the form yyyy-mm-dd"},
         {heads + "2/001,BAD,29/02/2024,0\n",

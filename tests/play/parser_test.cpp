@@ -41,7 +41,11 @@ TEST(ScriptParser, ReadsWordsTextsAndComments) {
         {"\xEF\xBB\xBFstart", "start"},
         {"set f.c \"open", "!a text without its closing quote"},
         {"set f.c \"open\\\"", "!a text without its closing quote"},
-        {"set f.c \"a\\t\"", "!a backslash that is not followed by \", \\ or n"},
+        {"set f.c \"a\\t\"", "!a backslash that is not followed by \", \\, n or u"},
+        {"set f.c \"\\u001b[2J\\u00E9\"", QStringLiteral("set|f.c|[\u001b[2J\u00e9]")},
+        {"set f.c \"\\u0000\"", "!no character of four hexadecimal digits behind \\u"},
+        {"set f.c \"\\u00xx\"", "!no character of four hexadecimal digits behind \\u"},
+        {"set f.c \"\\u 12a\"", "!no character of four hexadecimal digits behind \\u"},
         {"set f.c \"a\\", "!a text without its closing quote"},
         {"set f.c \"a\"b", "!no blank behind a closing quote"},
         {"set f.c \"a\"\"b\"", "!no blank behind a closing quote"},
@@ -70,7 +74,7 @@ TEST(ScriptParser, TakesAnyBytes) {
 
 TEST(ScriptParser, ReadsBackWhatTheEventLogWrites) {
     QRandomGenerator random(7);
-    const QString alphabet = QStringLiteral("\"\\n\n#\t aÌ😀");
+    const QString alphabet = QStringLiteral("\"\\n\n#\t aÌ😀\u001b\u007f\u0085");
     for (int round = 0; round < 2000; ++round) {
         QString text;
         for (int left = random.bounded(12); left > 0; --left)
@@ -95,7 +99,7 @@ TEST(EventLog, WritesOneLineEachAndNothingAfterAFailure) {
     EXPECT_EQ(QString::fromUtf8(output.data()), "box critical \"\" \"two\\nlines \\\"and\\\" \\\\ more\\n\"\n"
                                                 "box none \" Error \" \"\ttab\"\n"
                                                 "FAIL line 12: because\\nof this\n");
-    EXPECT_EQ(EventLog::oneLine("a\tb\nc"), "a\\tb\\nc");
+    EXPECT_EQ(EventLog::oneLine("a\tb\nc\x1b[2J"), "a\\tb\\nc\\u001b[2J");
 }
 
 } // namespace

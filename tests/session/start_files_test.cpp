@@ -1,6 +1,6 @@
+#include "data/TextFile.h"
 #include "session/Scramble.h"
 #include "session/StartFiles.h"
-#include "session/TextFile.h"
 #include "support/TestUi.h"
 
 #include <QFile>
@@ -80,7 +80,9 @@ TEST_F(StartFiles, filesThatAreNoTextAreRefusedInOneLine) {
         QByteArray content;
         const char* reason;
     } cases[] = {
-        {QByteArray("SVR=\0\1\2", 7), "is not a text file"},
+        {QByteArray("SVR=\0\1\2", 7), "is not a text file: see line 1"},
+        {"SVR=A\nHNO=\x1b[2J", "is not a text file: see line 2"},
+        {"SVR=A\x80", "is not a text file: see line 1"},
         {QByteArray(64 * 1024 + 1, 'x'), "has a line of more than 64 KB"},
         {"SVR=A\n" + QByteArray(1024 * 1024, 'x'), "has a line of more than 64 KB"},
     };

@@ -1,4 +1,4 @@
-#include "session/TextFile.h"
+#include "data/TextFile.h"
 
 #include "data/DataError.h"
 
@@ -18,6 +18,11 @@ QString decode(const QByteArray& line) {
     return utf8.hasError() ? QString::fromLatin1(line) : text;
 }
 
+bool isText(const QString& line) {
+    return std::none_of(line.begin(), line.end(),
+                        [](QChar c) { return c.category() == QChar::Other_Control && c != u'\t'; });
+}
+
 } // namespace
 
 QStringList readTextLines(const QString& path) {
@@ -34,11 +39,11 @@ QStringList readTextLines(const QString& path) {
             line.chop(line.endsWith("\r\n") ? 2 : 1);
         if (line.size() > longestLine)
             throw DataError(QStringLiteral("The file %1 has a line of more than 64 KB.").arg(name));
-        if (line.contains('\0'))
-            throw DataError(QStringLiteral("The file %1 is not a text file.").arg(name));
         if (lines.isEmpty() && line.startsWith("\xEF\xBB\xBF"))
             line.remove(0, 3);
         lines << decode(line);
+        if (!isText(lines.last()))
+            throw DataError(QStringLiteral("The file %1 is not a text file: see line %2.").arg(name).arg(lines.size()));
     }
     return lines;
 }
