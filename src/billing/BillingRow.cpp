@@ -3,7 +3,7 @@
 namespace orvane {
 
 void addBillingRow(Connection& connection, const NewBill& bill) {
-    Recordset row(connection, Sql("select * from Billing where billno = '") << bill.billNo << "'");
+    Recordset row(connection, Sql("select * from Billing where 1=2"));
     row.addNew();
     row.set("bdate", bill.date);
     row.set("billNo", bill.billNo);

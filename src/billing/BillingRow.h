@@ -16,7 +16,7 @@ struct NewBill {
     QString words;     ///< the amount in upper-case words
 };
 
-/// Adds it. Runs in the caller's transaction. Raises DataError.
+/// Adds it; the caller has seen that the bill has none. Runs in the caller's transaction. Raises DataError.
 void addBillingRow(Connection& connection, const NewBill& bill);
 
 /// The bill's total as its details sum up, in naira; empty when it has no details. Raises DataError.

@@ -70,6 +70,7 @@ void readColumn(const Tokens& tokens, qsizetype start, qsizetype end, Table& tab
         }
     }
     table.columns += column;
+    table.columnNames += column.name;
 }
 
 Table readTable(const Tokens& tokens) {
@@ -206,7 +207,8 @@ const Catalog& Catalog::instance() {
 
 const Column* Table::column(const QString& columnName) const {
     for (const Column& candidate : columns) {
-        if (candidate.name.compare(columnName, Qt::CaseInsensitive) == 0) {
+        if (candidate.name.size() == columnName.size() &&
+            candidate.name.compare(columnName, Qt::CaseInsensitive) == 0) {
             return &candidate;
         }
     }

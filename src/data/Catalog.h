@@ -20,6 +20,7 @@ struct Column {
 struct Table {
     QString name;
     QList<Column> columns;
+    QStringList columnNames;
     QStringList key; ///< the primary key's columns
 
     const Column* column(const QString& columnName) const; ///< null when there is none; without regard to case

@@ -44,7 +44,7 @@ Connection Connection::beside(const QString& database) const {
 }
 
 void Connection::execute(const Sql& sql) {
-    d->send(sql.text());
+    d->change(sql.text());
 }
 
 Recordset Connection::call(const QString& procedure, const QVariantMap& parameters) {

@@ -146,7 +146,14 @@ private:
 } // namespace
 
 bool Token::is(const char* word) const {
-    return kind == TokenKind::Word && text.compare(QLatin1StringView(word), Qt::CaseInsensitive) == 0;
+    if (kind != TokenKind::Word)
+        return false;
+    // The words that are asked for are plain small letters, which differ from capitals in one bit.
+    const QChar* c = text.begin();
+    for (; c != text.end() && *word; ++c, ++word)
+        if (char16_t(c->unicode() | 0x20) != char16_t(*word))
+            return false;
+    return c == text.end() && !*word;
 }
 
 Tokens tokenize(const QString& tsql) {

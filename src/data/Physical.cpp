@@ -2,7 +2,6 @@
 
 #include "data/Assert.h"
 #include "data/Faults.h"
-#include "data/Translator.h"
 #include "data/Value.h"
 
 #include <QSqlDriver>
@@ -45,6 +44,7 @@ bool changesRows(const QString& text) {
 } // namespace
 
 PhysicalConnection::~PhysicalConnection() {
+    m_compiled.clear();
     database.close();
     database = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);
@@ -67,48 +67,115 @@ QString withLiterals(const QString& text, const QVariantList& values) {
     return result;
 }
 
-QSqlQuery PhysicalConnection::send(const QString& tsql, const QVariantList& bound) {
+/// What every statement goes through before it is sent: the rules of the transaction, the hook, the clock, and the
+/// engine's own words.
+Statement PhysicalConnection::admit(const QString& tsql, const QVariantList& bound) {
     if (inTransaction && poisoned) {
         throw DataError(QStringLiteral("An earlier statement of this transaction failed. Nothing of it is saved."),
                         tsql);
     }
-    QString text;
+    Statement statement;
     try {
         source->callHook(tsql, bound);
         tellClock();
         // SQL Server gets the values as literals: its driver would have to guess the type of a bound null.
-        text = translate(engine == Engine::SqlServer ? withLiterals(tsql, bound) : tsql, engine);
+        statement = statementOf(engine == Engine::SqlServer ? withLiterals(tsql, bound) : tsql, engine);
     } catch (...) {
         poisoned = inTransaction;
         throw;
     }
-    refuseSelfLock(text);
-    QSqlQuery query(database);
-    query.setForwardOnly(true);
-    for (int attempt = 1; !execute(query, text, bound); ++attempt) {
+    refuseSelfLock(statement.text);
+    if (engine == Engine::Sqlite && !bound.isEmpty()) {
+        statement.marked = statement.text;
+        statement.bound = bound;
+    } else if (engine == Engine::Postgresql) {
+        // A prepared statement costs PostgreSQL three messages for one run; its literals are as exact as bound values.
+        statement.text = withLiterals(statement.text, bound);
+    }
+    return statement;
+}
+
+void PhysicalConnection::execute(QSqlQuery& query, const std::function<bool()>& run, const QString& text) {
+    for (int attempt = 1;; ++attempt) {
+        ++source->statementsSent;
+        if (run()) {
+            return;
+        }
         if (inTransaction || attempt == 3 || !mayBeSentAgain(query.lastError())) {
             fail(query.lastError(), text, inTransaction);
         }
     }
-    return query;
 }
 
-bool PhysicalConnection::execute(QSqlQuery& query, const QString& text, const QVariantList& bound) {
-    ++source->statementsSent;
-    // A prepared statement costs PostgreSQL three messages for one run; its literals are as exact as bound values.
-    if (engine == Engine::Postgresql) {
-        return query.exec(withLiterals(text, bound));
+Answer PhysicalConnection::ask(const QString& tsql) {
+    const Statement statement = admit(tsql);
+    Answer answer{{}, statement.facts};
+    if (!statement.marked.isNull()) {
+        runCompiled(statement, [&](CompiledStatement& compiled) {
+            if (!compiled.columns) {
+                compiled.columns = columnsOf(compiled.query, engine);
+            }
+            answer.rows = readRows(compiled.query, *compiled.columns);
+            requireAllRead(compiled.query);
+            compiled.query.finish();
+        });
+    } else {
+        QSqlQuery query(database);
+        query.setForwardOnly(true);
+        execute(
+            query, [&] { return query.exec(statement.text); }, statement.text);
+        answer.rows = readRows(query, columnsOf(query, engine));
+        requireAllRead(query);
     }
-    if (bound.isEmpty() || engine == Engine::SqlServer) {
-        return query.exec(text);
+    answer.rows.columns = answer.facts->heads(answer.rows.columns);
+    return answer;
+}
+
+int PhysicalConnection::change(const QString& tsql, const QVariantList& bound) {
+    const Statement statement = admit(tsql, bound);
+    int rows = 0;
+    if (!statement.marked.isNull()) {
+        runCompiled(statement, [&](CompiledStatement& compiled) {
+            rows = compiled.query.numRowsAffected();
+            compiled.query.finish();
+        });
+    } else {
+        QSqlQuery query(database);
+        execute(
+            query, [&] { return query.exec(statement.text); }, statement.text);
+        rows = query.numRowsAffected();
     }
-    if (!query.prepare(text)) {
-        return false;
+    return rows;
+}
+
+void PhysicalConnection::runCompiled(const Statement& statement, const std::function<void(CompiledStatement&)>& use) {
+    CompiledStatement& kept = compiled(statement.marked);
+    for (int i = 0; i < statement.bound.size(); ++i) {
+        kept.query.bindValue(i, statement.bound[i]);
     }
-    for (const QVariant& value : bound) {
-        query.addBindValue(value);
+    try {
+        execute(
+            kept.query, [&] { return kept.query.exec(); }, statement.text);
+        use(kept);
+    } catch (...) {
+        m_compiled.remove(statement.marked);
+        throw;
     }
-    return query.exec();
+}
+
+CompiledStatement& PhysicalConnection::compiled(const QString& text) {
+    if (CompiledStatement* known = m_compiled.object(text)) {
+        return *known;
+    }
+    auto statement = std::make_unique<CompiledStatement>(CompiledStatement{QSqlQuery(database), {}});
+    statement->query.setForwardOnly(true);
+    if (!statement->query.prepare(text)) {
+        ++source->statementsSent;
+        fail(statement->query.lastError(), text, inTransaction);
+    }
+    CompiledStatement& kept = *statement;
+    m_compiled.insert(text, statement.release());
+    return kept;
 }
 
 QSqlQuery PhysicalConnection::sendNative(const QString& text) {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "data/Connection.h"
+#include "data/Rows.h"
 #include "data/ServerList.h"
+#include "data/Statement.h"
 
+#include <QCache>
 #include <QHash>
 #include <QMutex>
 #include <QSet>
@@ -12,6 +15,18 @@
 #include <atomic>
 
 namespace orvane {
+
+/// What the engine gives for a statement.
+struct Answer {
+    Rows rows;
+    std::shared_ptr<const RowFacts> facts;
+};
+
+/// A statement of SQLite that was compiled once, for values that are bound.
+struct CompiledStatement {
+    QSqlQuery query;
+    std::optional<Columns> columns; ///< known once it has run
+};
 
 /// One open connection of the engine. Lives in its source's pool while no Connection uses it.
 struct PhysicalConnection {
@@ -32,8 +47,11 @@ struct PhysicalConnection {
     int clockVersion = 0;  ///< of the server clock that PostgreSQL was told
     QString transaction;   ///< the engine's own number of the open transaction, where it has one
 
-    /// Sends one T-SQL statement, with ? for each bound value. Raises DataError; a failure poisons an open transaction.
-    QSqlQuery send(const QString& tsql, const QVariantList& bound = {});
+    /// Sends one T-SQL statement. Raises DataError; a failure poisons an open transaction.
+    Answer ask(const QString& tsql);
+    /// The same for a statement whose rows, if any, nobody reads; ? stands for each bound value. Gives the number of
+    /// rows changed.
+    int change(const QString& tsql, const QVariantList& bound = {});
     /// Sends text in the engine's own words, outside the rules for statements: begin, commit, settings.
     QSqlQuery sendNative(const QString& text);
     /// Raises DataError when the rows of a query ended in a fault, not in their last row.
@@ -44,7 +62,11 @@ struct PhysicalConnection {
     void rollback() noexcept;
 
 private:
-    bool execute(QSqlQuery& query, const QString& text, const QVariantList& bound);
+    Statement admit(const QString& tsql, const QVariantList& bound = {});
+    void execute(QSqlQuery& query, const std::function<bool()>& run, const QString& text);
+    CompiledStatement& compiled(const QString& text);
+    /// Runs a compiled statement and what `use` makes of it; on a fault it is not kept.
+    void runCompiled(const Statement& statement, const std::function<void(CompiledStatement&)>& use);
     void refuseSelfLock(const QString& text) const;
     void tellClock();
     [[noreturn]] void fail(const QSqlError& error, const QString& text, bool saving);
@@ -54,6 +76,8 @@ private:
     void settleCommit(const QSqlError& error);
     CommitTicket ticket() const;
     void endTransaction();
+
+    QCache<QString, CompiledStatement> m_compiled{100}; ///< by text
 };
 
 struct DataSource::Private : std::enable_shared_from_this<DataSource::Private> {

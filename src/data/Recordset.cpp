@@ -1,10 +1,8 @@
 #include "data/Recordset.h"
 
 #include "data/Assert.h"
-#include "data/Heads.h"
 #include "data/Physical.h"
-#include "data/RecordsetRows.h"
-#include "data/Rewrite.h"
+#include "data/RecordsetPrivate.h"
 #include "data/Value.h"
 
 #include <QRegularExpression>
@@ -49,17 +47,12 @@ void Recordset::read(Connection& connection, const QString& tsql) {
     // The schema knows the columns of a table: an empty result needs no question to the server.
     if (const Table* table = tableOfEmptyRows(tsql, connection.d->schema)) {
         d->table = table;
-        for (const Column& column : table->columns)
-            d->rows.columns += column.name;
+        d->rows.columns = table->columnNames;
         return;
     }
-    QSqlQuery query = connection.d->send(tsql);
-    const Tokens tokens = tokenize(tsql);
-    const QStringList sources = sourcesOf(tokens);
-    d->rows = readRows(query, connection.d->engine);
-    connection.d->requireAllRead(query);
-    d->rows.columns = properHeads(d->rows.columns, tokens, sources);
-    d->table = writableTable(tokens, connection.d->schema);
+    Answer answer = connection.d->ask(tsql);
+    d->rows = std::move(answer.rows);
+    d->table = answer.facts->writableTable(connection.d->schema);
 }
 
 int Recordset::columnIndex(const QString& column) const {

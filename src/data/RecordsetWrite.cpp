@@ -1,4 +1,4 @@
-#include "data/RecordsetRows.h"
+#include "data/RecordsetPrivate.h"
 
 #include "data/Value.h"
 
@@ -7,7 +7,7 @@ namespace orvane {
 namespace {
 
 QString quotedName(const QString& name) {
-    return QStringLiteral("[") + name + QStringLiteral("]");
+    return u'[' + name + u']';
 }
 
 } // namespace
@@ -39,18 +39,18 @@ void Recordset::Private::write() {
 }
 
 void Recordset::Private::insert(PhysicalConnection& target) {
-    QStringList names, marks;
+    QString names, marks;
     QVariantList bound;
     for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
-        names += quotedName(rows.columns[change.key()]);
-        marks += QStringLiteral("?");
+        const QLatin1StringView comma(bound.isEmpty() ? "" : ", ");
+        names += comma + quotedName(rows.columns[change.key()]);
+        marks += comma + u'?';
         bound += valueForBinding(change.value());
     }
-    target.send(names.isEmpty() ? QStringLiteral("insert into %1 default values").arg(quotedName(table->name))
-                                : QStringLiteral("insert into %1 (%2) values (%3)")
-                                      .arg(quotedName(table->name), names.join(QStringLiteral(", ")),
-                                           marks.join(QStringLiteral(", "))),
-                bound);
+    const QString into = QStringLiteral("insert into ") + quotedName(table->name);
+    target.change(bound.isEmpty() ? into + QStringLiteral(" default values")
+                                  : into + QStringLiteral(" (") + names + QStringLiteral(") values (") + marks + u')',
+                  bound);
     row = static_cast<int>(rows.count());
     for (int i = 0; i < rows.columns.size(); ++i) {
         rows.values.push_back(changes.value(i));
@@ -83,7 +83,7 @@ void Recordset::Private::change(PhysicalConnection& target) {
     const QString tsql = QStringLiteral("update %1 set %2 where %3")
                              .arg(quotedName(table->name), assignments.join(QStringLiteral(", ")),
                                   conditions.join(QStringLiteral(" and ")));
-    if (target.send(tsql, bound + oldValues).numRowsAffected() != 1) {
+    if (target.change(tsql, bound + oldValues) != 1) {
         target.poisoned = target.inTransaction;
         throw DataError(
             QStringLiteral(

@@ -6,9 +6,6 @@
 #include "data/Render.h"
 #include "data/Rewrite.h"
 
-#include <QCache>
-#include <QMutex>
-
 namespace orvane {
 
 namespace {
@@ -33,9 +30,7 @@ void checkParentheses(const Tokens& tokens, const QString& tsql) {
 
 } // namespace
 
-namespace {
-
-QString translateAnew(const QString& tsql, Engine engine) {
+QString translate(const QString& tsql, Engine engine) {
     Tokens tokens = tokenize(tsql);
     checkParentheses(tokens, tsql);
     if (isDefinition(tokens)) {
@@ -50,27 +45,6 @@ QString translateAnew(const QString& tsql, Engine engine) {
         rewriteLikeForPostgresql(tokens);
     }
     return render(tokens, 0, tokens.size(), engine);
-}
-
-/// Statements without a literal, as every insert is, come again word for word: what they became is kept.
-constexpr int keptTranslations = 500;
-
-} // namespace
-
-QString translate(const QString& tsql, Engine engine) {
-    if (tsql.contains(u'\'')) {
-        return translateAnew(tsql, engine);
-    }
-    static QMutex mutex;
-    static QCache<std::pair<int, QString>, QString> kept(keptTranslations);
-    const std::pair key(int(engine), tsql);
-    const QMutexLocker lock(&mutex);
-    if (const QString* known = kept.object(key)) {
-        return *known;
-    }
-    const QString text = translateAnew(tsql, engine);
-    kept.insert(key, new QString(text));
-    return text;
 }
 
 QStringList splitScript(const QString& script) {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "data/Catalog.h"
-#include "data/Physical.h"
-#include "data/Recordset.h"
+#include "data/Engine.h"
 
-#include <QMap>
+#include <QSqlQuery>
+#include <QStringList>
+#include <QVariant>
 #include <vector>
 
 namespace orvane {
@@ -24,26 +24,19 @@ struct Rows {
     }
 };
 
+/// What a column of a SQLite result was declared as; an expression has no declaration.
+enum class Declared { Nothing, Date, DateTime, Other };
+
+/// The columns of a query's result; none when it gives no rows.
+struct Columns {
+    QStringList names;
+    std::vector<Declared> declared;
+};
+
+Columns columnsOf(const QSqlQuery& query, Engine engine);
+
 /// Reads a query to its end. Dates become QDate and QDateTime, flags and whole numbers qlonglong, all other numbers
 /// double.
-Rows readRows(QSqlQuery& query, Engine engine);
-
-struct Recordset::Private {
-    Rows rows;
-    int row = 0;
-    const Table* table = nullptr; ///< the table that rows are written to; null when the statement names none or several
-    std::weak_ptr<PhysicalConnection> physical;
-    qint64 lease = 0;
-    bool adding = false;
-    QMap<int, QVariant> changes; ///< by column, until update
-
-    void dropChanges();
-    void write();
-
-private:
-    std::shared_ptr<PhysicalConnection> connection() const;
-    void insert(PhysicalConnection& target);
-    void change(PhysicalConnection& target);
-};
+Rows readRows(QSqlQuery& query, const Columns& columns);
 
 } // namespace orvane

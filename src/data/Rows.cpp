@@ -1,4 +1,4 @@
-#include "data/RecordsetRows.h"
+#include "data/Rows.h"
 
 #include "data/Value.h"
 
@@ -13,27 +13,14 @@ namespace orvane {
 
 namespace {
 
-/// What a column of a SQLite result was declared as; an expression has no declaration.
-enum class Declared { Nothing, Date, DateTime, Other };
-
 Declared declaredAs(sqlite3_stmt* statement, int column) {
-    const QString type = QString::fromUtf8(sqlite3_column_decltype(statement, column)).toLower();
-    if (type.isEmpty()) {
+    const char* type = sqlite3_column_decltype(statement, column);
+    if (!type) {
         return Declared::Nothing;
     }
-    return type == QStringLiteral("date")       ? Declared::Date
-           : type == QStringLiteral("datetime") ? Declared::DateTime
-                                                : Declared::Other;
-}
-
-std::vector<Declared> sqliteDeclarations(const QSqlQuery& query, int columns) {
-    const QVariant handle = query.result()->handle();
-    sqlite3_stmt* statement = *static_cast<sqlite3_stmt* const*>(handle.constData());
-    std::vector<Declared> list;
-    for (int i = 0; i < columns; ++i) {
-        list.push_back(declaredAs(statement, i));
-    }
-    return list;
+    return qstricmp(type, "date") == 0       ? Declared::Date
+           : qstricmp(type, "datetime") == 0 ? Declared::DateTime
+                                             : Declared::Other;
 }
 
 /// SQLite keeps dates as text: the declaration tells them, and in an expression their shape.
@@ -75,30 +62,42 @@ QVariant normalized(const QVariant& value, Declared declared) {
 
 int Rows::indexOf(const QString& column) const {
     for (int i = 0; i < columns.size(); ++i) {
-        if (columns[i].compare(column, Qt::CaseInsensitive) == 0) {
+        if (columns[i].size() == column.size() && columns[i].compare(column, Qt::CaseInsensitive) == 0) {
             return i;
         }
     }
     return -1;
 }
 
-Rows readRows(QSqlQuery& query, Engine engine) {
-    Rows rows;
+Columns columnsOf(const QSqlQuery& query, Engine engine) {
+    Columns columns;
     if (!query.isSelect()) {
-        return rows;
+        return columns;
     }
     const QSqlRecord record = query.record();
-    const int columns = record.count();
-    for (int i = 0; i < columns; ++i) {
-        rows.columns += record.fieldName(i);
+    const int count = record.count();
+    columns.names.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        columns.names += record.fieldName(i);
     }
-    std::vector<Declared> declared(static_cast<std::size_t>(columns), Declared::Other);
+    columns.declared.assign(static_cast<std::size_t>(count), Declared::Other);
     if (engine == Engine::Sqlite) {
-        declared = sqliteDeclarations(query, columns);
+        const QVariant handle = query.result()->handle();
+        sqlite3_stmt* statement = *static_cast<sqlite3_stmt* const*>(handle.constData());
+        for (int i = 0; i < count; ++i) {
+            columns.declared[static_cast<std::size_t>(i)] = declaredAs(statement, i);
+        }
     }
-    while (query.next()) {
-        for (int i = 0; i < columns; ++i) {
-            rows.values.push_back(normalized(query.value(i), declared[static_cast<std::size_t>(i)]));
+    return columns;
+}
+
+Rows readRows(QSqlQuery& query, const Columns& columns) {
+    Rows rows;
+    rows.columns = columns.names;
+    const int count = static_cast<int>(columns.names.size());
+    while (count > 0 && query.next()) {
+        for (int i = 0; i < count; ++i) {
+            rows.values.push_back(normalized(query.value(i), columns.declared[static_cast<std::size_t>(i)]));
         }
     }
     return rows;
