@@ -30,6 +30,7 @@ void BulkInsert::begin(const RowValues& first) {
     for (const auto& [name, value] : first) {
         const Column* column = m_table->column(QString::fromLatin1(name));
         ORVANE_ASSERT(column);
+        m_heads.append(name);
         m_columns.append(*column);
         names.append(QStringLiteral("[%1]").arg(column->name));
     }
@@ -42,14 +43,14 @@ void BulkInsert::add(const RowValues& row) {
     if (m_columns.isEmpty())
         begin(row);
     ORVANE_ASSERT(row.size() == m_columns.size());
-    m_text += m_waiting == 0 ? m_head : QStringLiteral(",");
+    QString text = m_waiting == 0 ? m_head : QStringLiteral(",");
     for (qsizetype i = 0; i < row.size(); ++i) {
         const Column& column = m_columns.at(i);
-        ORVANE_ASSERT(column.name.compare(QLatin1StringView(row.at(i).first), Qt::CaseInsensitive) == 0);
-        m_text += i == 0 ? u'(' : u',';
-        m_text += valueLiteral(valueForBinding(valueForColumn(row.at(i).second, column.name, column.kind)));
+        ORVANE_ASSERT(row.at(i).first == m_heads.at(i) || qstrcmp(row.at(i).first, m_heads.at(i)) == 0);
+        text += i == 0 ? u'(' : u',';
+        text += valueLiteral(valueForColumn(row.at(i).second, column.name, column.kind));
     }
-    m_text += u')';
+    m_text += text + u')';
     if (++m_waiting == rowsInStatement)
         flush();
 }

@@ -20,8 +20,8 @@ public:
     BulkInsert(const BulkInsert&) = delete;
     BulkInsert& operator=(const BulkInsert&) = delete;
 
-    /// The first row names the columns; every further one gives the same ones in the same order (asserted). Values obey
-    /// the rules of Recordset::set. Raises DataError.
+    /// The first row names the columns, by literals; every further one gives the same ones in the same order
+    /// (asserted). Values obey the rules of Recordset::set. Raises DataError.
     void add(const RowValues& row);
     /// Sends what waits. Raises DataError.
     void flush();
@@ -31,6 +31,7 @@ private:
 
     Connection& m_connection;
     const Table* m_table;
+    QVector<const char*> m_heads; ///< the names as the first row gave them
     QVector<Column> m_columns;
     QString m_head; ///< the statement up to its rows
     QString m_text; ///< the head and the rows that wait

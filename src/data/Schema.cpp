@@ -1,6 +1,7 @@
 #include "data/Schema.h"
 
 #include "data/Catalog.h"
+#include "data/Lexer.h"
 #include "data/Physical.h"
 #include "data/Prelude.h"
 #include "data/Translator.h"
@@ -18,9 +19,18 @@ QStringList stamp(Engine engine) {
             QStringLiteral("insert into orvaneSchema (version) values (%1)").arg(version)};
 }
 
+/// The statement from the word "index" on, when it makes one: index NAME on TABLE (...).
+Tokens indexClause(const QString& statement) {
+    const Tokens tokens = tokenize(statement);
+    if (tokens.isEmpty() || !tokens.first().is("create")) {
+        return {};
+    }
+    const qsizetype word = tokens.value(1).is("unique") ? 2 : 1;
+    return tokens.value(word).is("index") ? tokens.mid(word) : Tokens();
+}
+
 bool isIndex(const QString& statement) {
-    return statement.startsWith(QStringLiteral("create index "), Qt::CaseInsensitive) ||
-           statement.startsWith(QStringLiteral("create unique index "), Qt::CaseInsensitive);
+    return !indexClause(statement).isEmpty();
 }
 
 /// SQL Server has no index on an expression: there the statements that ask for the highest number read the table.
@@ -39,12 +49,10 @@ QStringList indexesOf(Engine engine, const QString& database) {
     return indexes;
 }
 
-/// "drop index NAME" for "create index NAME on TABLE (...)".
 QString dropOf(const QString& index, Engine engine) {
-    const QStringList words = index.simplified().split(u' ');
-    const qsizetype name = words.indexOf(QStringLiteral("index")) + 1;
-    const QString drop = QStringLiteral("drop index ") + words.at(name);
-    return engine == Engine::SqlServer ? drop + QStringLiteral(" on ") + words.at(name + 2) : drop;
+    const Tokens clause = indexClause(index);
+    const QString drop = QStringLiteral("drop index ") + clause.at(1).text;
+    return engine == Engine::SqlServer ? drop + QStringLiteral(" on ") + clause.at(3).text : drop;
 }
 
 } // namespace
