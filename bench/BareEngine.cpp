@@ -6,12 +6,13 @@
 
 namespace orvane {
 
-std::unique_ptr<BareEngine> openBareSqlite(const HomeServer& server, const QDateTime& clock);
+std::unique_ptr<BareEngine> openBareSqlite(const HomeServer& server, const QDateTime& clock, bool durable);
 std::unique_ptr<BareEngine> openBarePostgresql(const HomeServer& server, const QDateTime& clock);
 
-std::unique_ptr<BareEngine> BareEngine::open(const QString& homeFolder, const QDateTime& clock) {
+std::unique_ptr<BareEngine> BareEngine::open(const QString& homeFolder, const QDateTime& clock, bool durable) {
     const HomeServer server(homeFolder);
-    return server.entry.engine == Engine::Sqlite ? openBareSqlite(server, clock) : openBarePostgresql(server, clock);
+    return server.entry.engine == Engine::Sqlite ? openBareSqlite(server, clock, durable)
+                                                 : openBarePostgresql(server, clock);
 }
 
 QList<BareStatement> BareEngine::translated(const QStringList& statements) const {

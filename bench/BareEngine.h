@@ -30,9 +30,9 @@ struct Examination {
 class BareEngine {
 public:
     virtual ~BareEngine() = default;
-    /// Works on the databases themselves. `clock` is what getdate() shows. The embedded engine does not wait for the
-    /// disk at a commit, as a data source after setDisposable().
-    static std::unique_ptr<BareEngine> open(const QString& homeFolder, const QDateTime& clock);
+    /// Works on the databases themselves. `clock` is what getdate() shows. The embedded engine waits for the disk at a
+    /// commit only if it is `durable`, else it is as a data source after setDisposable().
+    static std::unique_ptr<BareEngine> open(const QString& homeFolder, const QDateTime& clock, bool durable = false);
 
     /// What a Recorder kept of a workstation, as the engine gets it.
     QList<BareStatement> translated(const QStringList& statements) const;

@@ -30,10 +30,10 @@ void textOf(sqlite3_context* context, int, sqlite3_value** arguments) {
 
 class BareSqlite : public BareEngine {
 public:
-    BareSqlite(const HomeServer& server, const QDateTime& clock)
+    BareSqlite(const HomeServer& server, const QDateTime& clock, bool durable)
         : BareEngine(Engine::Sqlite), m_clock(clock.toString("yyyy-MM-dd HH:mm:ss").toUtf8()) {
-        m_billing = connect(server.database());
-        m_audit = connect(server.database("Audit"));
+        m_billing = connect(server.database(), durable);
+        m_audit = connect(server.database("Audit"), durable);
     }
     ~BareSqlite() override {
         sqlite3_close(m_billing);
@@ -85,13 +85,15 @@ private:
         return rows;
     }
 
-    sqlite3* connect(const QString& file) {
+    sqlite3* connect(const QString& file, bool durable) {
         sqlite3* database = nullptr;
         if (sqlite3_open_v2(file.toUtf8().constData(), &database, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK)
             refuse(database, file.toUtf8());
-        // The settings of a disposable data source's connections.
-        sqlite3_exec(database, "pragma journal_mode=wal; pragma synchronous=off; pragma foreign_keys=on", nullptr,
-                     nullptr, nullptr);
+        // The settings of the data layer's connections.
+        for (const char* setting : {"pragma journal_mode=wal", "pragma foreign_keys=on", "pragma cache_size=-16384",
+                                    durable ? "pragma synchronous=full" : "pragma synchronous=off"})
+            sqlite3_exec(database, setting, nullptr, nullptr, nullptr);
+        sqlite3_busy_timeout(database, 60000);
         sqlite3_create_function(database, "getdate", 0, SQLITE_UTF8, &m_clock, getDate, nullptr, nullptr);
         sqlite3_create_function(database, "orvane_text", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, textOf,
                                 nullptr, nullptr);
@@ -105,8 +107,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<BareEngine> openBareSqlite(const HomeServer& server, const QDateTime& clock) {
-    return std::make_unique<BareSqlite>(server, clock);
+std::unique_ptr<BareEngine> openBareSqlite(const HomeServer& server, const QDateTime& clock, bool durable) {
+    return std::make_unique<BareSqlite>(server, clock, durable);
 }
 
 } // namespace orvane

@@ -142,13 +142,13 @@ int Workstation::tableCount(const QString& tableAndFilter) {
     return scalar(QStringLiteral("select count(*) as n from ") + tableAndFilter).toInt();
 }
 
-SecondHome::SecondHome(const TestHome& first) {
+SecondHome::SecondHome(const QString& firstFolder) {
     for (const char* name : {"made.sys", "sysdoc.sys", "orvane.ini"}) {
-        QFile source(first.folder() + QLatin1Char('/') + QLatin1String(name));
+        QFile source(firstFolder + QLatin1Char('/') + QLatin1String(name));
         QFile copy(folder() + QLatin1Char('/') + QLatin1String(name));
         if (!source.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly))
             fail(QStringLiteral("cannot copy ") + source.fileName());
-        copy.write(source.readAll().replace("folder = data", "folder = " + first.folder().toUtf8() + "/data"));
+        copy.write(source.readAll().replace("folder = data", "folder = " + firstFolder.toUtf8() + "/data"));
     }
 }
 

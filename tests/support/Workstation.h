@@ -63,7 +63,8 @@ private:
 /// A home folder of another machine, on the databases of the first one.
 class SecondHome {
 public:
-    explicit SecondHome(const TestHome& first);
+    explicit SecondHome(const TestHome& first) : SecondHome(first.folder()) {}
+    explicit SecondHome(const QString& firstFolder);
     QString folder() const { return m_folder.path(); }
 
 private:
