@@ -32,13 +32,13 @@ Road::Road(Site& site) : m_site(site) {
 QVector<RoadPatient> Road::patients(int count) {
     Connection billing = m_site.program.openBilling();
     QVector<RoadPatient> all;
-    for (Recordset rows(billing, Sql("select PNo,psurname from hPatients p where clientcatID='PRIVATE' and coyName="
+    for (Recordset rows(billing, Sql("select PNo,fullname from hPatients p where clientcatID='PRIVATE' and coyName="
                                      "'0001' and (expirydate is null or expirydate > '")
                                      << m_site.now.date()
                                      << "') and not exists (select h.recID from hRecords h where h.PNo = p.PNo and "
                                         "h.BillDate is null) order by PNo");
          !rows.eof(); rows.moveNext())
-        all.append({rows.text("PNo"), rows.text("psurname")});
+        all.append({rows.text("PNo"), rows.text("fullname")});
     QVector<RoadPatient> chosen;
     for (int i = 0; i < count && i < all.size(); ++i)
         chosen.append(all.at(i * (all.size() / count)));
@@ -59,7 +59,7 @@ void Road::walk(const RoadPatient& patient) {
 QString Road::attend(const RoadPatient& patient) {
     Hand hand(opened("frmRecordsOffline"));
     hand.click("cmdAdd");
-    hand.type("txtName", patient.surname);
+    hand.type("txtName", patient.name);
     hand.click("cmdOK");
     hand.chooseContaining("cboVehNo", QStringLiteral("[%1]").arg(patient.number));
     hand.choose("cboType", m_clinic);

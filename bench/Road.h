@@ -6,7 +6,7 @@ namespace orvane {
 
 /// A patient as the attendance screen finds one.
 struct RoadPatient {
-    QString number, surname;
+    QString number, name;
 };
 
 /// The road of one visit through a workstation's screens, from the attendance to a receipt and its reversal. Each save,

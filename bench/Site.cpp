@@ -5,17 +5,23 @@
 
 namespace orvane {
 
-QDateTime lastEvening(const QString& homeFolder) {
+namespace {
+
+QDateTime timeOf(Moment moment, const QString& homeFolder) {
     QuietUi ui;
     Program program(homeFolder, ui);
     prepareServer(program);
     Connection billing = program.openBilling();
     const Recordset last(billing, Sql("select max(recDate) as Day from hRecords"));
-    return {last.date("Day"), QTime(20, 0)};
+    const QDate day = last.date("Day");
+    return moment == Moment::LastEvening ? QDateTime(day, QTime(20, 0)) : QDateTime(day.addDays(1), QTime(9, 0));
 }
 
-Site::Site(const QString& home, const QString& name)
-    : copy(home, name), now(lastEvening(copy.folder())), program(copy.folder(), ui), recorder(program, copy.engine()) {
+} // namespace
+
+Site::Site(const QString& home, const QString& name, Moment moment)
+    : copy(home, name), now(timeOf(moment, copy.folder())), program(copy.folder(), ui),
+      recorder(program, copy.engine()) {
     program.data().setDisposable();
     program.data().setServerClock(now);
     ui.setClock(now);

@@ -6,14 +6,17 @@
 
 namespace orvane {
 
-/// The end of the last working day of a benchmark hospital: later than anything that was entered there.
-QDateTime lastEvening(const QString& homeFolder);
+/// When a workstation is looked at.
+enum class Moment {
+    LastEvening, ///< of the hospital's last working day: the lists of that day are full
+    NextMorning  ///< a new day: its lists hold what the benchmark enters, in a small hospital as in a large one
+};
 
-/// A workstation of a benchmark hospital, on a copy of its home folder. Its user is logged in, both clocks stand at
-/// the last evening, and everything that it sends is recorded from the login on. Commits do not wait for the disk.
+/// A workstation of a benchmark hospital, on a copy of its home folder. Its user is logged in, both clocks stand at the
+/// moment, and everything that it sends is recorded from the login on. Commits do not wait for the disk.
 class Site {
 public:
-    Site(const QString& home, const QString& name);
+    Site(const QString& home, const QString& name, Moment moment);
 
     HomeCopy copy;
     QDateTime now;

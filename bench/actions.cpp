@@ -101,8 +101,8 @@ void printScans(BareEngine& engine, const QList<Stretch>& stretches) {
 } // namespace
 
 void benchActions(const QString& smallHome, const QString& largeHome, int rounds) {
-    Site smallSite(smallHome, "small");
-    Site largeSite(largeHome, "large");
+    Site smallSite(smallHome, "small", Moment::NextMorning);
+    Site largeSite(largeHome, "large", Moment::NextMorning);
     Follower bare(largeHome, largeSite.now);
     Road small(smallSite);
     Road large(largeSite);

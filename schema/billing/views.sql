@@ -43,9 +43,10 @@ create view qryhfullname as
 select p.PNo as pno, p.fullname, p.coyName, p.pCatID as pcatID, p.clientcatID, p.DebtBF as Debt
 from hPatients p
 go
--- A patient with the debt as a debt report shows it: plus is owed, the opposite of hPatients.DebtBF.
+-- A patient with the debt as a debt report shows it: plus is owed, the opposite of hPatients.DebtBF. The name is no bare
+-- column, so that a report sorts its few debtors instead of walking every patient by name.
 create view qryhFullnameHosp as
-select p.PNo, p.fullname as FullName, p.clientcatID, p.coyName, r.retainName as Company, p.pPhoneNo,
+select p.PNo, isnull(p.fullname, '') as FullName, p.clientcatID, p.coyName, r.retainName as Company, p.pPhoneNo,
     0 - isnull(p.DebtBF, 0) as debtBF
 from hPatients p
 left join hRetainership r on r.retainID = p.coyName
