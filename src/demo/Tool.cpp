@@ -190,7 +190,7 @@ int demo(Call& call) {
     options.days = call.number(QStringLiteral("days"), 1, 3650);
     options.bills = call.number(QStringLiteral("bills"), 0, 1000000);
     if (options.bills > 0) {
-        options.patients = options.bills * 5 / 2;
+        options.patients = qMax(100, options.bills * 5 / 2); // as many as can come on one day at least
         options.days = call.parser.isSet(QStringLiteral("days")) ? options.days : 730;
     }
     options.seed = quint64(call.number(QStringLiteral("seed"), 0, 2147483647));

@@ -176,7 +176,7 @@ TEST(BulkHospitalSeed, makesTheSameHospitalForTheSameSeed) {
     const char* const seeds[] = {"5", "5", "6"};
     QStringList sums;
     for (int i = 0; i < 3; ++i) {
-        makeHospital(homes[i].folder(), {"--bills", "40", "--days", "10", "--seed", seeds[i]});
+        makeHospital(homes[i].folder(), {"--bills", "1", "--days", "1", "--seed", seeds[i]});
         DataSource data(homes[i].folder());
         Connection billing = data.open(TestHome::billing());
         sums.append(cellsOf(billing, {"BillAccum", "PaymentDetails", "hPatients"}).join('|'));
