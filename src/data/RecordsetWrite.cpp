@@ -39,17 +39,18 @@ void Recordset::Private::write() {
 }
 
 void Recordset::Private::insert(PhysicalConnection& target) {
-    QString names, marks;
+    QString text = QStringLiteral("insert into ") + quotedName(table->name);
+    QString marks;
     QVariantList bound;
     for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
-        const QLatin1StringView comma(bound.isEmpty() ? "" : ", ");
-        names += comma + quotedName(rows.columns[change.key()]);
-        marks += comma + u'?';
+        text += bound.isEmpty() ? QStringView(u" ([") : QStringView(u", [");
+        text += rows.columns[change.key()];
+        text += u']';
+        marks += bound.isEmpty() ? QStringView(u"?") : QStringView(u", ?");
         bound += valueForBinding(change.value());
     }
-    const QString into = QStringLiteral("insert into ") + quotedName(table->name);
-    target.change(bound.isEmpty() ? into + QStringLiteral(" default values")
-                                  : into + QStringLiteral(" (") + names + QStringLiteral(") values (") + marks + u')',
+    target.change(bound.isEmpty() ? text + QStringLiteral(" default values")
+                                  : text + QStringLiteral(") values (") + marks + u')',
                   bound);
     row = static_cast<int>(rows.count());
     for (int i = 0; i < rows.columns.size(); ++i) {

@@ -13,7 +13,7 @@ constexpr qsizetype mostValues = lastMark - firstMark + 1;
 // A number's stand-in is a number, for a number is what the rules must see: these digits and two more for its index.
 const QString numberMark = QStringLiteral("7301946528");
 constexpr int firstIndex = 10;
-constexpr qsizetype longestNumber = 15;
+constexpr qsizetype longestNumber = 18;
 constexpr qsizetype longestStatement = 100'000;
 constexpr const char* rowWords[] = {"select", "insert", "update", "delete"};
 
@@ -197,7 +197,7 @@ void Template::mark() {
     m_marked = text + m_rest;
 }
 
-std::optional<QVariantList> Template::bound(const QStringList& values) const {
+QVariantList Template::bound(const QStringList& values) const {
     QVariantList list;
     list.reserve(m_gaps.size());
     for (const Gap& gap : m_gaps) {
@@ -205,7 +205,7 @@ std::optional<QVariantList> Template::bound(const QStringList& values) const {
         if (gap.quoted) {
             list += value.replace(QStringLiteral("''"), QStringLiteral("'"));
         } else if (value.contains(u'.')) {
-            return {};
+            list += value.toDouble();
         } else {
             list += value.toLongLong();
         }

@@ -31,8 +31,8 @@ public:
     /// its text: in a select, which names its columns by their text, all gaps stand behind the first "from". Null
     /// elsewhere.
     QString marked() const { return m_marked; }
-    /// What is bound to marked(); nothing where a number is no whole one, for the engine reads those in its own way.
-    std::optional<QVariantList> bound(const QStringList& values) const;
+    /// What is bound to marked().
+    QVariantList bound(const QStringList& values) const;
 
 private:
     struct Gap {

@@ -111,11 +111,10 @@ Statement statementOf(const QString& tsql, Engine engine) {
     if (!kind)
         return {translate(tsql, engine), std::make_shared<RowFacts>(tsql), {}, {}};
     Statement statement{kind->text.filled(skeleton->values), kind->facts, {}, {}};
-    if (engine == Engine::Sqlite && !kind->text.marked().isNull())
-        if (std::optional<QVariantList> bound = kind->text.bound(skeleton->values)) {
-            statement.marked = kind->text.marked();
-            statement.bound = std::move(*bound);
-        }
+    if (engine == Engine::Sqlite && !kind->text.marked().isNull()) {
+        statement.marked = kind->text.marked();
+        statement.bound = kind->text.bound(skeleton->values);
+    }
     return statement;
 }
 

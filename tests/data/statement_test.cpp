@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlDriver>
+#include <cmath>
 #include <sqlite3.h>
 
 namespace orvane {
@@ -194,6 +195,19 @@ TEST_P(Compiled, StatementsFindAndPlanTheSameAsThoseWithTheirValuesInTheText) {
     }
     EXPECT_GT(found, 60);
     EXPECT_EQ(compiled > 60, GetParam() == Engine::Sqlite) << compiled;
+}
+
+TEST_P(Compiled, StatementsStoreAndFindAnAmountToItsLastDigit) {
+    makePatient(billing);
+    double amount = 0.1;
+    for (int i = 0; i < 300; ++i, amount = std::fmod(amount * 7.3 + 0.07, 9e7)) {
+        for (const double value : {amount, -amount, std::round(amount * 100) / 100}) {
+            billing.execute(Sql("update hPatients set DebtBF=") << value << "where pno = 'P/0001'");
+            const Recordset row(billing, Sql("select DebtBF from hPatients where pno='P/0001' and DebtBF=") << value);
+            ASSERT_FALSE(row.eof()) << value;
+            EXPECT_EQ(row.number("DebtBF"), value);
+        }
+    }
 }
 
 ORVANE_ON_EACH_ENGINE(Compiled);
