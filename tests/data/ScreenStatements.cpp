@@ -21,7 +21,7 @@ const char* const sessionAndNumbers[] = {
 };
 
 const char* const attendance[] = {
-    "select distinct * from vwhpatients where fullname like 'ADE%'",
+    "select * from vwhpatients where fullname like 'ADE%'",
     "select pno from qryhVisitsForToday where recdate='2026-03-14' and pno='P/0001' and attendedTo = 0",
     "select clientcatID,coyname,occupation,pno,oldpNo,policytype,ref,expirydate from hpatients where pNo='P/0001'",
     "select ApptDate,pno,clinictype,remarks,consultID from qryhAppt where pno='P/0001' and attendedto =0  ",
@@ -118,6 +118,19 @@ const char* const collation[] = {
     "delete from billingdetails where SNO = '12'",
     "delete from billAccum where SNO = '12'",
     "select  PNo,Amountbilled,Subtotal,Diff from vwBillingProcessDetailsGroupedVerify where billno='001OFL0000001'",
+    "update BillAccum set revType=(select max(m.revType) from drugMaster m where m.drgName=BillAccum.drgName and "
+    "m.revType <> '') where consultID='001OFL0000001' and (revType is null or revType in ('','OTHERS'))",
+    "update BillingDetails set revType=(select max(m.revType) from labservices m where "
+    "m.Drgname=BillingDetails.drgName "
+    "and m.revType <> '') where billNo='001OFL0000001' and not exists (select 1 from Billing b where "
+    "b.billNo='001OFL0000001' and b.isProcess=1)",
+    "select * from qryBillAccum where attendedTo=0  and  consultID='001OFL0000001'  and ClientCat not in "
+    "('HMO','PHIS','NHIS')  and SNo not in (Select SNo from BillingDetails) and SNo=12",
+    "select * from qryBillAccum where AttendedTo=0 and consultID='001OFL0000001' and capitated='NO' and SNo not in "
+    "(Select SNo from BillingDetails)",
+    "update BillAccum set isRct=1 where consultID = '001OFL0000001' and (drgName ='CONSULTATION' or SNo=12)",
+    "update billingDetails set isRct=1 where billNo = '001OFL0000001' and (drgName ='CONSULTATION' or SNo=12)",
+    "select  top 1 batchVal,coyCode  from vwBillsForClientsBatchVal where coycode='0001' order by batchval desc ",
     "select distinct date,pno,fullname,billno from vwBilling where  date between '2026-03-01' and '2026-03-14 '",
     "select distinct  CoyName,Fullname,Date,consultID as billNo from vwhConsultingVisits where   Date between "
     "'2026-03-01' and '2026-03-14' and  clientCatID <> '0001' order by fullname ",
@@ -162,6 +175,9 @@ const char* const receipts[] = {
     "select * from qryhBillingbalanceForPrivate where bdate = '2026-03-14' order by bdate desc,fullname asc",
     "select * from qryhBillingIncome where receiptdate = '2026-03-14' order by receiptNo",
     "select * from qryreceiptCancelled where receiptdate ='2026-03-14' order by receiptdate desc",
+    "select distinct recID,pno,fullname,consultID as billno from qryhVisits where  recdate between '2026-03-14' and "
+    "'2026-03-14 '",
+    "update Billing set AmountPaid=isnull(AmountPaid,0)+1000 where BillNo = '001OFL0000001'",
 };
 
 template <std::size_t N>
