@@ -1,14 +1,17 @@
 #!/usr/bin/env bash
 # A private PostgreSQL cluster for tests and benchmarks.
 #   scripts/pg-cluster.sh start DIR   starts one in DIR (made if it is missing) and prints the line for the environment
+#   scripts/pg-cluster.sh start DIR durable   the same, but its commits wait for the disk
 #   scripts/pg-cluster.sh stop DIR    stops it and removes its files
 #   scripts/pg-cluster.sh halt DIR    stops it and keeps its files; start then starts it again on the same port
-# It listens on a free port of 127.0.0.1 and writes nothing safely (fsync off): for tests only.
+# It listens on a free port of 127.0.0.1 and, unless it is durable, writes nothing safely (fsync off): for tests only.
 set -euo pipefail
 
 usage="usage: $0 start|stop|halt DIR"
 action=${1:?$usage}
 directory=$(realpath -m "${2:?$usage}")
+safety="-c fsync=off -c synchronous_commit=off -c full_page_writes=off"
+if [ "${3:-}" = durable ]; then safety=; fi
 cd / # a folder that the server's own user may enter
 binaries=$(ls -d /usr/lib/postgresql/*/bin 2>/dev/null | sort -V | tail -1)
 [ -n "$binaries" ] || { echo "PostgreSQL is not installed" >&2; exit 1; }
@@ -40,8 +43,8 @@ start() {
     local port
     port=$(cat "$directory/port")
     as_owner "$binaries/pg_ctl" --pgdata="$directory/data" --log="$directory/data/server.log" --wait --silent start \
-        -o "-p $port -c listen_addresses=127.0.0.1 -c unix_socket_directories= -c fsync=off \
-            -c synchronous_commit=off -c full_page_writes=off -c max_connections=200 -c autovacuum=off" >&2
+        -o "-p $port -c listen_addresses=127.0.0.1 -c unix_socket_directories= $safety \
+            -c max_connections=200 -c autovacuum=off" >&2
     echo "ORVANE_TEST_PG=host=127.0.0.1 port=$port"
 }
 
