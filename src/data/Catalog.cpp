@@ -60,6 +60,9 @@ void readColumn(const Tokens& tokens, qsizetype start, qsizetype end, Table& tab
     Column column;
     column.name = tokens[start].text;
     column.kind = typeKinds().value(tokens[start + 1].text.toLower(), ColumnKind::Text);
+    if (column.kind == ColumnKind::Text && start + 3 < end && tokens[start + 2].isSymbol("(")) {
+        column.length = tokens[start + 3].text.toInt(); // 0 for "max"
+    }
     for (qsizetype i = start + 2; i < end; ++i) {
         if (tokens[i].is("identity")) {
             column.identity = true;

@@ -13,6 +13,7 @@ enum class ColumnKind { Text, Number, Integer, Flag, Date, DateTime, Time };
 struct Column {
     QString name;
     ColumnKind kind = ColumnKind::Text;
+    int length = 0; ///< characters that a text may have; 0: any number
     bool identity = false;
     bool required = false; ///< declared not null, or part of the primary key
 };

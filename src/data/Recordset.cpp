@@ -3,6 +3,7 @@
 #include "data/Assert.h"
 #include "data/Physical.h"
 #include "data/RecordsetPrivate.h"
+#include "data/RowReader.h"
 #include "data/Value.h"
 
 #include <QRegularExpression>
@@ -25,6 +26,29 @@ Recordset Recordset::detached() const {
     Recordset copy;
     copy.d->rows = d->rows;
     return copy;
+}
+
+Recordset Recordset::paged(Connection connection, const Sql& sql) {
+    const auto reader = std::make_shared<RowReader>(std::move(connection), sql.text());
+    Recordset rows;
+    rows.d->rows = Rows(reader->heads(), reader);
+    return rows;
+}
+
+int Recordset::rowsRead() const {
+    return static_cast<int>(d->rows.read());
+}
+
+bool Recordset::isWhole() const {
+    return d->rows.isWhole();
+}
+
+void Recordset::readMore(int rows) const {
+    d->rows.readOn(rows);
+}
+
+bool Recordset::has(int row) const {
+    return d->rows.has(row);
 }
 
 namespace {
@@ -66,7 +90,7 @@ int Recordset::columnIndex(const QString& column) const {
 }
 
 bool Recordset::eof() const {
-    return d->row >= count();
+    return !d->rows.has(d->row);
 }
 
 void Recordset::moveFirst() {
@@ -87,7 +111,9 @@ int Recordset::row() const {
 
 void Recordset::moveTo(int row) {
     d->dropChanges();
-    d->row = std::clamp(row, 0, count());
+    d->row = std::max(row, 0);
+    if (!d->rows.has(d->row))
+        d->row = count();
 }
 
 bool Recordset::find(const QString& column, const QString& value) {
@@ -178,7 +204,7 @@ void Recordset::set(const QString& column, const QVariant& value) {
     if (!known) {
         throw DataError(QStringLiteral("The column %1 of this recordset cannot be written.").arg(column));
     }
-    d->changes.insert(index, valueForColumn(value, known->name, known->kind));
+    d->changes.insert(index, valueForColumn(value, known->name, known->kind, known->length));
 }
 
 void Recordset::update() {

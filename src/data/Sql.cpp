@@ -24,10 +24,6 @@ bool hasLoneSurrogate(const QString& text) {
     return false;
 }
 
-QString shortened(const QString& text) {
-    return text.size() <= 40 ? text : text.left(40) + QStringLiteral("...");
-}
-
 } // namespace
 
 QString sqlQuotedText(const QString& value, const QString& what) {
@@ -73,7 +69,8 @@ void Sql::appendFragment(QStringView fragment) {
 
 Sql& Sql::appendText(const QString& value) {
     ORVANE_ASSERT(m_insideQuotes);
-    m_text += sqlQuotedText(value, QStringLiteral("The text \"%1\"").arg(shortened(value)));
+    // The text itself is not told: it may be a password.
+    m_text += sqlQuotedText(value, QStringLiteral("A text of this entry"));
     return *this;
 }
 

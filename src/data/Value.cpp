@@ -17,9 +17,13 @@ constexpr double firstTooLarge = 1e13;
 
 const auto kDateTime = QStringLiteral("yyyy-MM-dd HH:mm:ss");
 
+QString shortened(const QString& text) {
+    return text.size() <= 40 ? text : text.left(40) + QStringLiteral("...");
+}
+
 [[noreturn]] void refuse(const QVariant& value, const QString& column, const char* what) {
-    throw DataError(
-        QStringLiteral("\"%1\" is no %2: column %3.").arg(valueText(value), QLatin1StringView(what), column));
+    throw DataError(QStringLiteral("\"%1\" is no %2: column %3.")
+                        .arg(shortened(valueText(value)), QLatin1StringView(what), column));
 }
 
 bool isEmptyValue(const QVariant& value) {
@@ -109,7 +113,7 @@ QString valueText(const QVariant& value) {
     }
 }
 
-QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind kind) {
+QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind kind, int longest) {
     const bool isText = kind == ColumnKind::Text || kind == ColumnKind::Time;
     if (isEmptyValue(value) ||
         (!isText && value.typeId() == QMetaType::QString && value.toString().trimmed().isEmpty())) {
@@ -135,6 +139,11 @@ QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind
     }
     const QString text = valueText(value);
     sqlQuotedText(text, QStringLiteral("The text of column %1").arg(column)); // raises for what no text may hold
+    // One server cuts such a text or refuses it, another cannot put it into an index: here it is refused on each of
+    // them.
+    if (longest > 0 && text.size() > longest) {
+        throw DataError(QStringLiteral("The text of column %1 is longer than %2 characters.").arg(column).arg(longest));
+    }
     return text;
 }
 

@@ -11,8 +11,8 @@ namespace orvane {
 QString valueText(const QVariant& value);
 
 /// A value as a column of that kind holds it: null, QString, double, qlonglong, QDate or QDateTime. Raises DataError
-/// naming the column for what it may not hold.
-QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind kind);
+/// naming the column for what it may not hold, such as a text of more than `longest` characters (0: any number).
+QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind kind, int longest = 0);
 
 /// A value as it is bound into a statement: dates as ISO text.
 QVariant valueForBinding(const QVariant& value);

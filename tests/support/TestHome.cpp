@@ -46,15 +46,15 @@ void writeHome(const QString& folder, Engine engine, const QString& prefix) {
     writeFile(folder + QStringLiteral("/orvane.ini"), iniText(engine, prefix));
 }
 
-/// Runs statements on the cluster's maintenance database.
-void onCluster(const QStringList& statements) {
+/// Runs statements on a database of the cluster, by default the one for maintenance.
+void onCluster(const QStringList& statements, const QString& onDatabase = QStringLiteral("postgres")) {
     const QString name = QStringLiteral("tests-maintenance");
     {
         QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), name);
         database.setHostName(clusterValue(QStringLiteral("host")));
         database.setPort(clusterValue(QStringLiteral("port")).toInt());
         database.setUserName(QStringLiteral("zorva"));
-        database.setDatabaseName(QStringLiteral("postgres"));
+        database.setDatabaseName(onDatabase);
         if (!database.open()) {
             throw std::runtime_error(database.lastError().text().toStdString());
         }
@@ -91,24 +91,8 @@ public:
         }
     }
 
-    void copyFiles(const QString& folder) const {
-        QDir().mkpath(folder + QStringLiteral("/data"));
-        for (const char* name : {"Dunmarch.db", "Accounting.db", "Audit.db"}) {
-            const QString file = QStringLiteral("/data/") + QLatin1StringView(name);
-            if (!QFile::copy(m_folder.path() + file, folder + file)) {
-                throw std::runtime_error("cannot copy " + file.toStdString());
-            }
-        }
-    }
-
-    /// Clones the databases under a new prefix, which it gives.
-    QString clone() const {
-        static std::atomic<int> last = 0;
-        const QString prefix = m_prefix + QStringLiteral("%1_").arg(++last);
-        onCluster({QStringLiteral("create database \"%1dunmarch\" template \"%2dunmarch\"").arg(prefix, m_prefix),
-                   QStringLiteral("create database \"%1accounting\" template \"%2accounting\"").arg(prefix, m_prefix)});
-        return prefix;
-    }
+    QString folder() const { return m_folder.path(); }
+    QString prefix() const { return m_prefix; }
 
 private:
     QTemporaryDir m_folder;
@@ -123,6 +107,25 @@ const Original& original(Engine engine) {
     }
     static const Original postgresql(Engine::Postgresql);
     return postgresql;
+}
+
+void copyFiles(const QString& from, const QString& to) {
+    QDir().mkpath(to + QStringLiteral("/data"));
+    for (const char* name : {"Dunmarch.db", "Accounting.db", "Audit.db"}) {
+        const QString file = QStringLiteral("/data/") + QLatin1StringView(name);
+        if (!QFile::copy(from + file, to + file)) {
+            throw std::runtime_error("cannot copy " + file.toStdString());
+        }
+    }
+}
+
+/// Clones the databases of a prefix under a new one, which it gives.
+QString cloneDatabases(const QString& from) {
+    static std::atomic<int> last = 0;
+    const QString prefix = QStringLiteral("t%1_%2_").arg(QCoreApplication::applicationPid()).arg(++last);
+    onCluster({QStringLiteral("create database \"%1dunmarch\" template \"%2dunmarch\"").arg(prefix, from),
+               QStringLiteral("create database \"%1accounting\" template \"%2accounting\"").arg(prefix, from)});
+    return prefix;
 }
 
 QString connectionString(const char* database) {
@@ -145,19 +148,30 @@ std::string engineName(Engine engine) {
 }
 
 TestHome::TestHome(Engine engine) : m_engine(engine) {
-    const Original& source = original(engine);
-    if (engine == Engine::Sqlite) {
-        source.copyFiles(folder());
+    copy(original(engine).folder(), original(engine).prefix());
+}
+
+TestHome::TestHome(const TestHome& laid) : m_engine(laid.m_engine) {
+    copy(laid.folder(), laid.m_prefix);
+}
+
+void TestHome::copy(const QString& fromFolder, const QString& fromPrefix) {
+    if (m_engine == Engine::Sqlite) {
+        copyFiles(fromFolder, folder());
     } else {
-        m_prefix = source.clone();
+        m_prefix = cloneDatabases(fromPrefix);
     }
-    writeHome(folder(), engine, m_prefix);
+    writeHome(folder(), m_engine, m_prefix);
 }
 
 TestHome::~TestHome() {
     if (m_engine == Engine::Postgresql) {
         dropDatabases(m_prefix);
     }
+}
+
+void TestHome::onServer(const QString& database, const QStringList& statements) const {
+    onCluster(statements, m_prefix + database);
 }
 
 QString TestHome::billing() {

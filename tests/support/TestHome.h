@@ -19,15 +19,20 @@ class TestHome {
 public:
     explicit TestHome(Engine engine = Engine::Sqlite);
     ~TestHome();
-    TestHome(const TestHome&) = delete;
+    /// A copy of another's databases as they stand; nobody may be connected to them.
+    TestHome(const TestHome& laid);
     TestHome& operator=(const TestHome&) = delete;
 
     QString folder() const { return m_folder.path(); }
     Engine engine() const { return m_engine; }
     static QString billing();    ///< the connection string of the billing database, as the program builds it
     static QString accounting(); ///< the same of the Accounting database
+    /// Runs PostgreSQL's own statements as the owner of "dunmarch" or "accounting".
+    void onServer(const QString& database, const QStringList& statements) const;
 
 private:
+    void copy(const QString& fromFolder, const QString& fromPrefix);
+
     QTemporaryDir m_folder;
     Engine m_engine;
     QString m_prefix; ///< of the databases on the server
