@@ -4,6 +4,7 @@
 #include "desktop/WindowDriver.h"
 #include "play/Play.h"
 #include "screens/Screens.h"
+#include "session/Secrets.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -117,6 +118,7 @@ void nameProgram() {
 } // namespace
 
 int main(int argc, char** argv) {
+    keepToOwner();
     if (!needsWindow(argc, argv)) {
         const QCoreApplication application(argc, argv);
         nameProgram();

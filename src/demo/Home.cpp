@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <sys/stat.h>
 
 namespace orvane {
 
@@ -63,12 +62,6 @@ bool isThere(Program& program, const QString& connectionString) {
 }
 
 } // namespace
-
-PrivateFiles::PrivateFiles() : m_previous(umask(077)) {}
-
-PrivateFiles::~PrivateFiles() {
-    umask(m_previous);
-}
 
 void writeHomeFiles(const QString& folder, const HomeOptions& options) {
     if (!QDir().mkpath(folder))

@@ -14,18 +14,6 @@ struct HomeOptions {
     QString prefix; ///< stands in front of the database names on a server that holds several hospitals
 };
 
-/// Files made while one lives are readable by their owner alone.
-class PrivateFiles {
-public:
-    PrivateFiles();
-    ~PrivateFiles();
-    PrivateFiles(const PrivateFiles&) = delete;
-    PrivateFiles& operator=(const PrivateFiles&) = delete;
-
-private:
-    unsigned m_previous;
-};
-
 /// Makes the folder and writes made.sys, orvane.ini, the receipt pictures and the sound where they are missing; files
 /// that stand are left alone. Raises DataError when one cannot be written.
 void writeHomeFiles(const QString& folder, const HomeOptions& options);

@@ -1,14 +1,17 @@
 #include "demo/Tool.h"
 
 #include "data/Catalog.h"
+#include "data/Rights.h"
 #include "data/Schema.h"
 #include "demo/Check.h"
 #include "demo/CsvLoad.h"
 #include "demo/Demo.h"
 #include "demo/Home.h"
+#include "demo/Password.h"
 #include "demo/QuietUi.h"
 #include "demo/Users.h"
 #include "session/Main.h"
+#include "session/Secrets.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -60,11 +63,13 @@ constexpr Option allOptions[] = {
     {"port", "PORT", "0", "the server's port; 0: the engine's usual one"},
     {"prefix", "WORD", "", "stands before the database names on a server, which can so hold several hospitals"},
     {"database", "NAME", "billing", "billing, accounting or audit"},
+    {"login", "NAME", kProgramLogin, "the server's login that the program uses"},
     {"fullname", "TEXT", "", "the user's full name"},
     {"role", "ROLE", "", "a role of the user; may be given several times"},
     {"accounts", nullptr, "", "the user may open the Accounts menu"},
     {"empid", "ID", "", "the user's number among the employees"},
-    {"password", "TEXT", "", "the password for the login screen"},
+    {"password-file", "FILE", "",
+     "its first line is the password for the login screen; -: asked for, or standard input"},
     {"patients", "N", "500", "how many patients"},
     {"days", "D", "30", "how many days of visits"},
     {"bills", "N", "0",
@@ -115,7 +120,6 @@ HomeOptions homeOptions(const Call& call) {
 int create(Call& call) {
     const HomeOptions options = homeOptions(call);
     const QString home = call.required(QStringLiteral("home"));
-    const PrivateFiles guard;
     writeHomeFiles(home, options);
     Workplace workplace(home);
     createDatabases(workplace.program());
@@ -129,7 +133,8 @@ int schema(Call& call) {
     const Engine of = engine == QLatin1String("sqlite")       ? Engine::Sqlite
                       : engine == QLatin1String("postgresql") ? Engine::Postgresql
                                                               : Engine::SqlServer;
-    call.out << schemaScript(of, call.parser.value(QStringLiteral("database")));
+    const QString database = call.parser.value(QStringLiteral("database"));
+    call.out << schemaScript(of, database) << rightsScript(of, database, call.required(QStringLiteral("login")));
     return Done;
 }
 
@@ -160,7 +165,8 @@ int userAdd(Call& call) {
     user.name = call.operands.at(0);
     user.fullName = call.required(QStringLiteral("fullname"));
     user.employeeID = call.parser.value(QStringLiteral("empid"));
-    user.password = call.parser.value(QStringLiteral("password"));
+    if (call.parser.isSet(QStringLiteral("password-file")))
+        user.password = readPassword(call.parser.value(QStringLiteral("password-file")));
     user.roles = call.parser.values(QStringLiteral("role"));
     user.roles.removeAll(QString());
     user.accounts = call.parser.isSet(QStringLiteral("accounts"));
@@ -200,7 +206,6 @@ int demo(Call& call) {
     if (!options.until.isValid())
         throw UsageError{QStringLiteral("--until is a date of the form yyyy-mm-dd.")};
     const HomeOptions home = homeOptions(call);
-    const PrivateFiles guard;
     writeHomeFiles(options.home, home);
     {
         Workplace workplace(options.home);
@@ -226,7 +231,11 @@ const QVector<Command>& commands() {
          {"home", "engine", "host", "port", "prefix"},
          "makes the databases of a home folder, empty",
          create},
-        {"schema", {}, {"engine", "database"}, "writes the script that makes a database", schema},
+        {"schema",
+         {},
+         {"engine", "database", "login"},
+         "writes the script that makes a database, with its login's rights",
+         schema},
         {"load",
          {"TABLE", "FILE.csv"},
          {"home", "database"},
@@ -234,7 +243,7 @@ const QVector<Command>& commands() {
          load},
         {"user add",
          {"NAME"},
-         {"home", "fullname", "role", "accounts", "empid", "password"},
+         {"home", "fullname", "role", "accounts", "empid", "password-file"},
          "adds a user of the program",
          userAdd},
         {"check", {}, {"home"}, "looks for amounts, numbers and rows that do not agree", check},
@@ -304,6 +313,7 @@ int runCommand(const Command& command, const QStringList& arguments, QTextStream
 } // namespace
 
 int runDatabaseTool(const QStringList& arguments, QTextStream& out, QTextStream& errors) {
+    keepToOwner();
     if (arguments.contains(QStringLiteral("--help")) || arguments.contains(QStringLiteral("-h"))) {
         writeUsage(out);
         return Done;

@@ -68,6 +68,12 @@ QByteArray contentOf(const QString& path) {
 
 class Tool : public ::testing::Test {
 protected:
+    QString written(const QString& name, const QByteArray& content) const {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
     QTemporaryDir folder;
     QString home = folder.filePath("home");
 };
@@ -123,28 +129,29 @@ TEST_F(Tool, createsEmptyDatabasesOnceForTheOwnerAlone) {
 TEST_F(Tool, loadsAndAddsAUserWhomTheProgramAdmits) {
     ASSERT_EQ(tool({"create", "--home", home}).code, 0);
     const auto load = [&](const QString& table, const QByteArray& content) {
-        QFile file(folder.filePath(table + ".csv"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
-        return tool({"load", table, file.fileName(), "--home", home});
+        return tool({"load", table, written(table + ".csv", content), "--home", home});
     };
     EXPECT_EQ(load("HospList", "hospID,Hname,HName2\n001,HALDEN HOSPITAL,Main Clinic\n").code, 0);
     EXPECT_EQ(load("appdefaults", "ID,idval\nPRIVATE,0001\nNHISFEE,10\n").out, "2 row(s) added to AppDefaults.\n");
     EXPECT_EQ(load("NoTable", "ID\n1\n").code, 1);
     EXPECT_EQ(tool({"load", "AppDefaults", folder.filePath("none.csv"), "--home", home}).code, 1);
 
-    const QStringList add = {"user",     "add",    "ada.o",      "--home",  home,         "--fullname",
-                             "ADA O'BI", "--role", "BILLING",    "--role",  "MANAGEMENT", "--accounts",
-                             "--empid",  "E9",     "--password", "Secret1!"};
+    const QStringList add = {"user",    "add",        "ada.o",           "--home",
+                             home,      "--fullname", "ADA O'BI",        "--role",
+                             "BILLING", "--role",     "MANAGEMENT",      "--accounts",
+                             "--empid", "E9",         "--password-file", written("password", "Secret1!\n")};
     ASSERT_EQ(tool(add).code, 0);
     EXPECT_EQ(tool(add).errors, "orvane-db user add: The user name \"ada.o\" is taken.\n");
     EXPECT_EQ(
         tool({"user", "add", "no.role", "--home", home, "--fullname", "X", "--role", "A ROLE NAME TOO LONG"}).code, 1);
-    EXPECT_EQ(
-        tool({"user", "add", "no.pass", "--home", home, "--fullname", "X", "--role", "BILLING", "--password", "a b"})
-            .code,
-        1);
+    EXPECT_EQ(tool({"user", "add", "no.pass", "--home", home, "--fullname", "X", "--role", "BILLING", "--password-file",
+                    written("bad", "a b")})
+                  .code,
+              1);
+    const Result onTheLine = tool(
+        {"user", "add", "no.pass", "--home", home, "--fullname", "X", "--role", "BILLING", "--password", "Secret1!"});
+    EXPECT_EQ(onTheLine.code, 2) << "every user of the machine sees a command line";
+    EXPECT_FALSE(onTheLine.errors.contains("Secret1!"));
     EXPECT_EQ(scalar(home, "select count(*) from ApplicationUsers"), "1");
     EXPECT_EQ(scalar(home, "select username from UsersForAccts"), "ada.o");
     EXPECT_NE(scalar(home, "select Password from ApplicationUsers"), "Secret1!");

@@ -1,0 +1,74 @@
+// The rights that are told to a server's owner are enough for the program's work and its checks, and for nothing else.
+#include "demo/Check.h"
+#include "support/LeastRights.h"
+#include "support/MoneyActions.h"
+
+namespace orvane {
+namespace {
+
+class Rights : public ::testing::TestWithParam<Engine> {
+protected:
+    void SetUp() override {
+        if (GetParam() == Engine::Sqlite)
+            GTEST_SKIP() << "a database is its owner's file";
+    }
+};
+ORVANE_ON_EACH_ENGINE(Rights);
+
+TEST_P(Rights, AreEnoughForEveryActionThatMovesMoney) {
+    for (const MoneyAction& action : moneyActions()) {
+        SCOPED_TRACE(action.name);
+        const TestHome home(GetParam());
+        {
+            Workstation owner(home.folder());
+            owner.layHospital();
+            ASSERT_TRUE(owner.start());
+            action.lay(owner);
+            owner.ui.forgetBoxes();
+            owner.ui.takeQuestions();
+        }
+        const LeastRights login(home);
+        Workstation ws(home.folder());
+        ASSERT_TRUE(ws.start());
+        action.enter(ws);
+        ws.ui.forgetBoxes();
+        const QString before = moneyFigures(ws);
+        action.act(ws);
+        QStringList told;
+        for (const QString& box : ws.ui.takeBoxes())
+            told << "box " + box;
+        for (const QString& form : ws.ui.opened)
+            told << "opened " + form;
+        for (const QString& form : ws.ui.closedForms)
+            told << "closed " + form;
+        EXPECT_TRUE(action.byItem || told.contains(action.report)) << told.join(" / ").toStdString();
+        EXPECT_NE(moneyFigures(ws), before);
+        EXPECT_EQ(checkDatabases(ws.program).findings, QStringList());
+    }
+}
+
+TEST_P(Rights, AreNoMoreThanTheProgramNeeds) {
+    const TestHome home(GetParam());
+    const LeastRights login(home);
+    DataSource source(home.folder());
+    const struct {
+        QString database;
+        QStringList statements;
+    } refused[] = {{TestHome::billing(),
+                    {"drop table Payments", "delete from Payments", "update Payments set AmountPaid=0",
+                     "delete from AuditTrail", "update Tranxaction set Amount=0", "delete from hPatients",
+                     "insert into AppDefaults (ID) values ('X')", "select * from banks", "create table mine (a int)"}},
+                   {TestHome::accounting(),
+                    {"delete from Tranxaction", "insert into Tranxaction (TranID, AccountNo) values ('X', 'X')"}}};
+    for (const auto& [database, statements] : refused)
+        for (const QString& statement : statements)
+            try {
+                source.open(database).run(statement);
+                ADD_FAILURE() << statement.toStdString();
+            } catch (const DataError& fault) {
+                EXPECT_TRUE(fault.code() == "42501") << statement.toStdString() << ": " << fault.what();
+            }
+}
+
+} // namespace
+} // namespace orvane
