@@ -27,7 +27,7 @@ bool isQuiet(const PhysicalConnection& physical) {
         return false;
     }
     const QVariant handle = physical.database.driver()->handle();
-    if (qstrcmp(handle.typeName(), "PGconn*") != 0) {
+    if (qstrcmp(handle.typeName(), "pg_conn*") != 0) { // libpq's own name of a PGconn
         return false;
     }
     PGconn* const connection = *static_cast<PGconn* const*>(handle.constData());

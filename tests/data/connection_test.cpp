@@ -182,7 +182,7 @@ protected:
     void cut() {
         Connection killer = data.open(TestHome::billing());
         killer.run(QStringLiteral(
-            "select pg_terminate_backend(pid) from pg_stat_activity where datname=current_database() and "
+            "select pg_terminate_backend(pid, 10000) from pg_stat_activity where datname=current_database() and "
             "pid <> pg_backend_pid()"));
     }
 };
@@ -192,10 +192,21 @@ TEST_P(LostServer, AnIdleConnectionIsReplacedBeforeItIsGiven) {
     DataSource other(home.folder());
     other.open(TestHome::billing())
         .run(QStringLiteral(
-            "select pg_terminate_backend(pid) from pg_stat_activity where datname=current_database() and "
+            "select pg_terminate_backend(pid, 10000) from pg_stat_activity where datname=current_database() and "
             "pid <> pg_backend_pid()"));
     Connection fresh = data.open(TestHome::billing());
     EXPECT_EQ(fresh.run(QStringLiteral("select count(*) from Payments")).text(0), QStringLiteral("0"));
+}
+
+TEST_P(LostServer, AnIdleConnectionThatIsAliveIsGivenWithoutAMessage) {
+    QString server;
+    {
+        Connection idle = data.open(TestHome::billing());
+        server = idle.run(QStringLiteral("select pg_backend_pid() as pid")).text(0);
+    }
+    const Connection again = data.open(TestHome::billing());
+    EXPECT_TRUE(scalar(QStringLiteral("select query from pg_stat_activity where pid=") + server)
+                    .contains(QStringLiteral("pg_backend_pid")));
 }
 
 TEST_P(LostServer, AConnectionInUseIsDroppedAndNothingIsSentTwice) {
