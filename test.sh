@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds everything and runs all tests: on the embedded engine always, and on a private PostgreSQL that is started in a temporary
-# folder and stopped again.
+# folder and stopped again. The targets of fuzz/ are among the tests, for 20 seconds each.
 set -euo pipefail
 cd "$(dirname "$0")"
 source scripts/packages.sh
@@ -8,6 +8,8 @@ source scripts/packages.sh
 install_packages "${build_packages[@]}" "${test_packages[@]}"
 [ -f build/dev/build.ninja ] || cmake --preset dev >/dev/null
 cmake --build --preset dev
+[ -f build/fuzz/build.ninja ] || cmake --preset fuzz >/dev/null
+cmake --build --preset fuzz
 
 cluster=$(mktemp -d)
 stop_cluster() {

@@ -5,7 +5,8 @@ build_packages=(
     libsqlite3-dev libpq-dev libxlsxwriter-dev libgtest-dev libbenchmark-dev
     fonts-dejavu-core
 )
-test_packages=(postgresql-15 unzip)
+fuzz_packages=(clang-14 libclang-rt-14-dev)
+test_packages=(postgresql-15 unzip "${fuzz_packages[@]}")
 
 # install_packages NAME...: installs those that are missing; asks nothing, touches nothing when all are there.
 install_packages() {
