@@ -7,12 +7,13 @@ go
 
 create index ixPatientsOldPNo on hPatients (OldPNo)
 go
--- Patients are searched by the first letters of a name or number.
-create index ixPatientsSurnamePrefix on hPatients (psurname)
+-- Patients are searched by the first letters of a name.
+create index ixPatientsSurname on hPatients (psurname)
 go
-create index ixPatientsFullnamePrefix on hPatients (fullname)
+create index ixPatientsFullname on hPatients (fullname)
 go
-create index ixPatientsPNoPrefix on hPatients (PNo)
+-- Those with a valid card are counted.
+create index ixPatientsExpiry on hPatients (expirydate)
 go
 create index ixPatientsClient on hPatients (coyName)
 go

@@ -23,11 +23,12 @@ Layout frmFind::layout() const {
 }
 
 void frmFind::searchByName() {
-    Connection connection = program.openBilling();
-    grdData.load(Recordset(
-        connection, Sql("select pno as FileNo,oldpno as [Old FileNo],psurname as Surname,pfirstname as Firstname "
-                        ",homeAddress from hpatients where psurname like '")
-                        << txtName.text() << "%'"));
+    // An empty or a short name means half the hospital: the first patients show while the others are still read.
+    grdData.load(
+        Recordset::paged(program.openBilling(),
+                         Sql("select pno as FileNo,oldpno as [Old FileNo],psurname as Surname,pfirstname as Firstname "
+                             ",homeAddress from hpatients where psurname like '")
+                             << txtName.text() << "%'"));
 }
 
 void frmFind::cmdID_Click() {

@@ -91,17 +91,19 @@ Layout frmPatientInfo::layout() const {
 void frmPatientInfo::Form_Load() {
     TreeView1.clear();
     TreeView1.addNode({QStringLiteral("qvr"), QStringLiteral("HALDEN HOSPITAL"), {}, true});
+    TreeView1.fill(Recordset::paged(program.openBilling(), Sql("SELECT * FROM qryhCardNotExpired order by psurname")),
+                   [](const Recordset& patient) {
+                       const QString number = patient.text(QStringLiteral("pNo"));
+                       return Tree::Node{QStringLiteral("ijkl") + number,
+                                         patient.text(QStringLiteral("psurname")) + QStringLiteral(" ") +
+                                             patient.text(QStringLiteral("pfirstname")) + QStringLiteral(" [") +
+                                             number + QStringLiteral("]"),
+                                         QStringLiteral("qvr"), false};
+                   });
+    // The tree is still being read.
     Connection connection = program.openBilling();
-    Recordset patients(connection, Sql("SELECT * FROM qryhCardNotExpired order by psurname"));
-    for (; !patients.eof(); patients.moveNext()) {
-        const QString number = patients.text(QStringLiteral("pNo"));
-        TreeView1.addNode({QStringLiteral("ijkl") + number,
-                           patients.text(QStringLiteral("psurname")) + QStringLiteral(" ") +
-                               patients.text(QStringLiteral("pfirstname")) + QStringLiteral(" [") + number +
-                               QStringLiteral("]"),
-                           QStringLiteral("qvr"), false});
-    }
-    LabelCount.setText(QStringLiteral("No of Patients : ") + QString::number(patients.count()));
+    const Recordset all(connection, Sql("SELECT count(*) as patients FROM qryhCardNotExpired"));
+    LabelCount.setText(QStringLiteral("No of Patients : ") + all.text(QStringLiteral("patients")));
 }
 
 void frmPatientInfo::TreeView1_NodeClick() {

@@ -6,6 +6,12 @@
 
 namespace orvane {
 
+namespace {
+
+constexpr int manyFound = 200; ///< a longer list is not counted: that would be to read it all
+
+} // namespace
+
 frmRecordsOffline::frmRecordsOffline(Program& owner) : Screen(owner, "frmRecordsOffline", "OFFLINE ATTENDANCE :") {
     cmdOK.onClick = [this] { cmdOK_Click(); };
     txtName.onEnter = [this] { cmdOK_Click(); };
@@ -68,16 +74,15 @@ void frmRecordsOffline::fillLists() {
 void frmRecordsOffline::cmdOK_Click() {
     if (txtName.text().isEmpty())
         return;
-    Connection connection = program.openBilling();
-    const Recordset found(connection, Sql("select distinct * from vwhpatients where fullname like '")
-                                          << txtName.text() << "%'");
+    // The view has one row a patient: "distinct" would only sort them all before the first one shows.
+    const Recordset found = Recordset::paged(
+        program.openBilling(), Sql("select * from vwhpatients where fullname like '") << txtName.text() << "%'");
     grdData.showAllColumns();
     grdData.load(found);
     grdData.hide({"expired"});
-    lblFound.setText(found.eof() ? "***" : QString::number(found.count()));
+    lblFound.setText(found.eof() ? "***" : found.has(manyFound) ? "200+" : QString::number(found.count()));
     cboVehNo.clear();
-    for (Recordset row = found; !row.eof(); row.moveNext())
-        cboVehNo.addItem(row.text("fullName") + " [" + row.text("PNo") + "]");
+    cboVehNo.fill(found, [](const Recordset& row) { return row.text("fullName") + " [" + row.text("PNo") + "]"; });
 }
 
 void frmRecordsOffline::cmdRefresh_Click() {

@@ -44,6 +44,7 @@ private:
     friend class DataSource;
     friend class Recordset;
     friend class BulkInsert;
+    friend class RowReader;
     friend void createSchema(Connection&, const QString&);
     friend void dropIndexes(Connection&, const QString&);
     friend void createIndexes(Connection&, const QString&);

@@ -1,5 +1,6 @@
 #include "data/Ddl.h"
 
+#include "data/Catalog.h"
 #include "data/DataError.h"
 #include "data/Functions.h"
 #include "data/Render.h"
@@ -149,14 +150,11 @@ private:
 };
 
 /// One column or expression of an index.
-QString indexPart(const Tokens& tokens, qsizetype begin, qsizetype end, bool prefix, Engine engine) {
+QString indexPart(const Tokens& tokens, qsizetype begin, qsizetype end, Engine engine) {
     const bool directed = tokens[end - 1].is("asc") || tokens[end - 1].is("desc");
     const qsizetype stop = directed ? end - 1 : end;
     const QString direction = directed ? u' ' + tokens[end - 1].text : QString();
     QString text = render(tokens, begin, stop, engine);
-    if (engine == Engine::Postgresql && prefix) {
-        return QStringLiteral("lower(%1) text_pattern_ops").arg(text);
-    }
     if (engine == Engine::Postgresql && stop - begin > 1) {
         text = u'(' + text + u')';
     }
@@ -176,11 +174,16 @@ QString translateIndex(const Tokens& original, Engine engine) {
         throw DataError(QStringLiteral("An index definition names no columns."),
                         render(tokens, 0, tokens.size(), engine));
     }
-    const bool prefix = tokens[on - 1].text.endsWith(QStringLiteral("Prefix"), Qt::CaseInsensitive);
     const qsizetype close = closingParenthesis(tokens, on + 2);
     QStringList columns;
     for (const auto& [begin, end] : parts(tokens, on + 3, close)) {
-        columns += indexPart(tokens, begin, end, prefix, engine);
+        columns += indexPart(tokens, begin, end, engine);
+    }
+    const Table* table = Catalog::instance().table(tokens[on + 1].text);
+    const Column* column = table && close == on + 4 ? table->column(tokens[on + 3].text) : nullptr;
+    if (engine == Engine::Postgresql && column && column->kind == ColumnKind::Text && !tokens[1].is("unique")) {
+        // The views are sorted by names with nulls in front, as the translator orders what may be null.
+        columns.first() += QStringLiteral(" nulls first");
     }
     return QStringLiteral("%1 (%2) %3")
         .arg(render(tokens, 0, on + 2, engine), columns.join(QStringLiteral(", ")),

@@ -9,8 +9,7 @@ namespace orvane {
 bool isDefinition(const Tokens& tokens);
 
 /// A table or index definition in the words of `engine`. An identity column becomes SQLite's autoincrement primary key,
-/// so that a number is never given twice; another primary key beside it becomes unique. On PostgreSQL an index whose
-/// name ends in "Prefix" serves the prefix search that the translator writes for "like 'ab%'".
+/// so that a number is never given twice; another primary key beside it becomes unique.
 QString translateDefinition(const Tokens& tokens, Engine engine);
 
 } // namespace orvane

@@ -41,9 +41,21 @@ void giveText(sqlite3_context* context, const QString& text) {
 
 /// getdate(): the source's fixed clock, or the machine's.
 void getDate(sqlite3_context* context, int, sqlite3_value**) {
+    // Asked again for every row of a list: the machine's time is written once a second.
+    thread_local qint64 writtenFor = 0;
+    thread_local QString written;
+    static const QString form = QStringLiteral("yyyy-MM-dd HH:mm:ss");
     const auto* source = static_cast<const DataSource::Private*>(sqlite3_user_data(context));
-    giveText(context,
-             source->clock().value_or(QDateTime::currentDateTime()).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+    if (const std::optional<QDateTime> fixed = source->clock()) {
+        giveText(context, fixed->toString(form));
+        return;
+    }
+    const qint64 now = QDateTime::currentSecsSinceEpoch();
+    if (now != writtenFor) {
+        writtenFor = now;
+        written = QDateTime::fromSecsSinceEpoch(now).toString(form);
+    }
+    giveText(context, written);
 }
 
 /// orvane_text(x): a number as T-SQL writes it, without ".0" behind a whole one; a text as it is.
@@ -176,6 +188,20 @@ void createOnServer(const Physical& physical, const ServerEntry& entry, const Co
     disconnect(physical);
 }
 
+/// In any other order the prefix searches would miss rows.
+void requirePlainCollation(const Physical& physical, const QString& database, const ServerEntry& entry) {
+    if (entry.engine != Engine::Postgresql) {
+        return;
+    }
+    QSqlQuery query =
+        physical->sendNative(QStringLiteral("select datcollate from pg_database where datname = current_database()"));
+    const QString collation = query.next() ? query.value(0).toString() : QString();
+    if (collation != QStringLiteral("C")) {
+        throw DataError(QStringLiteral("The database %1 on %2 sorts texts by %3, not by C: orvane-db must create it.")
+                            .arg(database, entry.host, collation));
+    }
+}
+
 void openServer(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target, bool create) {
     const QString database = serverDatabase(entry, target);
     physical->gate = QStringLiteral("%1:%2/%3").arg(entry.host).arg(entry.port).arg(database);
@@ -189,6 +215,7 @@ void openServer(const Physical& physical, const ServerEntry& entry, const Connec
     if (create) {
         return;
     }
+    requirePlainCollation(physical, database, entry);
     QSqlQuery query(physical->database);
     const int version =
         query.exec(QStringLiteral("select version from orvaneSchema")) && query.next() ? query.value(0).toInt() : 0;

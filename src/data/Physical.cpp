@@ -187,6 +187,35 @@ QSqlQuery PhysicalConnection::sendNative(const QString& text) {
     return query;
 }
 
+OpenQuery PhysicalConnection::open(const QString& tsql) {
+    const Statement statement = admit(tsql);
+    OpenQuery opened{QSqlQuery(database), statement.facts};
+    if (engine != Engine::Postgresql) {
+        opened.query.setForwardOnly(true);
+        execute(
+            opened.query, [&] { return opened.query.exec(statement.text); }, statement.text);
+        return opened;
+    }
+    ++source->statementsSent;
+    sendNative(QStringLiteral("begin read only"));
+    try {
+        sendNative(QStringLiteral("declare orvane_rows no scroll cursor for ") + statement.text);
+        opened.query = fetch(0); // tells the columns
+    } catch (...) {
+        closeCursor();
+        throw;
+    }
+    return opened;
+}
+
+QSqlQuery PhysicalConnection::fetch(qsizetype rows) {
+    return sendNative(QStringLiteral("fetch forward %1 from orvane_rows").arg(rows));
+}
+
+void PhysicalConnection::closeCursor() noexcept {
+    broken = broken || !database.isOpen() || !QSqlQuery(database).exec(QStringLiteral("rollback"));
+}
+
 void PhysicalConnection::requireAllRead(const QSqlQuery& query) {
     if (query.lastError().isValid()) {
         fail(query.lastError(), query.lastQuery(), inTransaction);

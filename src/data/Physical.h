@@ -22,6 +22,12 @@ struct Answer {
     std::shared_ptr<const RowFacts> facts;
 };
 
+/// A query whose rows are still to be read.
+struct OpenQuery {
+    QSqlQuery query;
+    std::shared_ptr<const RowFacts> facts;
+};
+
 /// A statement of SQLite that was compiled once, for values that are bound.
 struct CompiledStatement {
     QSqlQuery query;
@@ -54,6 +60,11 @@ struct PhysicalConnection {
     int change(const QString& tsql, const QVariantList& bound = {});
     /// Sends text in the engine's own words, outside the rules for statements: begin, commit, settings.
     QSqlQuery sendNative(const QString& text);
+    /// Sends a query whose rows are read page by page. On PostgreSQL they lie behind a cursor, in a reading transaction
+    /// of its own, and are fetched.
+    OpenQuery open(const QString& tsql);
+    QSqlQuery fetch(qsizetype rows);
+    void closeCursor() noexcept;
     /// Raises DataError when the rows of a query ended in a fault, not in their last row.
     void requireAllRead(const QSqlQuery& query);
 

@@ -8,7 +8,7 @@
 
 namespace orvane {
 
-/// The rows of one statement, read whole when it is opened (static cursor). Stands on the first row.
+/// The rows of one statement, read whole when it is opened, or page by page. Stands on the first row.
 /// Column names compare without regard to case; an absent name is a DataError.
 /// A recordset on "select ... from T" of one table can be written: addNew/set/update adds a row to T, set/update on a
 /// row that was read changes it. An update names the key and the old values of the columns that it changes; when no row
@@ -24,6 +24,14 @@ public:
     Recordset& operator=(const Recordset&);
     /// The same rows for reading, with a position of its own: who shows them does not move who walks through them.
     Recordset detached() const;
+    /// For a list that may be long: reads no row yet, and reads on as rows are asked for. `rowsRead` and `readMore` ask
+    /// for no others; `count`, and `find` without a hit, for all of them. Holds the connection until the last row was
+    /// read. Cannot be written; a fault of the engine may come from any call that reads on.
+    static Recordset paged(Connection connection, const Sql& sql);
+    int rowsRead() const; ///< the rows that are here
+    bool isWhole() const; ///< all are here
+    void readMore(int rows) const;
+    bool has(int row) const;
 
     bool eof() const; ///< past the last row, or there is none
     void moveFirst();

@@ -53,9 +53,11 @@ void Recordset::Private::insert(PhysicalConnection& target) {
                                   : text + QStringLiteral(") values (") + marks + u')',
                   bound);
     row = static_cast<int>(rows.count());
+    QList<QVariant> added;
     for (int i = 0; i < rows.columns.size(); ++i) {
-        rows.values.push_back(changes.value(i));
+        added += changes.value(i);
     }
+    rows.add(added);
 }
 
 /// The key finds the row; the old values of the changed columns prove that nobody else has changed them since.
@@ -92,7 +94,7 @@ void Recordset::Private::change(PhysicalConnection& target) {
             tsql);
     }
     for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
-        rows.at(row, change.key()) = change.value();
+        rows.set(row, change.key(), change.value());
     }
 }
 

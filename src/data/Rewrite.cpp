@@ -233,26 +233,58 @@ void rewriteTextJoins(Tokens& tokens) {
     }
 }
 
+namespace {
+
+Token textToken(const QString& text) {
+    return {TokenKind::Text, text, true};
+}
+
+qsizetype prefixLength(const QString& pattern) {
+    const auto wild = [](QChar c) { return c == u'%' || c == u'_'; };
+    return std::find_if(pattern.begin(), pattern.end(), wild) - pattern.begin();
+}
+
+/// What "value like pattern" or, with `no`, "value not like pattern" becomes.
+Tokens likeForPostgresql(const Tokens& value, bool no, QString pattern) {
+    pattern = pattern.toLower();
+    const QString prefix = pattern.left(prefixLength(pattern));
+    const bool settled = pattern == prefix + u'%';
+    const Token open = symbolToken(QStringLiteral("(")), close = symbolToken(QStringLiteral(")"));
+    const Token with = wordToken(QStringLiteral("and"));
+    Tokens test = Tokens() << wordToken(QStringLiteral("lower")) << open << value << close;
+    if (no)
+        test << wordToken(QStringLiteral("not"));
+    test << wordToken(QStringLiteral("like")) << textToken(pattern.replace(u'\\', QStringLiteral("\\\\")));
+    if (no || prefix.isEmpty())
+        return test;
+    // No character comes behind the last one there is. The database compares by character, in lower case.
+    Tokens range = Tokens() << open << value << symbolToken(QStringLiteral(">=")) << textToken(prefix) << with << value
+                            << symbolToken(QStringLiteral("<")) << textToken(prefix + QString::fromUcs4(U"\U0010FFFF"));
+    if (!settled)
+        range << with << test;
+    return range << close;
+}
+
+} // namespace
+
 void rewriteLikeForPostgresql(Tokens& tokens) {
     for (qsizetype i = 1; i + 1 < tokens.size(); ++i) {
         if (!tokens[i].is("like") || tokens[i + 1].kind != TokenKind::Text) {
             continue;
         }
-        QString& pattern = tokens[i + 1].text;
-        pattern.replace(u'\\', QStringLiteral("\\\\"));
-        if (pattern.isEmpty() || pattern.startsWith(u'%') || pattern.startsWith(u'_')) {
-            continue;
-        }
-        pattern = pattern.toLower();
-        const qsizetype last = tokens[i - 1].is("not") ? i - 2 : i - 1;
+        const bool no = tokens[i - 1].is("not");
+        const qsizetype last = no ? i - 2 : i - 1;
         if (last < 0) {
             continue;
         }
         const qsizetype start = operandStart(tokens, last);
-        tokens.insert(last + 1, symbolToken(QStringLiteral(")")));
-        tokens.insert(start, symbolToken(QStringLiteral("(")));
-        tokens.insert(start, wordToken(QStringLiteral("lower")));
-        i += 3;
+        const Tokens like = likeForPostgresql(tokens.mid(start, last + 1 - start), no, tokens[i + 1].text);
+        if (tokens.size() + like.size() > mostTokens) {
+            // Each "like" doubles the value in front of it, which may end in another.
+            throw DataError(QStringLiteral("The statement has too many \"like\" inside one another."));
+        }
+        tokens = tokens.mid(0, start) + like + tokens.mid(i + 2);
+        i = start + like.size() - 1;
     }
 }
 

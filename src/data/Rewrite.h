@@ -23,8 +23,9 @@ void rewriteNotIn(Tokens& tokens);
 /// or a column that the schema declares as text.
 void rewriteTextJoins(Tokens& tokens);
 
-/// "x like 'ab%'" as "lower(x) like 'ab%'" with the literal in lower case, for PostgreSQL: an index on lower(x) serves
-/// the search. A backslash is no escape in T-SQL and is doubled.
+/// "x like 'ab%'" as "(x >= 'ab' and x < 'ab...')" for PostgreSQL, whose columns compare without regard to case: the
+/// index of x serves the search and its order. What the range does not settle is "lower(x) like 'ab_c%'"; a backslash is
+/// no escape in T-SQL and is doubled there.
 void rewriteLikeForPostgresql(Tokens& tokens);
 
 /// Literals that stand beside a column or a comparison, as T-SQL understands them: trailing blanks of a compared text

@@ -1,5 +1,6 @@
 #include "data/Rows.h"
 
+#include "data/RowReader.h"
 #include "data/Value.h"
 
 #include <QSqlDriver>
@@ -7,6 +8,7 @@
 #include <QSqlRecord>
 #include <QSqlResult>
 #include <QTime>
+#include <limits>
 #include <sqlite3.h>
 
 namespace orvane {
@@ -58,7 +60,56 @@ QVariant normalized(const QVariant& value, Declared declared) {
     }
 }
 
+constexpr qsizetype mostRows = std::numeric_limits<qsizetype>::max();
+constexpr qsizetype rowsAtOnce = 200; ///< to get at one that is not here yet
+
 } // namespace
+
+Rows::Rows(const QStringList& names, std::vector<QVariant> values)
+    : columns(names), m_values(std::make_shared<std::vector<QVariant>>(std::move(values))) {}
+
+Rows::Rows(const QStringList& names, std::shared_ptr<RowReader> reader) : columns(names), m_rest(std::move(reader)) {}
+
+bool Rows::isWhole() const {
+    return !m_rest || m_rest->atEnd();
+}
+
+void Rows::readOn(qsizetype rows) const {
+    if (!isWhole()) {
+        m_rest->read(*m_values, rows);
+    }
+}
+
+bool Rows::has(qsizetype row) const {
+    while (row >= read() && !isWhole()) {
+        readOn(rowsAtOnce);
+    }
+    return row < read();
+}
+
+qsizetype Rows::count() const {
+    readOn(mostRows);
+    m_rest.reset();
+    return read();
+}
+
+/// Before a change: what others have read stays theirs as it was.
+void Rows::own() {
+    if (m_values.use_count() > 1) {
+        count();
+        m_values = std::make_shared<std::vector<QVariant>>(*m_values);
+    }
+}
+
+void Rows::set(qsizetype row, qsizetype column, const QVariant& value) {
+    own();
+    (*m_values)[static_cast<std::size_t>(row * columns.size() + column)] = value;
+}
+
+void Rows::add(const QList<QVariant>& row) {
+    own();
+    m_values->insert(m_values->end(), row.begin(), row.end());
+}
 
 int Rows::indexOf(const QString& column) const {
     for (int i = 0; i < columns.size(); ++i) {
@@ -91,16 +142,21 @@ Columns columnsOf(const QSqlQuery& query, Engine engine) {
     return columns;
 }
 
-Rows readRows(QSqlQuery& query, const Columns& columns) {
-    Rows rows;
-    rows.columns = columns.names;
+qsizetype readValues(QSqlQuery& query, const Columns& columns, std::vector<QVariant>& values, qsizetype rows) {
     const int count = static_cast<int>(columns.names.size());
-    while (count > 0 && query.next()) {
+    qsizetype taken = 0;
+    for (; count > 0 && taken < rows && query.next(); ++taken) {
         for (int i = 0; i < count; ++i) {
-            rows.values.push_back(normalized(query.value(i), columns.declared[static_cast<std::size_t>(i)]));
+            values.push_back(normalized(query.value(i), columns.declared[static_cast<std::size_t>(i)]));
         }
     }
-    return rows;
+    return taken;
+}
+
+Rows readRows(QSqlQuery& query, const Columns& columns) {
+    std::vector<QVariant> values;
+    readValues(query, columns, values, mostRows);
+    return {columns.names, std::move(values)};
 }
 
 } // namespace orvane

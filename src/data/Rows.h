@@ -5,23 +5,44 @@
 #include <QSqlQuery>
 #include <QStringList>
 #include <QVariant>
+#include <memory>
 #include <vector>
 
 namespace orvane {
 
-/// What a statement gave: values in rows, typed the same on every engine.
-struct Rows {
-    QStringList columns;
-    std::vector<QVariant> values; ///< row after row
+class RowReader;
 
-    qsizetype count() const { return columns.isEmpty() ? 0 : static_cast<qsizetype>(values.size()) / columns.size(); }
+/// What a statement gave: values in rows, typed the same on every engine. Copies share the rows until one of them
+/// writes; a row that one of them has read on to is there for all.
+class Rows {
+public:
+    Rows() = default;
+    Rows(const QStringList& names, std::vector<QVariant> values);
+    /// The rows that the reader gives; it is asked for them as they are needed.
+    Rows(const QStringList& names, std::shared_ptr<RowReader> reader);
+
+    QStringList columns;
     int indexOf(const QString& column) const; ///< without regard to case; -1 when there is none
+
+    qsizetype read() const { ///< rows that are here
+        return columns.isEmpty() ? 0 : static_cast<qsizetype>(m_values->size()) / columns.size();
+    }
+    bool isWhole() const;
+    void readOn(qsizetype rows) const; ///< up to so many more
+    bool has(qsizetype row) const;     ///< reads on as far as that row
+    qsizetype count() const;           ///< reads on to the end
+
     const QVariant& at(qsizetype row, qsizetype column) const {
-        return values[static_cast<std::size_t>(row * columns.size() + column)];
+        return (*m_values)[static_cast<std::size_t>(row * columns.size() + column)];
     }
-    QVariant& at(qsizetype row, qsizetype column) {
-        return values[static_cast<std::size_t>(row * columns.size() + column)];
-    }
+    void set(qsizetype row, qsizetype column, const QVariant& value);
+    void add(const QList<QVariant>& row);
+
+private:
+    void own();
+
+    std::shared_ptr<std::vector<QVariant>> m_values = std::make_shared<std::vector<QVariant>>(); ///< row after row
+    mutable std::shared_ptr<RowReader> m_rest; ///< what is not read yet; null: nothing
 };
 
 /// What a column of a SQLite result was declared as; an expression has no declaration.
@@ -35,8 +56,11 @@ struct Columns {
 
 Columns columnsOf(const QSqlQuery& query, Engine engine);
 
-/// Reads a query to its end. Dates become QDate and QDateTime, flags and whole numbers qlonglong, all other numbers
-/// double.
+/// Appends the values of up to so many rows of a query and tells how many there were. Dates become QDate and QDateTime,
+/// flags and whole numbers qlonglong, all other numbers double.
+qsizetype readValues(QSqlQuery& query, const Columns& columns, std::vector<QVariant>& values, qsizetype rows);
+
+/// Reads a query to its end.
 Rows readRows(QSqlQuery& query, const Columns& columns);
 
 } // namespace orvane

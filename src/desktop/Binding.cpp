@@ -7,6 +7,13 @@
 
 namespace orvane {
 
+namespace {
+
+constexpr int rowsAtOnce = 1000;    ///< of a long list, between two events of its user
+constexpr int pauseWhileBusy = 200; ///< milliseconds
+
+} // namespace
+
 Binding::Binding(FormView& view, Control& control, QWidget* widget)
     : QObject(&view), m_view(view), m_control(&control), m_widget(widget) {
     view.add(this);
@@ -45,6 +52,20 @@ void Binding::refreshNow() {
     showState();
     refresh();
     takeFocus();
+    readOn();
+}
+
+/// A long list is read on while there is nothing else to do.
+void Binding::readOn() {
+    if (m_control && m_control->hasMore() && !m_readOn.isActive())
+        m_readOn.start(m_control->form().isRunning() ? pauseWhileBusy : 0, this);
+}
+
+void Binding::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != m_readOn.timerId())
+        return QObject::timerEvent(event);
+    m_readOn.stop();
+    user([control = m_control] { control->readMore(rowsAtOnce); });
 }
 
 void Binding::showState() {
@@ -72,6 +93,7 @@ void Binding::release() {
     if (m_control)
         disconnect(m_control, nullptr, this, nullptr);
     m_control = nullptr;
+    m_readOn.stop();
     released();
 }
 

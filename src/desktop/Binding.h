@@ -2,6 +2,7 @@
 
 #include "forms/Controls.h"
 
+#include <QBasicTimer>
 #include <QPointer>
 #include <QVector>
 #include <QWidget>
@@ -41,6 +42,7 @@ public:
 protected:
     virtual void refresh() = 0; ///< shows the control's state
     virtual void released() {}
+    void timerEvent(QTimerEvent* event) override;
     void watch(QWidget* widget); ///< its focus and its keys belong to the control
     FormView& view() const { return m_view; }
 
@@ -48,6 +50,7 @@ private:
     void schedule();
     void showState();
     void takeFocus();
+    void readOn();
     void focusCame();
     void focusLeft();
     bool acceptsKey(const QKeyEvent& event);
@@ -56,6 +59,7 @@ private:
     QPointer<Control> m_control;
     QPointer<QWidget> m_widget;
     QVector<QPointer<QWidget>> m_companions;
+    QBasicTimer m_readOn;
     bool m_scheduled = false;
     bool m_focusWanted = false;
 };

@@ -17,8 +17,19 @@ namespace orvane {
 
 namespace {
 
-constexpr int sampledEntries = 200; ///< whose widths count for the list's width
-constexpr int widestList = 900;     ///< pixels
+constexpr int sampledEntries = 60; ///< whose widths count for the list's width
+constexpr int widestList = 900;    ///< pixels
+
+/// The completer's own list would measure each of 100,000 entries before it is told that all are of one height.
+QListView* completionList() {
+    auto* list = new QListView;
+    list->setUniformItemSizes(true);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    list->setSelectionMode(QAbstractItemView::SingleSelection);
+    return list;
+}
 
 } // namespace
 
@@ -43,8 +54,7 @@ ComboBinding::ComboBinding(FormView& view, ComboBox& box, QWidget* parent, int c
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     completer->setCompletionMode(QCompleter::PopupCompletion);
     completer->setMaxVisibleItems(12);
-    if (auto* popup = qobject_cast<QListView*>(completer->popup()))
-        popup->setUniformItemSizes(true);
+    completer->setPopup(completionList());
     m_combo->setCompleter(completer);
     watch(m_combo->lineEdit());
 
@@ -61,14 +71,19 @@ QWidget* ComboBinding::editor() const {
 void ComboBinding::typed(const QString& text) {
     if (!m_box)
         return;
-    if (m_box->style() == ComboBox::ListOnly)
+    if (m_box->style() == ComboBox::ListOnly) {
         m_searching = true;
-    else
+        if (m_box->hasMore())
+            user([this] { m_box->count(); });
+    } else {
         user([this, text] { m_box->setText(text); });
+    }
+    // The completer, whose turn comes next, searches all entries.
+    m_model->catchUp();
 }
 
 void ComboBinding::picked(int index) {
-    if (!m_box || index < 0 || index >= m_box->count())
+    if (!m_box || index < 0 || index >= m_box->entriesRead())
         return;
     m_searching = false;
     user([this, index] { m_box->setListIndex(index); });
@@ -106,7 +121,7 @@ void ComboBinding::reloadEntries() {
     m_model->reload();
     int widest = 0;
     const QFontMetrics metrics(m_combo->font());
-    for (int i = 0; i < std::min(m_box->count(), sampledEntries); ++i)
+    for (int i = 0; i < std::min(m_box->entriesRead(), sampledEntries); ++i)
         widest = std::max(widest, metrics.horizontalAdvance(m_box->item(i)));
     const int room = widest + m_combo->view()->verticalScrollBar()->sizeHint().width() + 16;
     m_combo->view()->setMinimumWidth(std::min(room, widestList));
@@ -114,8 +129,10 @@ void ComboBinding::reloadEntries() {
 
 void ComboBinding::refresh() {
     const QSignalBlocker quiet(m_combo);
-    if (m_seen != m_box->contentRevision() || m_combo->count() != m_box->count())
+    if (m_seen != m_box->contentRevision())
         reloadEntries();
+    else
+        m_model->catchUp();
     m_combo->lineEdit()->setReadOnly(m_box->isLocked());
     QPalette palette;
     if (m_box->isLocked())

@@ -32,6 +32,8 @@ void GridBinding::refresh() {
     // An entry grid's cells change one by one and are few.
     if (m_seen != control()->contentRevision() || control()->kind() == ControlKind::EntryGrid)
         m_table->reload();
+    else
+        m_model->catchUp();
     m_seen = control()->contentRevision();
     m_table->showCurrent(m_model->viewRow(currentRow()));
 }

@@ -1,6 +1,7 @@
 #include "desktop/GridModel.h"
 
 #include "desktop/Look.h"
+#include "forms/Form.h"
 
 #include <algorithm>
 #include <limits>
@@ -33,7 +34,7 @@ GridModel::GridModel(Grid& grid, QObject* parent) : TableModel(parent), m_grid(&
 }
 
 void GridModel::readColumns() {
-    m_rows = m_grid->rowCount();
+    m_rows = m_grid->rowsRead();
     m_columns.clear();
     m_numbers.clear();
     for (int column = 0; column < m_grid->columnCount(); ++column) {
@@ -48,10 +49,25 @@ void GridModel::reload() {
     beginResetModel();
     const QStringList columns = m_columns;
     readColumns();
-    if (columns != m_columns)
+    // To sort a long list is to read it all first, which its user has asked for in the list before this one.
+    if (columns != m_columns || m_grid->hasMore())
         m_sortColumn = -1;
     order();
     endResetModel();
+}
+
+void GridModel::catchUp() {
+    if (!m_grid || m_grid->rowsRead() <= m_rows)
+        return;
+    beginInsertRows({}, m_rows, m_grid->rowsRead() - 1);
+    m_rows = m_grid->rowsRead();
+    endInsertRows();
+}
+
+void GridModel::readAll() {
+    if (m_grid && m_grid->hasMore())
+        m_grid->form().run([this] { m_grid->rowCount(); });
+    catchUp();
 }
 
 void GridModel::order() {
@@ -83,6 +99,8 @@ void GridModel::order() {
 void GridModel::sort(int column, Qt::SortOrder direction) {
     if (column == m_sortColumn && direction == m_sortOrder)
         return;
+    if (column >= 0)
+        readAll();
     Q_EMIT layoutAboutToBeChanged();
     const QModelIndexList before = persistentIndexList();
     QVector<int> rows;
@@ -129,7 +147,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         return {};
     // Between a change of the control and the reload the control may have fewer rows or other columns.
     const int row = controlRow(index.row());
-    if (row >= m_grid->rowCount() || index.column() >= m_grid->columnCount())
+    if (row >= m_grid->rowsRead() || index.column() >= m_grid->columnCount())
         return {};
     const QString text = m_grid->cellText(row, index.column());
     if (role == Qt::DisplayRole)

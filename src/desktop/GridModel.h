@@ -15,11 +15,13 @@ class TableModel : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
     virtual void reload() = 0; ///< rows, columns or their looks have changed
+    virtual void catchUp() {}  ///< rows have come behind the others
     virtual int controlRow(int viewRow) const = 0;
     virtual int viewRow(int controlRow) const = 0; ///< -1 for no row
     virtual bool isColumnHidden(int column) const = 0;
     virtual int wishedCharacters(int column) const = 0; ///< 0: by the content
     virtual bool canSort() const = 0;
+    virtual bool isSorted() const { return false; }
 };
 
 /// The rows of a Grid, sorted for the view by a click on a head. The control's own order and current row stay as they
@@ -30,11 +32,13 @@ class GridModel : public TableModel {
 public:
     GridModel(Grid& grid, QObject* parent);
     void reload() override;
+    void catchUp() override;
     int controlRow(int viewRow) const override;
     int viewRow(int controlRow) const override;
     bool isColumnHidden(int column) const override;
     int wishedCharacters(int column) const override;
     bool canSort() const override { return true; }
+    bool isSorted() const override { return m_sortColumn >= 0; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -46,6 +50,7 @@ public:
 
 private:
     void readColumns();
+    void readAll();
     void order();
 
     QPointer<Grid> m_grid;

@@ -6,8 +6,16 @@ namespace orvane {
 
 void ComboModel::reload() {
     beginResetModel();
-    m_rows = m_box ? m_box->count() : 0;
+    m_rows = m_box ? m_box->entriesRead() : 0;
     endResetModel();
+}
+
+void ComboModel::catchUp() {
+    if (!m_box || m_box->entriesRead() <= m_rows)
+        return;
+    beginInsertRows({}, m_rows, m_box->entriesRead() - 1);
+    m_rows = m_box->entriesRead();
+    endInsertRows();
 }
 
 int ComboModel::rowCount(const QModelIndex& parent) const {
@@ -15,7 +23,7 @@ int ComboModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant ComboModel::data(const QModelIndex& index, int role) const {
-    if (!m_box || index.row() >= m_box->count() || (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!m_box || index.row() >= m_box->entriesRead() || (role != Qt::DisplayRole && role != Qt::EditRole))
         return {};
     return m_box->item(index.row());
 }

@@ -13,8 +13,9 @@ class ComboModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    ComboModel(ComboBox& box, QObject* parent) : QAbstractListModel(parent), m_box(&box), m_rows(box.count()) {}
+    ComboModel(ComboBox& box, QObject* parent) : QAbstractListModel(parent), m_box(&box), m_rows(box.entriesRead()) {}
     void reload();
+    void catchUp(); ///< entries have come behind the others
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 

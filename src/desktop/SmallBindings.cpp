@@ -4,6 +4,7 @@
 #include "desktop/FormView.h"
 #include "desktop/ListModels.h"
 #include "desktop/Look.h"
+#include "desktop/TreeModel.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -191,38 +192,44 @@ void DateBinding::refresh() {
 }
 
 TreeBinding::TreeBinding(FormView& view, Tree& tree, QWidget* parent)
-    : Binding(view, tree, new QTreeWidget(parent)), m_tree(&tree), m_items(static_cast<QTreeWidget*>(widget())) {
+    : Binding(view, tree, new QTreeView(parent)), m_tree(&tree), m_items(static_cast<QTreeView*>(widget())),
+      m_model(new TreeModel(tree, this)), m_seen(tree.contentRevision()) {
     m_items->setHeaderHidden(true);
     m_items->setUniformRowHeights(true);
-    rebuild();
-    connect(m_items, &QTreeWidget::itemClicked, this, &TreeBinding::picked);
+    m_items->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_items->setModel(m_model);
+    expand();
+    connect(m_items, &QTreeView::clicked, this, &TreeBinding::picked);
 }
 
-void TreeBinding::rebuild() {
-    m_seen = m_tree->contentRevision();
-    m_items->clear();
-    m_byKey.clear();
-    for (const Tree::Node& node : m_tree->nodes()) {
-        QTreeWidgetItem* above = m_byKey.value(node.parentKey);
-        auto* item = above ? new QTreeWidgetItem(above) : new QTreeWidgetItem(m_items);
-        item->setText(0, node.text);
-        item->setData(0, Qt::UserRole, node.key);
-        item->setExpanded(node.expanded);
-        m_byKey.insert(node.key, item);
-    }
+void TreeBinding::expand() {
+    for (const Tree::Node& node : m_tree->nodesRead())
+        if (node.expanded)
+            m_items->expand(m_model->indexOf(node.key));
 }
 
 void TreeBinding::refresh() {
+    const bool another = m_seen != m_tree->contentRevision();
+    if (another) {
+        m_seen = m_tree->contentRevision();
+        m_model->reload();
+        expand();
+    } else if (!m_tree->hasMore() || m_tree->nodesRead().size() > 2 * m_model->nodesShown()) {
+        // The view lays all its nodes out whenever some come in: let them come in a few times only.
+        m_model->catchUp();
+    }
+    // The keys move through the nodes without choosing one: that place stays until another node is chosen.
+    if (!another && m_shownKey == m_tree->selectedKey())
+        return;
+    m_shownKey = m_tree->selectedKey();
     const QSignalBlocker quiet(m_items);
-    if (m_seen != m_tree->contentRevision())
-        rebuild();
-    m_items->setCurrentItem(m_byKey.value(m_tree->selectedKey()));
+    m_items->setCurrentIndex(m_model->indexOf(m_shownKey));
 }
 
 void TreeBinding::picked() {
-    const QTreeWidgetItem* item = m_items->currentItem();
-    if (item && m_tree)
-        user([this, key = item->data(0, Qt::UserRole).toString()] { m_tree->select(key); });
+    const QString key = m_model->keyOf(m_items->currentIndex());
+    if (!key.isEmpty() && m_tree)
+        user([this, key] { m_tree->select(key); });
 }
 
 bool TreeBinding::eventFilter(QObject* watched, QEvent* event) {

@@ -12,12 +12,13 @@
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTimer>
-#include <QTreeWidget>
+#include <QTreeView>
 
 namespace orvane {
 
 class DateEdit;
 class TickModel;
+class TreeModel;
 
 class LabelBinding : public Binding {
     Q_OBJECT
@@ -157,6 +158,8 @@ class TreeBinding : public Binding {
 
 public:
     TreeBinding(FormView& view, Tree& tree, QWidget* parent);
+    QTreeView* items() const { return m_items; }
+    TreeModel* model() const { return m_model; }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
@@ -164,13 +167,14 @@ protected:
     void released() override { m_tree = nullptr; }
 
 private:
-    void rebuild();
+    void expand();
     void picked();
 
     Tree* m_tree;
-    QTreeWidget* m_items;
-    QHash<QString, QTreeWidgetItem*> m_byKey;
-    unsigned m_seen = 0;
+    QTreeView* m_items;
+    TreeModel* m_model;
+    unsigned m_seen;
+    QString m_shownKey; ///< of the node that the view was last told to show
 };
 
 class PictureBinding : public Binding {

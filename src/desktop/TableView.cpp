@@ -13,7 +13,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int sampledRows = 200;
+constexpr int sampledRows = 60;
 constexpr int widestColumn = 340; ///< pixels; a remark of a page must not push the amounts out of sight
 constexpr int cellPadding = 12;
 
@@ -59,11 +59,10 @@ void TableView::reload() {
         const QSignalBlocker quiet(selectionModel());
         m_table->reload();
     }
-    if (m_table->columnCount() != columns) {
+    if (m_table->columnCount() != columns)
         m_widthsByHand = false;
-        if (m_table->canSort())
-            horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    }
+    if (m_table->canSort() && !m_table->isSorted())
+        horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     hideColumns();
     if (!m_widthsByHand)
         sizeColumns();

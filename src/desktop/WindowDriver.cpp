@@ -4,7 +4,9 @@
 #include "desktop/GridBinding.h"
 #include "desktop/GridModel.h"
 #include "desktop/ShellWindow.h"
+#include "desktop/SmallBindings.h"
 #include "desktop/TableView.h"
+#include "desktop/TreeModel.h"
 #include "play/HeadlessDriver.h"
 
 #include <QAbstractButton>
@@ -17,7 +19,6 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QTabWidget>
-#include <QTreeWidget>
 
 namespace orvane {
 
@@ -94,19 +95,14 @@ void WindowDriver::choose(TabStrip& tabs, int tab) {
 }
 
 void WindowDriver::choose(Tree& tree, const QString& key) {
-    Binding* binding = bindingOf(tree);
+    auto* binding = static_cast<TreeBinding*>(bindingOf(tree));
     if (!binding) {
         HeadlessDriver().choose(tree, key);
         return;
     }
-    auto* items = static_cast<QTreeWidget*>(binding->widget());
-    for (QTreeWidgetItemIterator item(items); *item; ++item) {
-        if ((*item)->data(0, Qt::UserRole).toString() != key)
-            continue;
-        items->setCurrentItem(*item);
-        Q_EMIT items->itemClicked(*item, 0);
-        return;
-    }
+    const QModelIndex index = binding->model()->indexOf(key);
+    binding->items()->setCurrentIndex(index);
+    Q_EMIT binding->items()->clicked(index);
 }
 
 void WindowDriver::setChecked(CheckBox& box, bool checked) {

@@ -72,6 +72,11 @@ public:
     /// them knows whether it must read them anew or whether only the choice has moved.
     unsigned contentRevision() const { return m_contentRevision; }
 
+    /// A long list may not be read whole yet. Its view shows what is here and reads on while its user looks at it;
+    /// whatever asks the control for all entries or rows, or for how many there are, reads on to the end at once.
+    virtual bool hasMore() const { return false; }
+    virtual void readMore(int) {} ///< up to so many more; raises DataError
+
     /// The value as the script player prints it and expects it.
     virtual QString valueText() const { return m_caption; }
 

@@ -8,6 +8,12 @@
 
 namespace orvane {
 
+namespace {
+
+constexpr int firstPage = 100; ///< entries of a long list that are made at once
+
+} // namespace
+
 void Label::setText(const QString& text) {
     if (text == caption())
         return;
@@ -30,6 +36,7 @@ void TextBox::setLocked(bool locked) {
 }
 
 void ComboBox::clear() {
+    m_feed = RowFeed();
     m_items.clear();
     m_index = -1;
     m_text.clear();
@@ -47,7 +54,20 @@ void ComboBox::addItems(const QStringList& texts) {
     touchContent();
 }
 
+void ComboBox::fill(const Recordset& rows, const std::function<QString(const Recordset&)>& entry) {
+    m_feed.readAll();
+    m_feed = RowFeed(rows, [this, entry](const Recordset& row) { m_items.append({entry(row), {}}); });
+    m_feed.read(firstPage);
+    touchContent();
+}
+
+int ComboBox::count() const {
+    m_feed.readAll();
+    return entriesRead();
+}
+
 QStringList ComboBox::items() const {
+    m_feed.readAll();
     QStringList texts;
     for (const Item& item : m_items)
         texts << item.text;
@@ -55,7 +75,7 @@ QStringList ComboBox::items() const {
 }
 
 void ComboBox::setListIndex(int index) {
-    ORVANE_ASSERT(index >= -1 && index < count());
+    ORVANE_ASSERT(index >= -1 && (index < entriesRead() || index < count()));
     m_index = index;
     m_text = index < 0 ? QString() : m_items.at(index).text;
     touch();
@@ -67,6 +87,7 @@ void ComboBox::setText(const QString& text) {
     // Of two entries with one text, the chosen one stays chosen.
     if (m_index >= 0 && value.compare(m_text, Qt::CaseInsensitive) == 0)
         return;
+    m_feed.readAll();
     const auto found = std::find_if(m_items.cbegin(), m_items.cend(), [&](const Item& item) {
         return item.text.compare(value, Qt::CaseInsensitive) == 0;
     });
@@ -167,6 +188,7 @@ void TabStrip::setTab(int tab) {
 }
 
 void Tree::clear() {
+    m_feed = RowFeed();
     m_nodes.clear();
     m_selected.clear();
     touchContent();
@@ -175,6 +197,18 @@ void Tree::clear() {
 void Tree::addNode(const Node& node) {
     m_nodes.append(node);
     touchContent();
+}
+
+void Tree::fill(const Recordset& rows, const std::function<Node(const Recordset&)>& node) {
+    m_feed.readAll();
+    m_feed = RowFeed(rows, [this, node](const Recordset& row) { m_nodes.append(node(row)); });
+    m_feed.read(firstPage);
+    touchContent();
+}
+
+const QVector<Tree::Node>& Tree::nodes() const {
+    m_feed.readAll();
+    return m_nodes;
 }
 
 const Tree::Node* Tree::selectedNode() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/Control.h"
+#include "forms/RowFeed.h"
 
 #include <QVariant>
 #include <QVector>
@@ -72,7 +73,12 @@ public:
     void clear(); ///< no entries, no text, index -1; raises nothing
     void addItem(const QString& text, const QVariant& data = {});
     void addItems(const QStringList& texts);
-    int count() const { return int(m_items.size()); }
+    /// Adds an entry for each row, made when it is first asked for.
+    void fill(const Recordset& rows, const std::function<QString(const Recordset&)>& entry);
+    bool hasMore() const override { return m_feed.hasMore(); }
+    void readMore(int rows) override { m_feed.read(rows); }
+    int entriesRead() const { return int(m_items.size()); }
+    int count() const;
     const QString& item(int index) const { return m_items.at(index).text; }
     QVariant itemData(int index) const { return m_items.at(index).data; }
     QStringList items() const;
@@ -99,6 +105,7 @@ private:
         QVariant data;
     };
     QVector<Item> m_items;
+    mutable RowFeed m_feed;
     QString m_text;
     int m_index = -1;
     Style m_style;
@@ -215,7 +222,12 @@ public:
     Tree(Form& form, const QString& name) : Control(form, ControlKind::Tree, name) {}
     void clear();
     void addNode(const Node& node);
-    const QVector<Node>& nodes() const { return m_nodes; }
+    /// Adds a node for each row, made when it is first asked for.
+    void fill(const Recordset& rows, const std::function<Node(const Recordset&)>& node);
+    bool hasMore() const override { return m_feed.hasMore(); }
+    void readMore(int rows) override { m_feed.read(rows); }
+    const QVector<Node>& nodesRead() const { return m_nodes; }
+    const QVector<Node>& nodes() const;
     const QString& selectedKey() const { return m_selected; }
     const Node* selectedNode() const;
     void select(const QString& key); ///< as the user's click
@@ -223,6 +235,7 @@ public:
 
 private:
     QVector<Node> m_nodes;
+    mutable RowFeed m_feed;
     QString m_selected;
 };
 

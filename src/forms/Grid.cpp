@@ -32,7 +32,7 @@ QString asPeopleReadDates(const QString& text) {
 void Grid::load(const Recordset& rows) {
     // The screen may still be walking through its rows while the grid is painted.
     m_rows = rows.detached();
-    m_row = m_rows.count() > 0 ? 0 : -1;
+    m_row = m_rows.has(0) ? 0 : -1;
     touchContent();
 }
 
@@ -108,7 +108,7 @@ int Grid::width(int column) const {
 bool Grid::isNumber(int column) const {
     if (!format(column).isEmpty())
         return true;
-    const int sample = std::min(rowCount(), 20);
+    const int sample = std::min(rowsRead(), 20);
     bool seen = false;
     for (int row = 0; row < sample; ++row) {
         const QVariant cell = value(row, column);
@@ -123,7 +123,7 @@ bool Grid::isNumber(int column) const {
 }
 
 void Grid::selectRow(int row) {
-    if (row < 0 || row >= rowCount()) {
+    if (row < 0 || !m_rows.has(row)) {
         m_row = -1;
         touch();
         return;
@@ -174,10 +174,9 @@ QString Grid::cellText(int row, int column) const {
 }
 
 int Grid::findRow(const QString& column, const QString& wanted) const {
-    if (rowCount() == 0)
+    if (columnIndex(column) < 0)
         return -1;
-    Recordset rows = m_rows;
-    rows.moveFirst();
+    Recordset rows = m_rows.detached();
     return rows.find(column, wanted) ? rows.row() : -1;
 }
 

@@ -14,6 +14,9 @@ public:
     /// row becomes the first, or -1.
     void load(const Recordset& rows);
     void clear();
+    bool hasMore() const override { return !m_rows.isWhole(); }
+    void readMore(int rows) override { m_rows.readMore(rows); }
+    int rowsRead() const { return m_rows.rowsRead(); }
     int rowCount() const;
     int columnCount() const;
     QString columnName(int column) const;

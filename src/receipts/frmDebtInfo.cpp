@@ -75,8 +75,7 @@ void frmDebtInfo::search() {
     session.sDebtMode = modeSearch;
     m_pno.clear();
     Label5.setText("Debt Information");
-    Connection connection = program.openBilling();
-    grdData.load(Recordset(connection, sql));
+    grdData.load(Recordset::paged(program.openBilling(), sql));
 }
 
 /// The grid shows patients, not the statement of one.

@@ -38,6 +38,46 @@ protected:
     }
 };
 
+TEST_P(RecordsetTest, ReadsALongListAsItIsAskedFor) {
+    billing.run(QStringLiteral("insert into BillAccum (drgName, dtDate) values ('SYRINGE', '2026-03-14')"));
+    for (int i = 0; i < 11; ++i)
+        billing.run(QStringLiteral("insert into BillAccum (drgName, dtDate) select drgName, dtDate from BillAccum"));
+    const auto list = [this] {
+        return Recordset::paged(billing.beside(), Sql("select SNo, DRGNAME, dtDate from BillAccum order by SNo"));
+    };
+    Recordset rows = list();
+    EXPECT_EQ(rows.rowsRead(), 0);
+    const Recordset shown = rows.detached();
+    EXPECT_FALSE(rows.eof());
+    EXPECT_EQ(rows.date(QStringLiteral("dtdate")), QDate(2026, 3, 14));
+    EXPECT_TRUE(rows.has(3));
+    EXPECT_FALSE(shown.isWhole());
+    EXPECT_EQ(shown.rowsRead(), rows.rowsRead()) << "what one has read is there for both";
+    billing.run(QStringLiteral("insert into BillAccum (drgName) values ('LATER')"));
+    rows.moveTo(rows.rowsRead() + 700);
+    EXPECT_EQ(rows.integer(QStringLiteral("SNo")), rows.row() + 1);
+    EXPECT_FALSE(rows.has(2048));
+    EXPECT_EQ(shown.count(), 2048) << "the list as it was when it was asked for";
+    EXPECT_TRUE(shown.isWhole());
+    const Recordset whole(billing, Sql("select SNo, DRGNAME, dtDate from BillAccum order by SNo"));
+    EXPECT_EQ(shown.columns(), whole.columns());
+    // Given up half-way it leaves a connection that serves again.
+    for (int i = 0; i < 3; ++i)
+        EXPECT_TRUE(list().has(i));
+    Connection next = billing.beside();
+    next.run(QStringLiteral("update BillAccum set drgName='GAUZE' where SNo=1"));
+    EXPECT_EQ(Recordset(billing, Sql("select drgName from BillAccum where SNo=1")).text(0), "GAUZE");
+    EXPECT_NE(fault([&] { Recordset::paged(billing.beside(), Sql("select nothing from BillAccum")); }), "");
+    EXPECT_NE(fault([&] { list().set(QStringLiteral("drgName"), QStringLiteral("x")); }), "") << "is read only";
+    if (GetParam() == Engine::Postgresql) {
+        Recordset broken = Recordset::paged(billing.beside(),
+                                            Sql("select 1000000 / (SNo - 1500) as Share from BillAccum order by SNo"));
+        EXPECT_TRUE(broken.has(900));
+        EXPECT_TRUE(fault([&] { broken.count(); }).startsWith("division by zero"));
+        EXPECT_TRUE(broken.isWhole()) << "a fault is told once";
+    }
+}
+
 TEST_P(RecordsetTest, WalksRowsAndReadsThemTyped) {
     added(QStringLiteral("R1"), 12);
     added(QStringLiteral("R2"), 0.1);

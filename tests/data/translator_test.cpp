@@ -89,6 +89,9 @@ TEST_P(Dialect, ComparesAsTheServerDoes) {
         {"select PNo from hPatients where psurname like 'aD%' order by PNo", "P1/P3"},
         {"select PNo from hPatients where psurname like 'ad_e\\%'", "P3"},
         {"select PNo from hPatients where psurname not like 'ad%'", "P2"},
+        {"select PNo from hPatients where psurname like 'ADE' and psurname like 'a%e'", "P1"},
+        {"select PNo from hPatients where psurname like '' or psurname like 'adf%' or psurname like 'adE%%z'", ""},
+        {"select PNo from hPatients where psurname like 'o''n%' and not psurname like 'o''o%'", "P2"},
         {"select PNo from hPatients where psurname like '%' and pfirstname like N'ọLÁ😀%'",
          GetParam() == Engine::Sqlite ? "" : "P3"},
     });

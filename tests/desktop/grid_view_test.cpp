@@ -7,6 +7,7 @@
 
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QTreeView>
 
 namespace orvane {
 namespace {
@@ -154,6 +155,55 @@ TEST_F(GridViewTest, ARefreshKeepsThePlaceAndAnotherListStartsAtItsTop) {
     settleEvents();
     EXPECT_EQ(table()->model()->rowCount(), 0);
     EXPECT_FALSE(table()->currentIndex().isValid());
+}
+
+TEST_F(GridViewTest, ALongListShowsAtOnceAndIsReadOn) {
+    for (int times = 1; times <= 256; times *= 2)
+        billing.run(QStringLiteral("insert into Lines select SNo + %1, Service, Amount, Paid, Secret from Lines")
+                        .arg(5 * times));
+    const int all = 5 * 512;
+    const auto list = [this] {
+        return Recordset::paged(billing.beside(), Sql("select SNo, Service, Amount, Paid from Lines order by SNo"));
+    };
+    const auto readOn = [](const Control& control) {
+        for (int round = 0; round < all && control.hasMore(); ++round)
+            QApplication::processEvents();
+        settleEvents();
+    };
+    form.grdRows.load(list());
+    window->view()->refreshNow();
+    EXPECT_LT(table()->model()->rowCount(), all);
+    EXPECT_EQ(column(1).first(), "dressing");
+    readOn(form.grdRows);
+    EXPECT_EQ(table()->model()->rowCount(), all);
+    EXPECT_EQ(table()->model()->index(all - 1, 0).data().toString(), QString::number(all));
+    // A sort takes in what is not there yet, and ends with its list.
+    form.grdRows.load(list());
+    window->view()->refreshNow();
+    clickHead(0);
+    clickHead(0);
+    EXPECT_EQ(column(0).first(), QString::number(all));
+    form.grdRows.load(list());
+    window->view()->refreshNow();
+    EXPECT_EQ(column(0).first(), "1");
+    // What is typed is looked for in all entries.
+    form.cboTown.clear();
+    form.cboTown.fill(list(), [](const Recordset& row) { return "LINE " + row.text(0); });
+    window->view()->refreshNow();
+    EXPECT_LT(form.cboTown.entriesRead(), all);
+    type(form.cboTown, "line 2560");
+    EXPECT_EQ(form.cboTown.listIndex(), all - 1);
+    form.tree.clear();
+    form.tree.addNode({"all", "All", {}, true});
+    form.tree.fill(list(), [](const Recordset& row) { return Tree::Node{row.text(0), row.text(1), "all", false}; });
+    window->view()->refreshNow();
+    EXPECT_LT(form.tree.nodesRead().size(), all);
+    readOn(form.tree);
+    const auto* tree = widget<QTreeView>(form.tree);
+    EXPECT_EQ(tree->model()->rowCount(tree->model()->index(0, 0)), all);
+    form.tree.select(QString::number(all));
+    settleEvents();
+    EXPECT_EQ(tree->currentIndex().row(), all - 1);
 }
 
 TEST_F(GridViewTest, RowsThatGoWhileTheyArePaintedAreNoFault) {

@@ -15,7 +15,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
-#include <QTreeWidget>
+#include <QTreeView>
 
 namespace orvane {
 namespace {
@@ -83,7 +83,7 @@ TEST_F(ViewTest, WhatCodeSetsIsShown) {
     EXPECT_EQ(widget<QProgressBar>(form.bar)->value(), 40);
     EXPECT_EQ(widget<QTabWidget>(form.strip)->currentIndex(), 1);
     EXPECT_EQ(widget<QLabel>(form.lblTitle)->text(), "A & B");
-    EXPECT_EQ(widget<QTreeWidget>(form.tree)->currentItem()->text(0), "Leaf");
+    EXPECT_EQ(widget<QTreeView>(form.tree)->currentIndex().data().toString(), "Leaf");
 }
 
 TEST_F(ViewTest, EnterPressesTheDefaultButtonAndEscTheCancelButton) {
@@ -232,9 +232,9 @@ TEST_F(ViewTest, TicksOptionsTabsListsAndTreesGoToTheirControls) {
     QTest::keyClick(list, Qt::Key_Space);
     EXPECT_EQ(form.lstItems.valueText(), "");
 
-    auto* tree = widget<QTreeWidget>(form.tree);
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
-                      tree->visualItemRect(tree->topLevelItem(0)->child(0)).center());
+    auto* tree = widget<QTreeView>(form.tree);
+    const QModelIndex leaf = tree->model()->index(0, 0, tree->model()->index(0, 0));
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(leaf).center());
     EXPECT_EQ(form.tree.selectedKey(), "leaf");
 }
 
@@ -410,8 +410,8 @@ TEST_F(ViewTest, AClosedFormIsNotTouchedAgain) {
     QTest::keyClicks(own.view()->findChild<QWidget*>(QStringLiteral("txtName")), "b");
     for (QPushButton* button : own.findChildren<QPushButton*>())
         button->click();
-    for (QTreeWidget* tree : own.findChildren<QTreeWidget*>())
-        Q_EMIT tree->itemClicked(tree->topLevelItem(0), 0);
+    for (QTreeView* tree : own.findChildren<QTreeView*>())
+        Q_EMIT tree->clicked(tree->model()->index(0, 0));
     settleEvents();
     own.resize(700, 500);
     EXPECT_TRUE(own.close()) << "the window may go";
