@@ -53,10 +53,10 @@ void PhysicalConnection::commit() {
 /// has not, and nobody enters it again, before the engine has said so.
 void PhysicalConnection::settleCommit(const QSqlError& error) {
     const QString text = QStringLiteral("commit");
-    broken = broken || !database.isOpen() || endsConnection(error);
-    const bool answered = !broken;
+    const bool lost = !database.isOpen() || endsConnection(error);
+    broken = broken || lost;
     rollback();
-    if (answered) {
+    if (!lost) {
         throw DataError(faultText(engine, error, false, true), text, error.nativeErrorCode());
     }
     switch (source->outcomeSoon(ticket())) {

@@ -129,6 +129,7 @@ qint64 DataSource::statementsSent() const {
 void DataSource::setWaits(int lockMilliseconds, int outcomePauseMilliseconds) {
     d->lockWait = lockMilliseconds;
     d->outcomePause = outcomePauseMilliseconds;
+    d->dropIdle();
 }
 
 void DataSource::setStatementHook(std::function<void(const QString&)> hook) {

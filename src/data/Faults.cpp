@@ -22,6 +22,7 @@ constexpr KnownFault knownFaults[] = {
     {Engine::Sqlite, "10", Kind::Disk},
     {Engine::Sqlite, "11", Kind::Damaged},
     {Engine::Sqlite, "13", Kind::Full},
+    {Engine::Sqlite, "14", Kind::Disk},
     {Engine::Sqlite, "26", Kind::Damaged},
     {Engine::Postgresql, "55P03", Kind::Busy},
     {Engine::Postgresql, "40001", Kind::Busy},
@@ -114,6 +115,10 @@ QString faultText(Engine engine, const QSqlError& error, bool lost, bool saving)
     }
     sentences += QLatin1StringView(told->advice);
     return sentences.join(u' ') + QStringLiteral("\n(%1)").arg(own);
+}
+
+bool isReadOnly(Engine engine, const QSqlError& error) {
+    return kindOf(engine, error.nativeErrorCode()) == Kind::ReadOnly;
 }
 
 bool endsConnection(const QSqlError& error) {

@@ -14,6 +14,9 @@ QString faultText(Engine engine, const QSqlError& error, bool lost, bool saving)
 /// The engine's own words, without the marks that its client library puts around them.
 QString engineWords(const QSqlError& error);
 
+/// Whether the database may not be written to.
+bool isReadOnly(Engine engine, const QSqlError& error);
+
 /// Whether the server ended the connection with this fault.
 bool endsConnection(const QSqlError& error);
 

@@ -105,7 +105,9 @@ void openSqlite(const Physical& physical, const ServerEntry& entry, const Connec
     }
     QSqlQuery query(physical->database);
     if (!query.exec(QStringLiteral("pragma user_version")) || !query.next()) {
-        throw DataError(QStringLiteral("The file %1 is not a database.").arg(path));
+        const bool foreign = query.lastError().nativeErrorCode() == QStringLiteral("26");
+        throw DataError(foreign ? QStringLiteral("The file %1 is not a database.").arg(path)
+                                : faultText(Engine::Sqlite, query.lastError(), false, false));
     }
     const int version = query.value(0).toInt();
     query.finish();

@@ -242,8 +242,14 @@ void PhysicalConnection::tellClock() {
 
 void PhysicalConnection::fail(const QSqlError& error, const QString& text, bool saving) {
     poisoned = inTransaction;
-    broken = broken || !database.isOpen() || endsConnection(error);
-    throw DataError(faultText(engine, error, broken, saving), text, error.nativeErrorCode());
+    const bool lost = !database.isOpen() || endsConnection(error);
+    const bool readOnly = isReadOnly(engine, error);
+    // A connection that may not write may have been opened so: new ones find out whether they may by now.
+    broken = broken || lost || readOnly;
+    if (readOnly) {
+        source->dropIdle();
+    }
+    throw DataError(faultText(engine, error, lost, saving), text, error.nativeErrorCode());
 }
 
 /// A statement that begins a transaction: where it fails, nothing of the transaction is saved.
@@ -363,6 +369,12 @@ void DataSource::Private::giveBack(std::shared_ptr<PhysicalConnection> physical)
         const QMutexLocker lock(&m_mutex);
         m_idle[physical->poolKey].append(std::move(physical));
     }
+}
+
+void DataSource::Private::dropIdle() {
+    const QMutexLocker lock(&m_mutex);
+    const QString thread = QStringLiteral("%1\n").arg(thisThread());
+    m_idle.removeIf([&](auto idle) { return idle.key().startsWith(thread); });
 }
 
 void DataSource::Private::callHook(const QString& tsql, const QVariantList& bound) {

@@ -106,6 +106,8 @@ struct DataSource::Private : std::enable_shared_from_this<DataSource::Private> {
     std::shared_ptr<PhysicalConnection> take(const QString& connectionString);
     void giveBack(std::shared_ptr<PhysicalConnection> physical) noexcept;
 
+    void dropIdle(); ///< those of this thread
+
     CommitOutcome outcomeOf(const CommitTicket& ticket);
     CommitOutcome outcomeSoon(const CommitTicket& ticket); ///< tries for some seconds
 

@@ -18,6 +18,17 @@ const QString notSavedText =
 const QString leftOpenText = QStringLiteral(
     "It is still not known whether the last entry was saved. Please look it up before you enter it again.");
 
+/// A fault in what follows a save must not look as if nothing had been saved.
+void follow(const std::function<void()>& afterSave) {
+    try {
+        afterSave();
+    } catch (const DataError& fault) {
+        throw DataError(QStringLiteral("The entry was saved. Only what follows it could not be done:\n") +
+                            fault.description(),
+                        fault.statement(), fault.code());
+    }
+}
+
 } // namespace
 
 bool Screen::saveOnce(Button& button, const std::function<bool()>& save, std::function<void()> afterSave) {
@@ -28,7 +39,7 @@ bool Screen::saveOnce(Button& button, const std::function<bool()>& save, std::fu
         m_openSave = {fault.ticket(), std::move(afterSave), lockAllBut(button)};
         throw CommitUnknown(unknownText, fault.statement(), fault.ticket());
     }
-    afterSave();
+    follow(afterSave);
     return true;
 }
 
@@ -45,7 +56,7 @@ bool Screen::settlesSave() {
         control->setEnabled(true);
     program.box(outcome == CommitOutcome::Saved ? savedText : notSavedText);
     if (outcome == CommitOutcome::Saved)
-        settled.afterSave();
+        follow(settled.afterSave);
     return true;
 }
 

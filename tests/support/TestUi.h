@@ -32,6 +32,7 @@ public:
     void answer(bool yes);
     void answer(const QString& text); ///< to an input box
     void answerCancel();              ///< to an input box
+    void forgetAnswers() { m_answers.clear(); }
     /// The next modal form must be this one; `acts` works in it and must close it.
     void inModal(const QString& formName, std::function<void(Form&)> acts);
 

@@ -20,7 +20,14 @@ Recordset nextNumber(Connection& connection, const QVariantMap& parameters) {
     }
     Transaction transaction(connection);
     Recordset number = raiseCounter(connection, counter);
-    transaction.commit();
+    try {
+        transaction.commit();
+    } catch (const CommitUnknown& fault) {
+        // Nothing bears this number yet, so it does not matter whether the counter keeps the step.
+        throw DataError(QStringLiteral("The connection to the database server is lost. Nothing was saved. Please try "
+                                       "again."),
+                        fault.statement());
+    }
     return number;
 }
 

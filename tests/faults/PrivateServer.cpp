@@ -1,0 +1,42 @@
+#include "PrivateServer.h"
+
+#include <QProcess>
+#include <stdexcept>
+
+namespace orvane {
+
+namespace {
+
+QString folder;
+
+QString cluster(const QString& action) {
+    QProcess script;
+    script.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    script.start(QStringLiteral(ORVANE_SOURCE_DIR "/scripts/pg-cluster.sh"), {action, folder});
+    if (!script.waitForFinished(120000) || script.exitCode() != 0) {
+        throw std::runtime_error("the test server: " + action.toStdString() + " failed");
+    }
+    return QString::fromUtf8(script.readAllStandardOutput()).trimmed();
+}
+
+} // namespace
+
+PrivateServer::PrivateServer() {
+    QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
+    folder = m_folder.path() + QStringLiteral("/cluster");
+    qputenv("ORVANE_TEST_PG", cluster(QStringLiteral("start")).section(u'=', 1).toUtf8());
+}
+
+PrivateServer::~PrivateServer() {
+    QProcess::execute(QStringLiteral(ORVANE_SOURCE_DIR "/scripts/pg-cluster.sh"), {QStringLiteral("stop"), folder});
+}
+
+void PrivateServer::halt() {
+    cluster(QStringLiteral("halt"));
+}
+
+void PrivateServer::start() {
+    cluster(QStringLiteral("start"));
+}
+
+} // namespace orvane

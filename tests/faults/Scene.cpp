@@ -1,0 +1,221 @@
+#include "Scene.h"
+
+#include "demo/Check.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QThread>
+#include <stdexcept>
+#include <sys/mount.h>
+
+namespace orvane {
+
+namespace {
+
+const char* const bill = "001OFL0000001";
+
+const MoneyAction& known(const char* name) {
+    for (const MoneyAction& action : moneyActions())
+        if (QLatin1String(action.name) == QLatin1String(name))
+            return action;
+    throw std::runtime_error(name);
+}
+
+void loadBill(Workstation& ws) {
+    ws.open("frmBillingVerify");
+    ws.set("frmBillingVerify.txtSearch", bill);
+    ws.click("frmBillingVerify.cmdOK");
+}
+
+/// The adjustment stands open, so that its Save can be pressed again.
+void openAdjustment(Workstation& ws) {
+    loadBill(ws);
+    ws.program.session.lWorkSNo = ws.scalar("select SNo from BillAccum where drgName='PARACETAMOL 500MG'").toLongLong();
+    ws.open("frmPriceAdjustVerify");
+    ws.set("frmPriceAdjustVerify.txtQty", "20");
+    ws.set("frmPriceAdjustVerify.txtPrice", "40.25");
+}
+
+void enterFee(Workstation& ws) {
+    loadBill(ws);
+    ws.set("frmBillingVerify.txtProf", "10");
+}
+
+const QHash<QString, QString> iniOf(const QString& folder) {
+    QFile file(folder + "/orvane.ini");
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("no orvane.ini");
+    QHash<QString, QString> values;
+    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n'))
+        values.insert(line.section('=', 0, 0).trimmed(), line.section('=', 1).trimmed());
+    return values;
+}
+
+/// Makes the program of a home go through the proxy.
+void redirect(const QString& folder, int port) {
+    QFile file(folder + "/orvane.ini");
+    if (!file.open(QIODevice::ReadWrite))
+        throw std::runtime_error("no orvane.ini");
+    const QString text = QString::fromUtf8(file.readAll())
+                             .replace(QRegularExpression("host = \\S+"), "host = 127.0.0.1")
+                             .replace(QRegularExpression("port = \\d+"), QString("port = %1").arg(port));
+    file.resize(0);
+    file.write(text.toUtf8());
+}
+
+} // namespace
+
+QList<MoneyAction> pressedActions() {
+    QList<MoneyAction> actions;
+    for (const MoneyAction& action : moneyActions())
+        if (!action.byItem && !QStringList{"Adjustment", "SaveWithoutReceipt"}.contains(action.name))
+            actions << action;
+    void (*const layBill)(Workstation&) = known("Receipt").lay;
+    actions << MoneyAction{"Adjustment", layBill, openAdjustment,
+                           [](Workstation& ws) { ws.click("frmPriceAdjustVerify.cmdSave"); },
+                           "closed frmPriceAdjustVerify"};
+    actions << MoneyAction{"Fee", layBill, enterFee, [](Workstation& ws) { ws.click("frmBillingVerify.cmdBill"); },
+                           "box 10% Prof fee of 2,000.50 Added\nProf Fee is based on Current Bill\n"
+                           "Prof Fee Charged is 200.05"};
+    return actions;
+}
+
+Beside::Beside(const QString& homeFolder) {
+    static int last = 0;
+    m_name = QString("beside-%1").arg(++last);
+    const auto ini = iniOf(homeFolder);
+    if (ini.value("engine") == "sqlite") {
+        m_database = QSqlDatabase::addDatabase("QSQLITE", m_name);
+        m_database.setDatabaseName(QDir(homeFolder).filePath(ini.value("folder")) + "/Dunmarch.db");
+    } else {
+        m_database = QSqlDatabase::addDatabase("QPSQL", m_name);
+        m_database.setHostName(ini.value("host"));
+        m_database.setPort(ini.value("port").toInt());
+        m_database.setUserName("zorva");
+        m_database.setDatabaseName(ini.value("prefix") + "dunmarch");
+        m_database.setConnectOptions("options='-c client_min_messages=error'");
+    }
+    if (!m_database.open())
+        throw std::runtime_error(m_database.lastError().text().toStdString());
+}
+
+Beside::~Beside() {
+    m_database.close();
+    m_database = QSqlDatabase();
+    QSqlDatabase::removeDatabase(m_name);
+}
+
+QString Beside::run(const QString& statement) {
+    QSqlQuery query(m_database);
+    if (!query.exec(statement))
+        throw std::runtime_error(query.lastError().text().toStdString());
+    return query.next() ? query.value(0).toString() : QString();
+}
+
+SmallDisk::SmallDisk(const QString& folder) : m_folder(folder) {
+    QHash<QString, QByteArray> files;
+    for (const QString& name : QDir(folder).entryList(QDir::Files)) {
+        QFile file(folder + '/' + name);
+        if (!file.open(QIODevice::ReadOnly))
+            throw std::runtime_error("cannot read " + name.toStdString());
+        files.insert(name, file.readAll());
+    }
+    m_mounted = mount("tmpfs", folder.toUtf8().constData(), "tmpfs", 0, "size=24m") == 0;
+    for (auto file = files.begin(); m_mounted && file != files.end(); ++file) {
+        QFile copy(folder + '/' + file.key());
+        if (!copy.open(QIODevice::WriteOnly) || copy.write(file.value()) != file.value().size())
+            throw std::runtime_error("cannot copy " + file.key().toStdString());
+    }
+}
+
+SmallDisk::~SmallDisk() {
+    if (m_mounted)
+        umount2(m_folder.toUtf8().constData(), MNT_DETACH);
+}
+
+void SmallDisk::fill() {
+    QFile filler(m_folder + "/filler");
+    if (!filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        throw std::runtime_error("no filler");
+    for (qint64 size = 1 << 20; size > 0; size /= 2)
+        for (const QByteArray block(size, 'x'); filler.write(block) == size;) {
+        }
+}
+
+void SmallDisk::freeUp() {
+    QFile::remove(m_folder + "/filler");
+}
+
+Scene::Scene(Engine tested, const MoneyAction& played) : engine(tested), action(played), m_home(tested) {
+    if (engine == Engine::Sqlite)
+        disk = std::make_unique<SmallDisk>(m_home.folder() + "/data");
+    m_watcherHome = std::make_unique<SecondHome>(m_home);
+    {
+        Workstation before(folder());
+        before.layHospital();
+        if (!before.start())
+            throw std::runtime_error("the program does not start");
+        action.lay(before);
+        before.ui.forgetBoxes();
+        before.ui.takeQuestions();
+    }
+    if (engine == Engine::Postgresql) {
+        proxy = std::make_unique<Proxy>(iniOf(folder()).value("port").toInt());
+        redirect(m_home.folder(), proxy->port());
+    }
+    ws = std::make_unique<Workstation>(m_home.folder());
+    if (!ws->start())
+        throw std::runtime_error("the program does not start");
+    action.enter(*ws);
+    ws->ui.forgetBoxes();
+}
+
+Scene::~Scene() {
+    beside.reset();
+    ws.reset();
+}
+
+Scene::Told Scene::press() {
+    ws->ui.opened.clear();
+    ws->ui.closedForms.clear();
+    action.act(*ws);
+    ws->ui.forgetAnswers(); // a fault or an open save comes before the question
+    ws->ui.takeQuestions();
+    Told told;
+    told.boxes = ws->ui.takeBoxes();
+    QStringList shown;
+    for (const QString& text : told.boxes)
+        shown << "box " + text;
+    for (const QString& form : ws->ui.opened)
+        shown << "opened " + form;
+    for (const QString& form : ws->ui.closedForms)
+        shown << "closed " + form;
+    told.reported = shown.contains(QLatin1String(action.report));
+    return told;
+}
+
+QString Scene::figures() {
+    Workstation watcher(folder());
+    return moneyFigures(watcher);
+}
+
+QStringList Scene::findings() {
+    Workstation watcher(folder());
+    return checkDatabases(watcher.program).findings;
+}
+
+void Scene::waitForServer() {
+    Beside server(folder());
+    for (int i = 0; i < 1000; ++i) {
+        if (server.run(
+                "select count(*) from pg_stat_activity where datname=current_database() and pid<>pg_backend_pid() "
+                "and xact_start is not null") == "0")
+            return;
+        QThread::msleep(10);
+    }
+    throw std::runtime_error("a transaction stays open");
+}
+
+} // namespace orvane

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "Proxy.h"
+#include "support/MoneyActions.h"
+
+#include <QSqlDatabase>
+
+namespace orvane {
+
+/// The actions of the tests: those that move money, each as one press that can be repeated.
+QList<MoneyAction> pressedActions();
+
+/// A session on a test's billing database beside the program, in the engine's own words.
+class Beside {
+public:
+    explicit Beside(const QString& homeFolder);
+    ~Beside();
+    Beside(const Beside&) = delete;
+    Beside& operator=(const Beside&) = delete;
+
+    QString run(const QString& statement); ///< gives the first column of the first row
+    QString databaseName() const { return m_database.databaseName(); }
+
+private:
+    QString m_name;
+    QSqlDatabase m_database;
+};
+
+/// A disk of its own for the files of a home, so small that it can be filled; where none can be mounted, the database
+/// is forbidden to grow instead.
+class SmallDisk {
+public:
+    explicit SmallDisk(const QString& folder); ///< takes the files in it along
+    ~SmallDisk();
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+    bool isMounted() const { return m_mounted; }
+    void fill();
+    void freeUp();
+
+private:
+    QString m_folder;
+    bool m_mounted = false;
+};
+
+/// A program before the last press of an action, on databases of its own; on PostgreSQL behind a proxy.
+class Scene {
+public:
+    Scene(Engine engine, const MoneyAction& action);
+    ~Scene();
+
+    /// What the user was shown after a press.
+    struct Told {
+        QStringList boxes;
+        bool reported = false; ///< as saved
+    };
+    Told press();
+
+    QString figures();                                         ///< seen by another workstation
+    QStringList findings();                                    ///< of the check
+    QString folder() const { return m_watcherHome->folder(); } ///< of a home that reaches the server without the proxy
+    /// Returns when the server has ended every transaction whose program is gone.
+    void waitForServer();
+
+    const Engine engine;
+    const MoneyAction& action;
+
+private:
+    TestHome m_home;
+
+public:
+    std::unique_ptr<SmallDisk> disk; ///< SQLite
+    std::unique_ptr<Proxy> proxy;    ///< PostgreSQL
+
+private:
+    std::unique_ptr<SecondHome> m_watcherHome;
+
+public:
+    std::unique_ptr<Workstation> ws;
+    std::unique_ptr<Beside> beside; ///< opened by the faults that need it
+};
+
+} // namespace orvane
