@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QTextDocument>
 #include <algorithm>
@@ -23,6 +24,17 @@ void showLocked(QWidget& widget, bool locked) {
 
 } // namespace
 
+QString takeOneLine(QLineEdit& line) {
+    static const QRegularExpression lineBreak(QStringLiteral("[\n\r\u2028\u2029]"));
+    const QString text = QString(line.text()).replace(lineBreak, QStringLiteral(" "));
+    if (text != line.text()) {
+        const int cursor = line.cursorPosition();
+        line.setText(text);
+        line.setCursorPosition(cursor);
+    }
+    return text;
+}
+
 LineBinding::LineBinding(FormView& view, TextBox& box, QWidget* parent, Place place, int characters)
     : Binding(view, box, new QLineEdit(parent)), m_box(&box), m_line(static_cast<QLineEdit*>(widget())), m_place(place),
       m_characters(characters) {
@@ -32,7 +44,7 @@ LineBinding::LineBinding(FormView& view, TextBox& box, QWidget* parent, Place pl
         m_line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     look::mark(*m_line, "large", place == Place::Large);
     connect(m_line, &QLineEdit::textEdited, this,
-            [this](const QString& text) { user([this, text] { m_box->setText(text); }); });
+            [this] { user([this, text = takeOneLine(*m_line)] { m_box->setText(text); }); });
 }
 
 void LineBinding::refresh() {

@@ -7,6 +7,9 @@ class QPlainTextEdit;
 
 namespace orvane {
 
+/// What stands in a field of one line, once each line break that was pasted into it has become a blank.
+QString takeOneLine(QLineEdit& line);
+
 /// A text of one line.
 class LineBinding : public Binding {
     Q_OBJECT
