@@ -3,6 +3,7 @@
 #include "desktop/FormView.h"
 #include "desktop/ListModels.h"
 #include "desktop/Look.h"
+#include "desktop/TextBinding.h"
 
 #include <QComboBox>
 #include <QCompleter>
@@ -68,9 +69,10 @@ QWidget* ComboBinding::editor() const {
     return m_combo->lineEdit();
 }
 
-void ComboBinding::typed(const QString& text) {
+void ComboBinding::typed() {
     if (!m_box)
         return;
+    const QString text = takeOneLine(*m_combo->lineEdit());
     if (m_box->style() == ComboBox::ListOnly) {
         m_searching = true;
         if (m_box->hasMore())

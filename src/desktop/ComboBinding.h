@@ -24,7 +24,7 @@ protected:
     void released() override { m_box = nullptr; }
 
 private:
-    void typed(const QString& text);
+    void typed();
     void picked(int index);
     void finishSearch();
     void reloadEntries();
