@@ -1,6 +1,10 @@
 #include "ReceiptTest.h"
+#include "reports/Workbook.h"
+#include "support/HostileTexts.h"
+#include "support/SampleForm.h"
 
 #include <QProcess>
+#include <QRegularExpression>
 
 namespace orvane {
 
@@ -178,6 +182,34 @@ TEST_P(DebtInfo, ExportsWhatTheGridShows) {
     click("cmdExport");
     EXPECT_EQ(ui.takeBoxes().value(0).left(file.size()), file);
     EXPECT_EQ(ui.exports.size(), 1);
+}
+
+TEST_P(DebtInfo, NoTextOfAWorkbookBecomesAFormulaOrANumber) {
+    Connection connection = ws.billing();
+    QList<QString> texts = hostileTexts();
+    texts.removeIf([](const QString& text) { return !isStorable(text) || text.size() > 50; });
+    texts << "\t=1+1"
+          << "\r=1+1"
+          << "\n=1+1"
+          << "+2-3"
+          << "1500.5";
+    Recordset roles(connection, Sql("select * from Roles where 1=2"));
+    for (int i = 0; i < texts.size(); ++i) {
+        roles.addNew();
+        roles.set("RoleID", 5000 + i);
+        roles.set("LoginRole", texts.at(i));
+        roles.update();
+    }
+    SampleForm form(ui);
+    form.grdRows.load(connection.run("select RoleID, LoginRole from Roles where RoleID >= 5000 order by RoleID"));
+    const QString file = exportFileName(ui.exportFolder(), "Roles", ui.clock);
+    exportWorkbook(form.grdRows, file);
+    const QString sheet = workbookPart(file, "xl/worksheets/sheet1.xml");
+    EXPECT_FALSE(sheet.contains("<f>"));
+    // Each row has a number and a text that stands in the table of texts.
+    EXPECT_EQ(sheet.count(QRegularExpression("<c r=\"A\\d+\"><v>5\\d{3}</v>")), texts.size());
+    EXPECT_EQ(sheet.count(QRegularExpression("<c r=\"B\\d+\" (s=\"\\d+\" )?t=\"s\">")), texts.size() + 1)
+        << "and the head";
 }
 
 /// The collation screen asks for the account of one patient after the other.

@@ -111,6 +111,14 @@ void enterManual(Workstation& ws) {
     ws.set("frmReceiptManual.txtHt", "1000");
 }
 
+void enterDiscount(Workstation& ws) {
+    ws.open("frmBillDiscount");
+    ws.click("frmBillDiscount.cmdInv");
+    ws.pick("frmBillDiscount.cboVehNo", bill);
+    ws.set("frmBillDiscount.cboClinic", "DISCOUNT");
+    ws.set("frmBillDiscount.txtHt", "100.25");
+}
+
 void adjust(Workstation& ws) {
     ws.row("frmBillingVerify.grdData", "PARACETAMOL 500MG");
     ws.ui.inModal("frmPriceAdjustVerify", [&ws](Form&) {
@@ -147,11 +155,13 @@ const MoneyAction actions[] = {
      enterBillItems, [](Workstation& ws) { press(ws, "frmBillPat.OKButton"); }, "closed frmBillPat"},
     {"SaveWithReceipt", layItems, enterSaveWithReceipt, [](Workstation& ws) { press(ws, "frmBillingVerify.OKButton"); },
      receiptShown},
+    {"SaveWithoutReceipt", layItems, loadBill, [](Workstation& ws) { press(ws, "frmBillingVerify.OKButton"); }, saved},
     {"Receipt", layBill, enterReceipt, [](Workstation& ws) { press(ws, "frmReceiptTemp.OKButton"); }, saved},
     {"Reversal", layReceipt, enterReversal, [](Workstation& ws) { press(ws, "frmReceiptTemp.OKButton"); }, saved},
     {"Deposit", layVisit, enterDeposit, [](Workstation& ws) { press(ws, "frmReceiptDeposit.OKButton"); }, receiptShown},
     {"ManualReceipt", layVisit, enterManual, [](Workstation& ws) { press(ws, "frmReceiptManual.OKButton"); }, saved},
     {"Adjustment", layBill, loadBill, adjust, "closed frmPriceAdjustVerify"},
+    {"Discount", layBill, enterDiscount, [](Workstation& ws) { press(ws, "frmBillDiscount.OKButton"); }, saved},
 };
 
 } // namespace

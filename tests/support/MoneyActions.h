@@ -20,7 +20,8 @@ struct MoneyAction {
 
 void PrintTo(const MoneyAction& action, std::ostream* out);
 
-/// Attendance, collation, items, save with receipt, receipt, reversal, deposit, manual receipt, adjustment.
+/// Attendance, collation, items, save with and without receipt, receipt, reversal, deposit, manual receipt, adjustment,
+/// discount.
 std::span<const MoneyAction> moneyActions();
 
 /// What they may change, in numbers: rows and sums of every table of money, a line each.
