@@ -85,6 +85,21 @@ TEST_P(Fees, ProfessionalFeeIsWholeKoboAndBilledOnce) {
     EXPECT_EQ(audit("insert Prof Fee"), "insert Prof Fee (7.5%) for: ADEYEMI BOLA|75.04");
 }
 
+/// Its collation fails behind it: a user who read that nothing was saved would charge it twice.
+TEST_P(Fees, AFaultBehindASavedFeeSaysThatItIsSaved) {
+    layVisit();
+    item({.name = "DRUG", .price = 1000});
+    load();
+    set("txtProf", "10");
+    breakAt(ws.program, "into [BillingDetails]");
+    click("cmdBill");
+    EXPECT_BOXES(ui, {"The entry was saved. Only what follows it could not be done:\ndisk full"});
+    ws.program.data().setStatementHook({});
+    load();
+    EXPECT_EQ(lines(), "DRUG|1000\nProf Fee (10%)|100");
+    EXPECT_EQ(ws.tableCount("BillAccum"), 2);
+}
+
 TEST_P(Fees, FaultLeavesTheBillAsItWas) {
     layVisit({.category = "HMO", .client = "0201"}, {.category = "HMO", .client = "0201"});
     item({.name = "DRUG", .price = 1000});

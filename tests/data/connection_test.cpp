@@ -173,6 +173,16 @@ TEST_P(Pool, KeepsTheEnginesWordsInAFault) {
     }
 }
 
+/// The second row cannot be worked out: the first alone is not the answer.
+TEST_P(Pool, RowsThatEndInAFaultAreNotTakenForAll) {
+    billing.run(QStringLiteral("delete from IDgen"));
+    billing.run(QStringLiteral("insert into IDgen (DestName, ID) values ('A', 1)"));
+    EXPECT_EQ(scalar(QStringLiteral("select abs(ID) as n from IDgen order by DestName")), QStringLiteral("1"));
+    billing.run(QStringLiteral("insert into IDgen (DestName, ID) values ('B', -9223372036854775807 - 1)"));
+    EXPECT_THROW(billing.run(QStringLiteral("select abs(ID) as n from IDgen order by DestName")), DataError);
+    EXPECT_EQ(scalar(QStringLiteral("select count(*) from IDgen")), QStringLiteral("2")) << "the connection goes on";
+}
+
 ORVANE_ON_EACH_ENGINE(Pool);
 
 /// A server that goes away, which the embedded engine cannot.
