@@ -148,6 +148,32 @@ protected:
         closeAll();
     }
 
+    QStringList numberFields(const Save& save) {
+        enter(save);
+        QStringList fields;
+        for (const Control* control : program.loadedForm(m_form)->controls()) {
+            const auto* box = dynamic_cast<const TextBox*>(control);
+            if (box && box->isNumeric() && box->isUsable() && !box->isLocked())
+                fields << box->name();
+        }
+        closeAll();
+        return fields;
+    }
+
+    /// What is no number, or no amount, in each field of numbers alone: saved or not, the books agree afterwards.
+    void saveNumbers(const Save& save) {
+        for (const QString& field : numberFields(save))
+            for (const char* text : {"1e999", "NaN", "inf", "0x10", "-1.5e-400", "-2", "+-1", "1,,5", "1'0", "=1+1",
+                                     "null", "99999999999999999999", "   ", "\u0661\u0662"}) {
+                enter(save);
+                set(field, QString::fromUtf8(text));
+                driver.leave(find(field));
+                driver.click(find(QLatin1String(save.button)));
+                checkBoxes(m_form + '.' + field + " <" + text + '>');
+                closeAll();
+            }
+    }
+
     QString m_form;
     int m_round = 0;
 };
@@ -318,6 +344,7 @@ TEST_P(HostileSave, IsReadBackAsItWasTypedOrRefused) {
         for (const Stored& field : save.fields)
             for (const QString& text : odd)
                 saveOrRefuse(save, field, text);
+        saveNumbers(save);
     }
     EXPECT_EQ(checkDatabases(program).findings, QStringList());
 }
