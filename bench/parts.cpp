@@ -2,6 +2,7 @@
 #include "data/FigToWrd.h"
 #include "data/Money.h"
 #include "data/Sql.h"
+#include "data/Statement.h"
 #include "data/Translator.h"
 
 #include <benchmark/benchmark.h>
@@ -30,6 +31,15 @@ void translateStatement(benchmark::State& state) {
         benchmark::DoNotOptimize(translate(tsql, engine));
 }
 BENCHMARK(translateStatement)->Arg(0)->Arg(1);
+
+/// The same when a statement of its kind came before.
+void translateKeptStatement(benchmark::State& state) {
+    const QString tsql = waitingItems().text();
+    const Engine engine = state.range(0) == 0 ? Engine::Sqlite : Engine::Postgresql;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(statementOf(tsql, engine));
+}
+BENCHMARK(translateKeptStatement)->Arg(0)->Arg(1);
 
 void wordAmount(benchmark::State& state) {
     for (auto _ : state)
