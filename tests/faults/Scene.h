@@ -26,8 +26,8 @@ private:
     QSqlDatabase m_database;
 };
 
-/// A disk of its own for the files of a home, so small that it can be filled; where none can be mounted, the database
-/// is forbidden to grow instead.
+/// A disk of its own for the files of a home, so small that it can be filled. Only root can mount one: without it a
+/// full disk is not tried on the embedded engine.
 class SmallDisk {
 public:
     explicit SmallDisk(const QString& folder); ///< takes the files in it along

@@ -56,13 +56,7 @@ end loop; end $$)";
 
 const Fault faults[] = {
     {Engine::Sqlite, "DiskFull", "The disk of the database is full. Nothing was saved.",
-     [](Scene& scene) {
-         if (scene.disk->isMounted())
-             scene.disk->fill();
-         else
-             tellProgram(scene, "pragma max_page_count = 1");
-     },
-     [](Scene& scene) { scene.disk->freeUp(); }},
+     [](Scene& scene) { scene.disk->fill(); }, [](Scene& scene) { scene.disk->freeUp(); }},
     {Engine::Sqlite, "DiskFails", "The disk of the database cannot be read or written. Nothing was saved.",
      [](Scene&) { forbidWrites(true); }, [](Scene&) { forbidWrites(false); }},
     {Engine::Sqlite, "ReadOnly", "The database cannot be written to at present. Nothing was saved.",
@@ -214,7 +208,8 @@ protected:
 
     void tryFaults() {
         for (const Fault& fault : faults) {
-            if (fault.engine != scene.engine)
+            const bool needsDisk = fault.engine == Engine::Sqlite && QLatin1String(fault.name) == "DiskFull";
+            if (fault.engine != scene.engine || (needsDisk && !scene.disk->isMounted()))
                 continue;
             SCOPED_TRACE(fault.name);
             scene.ws->billing(); // the program has a connection open, as it has all day
