@@ -17,6 +17,8 @@
 #include <QRegularExpression>
 #include <QTextStream>
 #include <cstdio>
+#include <deque>
+#include <optional>
 
 namespace orvane {
 
@@ -119,6 +121,7 @@ class Bench {
 public:
     Bench(Engine engine, int rounds) : m_home(engine), m_rounds(rounds) {
         layHospital();
+        m_rehearsal.emplace(m_home.folder(), "rehearsal");
         record();
     }
 
@@ -128,11 +131,12 @@ public:
     /// Saves per second of the program.
     double runProgram(int processes, bool shared) {
         const HomeCopy copy(m_home.folder(), "program");
-        std::vector<std::unique_ptr<SecondHome>> homes;
+        std::deque<SecondHome> homes;
         std::vector<WorkerProcess> running;
         for (int i = 0; i < processes; ++i) {
-            homes.push_back(std::make_unique<SecondHome>(copy.folder()));
-            running.emplace_back(QStringList{"--worker", homes.back()->folder(), shareOf(i, processes).join(','),
+            const QString rehearsal = homes.emplace_back(m_rehearsal->folder()).folder();
+            const QString home = homes.emplace_back(copy.folder()).folder();
+            running.emplace_back(QStringList{"--worker", rehearsal, home, shareOf(i, processes).join(','),
                                              QString::number(m_rounds), shared ? "shared" : "own"});
         }
         const double seconds = secondsOf(running);
@@ -178,8 +182,8 @@ private:
         for (int i = 0; i < cashiers; ++i) {
             std::vector<WorkerProcess> running;
             const QString cashier = QString::number(i);
-            running.emplace_back(QStringList{"--worker", copy.folder(), cashier, QString::number(m_rounds), "own",
-                                             statementsFile(cashier)});
+            running.emplace_back(QStringList{"--worker", m_rehearsal->folder(), copy.folder(), cashier,
+                                             QString::number(m_rounds), "own", statementsFile(cashier)});
             secondsOf(running);
         }
         Workstation before(m_home.folder());
@@ -205,6 +209,7 @@ private:
 
     QTemporaryDir m_folder;
     TestHome m_home;
+    std::optional<HomeCopy> m_rehearsal;
     int m_rounds;
     qsizetype m_statements = 0;
 };
@@ -242,10 +247,11 @@ void benchThroughput(Engine engine, int rounds) {
     }
 }
 
-/// Arguments as runWorker takes them; a sixth one names the file for what is sent.
+/// Arguments: the home of the rehearsal, those of runWorker, and perhaps a file for what is sent.
 int work(const QStringList& arguments) {
-    const QString file = arguments.value(4);
-    return runWorker(arguments.mid(0, 4), [&](Program& program, const std::function<void()>& work) {
+    rehearse(arguments.value(0), arguments.value(2).section(',', 0, 0));
+    const QString file = arguments.value(5);
+    return runWorker(arguments.mid(1, 4), [&](Program& program, const std::function<void()>& work) {
         if (file.isEmpty()) {
             work();
             return;
@@ -285,7 +291,7 @@ int main(int argc, char** argv) {
             return work(arguments.mid(2));
         if (arguments.value(1) == QLatin1String("--bare"))
             return workBare(arguments.mid(2));
-        const int rounds = arguments.size() > 1 ? arguments.at(1).toInt() : 2;
+        const int rounds = arguments.size() > 1 ? arguments.at(1).toInt() : 1;
         for (const Engine engine : testEngines())
             benchThroughput(engine, rounds);
     } catch (const DataError& fault) {

@@ -69,7 +69,6 @@ public:
         around(m_program, [&] { workRounds(numbers, rounds); });
     }
 
-private:
     void workRounds(const QStringList& numbers, int rounds) {
         for (const QString& number : numbers) {
             m_number = number.toInt();
@@ -80,6 +79,7 @@ private:
         }
     }
 
+private:
     void setHook() {
         // A balance that was read is out of date for a while, and a transaction lasts long enough for the others.
         if (m_options.contains("linger"))
@@ -121,6 +121,8 @@ private:
     }
 
     void tell(const QStringList& words) {
+        if (m_options.contains("silent"))
+            return;
         QString line = words.join(QLatin1Char('\t'));
         m_out << line.replace(QLatin1Char('\n'), QLatin1Char(' ')) << Qt::endl;
     }
@@ -280,6 +282,10 @@ int runWorker(const QStringList& arguments, const AroundWork& around) {
         return 1;
     }
     return 0;
+}
+
+void rehearse(const QString& homeFolder, const QString& number) {
+    Worker(homeFolder, {"own", "silent"}).workRounds({number}, 1);
 }
 
 } // namespace orvane

@@ -32,4 +32,8 @@ using AroundWork = std::function<void(Program&, const std::function<void()>& wor
 int runWorker(
     const QStringList& arguments, const AroundWork& around = [](Program&, const auto& work) { work(); });
 
+/// Does one round of a number's own work in another home and tells nothing of it: what follows in this process costs
+/// what it costs on a workstation that has been at work for a while. Raises DataError.
+void rehearse(const QString& homeFolder, const QString& number);
+
 } // namespace orvane
