@@ -266,22 +266,25 @@ private:
 CheckReport checkDatabases(Program& program) {
     CheckReport report;
     Connection billing = program.openBilling();
-    Checker ofBilling(billing, report);
-    for (const Check& check : billingChecks)
-        ofBilling.run(check);
-    ofBilling.runNumbers(QStringLiteral("billing"));
-    ofBilling.runDemanded();
     Connection accounting = program.openAccounting();
-    Checker ofAccounting(accounting, report);
-    for (const Check& check : accountingChecks)
-        ofAccounting.run(check);
-    ofAccounting.runNumbers(QStringLiteral("accounting"));
     checkIntegrity(billing, QStringLiteral("billing database"), report);
     checkIntegrity(accounting, QStringLiteral("accounting database"), report);
     if (billing.engine() == Engine::Sqlite) { // elsewhere the audit trail lies in the billing database
         Connection audit = billing.beside(QStringLiteral("Audit"));
         checkIntegrity(audit, QStringLiteral("audit database"), report);
     }
+    // The rows of a damaged database cannot be read, or say nothing.
+    if (!report.findings.isEmpty())
+        return report;
+    Checker ofBilling(billing, report);
+    for (const Check& check : billingChecks)
+        ofBilling.run(check);
+    ofBilling.runNumbers(QStringLiteral("billing"));
+    ofBilling.runDemanded();
+    Checker ofAccounting(accounting, report);
+    for (const Check& check : accountingChecks)
+        ofAccounting.run(check);
+    ofAccounting.runNumbers(QStringLiteral("accounting"));
     return report;
 }
 

@@ -5,15 +5,20 @@ namespace orvane {
 namespace {
 
 void checkFile(Connection& connection, const QString& database, CheckReport& report) {
-    for (Recordset row = connection.run(QStringLiteral("pragma integrity_check")); !row.eof(); row.moveNext()) {
-        if (row.text(0) != QLatin1String("ok"))
-            report.findings.append(QStringLiteral("integrity of the %1: %2").arg(database, row.text(0)));
+    const auto tell = [&](const QString& what) {
+        report.findings.append(QStringLiteral("integrity of the %1: %2").arg(database, what));
+    };
+    try {
+        for (Recordset row = connection.run(QStringLiteral("pragma integrity_check")); !row.eof(); row.moveNext()) {
+            if (row.text(0) != QLatin1String("ok"))
+                tell(row.text(0));
+        }
+        const Recordset orphans = connection.run(QStringLiteral("pragma foreign_key_check"));
+        if (orphans.count() > 0)
+            tell(QStringLiteral("%1 row(s) refer to rows that are not there").arg(orphans.count()));
+    } catch (const DataError& fault) {
+        tell(fault.description()); // damaged so much that the engine gives up
     }
-    const Recordset orphans = connection.run(QStringLiteral("pragma foreign_key_check"));
-    if (orphans.count() > 0)
-        report.findings.append(QStringLiteral("integrity of the %1: %2 row(s) refer to rows that are not there")
-                                   .arg(database)
-                                   .arg(orphans.count()));
 }
 
 /// The server's own extension checks its indexes, where an administrator has installed it.
