@@ -92,9 +92,10 @@ std::optional<QString> apply(const CallRule (&rules)[N], const QString& name, co
     return std::nullopt;
 }
 
-QString convertWithStyle(const QString& value, int style, Engine engine) {
+/// A style is a plain number: one behind a sign is a value like any other, which decides nothing.
+QString convertWithStyle(const QString& value, const QString& style, Engine engine) {
     for (const StyleRule& rule : styleRules) {
-        if (rule.style == style) {
+        if (QString::number(rule.style) == style) {
             return engine == Engine::Sqlite
                        ? QStringLiteral("strftime('%1', %2)").arg(QLatin1StringView(rule.sqlite), value)
                        : QStringLiteral("cast(to_char(cast(%2 as timestamp), '%1') as citext)")
@@ -120,7 +121,7 @@ std::optional<QString> translateCall(const QString& name, const QStringList& arg
         return translateCast(arguments[1], arguments[0], engine);
     }
     if (name.compare(u"convert", Qt::CaseInsensitive) == 0 && arguments.size() == 3) {
-        return convertWithStyle(arguments[1], arguments[2].toInt(), engine);
+        return convertWithStyle(arguments[1], arguments[2], engine);
     }
     return apply(callRules, name, arguments, engine);
 }
