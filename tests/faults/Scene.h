@@ -57,6 +57,8 @@ public:
     };
     Told press();
 
+    /// The program's waits are short from now on, on connections that it opens anew.
+    void hurry() { ws->program.data().setWaits(150, 10); }
     QString figures();                                         ///< seen by another workstation
     QStringList findings();                                    ///< of the check
     QString folder() const { return m_watcherHome->folder(); } ///< of a home that reaches the server without the proxy

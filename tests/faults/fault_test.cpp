@@ -68,11 +68,10 @@ const Fault faults[] = {
      [](Scene& scene) { scene.beside->run("drop function tests_full cascade"); }},
     {Engine::Postgresql, "ReadOnly", "The database cannot be written to at present. Nothing was saved.",
      [](Scene& scene) {
-         openBeside(scene,
-                    "select pg_terminate_backend(pid) from pg_stat_activity where datname=current_database() and "
-                    "pid<>pg_backend_pid()");
+         scene.beside = std::make_unique<Beside>(scene.folder());
          scene.beside->run(
              QString("alter database \"%1\" set default_transaction_read_only = on").arg(scene.beside->databaseName()));
+         scene.hurry(); // with connections that are opened from now on
      },
      [](Scene& scene) {
          scene.beside->run("set default_transaction_read_only = off");
@@ -93,7 +92,7 @@ const Fault faults[] = {
          scene.ws->program.data().setStatementHook([&scene](const QString& tsql) {
              if (!tsql.startsWith("insert", Qt::CaseInsensitive) || scene.ws->program.data().openTransactions() == 0)
                  return;
-             openBeside(scene, "select pg_terminate_backend(pid) from pg_stat_activity where "
+             openBeside(scene, "select pg_terminate_backend(pid, 10000) from pg_stat_activity where "
                                "datname=current_database() and state = 'idle in transaction'");
              scene.waitForServer();
          });
@@ -171,8 +170,6 @@ protected:
     Scene scene{GetParam().engine, action};
     const QString before = scene.figures();
 
-    /// Waits are short from now on.
-    void hurry() { scene.ws->program.data().setWaits(150, 10); }
     /// The press has told `words`, and nothing is saved.
     void expectRefused(const Scene::Told& told, const QString& words) {
         EXPECT_TRUE(told.boxes.join('\n').contains(words)) << told.boxes.join('\n').toStdString();
@@ -286,7 +283,7 @@ TEST_P(Faults, SaveTheEntryOnceWhenTheyAreGone) {
     const bool server = scene.engine == Engine::Postgresql;
     if (server && GetParam().withFaults)
         tryCuts();
-    hurry();
+    scene.hurry();
     if (GetParam().withFaults)
         tryFaults();
     if (server && GetParam().withFaults)
