@@ -23,7 +23,7 @@ for target in "${targets[@]}"; do
     program=build/fuzz/fuzz/fuzz_$target
     [ -x "$program" ] || { echo "$program is not built"; exit 77; }
     mkdir -p "build/fuzz/corpus/$target" build/fuzz/found
-    "$program" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=4096 -max_len=4096 -print_final_stats=1 \
+    "$program" -max_total_time="$seconds" -timeout=120 -rss_limit_mb=4096 -max_len=4096 -print_final_stats=1 \
         -dict="fuzz/$target.dict" -artifact_prefix="build/fuzz/found/$target-" \
         "build/fuzz/corpus/$target" "fuzz/corpus/$target" 2>&1 | grep -v -E '^#[0-9]+\s+(NEW|REDUCE|pulse|RELOAD)'
 done

@@ -22,12 +22,12 @@ QString onOneLine(const QString& text) {
 
 QString shownText(const QString& text) {
     constexpr qsizetype longest = 40;
-    if (text.size() <= longest) {
-        return onOneLine(text);
+    QString part = text.left(longest);
+    if (text.size() > longest && part.back().isHighSurrogate()) {
+        part.chop(1); // half of a character
     }
-    // Not in the middle of a character that takes two.
-    const bool splits = text.at(longest - 1).isHighSurrogate();
-    return onOneLine(text.left(splits ? longest - 1 : longest)) + QStringLiteral("...");
+    const QString shown = onOneLine(part).replace(u'\t', QStringLiteral("\\t"));
+    return part.size() < text.size() ? shown + QStringLiteral("...") : shown;
 }
 
 } // namespace orvane

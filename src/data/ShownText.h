@@ -8,7 +8,7 @@ namespace orvane {
 /// as \u001B.
 QString onOneLine(const QString& text);
 
-/// A value as it stands inside a message to the user: on one line, at most 40 characters of it.
+/// A value as it stands inside a message to the user: on one line, tabs as \t, at most 40 characters of it.
 QString shownText(const QString& text);
 
 } // namespace orvane
