@@ -197,7 +197,8 @@ OpenQuery PhysicalConnection::open(const QString& tsql) {
         return opened;
     }
     ++source->statementsSent;
-    sendNative(QStringLiteral("begin read only"));
+    // It stays open while its user looks at the list, and keeps nobody out.
+    sendNative(QStringLiteral("begin read only; set local idle_in_transaction_session_timeout = 0"));
     try {
         sendNative(QStringLiteral("declare orvane_rows no scroll cursor for ") + statement.text);
         opened.query = fetch(0); // tells the columns
