@@ -115,8 +115,9 @@ Answer PhysicalConnection::ask(const QString& tsql) {
             if (!compiled.columns) {
                 compiled.columns = columnsOf(compiled.query, engine);
             }
-            answer.rows = readRows(compiled.query, *compiled.columns);
-            requireAllRead(compiled.query);
+            QSqlError fault;
+            answer.rows = readRows(compiled.query, *compiled.columns, fault);
+            requireAllRead(fault, statement.text);
             compiled.query.finish();
         });
     } else {
@@ -124,8 +125,9 @@ Answer PhysicalConnection::ask(const QString& tsql) {
         query.setForwardOnly(true);
         execute(
             query, [&] { return query.exec(statement.text); }, statement.text);
-        answer.rows = readRows(query, columnsOf(query, engine));
-        requireAllRead(query);
+        QSqlError fault;
+        answer.rows = readRows(query, columnsOf(query, engine), fault);
+        requireAllRead(fault, statement.text);
     }
     answer.rows.columns = answer.facts->heads(answer.rows.columns);
     return answer;
@@ -217,9 +219,9 @@ void PhysicalConnection::closeCursor() noexcept {
     broken = broken || !database.isOpen() || !QSqlQuery(database).exec(QStringLiteral("rollback"));
 }
 
-void PhysicalConnection::requireAllRead(const QSqlQuery& query) {
-    if (query.lastError().isValid()) {
-        fail(query.lastError(), query.lastQuery(), inTransaction);
+void PhysicalConnection::requireAllRead(const QSqlError& fault, const QString& text) {
+    if (fault.isValid()) {
+        fail(fault, text, inTransaction);
     }
 }
 
@@ -276,7 +278,7 @@ void PhysicalConnection::enterGate() {
             sendBegin(takesGate ? QStringLiteral("select pg_advisory_xact_lock(7461), txid_current() as number")
                                 : QStringLiteral("select txid_current() as number"));
         transaction = gateResult.next() ? gateResult.value(QStringLiteral("number")).toString() : QString();
-        requireAllRead(gateResult);
+        requireAllRead(gateResult.lastError(), gateResult.lastQuery());
     } else {
         sendBegin(QStringLiteral("begin transaction"));
         QSqlQuery gateResult = sendBegin(QStringLiteral(

@@ -66,7 +66,7 @@ struct PhysicalConnection {
     QSqlQuery fetch(qsizetype rows);
     void closeCursor() noexcept;
     /// Raises DataError when the rows of a query ended in a fault, not in their last row.
-    void requireAllRead(const QSqlQuery& query);
+    void requireAllRead(const QSqlError& fault, const QString& text);
 
     void begin();
     void commit();

@@ -38,9 +38,10 @@ void RowReader::read(std::vector<QVariant>& values, qsizetype rows) {
 void RowReader::readPage(std::vector<QVariant>& values, qsizetype rows) {
     if (m_connection.engine() == Engine::Postgresql)
         m_query = m_connection.d->fetch(rows);
-    if (readValues(*m_query, m_columns, values, rows) == rows)
+    QSqlError fault;
+    if (readValues(*m_query, m_columns, values, rows, fault) == rows)
         return;
-    m_connection.d->requireAllRead(*m_query);
+    m_connection.d->requireAllRead(fault, m_query->lastQuery());
     end();
 }
 

@@ -2,6 +2,7 @@
 
 #include "data/Engine.h"
 
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QStringList>
 #include <QVariant>
@@ -51,16 +52,18 @@ enum class Declared { Nothing, Date, DateTime, Other };
 /// The columns of a query's result; none when it gives no rows.
 struct Columns {
     QStringList names;
-    std::vector<Declared> declared;
+    std::vector<Declared> declared; ///< of SQLite's columns; empty on a server
 };
 
 Columns columnsOf(const QSqlQuery& query, Engine engine);
 
-/// Appends the values of up to so many rows of a query and tells how many there were. Dates become QDate and QDateTime,
-/// flags and whole numbers qlonglong, all other numbers double.
-qsizetype readValues(QSqlQuery& query, const Columns& columns, std::vector<QVariant>& values, qsizetype rows);
+/// Appends the values of up to so many rows of a query and tells how many there were; fewer, where it has come to its
+/// end or to a fault, which `fault` then is. Dates become QDate and QDateTime, flags and whole numbers qlonglong, all
+/// other numbers double.
+qsizetype readValues(QSqlQuery& query, const Columns& columns, std::vector<QVariant>& values, qsizetype rows,
+                     QSqlError& fault);
 
-/// Reads a query to its end.
-Rows readRows(QSqlQuery& query, const Columns& columns);
+/// Reads a query to its end or to a fault, which `fault` then is.
+Rows readRows(QSqlQuery& query, const Columns& columns, QSqlError& fault);
 
 } // namespace orvane
