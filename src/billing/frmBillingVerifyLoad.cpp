@@ -259,8 +259,10 @@ void frmBillingVerify::getApprvCode(Connection& connection) {
     txtApprv.setText(code.eof() ? QString() : code.text("ApprvCode"));
 }
 
-/// Collates what waits and shows the bill as it then stands.
+/// Collates what waits and shows the bill as it then stands. Of this screen's visit: what became of a fee may be found
+/// out after another screen has worked on another one.
 void frmBillingVerify::getAccumBill() {
+    takeInHand();
     if (std::exchange(m_saved, false))
         clearReceipt(); // what was entered has been paid: it must not be taken once more
     OKButton.setEnabled(true);

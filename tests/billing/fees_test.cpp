@@ -100,6 +100,32 @@ TEST_P(Fees, AFaultBehindASavedFeeSaysThatItIsSaved) {
     EXPECT_EQ(ws.tableCount("BillAccum"), 2);
 }
 
+/// Until the user comes back for the answer, another screen may have worked on another visit.
+TEST_P(Fees, UnknownCommitIsFollowedOnTheBillOfTheScreen) {
+    layVisit();
+    layVisit({.pno = "P/0002", .surname = "OTHER"}, {.consultID = "001OFL0000002", .pno = "P/0002"});
+    item({.name = "DRUG", .price = 1000});
+    load();
+    set("txtProf", "10");
+    bool feeWritten = false;
+    ws.program.data().setStatementHook([&feeWritten](const QString& tsql) {
+        feeWritten = feeWritten || tsql.contains("Prof Fee");
+        if (feeWritten && tsql == "transaction committed")
+            throw DataError("the cable was pulled");
+    });
+    click("cmdBill");
+    EXPECT_TRUE(ui.takeBoxes().join('|').contains("It is not known whether it was saved."));
+    ws.program.data().setStatementHook({});
+    ws.program.session.gConsultID = "001OFL0000002";
+    ws.program.session.sBillPno = "P/0002";
+    click("cmdBill");
+    EXPECT_EQ(ui.takeBoxes().size(), 2);
+    EXPECT_EQ(value("lblCurr"), "1,100.00");
+    EXPECT_EQ(value("lblAmtDue"), "1,100.00");
+    EXPECT_EQ(rows("select billNo, PNo, Amountbilled from Billing order by ID"), "001OFL0000001|P/0001|1100");
+    EXPECT_EQ(lines(), "DRUG|1000\nProf Fee (10%)|100");
+}
+
 TEST_P(Fees, FaultLeavesTheBillAsItWas) {
     layVisit({.category = "HMO", .client = "0201"}, {.category = "HMO", .client = "0201"});
     item({.name = "DRUG", .price = 1000});
