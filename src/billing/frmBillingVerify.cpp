@@ -122,9 +122,11 @@ void frmBillingVerify::Form_Load() {
 
 /// The worklist hands over the visit that its user has picked.
 void frmBillingVerify::Form_Activate() {
-    if (session.gSearchBillNo.isEmpty() || settlesSave())
+    // Taken even where it is not followed: a later opening of this screen must not change the visit in hand.
+    const QString picked = std::exchange(session.gSearchBillNo, QString());
+    if (picked.isEmpty() || settlesSave())
         return;
-    txtSearch.setText(std::exchange(session.gSearchBillNo, QString()));
+    txtSearch.setText(picked);
     cmdOK_Click();
 }
 
