@@ -32,8 +32,9 @@ QString asPeopleReadDates(const QString& text) {
 void Grid::load(const Recordset& rows) {
     // The screen may still be walking through its rows while the grid is painted.
     m_rows = rows.detached();
-    m_row = m_rows.has(0) ? 0 : -1;
+    m_row = -1; // where even the first row cannot be read
     touchContent();
+    m_row = m_rows.has(0) ? 0 : -1;
 }
 
 void Grid::clear() {
