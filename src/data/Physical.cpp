@@ -2,6 +2,7 @@
 
 #include "data/Assert.h"
 #include "data/Faults.h"
+#include "data/Skeleton.h"
 #include "data/Value.h"
 
 #include <QSqlDriver>
@@ -33,6 +34,12 @@ bool isQuiet(const PhysicalConnection& physical) {
     PGconn* const connection = *static_cast<PGconn* const*>(handle.constData());
     pollfd socket = {PQsocket(connection), POLLIN, 0};
     return PQstatus(connection) == CONNECTION_OK && poll(&socket, 1, 0) == 0;
+}
+
+bool areBoundAsTheyStand(const QVariantList& values) {
+    return std::all_of(values.begin(), values.end(), [](const QVariant& value) {
+        return value.typeId() != QMetaType::QString || isBoundAsItStands(value.toString());
+    });
 }
 
 bool changesRows(const QString& text) {
@@ -85,12 +92,16 @@ Statement PhysicalConnection::admit(const QString& tsql, const QVariantList& bou
         throw;
     }
     refuseSelfLock(statement.text);
-    if (engine == Engine::Sqlite && !bound.isEmpty()) {
+    if (bound.isEmpty() || engine == Engine::SqlServer) {
+        return statement;
+    }
+    if (engine == Engine::Sqlite && areBoundAsTheyStand(bound)) {
         statement.marked = statement.text;
         statement.bound = bound;
-    } else if (engine == Engine::Postgresql) {
+    } else {
         // A prepared statement costs PostgreSQL three messages for one run; its literals are as exact as bound values.
         statement.text = withLiterals(statement.text, bound);
+        statement.marked = QString();
     }
     return statement;
 }

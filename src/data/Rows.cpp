@@ -34,6 +34,17 @@ QVariant fromSqliteText(const QString& text, Declared declared) {
     return text;
 }
 
+/// Qt takes byte order marks (U+FEFF) off the start of a UTF-8 text; here they are part of what was stored.
+QString textFromUtf8(const char* text, int size) {
+    constexpr QByteArrayView mark("\xEF\xBB\xBF");
+    QByteArrayView rest(text, size);
+    QString marks;
+    for (; rest.startsWith(mark); rest = rest.sliced(mark.size())) {
+        marks += QChar(QChar::ByteOrderMark);
+    }
+    return marks.isEmpty() ? QString::fromUtf8(rest) : marks + QString::fromUtf8(rest);
+}
+
 QVariant fromSqlite(sqlite3_stmt* statement, int column, Declared declared) {
     switch (sqlite3_column_type(statement, column)) {
     case SQLITE_NULL:
@@ -44,7 +55,7 @@ QVariant fromSqlite(sqlite3_stmt* statement, int column, Declared declared) {
         return sqlite3_column_double(statement, column);
     default: {
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-        return fromSqliteText(QString::fromUtf8(text, sqlite3_column_bytes(statement, column)), declared);
+        return fromSqliteText(textFromUtf8(text, sqlite3_column_bytes(statement, column)), declared);
     }
     }
 }

@@ -34,7 +34,8 @@ bool startsLikeDate(QStringView text) {
 }
 
 bool isOrdinary(QStringView text) {
-    return !text.isEmpty() && !text.front().isSpace() && !text.back().isSpace() && !startsLikeDate(text);
+    return !text.isEmpty() && !text.front().isSpace() && !text.back().isSpace() && !startsLikeDate(text) &&
+           isBoundAsItStands(text);
 }
 
 /// Whether the text begins with one of the four words that a statement on rows begins with.
@@ -151,6 +152,10 @@ private:
 };
 
 } // namespace
+
+bool isBoundAsItStands(QStringView text) {
+    return !text.startsWith(QChar(QChar::ByteOrderMark)) && !text.startsWith(QChar(QChar::ByteOrderSwapped));
+}
 
 std::optional<Skeleton> skeletonOf(const QString& tsql) {
     const bool fits = tsql.size() <= longestStatement && isOnRows(tsql);

@@ -14,8 +14,12 @@ struct Skeleton {
     QStringList values; ///< as the statement writes them: texts without their outer quotes, numbers in plain digits
 };
 
-/// A text is set apart when it neither begins nor ends with a blank, is not empty and does not look like a date; a
-/// number when it is the plain decimal behind "=" or "+". Everything else stays in the skeleton. Nothing for a
+/// Whether SQLite stores the text as it stands when it is bound: it takes U+FEFF and U+FFFE at the start for the byte
+/// order, drops them, and swaps the bytes of all that follows the latter.
+bool isBoundAsItStands(QStringView text);
+
+/// A text is set apart when it neither begins nor ends with a blank, is not empty, does not look like a date and may be
+/// bound; a number when it is the plain decimal behind "=" or "+". Everything else stays in the skeleton. Nothing for a
 /// statement that is no select, insert, update or delete, that ends too early, or that holds a comment or a character
 /// that could be taken for a stand-in.
 std::optional<Skeleton> skeletonOf(const QString& tsql);

@@ -210,6 +210,33 @@ TEST_P(Compiled, StatementsStoreAndFindAnAmountToItsLastDigit) {
     }
 }
 
+/// SQLite reads such a start as the byte order of a bound text; PostgreSQL's driver drops it from what it reads.
+TEST_P(Compiled, StatementsStoreAndFindATextThatBeginsWithAByteOrderMark) {
+    if (GetParam() != Engine::Sqlite) {
+        GTEST_SKIP();
+    }
+    for (const QString& start : {QStringLiteral("\uFEFF"), QStringLiteral("\uFEFF\uFEFF")}) {
+        const QString name = start + QStringLiteral("ADA");
+        billing.run(QStringLiteral("delete from hPatients"));
+        billing.execute(Sql("insert into hPatients (PNo, psurname) values ('1', '") << name << "')");
+        Recordset other(billing, Sql("select * from hPatients where 1=2"));
+        other.addNew();
+        other.set(QStringLiteral("PNo"), QStringLiteral("2"));
+        other.set(QStringLiteral("psurname"), name);
+        other.update();
+        Recordset found(billing, Sql("select PNo, psurname from hPatients where psurname='") << name << "'");
+        ASSERT_EQ(found.count(), 2);
+        for (; !found.eof(); found.moveNext()) {
+            EXPECT_EQ(found.text(QStringLiteral("psurname")), name);
+            found.set(QStringLiteral("psurname"), QStringLiteral("OBI"));
+            EXPECT_NO_THROW(found.update());
+        }
+    }
+    // The bytes of a text behind U+FFFE were swapped.
+    billing.execute(Sql("update hPatients set psurname='") << QStringLiteral("\uFFFEADA") << "' where PNo='1'");
+    EXPECT_TRUE(scalar("select psurname from hPatients where PNo='1'").endsWith(QStringLiteral("ADA")));
+}
+
 ORVANE_ON_EACH_ENGINE(Compiled);
 
 } // namespace orvane
