@@ -157,13 +157,14 @@ void frmBillingVerify::loadVisit(QString pno, QString consultID, QString patient
     m_loading = false;
 }
 
-/// What was read of a visit before the fault is not in hand; the buttons that a load locks are free again.
+/// What was read of a visit before the fault is not in hand; the buttons that a load locks are free again, but not
+/// those of a save that is open.
 void frmBillingVerify::afterFault() {
-    if (m_loading) {
-        m_loading = false;
-        m_bill = {};
-        lblBill.clear();
-    }
+    if (!m_loading)
+        return;
+    m_loading = false;
+    m_bill = {};
+    lblBill.clear();
     cmdAddBill.setEnabled(true);
     cmdNHIS.setEnabled(true);
 }
