@@ -50,6 +50,40 @@ protected:
 
 ORVANE_ON_EACH_ENGINE(Attendance);
 
+/// Whichever way the user asks what became of it, the visit and its fee are there once and the next one is a new one.
+TEST_P(Attendance, UnknownCommitIsLookedUp) {
+    patient();
+    patient({.pno = "P/0002", .surname = "BELLO"});
+    const struct {
+        const char* name;
+        const char* button;
+    } cases[] = {{"ADEYEMI", "OKButton"}, {"BELLO", "CancelButton"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.button);
+        begin(c.name);
+        fill();
+        bool visitWritten = false;
+        ws.program.data().setStatementHook([&visitWritten](const QString& tsql) {
+            visitWritten = visitWritten || tsql.contains("into [hRecords]", Qt::CaseInsensitive);
+            if (visitWritten && (tsql == "transaction committed" || tsql == "outcome of commit"))
+                throw DataError("the cable was pulled");
+        });
+        save();
+        EXPECT_TRUE(ui.takeBoxes().join('|').contains("It is not known whether it was saved."));
+        save();
+        EXPECT_TRUE(ui.takeBoxes().join('|').contains("still not known"));
+        for (const char* control : {"cmdAdd", "cmdCancel", "cboVehNo", "txtName", "grdData"})
+            EXPECT_EQ(ws.state(QString("frmRecordsOffline.") + control), "visible disabled") << control;
+        ws.program.data().setStatementHook({});
+        ws.click(QString("frmRecordsOffline.") + c.button);
+        EXPECT_BOXES(ui, {"The entry was saved before the connection broke. It is not saved again.",
+                          "Record Succesfully saved"});
+        EXPECT_EQ(value("lblBill"), "");
+        EXPECT_EQ(ws.state("frmRecordsOffline.cmdAdd"), "visible enabled");
+    }
+    EXPECT_EQ(row("select count(*), min(consultID), max(consultID) from hRecords"), "2|001OFL0000001|001OFL0000002");
+}
+
 TEST_P(Attendance, NewVisitGetsIdChargeAndWaitingItems) {
     patient({.category = "HMO", .client = "0201", .ref = "YES"});
     Connection connection = ws.billing();
