@@ -91,9 +91,9 @@ public:
     /// was lost for the database to come back, pause by pause. For tests.
     void setWaits(int lockMilliseconds, int outcomePauseMilliseconds);
     /// Called before every statement with its T-SQL, and with "begin transaction", "commit transaction" (before it),
-    /// "transaction committed" (after it) and "outcome of commit" (before it is asked for); for tests that break things.
-    /// A DataError that it raises stands for the engine's: before a statement the statement failed, before a commit all
-    /// was rolled back, after it CommitUnknown, before the outcome the database cannot be asked.
+    /// "transaction committed" (after it) and "outcome of commit" (before it is asked for); for tests that break
+    /// things. A DataError that it raises stands for the engine's: before a statement the statement failed, before a
+    /// commit all was rolled back, after it CommitUnknown, before the outcome the database cannot be asked.
     void setStatementHook(std::function<void(const QString&)> hook);
     QString homeFolder() const;
 

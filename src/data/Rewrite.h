@@ -24,8 +24,8 @@ void rewriteNotIn(Tokens& tokens);
 void rewriteTextJoins(Tokens& tokens);
 
 /// "x like 'ab%'" as "(x >= 'ab' and x < 'ab...')" for PostgreSQL, whose columns compare without regard to case: the
-/// index of x serves the search and its order. What the range does not settle is "lower(x) like 'ab_c%'"; a backslash is
-/// no escape in T-SQL and is doubled there.
+/// index of x serves the search and its order. What the range does not settle is "lower(x) like 'ab_c%'"; a backslash
+/// is no escape in T-SQL and is doubled there.
 void rewriteLikeForPostgresql(Tokens& tokens);
 
 /// Literals that stand beside a column or a comparison, as T-SQL understands them: trailing blanks of a compared text
