@@ -1,6 +1,6 @@
 #include "bench/BareEngine.h"
 
-#include "data/Translator.h"
+#include "data/dialect/Translator.h"
 
 #include <memory>
 

@@ -46,12 +46,12 @@ HomeServer::HomeServer(const QString& homeFolder) {
     login = parseConnectionString(program.session.gConnStr);
     entry = ServerList(homeFolder).entry(login.server);
     if (entry.engine == Engine::SqlServer)
-        throw DataError(QStringLiteral("The benchmarks know SQLite and PostgreSQL only."));
+        throw DataError("The benchmarks know SQLite and PostgreSQL only.");
 }
 
 QString HomeServer::database(const QString& name) const {
     const QString logical = name.isEmpty() ? login.database : name;
-    return entry.engine == Engine::Sqlite ? QDir(entry.folder).filePath(logical + QStringLiteral(".db"))
+    return entry.engine == Engine::Sqlite ? QDir(entry.folder).filePath(logical + ".db")
                                           : (entry.prefix + logical).toLower();
 }
 
@@ -98,7 +98,7 @@ void HomeCopy::writeIni(const QString& home) {
     const ServerEntry& entry = m_server.entry;
     QString text = QStringLiteral("[server %1]\n").arg(m_server.login.server);
     if (engine() == Engine::Sqlite)
-        text += QStringLiteral("engine = sqlite\nfolder = data\n");
+        text += "engine = sqlite\nfolder = data\n";
     else
         text += QStringLiteral("engine = postgresql\nhost = %1\nport = %2\nprefix = %3\n")
                     .arg(entry.host)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/ServerList.h"
+#include "data/engine/ServerList.h"
 
 #include <QStringList>
 #include <QVector>

@@ -7,7 +7,7 @@ namespace orvane {
 
 namespace {
 
-const QString saved = QStringLiteral("Record Succesfully saved");
+const QString saved = "Record Succesfully saved";
 
 QStringList firstColumn(Connection& connection, const Sql& sql) {
     QStringList values;
@@ -140,13 +140,13 @@ Form& Road::opened(const QString& name) {
 void Road::closeReceipt() {
     Form* receipt = m_site.program.loadedForm("frmCashReceipt");
     if (!receipt)
-        throw DataError(QStringLiteral("No receipt came up."));
+        throw DataError("No receipt came up.");
     receipt->abandon();
 }
 
 void Road::expectBoxes(const QString& step, const QStringList& expected) {
     if (const QStringList boxes = m_site.ui.takeBoxes(); boxes != expected)
-        throw DataError(QStringLiteral("%1: %2").arg(step, boxes.join(QStringLiteral(" / "))));
+        throw DataError(QStringLiteral("%1: %2").arg(step, boxes.join(" / ")));
 }
 
 } // namespace orvane

@@ -161,7 +161,7 @@ private:
                                           "hPatients p on p.PNo=b.PNo where b.ID>=")
                                           << atLeast << " and p.clientcatID='PRIVATE' order by b.ID");
         if (bill.eof())
-            throw DataError(QStringLiteral("The hospital has too few private bills."));
+            throw DataError("The hospital has too few private bills.");
         m_subjects.append({bill.text("billNo"), bill.text("PNo"), bill.text("OldPNo"), bill.text("fullname")});
     }
 

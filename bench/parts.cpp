@@ -1,9 +1,9 @@
 // What the parts of one statement cost: composing it, translating it, wording an amount.
-#include "data/FigToWrd.h"
-#include "data/Money.h"
-#include "data/Sql.h"
-#include "data/Statement.h"
-#include "data/Translator.h"
+#include "data/dialect/Sql.h"
+#include "data/dialect/Statement.h"
+#include "data/dialect/Translator.h"
+#include "data/words/FigToWrd.h"
+#include "data/words/Money.h"
 
 #include <benchmark/benchmark.h>
 
@@ -49,7 +49,7 @@ BENCHMARK(wordAmount);
 
 void showAmount(benchmark::State& state) {
     for (auto _ : state)
-        benchmark::DoNotOptimize(formatNumber(1234567.5, QStringLiteral("#,###.00")));
+        benchmark::DoNotOptimize(formatNumber(1234567.5, "#,###.00"));
 }
 BENCHMARK(showAmount);
 

@@ -153,7 +153,7 @@ bool Screens::start() {
 }
 
 void Screens::showMemory(const QString& when) const {
-    QFile file(QStringLiteral("/proc/self/smaps_rollup"));
+    QFile file("/proc/self/smaps_rollup");
     if (!file.open(QIODevice::ReadOnly))
         return;
     const QString text = QString::fromLatin1(file.readAll());
@@ -303,9 +303,9 @@ void Screens::readLongList() {
 template <typename Kind>
 class OneControl : public Form {
 public:
-    explicit OneControl(Ui& user) : Form(user, QStringLiteral("frmOne"), QStringLiteral("One control")) {}
+    explicit OneControl(Ui& user) : Form(user, "frmOne", "One control") {}
     Layout layout() const override { return layout::column({layout::cell(shown)}); }
-    Kind shown{*this, QStringLiteral("shown")};
+    Kind shown{*this, "shown"};
 };
 
 void Screens::pageDown(const QString& what, QAbstractItemView& view) {
@@ -364,7 +364,7 @@ void Screens::showCombo(const Recordset& rows) {
     combo.lineEdit()->setFocus();
     combo.lineEdit()->selectAll();
     Times typed;
-    for (const QChar letter : QStringLiteral("ADEBISI B"))
+    for (const QChar letter : "ADEBISI B")
         typed.add(painted([&] { press(*combo.lineEdit(), 0, letter); }));
     line("combo, a letter typed", typed, QStringLiteral("%1 entries match").arg(combo.completer()->completionCount()));
     form.unload();

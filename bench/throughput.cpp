@@ -4,7 +4,7 @@
 #include "bench/BareEngine.h"
 #include "bench/PgSession.h"
 #include "bench/Recorder.h"
-#include "data/Catalog.h"
+#include "data/dialect/Catalog.h"
 #include "demo/Check.h"
 #include "support/Workstation.h"
 #include "tests/proof/Worker.h"

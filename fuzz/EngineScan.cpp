@@ -27,20 +27,17 @@ bool isWordPart(QChar c) {
 
 /// What opens a name, and what closes it; null for any other character.
 QChar closerOfName(QChar c, Engine engine) {
-    if (c == u'"') {
+    if (c == u'"')
         return u'"';
-    }
-    if (c == u'[' && engine != Engine::Postgresql) {
+    if (c == u'[' && engine != Engine::Postgresql)
         return u']';
-    }
     return c == u'`' && engine == Engine::Sqlite ? QChar(u'`') : QChar();
 }
 
 /// Whether a literal behind this text would be read in another way than as a plain text.
 bool changesLiteral(const QString& before, Engine engine) {
-    if (before.isEmpty()) {
+    if (before.isEmpty())
         return false;
-    }
     return isWordPart(before.back()) || (engine == Engine::Postgresql && before.endsWith(u"U&", Qt::CaseInsensitive));
 }
 
@@ -63,9 +60,8 @@ EngineScan scanForEngine(const QString& text, Engine engine) {
         }
         const QChar closer = closerOfName(c, engine);
         if (c == u'\'') {
-            if (engine == Engine::SqlServer && scan.skeleton.endsWith(u'N')) {
+            if (engine == Engine::SqlServer && scan.skeleton.endsWith(u'N'))
                 scan.skeleton.chop(1);
-            }
             if (changesLiteral(scan.skeleton, engine)) {
                 scan.fault = QStringLiteral("a literal behind a prefix");
                 return scan;
@@ -88,9 +84,8 @@ EngineScan scanForEngine(const QString& text, Engine engine) {
             return scan;
         }
     }
-    if (depth != 0) {
+    if (depth != 0)
         scan.fault = QStringLiteral("parentheses that do not match");
-    }
     return scan;
 }
 
@@ -111,18 +106,16 @@ std::optional<Pieces> splitAtLiterals(const QString& tsql) {
             pieces.between += between;
             pieces.literals += content;
             between.clear();
-            if (i < 0) {
+            if (i < 0)
                 return std::nullopt;
-            }
             continue;
         } else if (const QChar closer = closerOfName(tsql.at(i), Engine::SqlServer); !closer.isNull()) {
             i = behindQuoted(tsql, i, closer, true, content);
         } else {
             ++i;
         }
-        if (i < 0) {
+        if (i < 0)
             return std::nullopt;
-        }
         between += QStringView(tsql).mid(start, i - start);
     }
     pieces.between += between;

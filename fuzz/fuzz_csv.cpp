@@ -1,8 +1,8 @@
 // Any bytes are loaded into a table of an embedded database whole, or refused whole with one line that says where.
 // The first line of the input names the table.
 #include "Demand.h"
-#include "data/Recordset.h"
-#include "data/Schema.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/Schema.h"
 #include "demo/Csv.h"
 #include "demo/CsvLoad.h"
 
@@ -53,23 +53,20 @@ void demandTexts(Connection& billing, const Table& table, const QByteArray& cont
     for (; !rows.eof(); rows.moveNext()) {
         for (const CsvField& head : heads->fields) {
             const QString name = head.text.trimmed();
-            if (table.column(name)->kind == ColumnKind::Text && !rows.isNull(name)) {
+            if (table.column(name)->kind == ColumnKind::Text && !rows.isNull(name))
                 stored += name.toLower() + u'=' + rows.text(name);
-            }
         }
     }
     while (const auto record = reader.next()) {
         for (qsizetype i = 0; i < record->fields.size(); ++i) {
             const QString name = heads->fields.at(i).text.trimmed();
-            if (table.column(name)->kind == ColumnKind::Text && !record->fields.at(i).isNoValue()) {
+            if (table.column(name)->kind == ColumnKind::Text && !record->fields.at(i).isNoValue())
                 given += name.toLower() + u'=' + record->fields.at(i).text;
-            }
         }
     }
     // A column that the file leaves out of a row may have a default.
-    for (const QString& text : std::as_const(given)) {
+    for (const QString& text : std::as_const(given))
         demand(stored.removeOne(text), "a text is stored as it is given", text);
-    }
 }
 
 void fuzzLoad(const Table& table, const QByteArray& content) {
@@ -97,10 +94,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const qsizetype end = input.indexOf('\n');
     const QString name = QString::fromLatin1(input.left(std::max<qsizetype>(end, 0)));
     const auto tables = orvane::Catalog::instance().tables(QStringLiteral("billing"));
-    for (const orvane::Table* table : tables) {
-        if (table->name == name) {
+    for (const orvane::Table* table : tables)
+        if (table->name == name)
             orvane::fuzzLoad(*table, input.mid(end + 1));
-        }
-    }
     return 0;
 }

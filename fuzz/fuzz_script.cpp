@@ -11,8 +11,8 @@ namespace orvane {
 namespace {
 
 bool isOnePrintableLine(const QString& line) {
-    return std::none_of(line.begin(), line.end(),
-                        [](QChar c) { return c != u'\t' && c.category() == QChar::Other_Control; });
+    return std::none_of(
+        line.begin(), line.end(), [](QChar c) { return c != u'\t' && c.category() == QChar::Other_Control; });
 }
 
 void demandReadBack(const QVector<ScriptWord>& words) {
@@ -23,9 +23,8 @@ void demandReadBack(const QVector<ScriptWord>& words) {
     }
     const ScriptLine again = parseScriptLine(texts.join(u' ').toUtf8());
     // Quoting may have made the line longer than a script's longest.
-    if (!again.error.isEmpty() && texts.join(u' ').toUtf8().size() > maxScriptLine) {
+    if (!again.error.isEmpty() && texts.join(u' ').toUtf8().size() > maxScriptLine)
         return;
-    }
     demand(again.error.isEmpty() && again.words.size() == words.size(), "what was read can be written", again.error);
     for (qsizetype i = 0; i < words.size(); ++i) {
         // The log knows one line end only.
@@ -60,8 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     QByteArray script(reinterpret_cast<const char*>(data), qsizetype(size));
     QBuffer lines(&script);
     lines.open(QIODevice::ReadOnly);
-    while (!lines.atEnd()) {
+    while (!lines.atEnd())
         orvane::fuzzLine(lines.readLine(orvane::maxScriptLine + 3));
-    }
     return 0;
 }

@@ -2,8 +2,8 @@
 #include "Demand.h"
 #include "EngineScan.h"
 #include "data/DataError.h"
-#include "data/Statement.h"
-#include "data/Translator.h"
+#include "data/dialect/Statement.h"
+#include "data/dialect/Translator.h"
 
 #include <QRegularExpression>
 #include <cstdint>
@@ -46,9 +46,8 @@ bool isOfPattern(const QString& literal, const QString& given) {
 
 QString withLiterals(const Pieces& pieces, QString (*literal)(qsizetype)) {
     QString tsql = pieces.between.first();
-    for (qsizetype i = 1; i < pieces.between.size(); ++i) {
+    for (qsizetype i = 1; i < pieces.between.size(); ++i)
         tsql += u'\'' + literal(i).replace(u'\'', QStringLiteral("''")) + u'\'' + pieces.between.at(i);
-    }
     return tsql;
 }
 
@@ -82,19 +81,16 @@ void demandLiteralsKept(const Pieces& pieces, Engine engine) {
     demand(plainText.has_value() == hostileText.has_value(), "literals do not decide what is refused", hostileTsql);
     demandKeptAlike(plainTsql, plainText, engine);
     demandKeptAlike(hostileTsql, hostileText, engine);
-    if (!plainText) {
+    if (!plainText)
         return;
-    }
     const EngineScan plain = soundScan(plainTsql, *plainText, engine);
     const EngineScan scan = soundScan(hostileTsql, *hostileText, engine);
     demand(plain.skeleton == scan.skeleton, "literals do not change what stands around them", *hostileText);
     for (qsizetype i = 0; i < scan.literals.size(); ++i) {
         QString expected = plain.literals.at(i);
-        for (qsizetype n = 1; n < pieces.between.size(); ++n) {
-            if (plain.literals.at(i) == harmless(n) || plain.literals.at(i) == harmless(n) + lastCharacter) {
+        for (qsizetype n = 1; n < pieces.between.size(); ++n)
+            if (plain.literals.at(i) == harmless(n) || plain.literals.at(i) == harmless(n) + lastCharacter)
                 expected = hostile(n);
-            }
-        }
         const bool pattern = engine == Engine::Postgresql && isOfPattern(scan.literals.at(i), expected);
         demand(scan.literals.at(i) == expected || pattern, "a literal is kept", *hostileText);
     }
@@ -113,9 +109,8 @@ void fuzzTranslator(const QString& tsql) {
             demand(engine != Engine::SqlServer || definition || scan.literals == pieces->literals,
                    "the server gets each literal as it is", *text);
         }
-        if (pieces) {
+        if (pieces)
             demandLiteralsKept(*pieces, engine);
-        }
     }
 }
 

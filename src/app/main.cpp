@@ -29,26 +29,21 @@ struct Options {
 
 /// The demonstration hospital beside the program, or where the program was started.
 QString usualHome() {
-    const QDir demo(QCoreApplication::applicationDirPath() + QStringLiteral("/../var/demo"));
-    return demo.exists(QStringLiteral("made.sys")) ? demo.canonicalPath() : QDir::currentPath();
+    const QDir demo(QCoreApplication::applicationDirPath() + "/../var/demo");
+    return demo.exists("made.sys") ? demo.canonicalPath() : QDir::currentPath();
 }
 
 Options readOptions(const QCoreApplication& application) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Billing and accounts of a hospital."));
+    parser.setApplicationDescription("Billing and accounts of a hospital.");
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption home(QStringLiteral("home"), QStringLiteral("The program's folder."),
-                                  QStringLiteral("DIR"));
-    const QCommandLineOption user(QStringLiteral("user"), QStringLiteral("The user, instead of the one in sysdoc.sys."),
-                                  QStringLiteral("NAME"));
-    const QCommandLineOption login(QStringLiteral("login"), QStringLiteral("Ask for the user's name and password."));
-    const QCommandLineOption play(QStringLiteral("play"), QStringLiteral("Play a script ('-': standard input)."),
-                                  QStringLiteral("FILE"));
-    const QCommandLineOption window(QStringLiteral("window"), QStringLiteral("Play the script on the real windows."));
-    const QCommandLineOption out(QStringLiteral("out"),
-                                 QStringLiteral("Where a script's pictures, prints and exports go."),
-                                 QStringLiteral("DIR"));
+    const QCommandLineOption home("home", "The program's folder.", "DIR");
+    const QCommandLineOption user("user", "The user, instead of the one in sysdoc.sys.", "NAME");
+    const QCommandLineOption login("login", "Ask for the user's name and password.");
+    const QCommandLineOption play("play", "Play a script ('-': standard input).", "FILE");
+    const QCommandLineOption window("window", "Play the script on the real windows.");
+    const QCommandLineOption out("out", "Where a script's pictures, prints and exports go.", "DIR");
     parser.addOptions({home, user, login, play, window, out});
     parser.process(application);
     Options options;
@@ -72,15 +67,15 @@ int play(const Options& options, Driver* driver, Shower* shower) {
     const bool opened = options.play == QLatin1String("-") ? script.open(fileno(stdin), QIODevice::ReadOnly)
                                                            : script.open(QIODevice::ReadOnly);
     if (!opened)
-        return complain(options.play + QStringLiteral(": ") + script.errorString());
+        return complain(options.play + ": " + script.errorString());
     if (!output.open(stdout, QIODevice::WriteOnly))
-        return complain(QStringLiteral("The standard output cannot be written."));
+        return complain("The standard output cannot be written.");
     return runPlay(options.home, script, output, {options.user, options.out, driver, shower});
 }
 
 int playOnWindows(const Options& options) {
     if (!QDir().mkpath(options.out))
-        return complain(options.out + QStringLiteral(": the folder cannot be made"));
+        return complain(options.out + ": the folder cannot be made");
     DesktopUi desktop;
     desktop.windows().setMainSize(pictureSize);
     desktop.windows().setScripted(true);
@@ -111,8 +106,8 @@ bool needsWindow(int argc, char** argv) {
 }
 
 void nameProgram() {
-    QCoreApplication::setApplicationName(QStringLiteral("Billing"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.0"));
+    QCoreApplication::setApplicationName("Billing");
+    QCoreApplication::setApplicationVersion("1.0");
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "attendance/ConsultID.h"
 
-#include "data/Recordset.h"
+#include "data/rows/Recordset.h"
 
 namespace orvane {
 

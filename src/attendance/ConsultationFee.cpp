@@ -1,7 +1,7 @@
 #include "attendance/ConsultationFee.h"
 
-#include "data/Money.h"
-#include "data/Recordset.h"
+#include "data/rows/Recordset.h"
+#include "data/words/Money.h"
 
 #include <cmath>
 

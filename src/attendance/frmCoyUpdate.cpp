@@ -2,8 +2,7 @@
 
 namespace orvane {
 
-frmCoyUpdate::frmCoyUpdate(Program& owner)
-    : Screen(owner, QStringLiteral("frmCoyUpdate"), QStringLiteral("Company Profile")) {
+frmCoyUpdate::frmCoyUpdate(Program& owner) : Screen(owner, "frmCoyUpdate", "Company Profile") {
     txtNo.setLocked(true);
     txtBill.setLocked(true);
     cboPat.onClick = [this] { cboPat_Click(); };
@@ -24,8 +23,7 @@ void frmCoyUpdate::Form_Load() {
     for (Recordset clients(connection,
                            Sql("select distinct RetainID,ClientName from vwhRetainerShip order by ClientName"));
          !clients.eof(); clients.moveNext())
-        cboPat.addItem(clients.text(QStringLiteral("ClientName")) + QStringLiteral(" [") +
-                       clients.text(QStringLiteral("RetainID")) + QStringLiteral("]"));
+        cboPat.addItem(clients.text("ClientName") + " [" + clients.text("RetainID") + "]");
 }
 
 void frmCoyUpdate::cboPat_Click() {
@@ -43,14 +41,14 @@ void frmCoyUpdate::cboPat_Click() {
                                            << m_retainID << "'");
     if (client.eof())
         return;
-    m_retainCode = client.text(QStringLiteral("retainCode"));
-    const QString clientType = client.text(QStringLiteral("ClientType"));
+    m_retainCode = client.text("retainCode");
+    const QString clientType = client.text("ClientType");
     Recordset categories(connection, clientType.isEmpty()
                                          ? Sql("select distinct clientCatID  from billingPrice")
                                          : Sql("select distinct clientCatID  from billingPrice where clientType='")
                                                << clientType << "'");
     for (; !categories.eof(); categories.moveNext())
-        cboClient.addItem(categories.text(QStringLiteral("clientCatID")));
+        cboClient.addItem(categories.text("clientCatID"));
 }
 
 void frmCoyUpdate::OkButton_Click() {
@@ -64,9 +62,9 @@ void frmCoyUpdate::OkButton_Click() {
         tellProcessed();
         return;
     }
-    program.writeAuditTrail(session.gUsername, QStringLiteral("Update Patients' Company Profile"), txtBill.text(),
-                            QStringLiteral("UpDate Patient Company Profile: ") + session.sBillCoy +
-                                QStringLiteral(" Now: ") + m_clientName + QStringLiteral("/") + cboClient.text(),
+    program.writeAuditTrail(session.gUsername, "Update Patients' Company Profile", txtBill.text(),
+                            "UpDate Patient Company Profile: " + session.sBillCoy + " Now: " + m_clientName + "/" +
+                                cboClient.text(),
                             session.sComputerName);
     unload();
 }
@@ -82,23 +80,23 @@ bool frmCoyUpdate::isProcessed(Connection& connection) const {
 }
 
 void frmCoyUpdate::tellProcessed() {
-    program.box(QStringLiteral("This Bill is already processed! to Modify, unProcess the Batch"));
+    program.box("This Bill is already processed! to Modify, unProcess the Batch");
 }
 
 bool frmCoyUpdate::checkFields() {
     if (txtNo.text().isEmpty()) {
-        program.box(QStringLiteral("Invalid Patient No"));
+        program.box("Invalid Patient No");
         unload();
         return false;
     }
     if (txtBill.text().isEmpty()) {
-        program.box(QStringLiteral("Invalid Bill No"));
+        program.box("Invalid Bill No");
         unload();
         return false;
     }
     for (ComboBox* box : {&cboPat, &cboClient}) {
         if (box->listIndex() < 0) {
-            program.box(QStringLiteral("Specify Company Name"));
+            program.box("Specify Company Name");
             box->setFocus();
             return false;
         }

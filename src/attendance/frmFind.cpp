@@ -4,9 +4,9 @@
 
 namespace orvane {
 
-frmFind::frmFind(Program& owner) : Screen(owner, QStringLiteral("frmFind"), QStringLiteral("Find a Record ")) {
-    txtName.setToolTip(QStringLiteral("enter the first few letters"));
-    TxtID.setToolTip(QStringLiteral("enter New File No and click OK"));
+frmFind::frmFind(Program& owner) : Screen(owner, "frmFind", "Find a Record ") {
+    txtName.setToolTip("enter the first few letters");
+    TxtID.setToolTip("enter New File No and click OK");
     txtName.onChange = [this] { searchByName(); };
     txtName.onEnter = [this] { searchByName(); };
     cmdName.onClick = [this] { searchByName(); };

@@ -4,12 +4,12 @@ namespace orvane {
 
 namespace {
 
-const QString patientsFromDoctor = QStringLiteral("Patients from Doctor");
-const QString noRows = QStringLiteral("---");
+const QString patientsFromDoctor = "Patients from Doctor";
+const QString noRows = "---";
 
 } // namespace
 
-frmFlash::frmFlash(Program& owner) : Screen(owner, QStringLiteral("frmFlash"), QStringLiteral(" Prompt")) {
+frmFlash::frmFlash(Program& owner) : Screen(owner, "frmFlash", " Prompt") {
     cmdPat.onClick = [this] { cmdPat_Click(); };
     dGexp.onDblClick = [this] { dGexp_DblClick(); };
     SSTab1.onClick = [this] { SSTab1_Click(); };
@@ -33,12 +33,12 @@ Layout frmFlash::layout() const {
 void frmFlash::Form_Load() {
     DTPicker1.setDate(session.gServerDate);
     DTPicker2.setDate(session.gServerDate);
-    dGexp.hide({QStringLiteral("pno")});
-    dGexp.setFormat(QStringLiteral("Debt"), QStringLiteral("#,##;(#,##0)"));
-    dGexp.setWidth(QStringLiteral("Fullname"), 36);
-    dGexp.setWidth(QStringLiteral("Date"), 12);
-    dGexp.setWidth(QStringLiteral("Time"), 8);
-    grdData.setWidth(QStringLiteral("Fullname"), 36);
+    dGexp.hide({"pno"});
+    dGexp.setFormat("Debt", "#,##;(#,##0)");
+    dGexp.setWidth("Fullname", 36);
+    dGexp.setWidth("Date", 12);
+    dGexp.setWidth("Time", 8);
+    grdData.setWidth("Fullname", 36);
     showList(Sql("SELECT pno,Fullname,ConsultID as BillNo,Date,Time,Client,Debt,Clinic,ClientCatID as ClientCat from "
                  "vwhConsultingVisitsForBilling where date='")
                  << session.gServerDate << "' order by fullname asc ",
@@ -57,7 +57,7 @@ void frmFlash::cmdCPC_Click() {
     SSTab1.setTab(0);
     showList(Sql("SELECT distinct Drug,Category,UnitsinStock from vwDrugsforGrid where UnitsinStock < 0  order by "
                  "Category Desc,Drug"),
-             QStringLiteral("Overdrawn System Drugs"));
+             "Overdrawn System Drugs");
     if (dGexp.rowCount() == 0)
         lblShow.setText(noRows);
 }
@@ -71,14 +71,14 @@ void frmFlash::showList(const Sql& sql, const QString& caption) {
 }
 
 void frmFlash::dGexp_DblClick() {
-    if (dGexp.currentRow() < 0 || dGexp.columnIndex(QStringLiteral("BillNo")) < 0) {
-        program.box(QStringLiteral("Please select a row "));
+    if (dGexp.currentRow() < 0 || dGexp.columnIndex("BillNo") < 0) {
+        program.box("Please select a row ");
         SSTab1.setTab(0);
         return;
     }
-    session.gSearchBillNo = dGexp.text(QStringLiteral("BillNo"));
+    session.gSearchBillNo = dGexp.text("BillNo");
     unload();
-    program.open(QStringLiteral("frmBillingVerify"));
+    program.open("frmBillingVerify");
 }
 
 void frmFlash::SSTab1_Click() {
@@ -96,9 +96,9 @@ void frmFlash::cmdExpected_Click() {
 }
 
 void frmFlash::showHistory() {
-    sHistoryPno = dGexp.columnIndex(QStringLiteral("pno")) < 0 ? QString() : dGexp.text(QStringLiteral("pno"));
+    sHistoryPno = dGexp.columnIndex("pno") < 0 ? QString() : dGexp.text("pno");
     if (sHistoryPno.isEmpty()) {
-        program.box(QStringLiteral("Please select a row to view Attendance History for the Patient"));
+        program.box("Please select a row to view Attendance History for the Patient");
         SSTab1.setTab(0);
         return;
     }
@@ -107,12 +107,12 @@ void frmFlash::showHistory() {
                            Sql("select Recdate as Date,Time,ConsultID as BillNo,Fullname from qryhvisits where pno='")
                                << sHistoryPno << "' and recdate between '" << DTPicker1.date() << "' and '"
                                << DTPicker2.date() << "' order by recdate desc"));
-    lblShow.setText(QStringLiteral("View Patient Attendance History for: ") + dGexp.text(QStringLiteral("Fullname")));
+    lblShow.setText("View Patient Attendance History for: " + dGexp.text("Fullname"));
 }
 
 void frmFlash::cmdPrint_Click() {
     if (dGexp.rowCount() == 0) {
-        program.box(QStringLiteral("No record is displayed for printing"));
+        program.box("No record is displayed for printing");
         return;
     }
     Recordset rows;
@@ -121,9 +121,9 @@ void frmFlash::cmdPrint_Click() {
         rows = Recordset(connection, m_list);
     }
     if (rows.eof())
-        program.box(QStringLiteral("No info for this request : \n") + m_listCaption);
+        program.box("No info for this request : \n" + m_listCaption);
     else
-        ui().viewReport(QStringLiteral("rptPrompt"), m_listCaption, rows);
+        ui().viewReport("rptPrompt", m_listCaption, rows);
 }
 
 } // namespace orvane

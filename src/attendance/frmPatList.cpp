@@ -10,8 +10,7 @@ QString inLastBrackets(const QString& entry) {
 
 } // namespace
 
-frmPatList::frmPatList(Program& owner)
-    : Screen(owner, QStringLiteral("frmPatList"), QStringLiteral("Patient List for Printing of Bills")) {
+frmPatList::frmPatList(Program& owner) : Screen(owner, "frmPatList", "Patient List for Printing of Bills") {
     cboVehNo.onClick = [this] { cboVehNo_Click(); };
     OKButton.onClick = [this] { OKButton_Click(); };
     CancelButton.onClick = [this] { unload(); };
@@ -29,9 +28,7 @@ void frmPatList::Form_Load() {
         connection,
         Sql("SELECT distinct billno,clientID,fullname FROM qryBillingBalanceDueForPrivate order by fullname"));
     for (; !bills.eof(); bills.moveNext())
-        cboVehNo.addItem(bills.text(QStringLiteral("fullname")) + QStringLiteral(" @ ") +
-                         bills.text(QStringLiteral("clientID")) + QStringLiteral("  [") +
-                         bills.text(QStringLiteral("billNo")) + QStringLiteral("]"));
+        cboVehNo.addItem(bills.text("fullname") + " @ " + bills.text("clientID") + "  [" + bills.text("billNo") + "]");
 }
 
 // The list names a bill; its patient's other bills with a balance are listed behind it.
@@ -48,14 +45,13 @@ void frmPatList::cboVehNo_Click() {
     Recordset bills(connection, Sql("select bdate,pno,billno,clientID from qryBillingBalanceDueForPrivate where pno='")
                                     << patient.text(QStringLiteral("pno")) << "'");
     for (; !bills.eof(); bills.moveNext())
-        cboBill.addItem(bills.text(QStringLiteral("clientID")) + QStringLiteral(" @ ") +
-                        bills.date(QStringLiteral("bdate")).toString(QStringLiteral("dd/MM/yyyy")) +
-                        QStringLiteral("  [") + bills.text(QStringLiteral("billNo")) + QStringLiteral("]"));
+        cboBill.addItem(bills.text("clientID") + " @ " + bills.date("bdate").toString("dd/MM/yyyy") + "  [" +
+                        bills.text("billNo") + "]");
 }
 
 void frmPatList::OKButton_Click() {
     if (cboBill.listIndex() < 0) {
-        program.box(QStringLiteral("Please select a row "));
+        program.box("Please select a row ");
         cboBill.setFocus();
         return;
     }
@@ -63,7 +59,7 @@ void frmPatList::OKButton_Click() {
     Connection connection = program.openBilling();
     const Recordset bill(connection, Sql("select * from qryBillingBalanceDueForPrivate where billno='")
                                          << session.sWorkPno << "'");
-    ui().viewReport(QStringLiteral("rptBilling"), QStringLiteral("Private Bill ") + session.sWorkPno, bill);
+    ui().viewReport("rptBilling", "Private Bill " + session.sWorkPno, bill);
 }
 
 } // namespace orvane

@@ -50,10 +50,9 @@ constexpr CardField cardFields[] = {
 
 } // namespace
 
-frmPatientInfo::frmPatientInfo(Program& owner)
-    : Screen(owner, QStringLiteral("frmPatientInfo"), QStringLiteral("Patient Information")) {
+frmPatientInfo::frmPatientInfo(Program& owner) : Screen(owner, "frmPatientInfo", "Patient Information") {
     for (const CardField& field : cardFields) {
-        m_fields.push_back(std::make_unique<TextBox>(*this, QStringLiteral("txt_") + QLatin1String(field.column)));
+        m_fields.push_back(std::make_unique<TextBox>(*this, "txt_" + QLatin1String(field.column)));
         m_fields.back()->setLocked(true);
     }
     txtAge.setLocked(true);
@@ -90,20 +89,19 @@ Layout frmPatientInfo::layout() const {
 
 void frmPatientInfo::Form_Load() {
     TreeView1.clear();
-    TreeView1.addNode({QStringLiteral("qvr"), QStringLiteral("HALDEN HOSPITAL"), {}, true});
+    TreeView1.addNode({"qvr", "HALDEN HOSPITAL", {}, true});
     TreeView1.fill(Recordset::paged(program.openBilling(), Sql("SELECT * FROM qryhCardNotExpired order by psurname")),
                    [](const Recordset& patient) {
-                       const QString number = patient.text(QStringLiteral("pNo"));
-                       return Tree::Node{QStringLiteral("ijkl") + number,
-                                         patient.text(QStringLiteral("psurname")) + QStringLiteral(" ") +
-                                             patient.text(QStringLiteral("pfirstname")) + QStringLiteral(" [") +
-                                             number + QStringLiteral("]"),
-                                         QStringLiteral("qvr"), false};
+                       const QString number = patient.text("pNo");
+                       return Tree::Node{"ijkl" + number,
+                                         patient.text("psurname") + " " + patient.text("pfirstname") + " [" + number +
+                                             "]",
+                                         "qvr", false};
                    });
     // The tree is still being read.
     Connection connection = program.openBilling();
     const Recordset all(connection, Sql("SELECT count(*) as patients FROM qryhCardNotExpired"));
-    LabelCount.setText(QStringLiteral("No of Patients : ") + all.text(QStringLiteral("patients")));
+    LabelCount.setText("No of Patients : " + all.text("patients"));
 }
 
 void frmPatientInfo::TreeView1_NodeClick() {
@@ -123,33 +121,31 @@ void frmPatientInfo::showCard(const Recordset& patient) {
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         const QString name = QLatin1String(cardFields[i].column);
         const bool starred = name == QLatin1String("pCatID") || name == QLatin1String("empNo");
-        QString text = cardFields[i].holds == Holds::Date ? patient.date(name).toString(QStringLiteral("dd/MM/yyyy"))
-                                                          : patient.text(name);
+        QString text =
+            cardFields[i].holds == Holds::Date ? patient.date(name).toString("dd/MM/yyyy") : patient.text(name);
         if (text.isEmpty() && starred)
-            text = QStringLiteral("**");
+            text = "**";
         m_fields[i]->setText(text);
     }
-    lblHeading.setText(QStringLiteral("Patient Information  : ") + m_name);
-    const QDate born = patient.date(QStringLiteral("DOB"));
-    txtAge.setText(born.isValid()
-                       ? QString::number(program.ui().now().date().year() - born.year()) + QStringLiteral(" yrs")
-                       : QStringLiteral("--"));
+    lblHeading.setText("Patient Information  : " + m_name);
+    const QDate born = patient.date("DOB");
+    txtAge.setText(born.isValid() ? QString::number(program.ui().now().date().year() - born.year()) + " yrs" : "--");
 }
 
 void frmPatientInfo::cmdREpairs_Click() {
     Connection connection = program.openBilling();
-    grdData.setFormat(QStringLiteral("Balance"), QStringLiteral("#,###.00"));
+    grdData.setFormat("Balance", "#,###.00");
     grdData.load(Recordset(
         connection,
         Sql("select bDate,BalanceDate,billNo,pNo,Fullname,Balance from qryhBillingbalanceForPrivate where pNo='")
             << m_pno << "'"));
-    lblDisplay.setText(QStringLiteral("Balance to be paid by ") + m_name);
+    lblDisplay.setText("Balance to be paid by " + m_name);
 }
 
 void frmPatientInfo::cmdTyres_Click() {
     Connection connection = program.openBilling();
     grdData.load(Recordset(connection, Sql("select * from qryhVisits where pNo='") << m_pno << "'"));
-    lblDisplay.setText(QStringLiteral("Frequency of Hospital Visits by ") + m_name);
+    lblDisplay.setText("Frequency of Hospital Visits by " + m_name);
 }
 
 } // namespace orvane

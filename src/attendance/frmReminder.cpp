@@ -2,13 +2,9 @@
 
 namespace orvane {
 
-frmReminder::frmReminder(Program& owner) : Screen(owner, QStringLiteral("frmReminder"), QStringLiteral("Prompts")) {
-    cmdExpected.onClick = [this] {
-        showList(Sql("select * from qryhvisitsForToday"), QStringLiteral("Hospital Attendance"));
-    };
-    cmdReorder.onClick = [this] {
-        showList(Sql("select * from qryhNextAppt"), QStringLiteral("Patients Appt Date Due Today"));
-    };
+frmReminder::frmReminder(Program& owner) : Screen(owner, "frmReminder", "Prompts") {
+    cmdExpected.onClick = [this] { showList(Sql("select * from qryhvisitsForToday"), "Hospital Attendance"); };
+    cmdReorder.onClick = [this] { showList(Sql("select * from qryhNextAppt"), "Patients Appt Date Due Today"); };
     cmdClose.onClick = [this] { unload(); };
 }
 

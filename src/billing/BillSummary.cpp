@@ -1,7 +1,7 @@
 #include "billing/BillSummary.h"
 
 #include "billing/BillingRow.h"
-#include "data/Money.h"
+#include "data/words/Money.h"
 #include "receipts/PatientAccount.h"
 
 namespace orvane {

@@ -1,6 +1,6 @@
 #include "billing/Collate.h"
 
-#include "data/Money.h"
+#include "data/words/Money.h"
 #include "receipts/PatientAccount.h"
 
 namespace orvane {

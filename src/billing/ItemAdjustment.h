@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/Money.h"
+#include "data/words/Money.h"
 #include "session/Program.h"
 
 namespace orvane {

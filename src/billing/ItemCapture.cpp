@@ -3,7 +3,7 @@
 #include "billing/BillSummary.h"
 #include "billing/Collate.h"
 #include "billing/TreatmentPlan.h"
-#include "data/Money.h"
+#include "data/words/Money.h"
 
 namespace orvane {
 

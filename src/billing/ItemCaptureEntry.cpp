@@ -1,6 +1,6 @@
 #include "billing/ItemCapture.h"
 
-#include "data/Money.h"
+#include "data/words/Money.h"
 
 namespace orvane {
 

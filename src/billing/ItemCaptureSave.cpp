@@ -1,7 +1,7 @@
 #include "billing/BillingRow.h"
 #include "billing/Collate.h"
 #include "billing/ItemCapture.h"
-#include "data/Money.h"
+#include "data/words/Money.h"
 #include "receipts/PatientAccount.h"
 
 namespace orvane {

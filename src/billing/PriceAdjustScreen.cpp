@@ -1,7 +1,7 @@
 #include "billing/PriceAdjustScreen.h"
 
 #include "billing/Collate.h"
-#include "data/Money.h"
+#include "data/words/Money.h"
 
 namespace orvane {
 

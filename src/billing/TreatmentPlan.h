@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/Recordset.h"
+#include "data/rows/Recordset.h"
 
 namespace orvane {
 

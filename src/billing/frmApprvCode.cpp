@@ -2,7 +2,7 @@
 
 namespace orvane {
 
-frmApprvCode::frmApprvCode(Program& owner) : Screen(owner, QStringLiteral("frmApprvCode"), QStringLiteral("HMO/NHIS")) {
+frmApprvCode::frmApprvCode(Program& owner) : Screen(owner, "frmApprvCode", "HMO/NHIS") {
     cmdInv.onClick = [this] { cmdInv_Click(); };
     cboVehNo.onClick = [this] { cboVehNo_Click(); };
     cmdEdit.onClick = [this] { cmdEdit_Click(); };
@@ -33,8 +33,8 @@ void frmApprvCode::Form_Load() {
     const QDate today = program.getServerDateTime().date();
     for (DatePicker* picker : {&DTPicker1, &DTPicker2, &dtDate})
         picker->setDate(today);
-    cboBill.addItems({QStringLiteral("FEE-FOR-SERVICE"), QStringLiteral("CLAIMS"), QStringLiteral("COMPANY")});
-    grdData.hide({QStringLiteral("SNO")});
+    cboBill.addItems({"FEE-FOR-SERVICE", "CLAIMS", "COMPANY"});
+    grdData.hide({"SNO"});
 }
 
 void frmApprvCode::cmdInv_Click() {
@@ -46,9 +46,8 @@ void frmApprvCode::cmdInv_Click() {
                                      << DTPicker1.date() << "' and '" << DTPicker2.date() << "' and  clientCatID <> '"
                                      << session.gPrivateTariff << "' order by fullname ");
     for (; !visits.eof(); visits.moveNext())
-        cboVehNo.addItem(visits.text(QStringLiteral("Fullname")) + QStringLiteral(" @") +
-                         visits.date(QStringLiteral("Date")).toString(QStringLiteral("dd/MM/yyyy")) +
-                         QStringLiteral(" [") + visits.text(QStringLiteral("billNo")) + QStringLiteral("]"));
+        cboVehNo.addItem(visits.text("Fullname") + " @" + visits.date("Date").toString("dd/MM/yyyy") + " [" +
+                         visits.text("billNo") + "]");
 }
 
 void frmApprvCode::cboVehNo_Click() {
@@ -75,7 +74,7 @@ void frmApprvCode::cboVehNo_Click() {
                  {lblAge, "Age"},           {lblCoy, "Company"},    {lblRef, "ref"}};
     for (const auto& fact : facts)
         fact.label.setText(visit.text(QLatin1String(fact.column)));
-    dtDate.setDate(visit.date(QStringLiteral("recDate")));
+    dtDate.setDate(visit.date("recDate"));
     fillGrid();
 }
 
@@ -89,26 +88,26 @@ void frmApprvCode::fillGrid() {
 
 void frmApprvCode::OKButton_Click() {
     if (dtDate.isEmpty()) {
-        program.box(QStringLiteral("Specify Date of Approval"));
+        program.box("Specify Date of Approval");
         dtDate.setFocus();
         return;
     }
     if (m_consultID.isEmpty()) {
-        program.box(QStringLiteral("Select a Patient for this Approval"));
+        program.box("Select a Patient for this Approval");
         return;
     }
     if (txtApprv.text().trimmed().isEmpty()) {
-        program.box(QStringLiteral("Specify Approval Code for this Treatment"));
+        program.box("Specify Approval Code for this Treatment");
         return;
     }
     if (cboBill.text().isEmpty()) {
-        program.box(QStringLiteral("Specify Billing Category for this Approval"));
+        program.box("Specify Billing Category for this Approval");
         return;
     }
     save();
-    program.box(QStringLiteral("Record Succesfully saved"));
-    program.writeAuditTrail(session.gUsername, QStringLiteral("Add Apprv Code for ") + m_patient, m_consultID,
-                            txtApprv.text(), session.sComputerName);
+    program.box("Record Succesfully saved");
+    program.writeAuditTrail(session.gUsername, "Add Apprv Code for " + m_patient, m_consultID, txtApprv.text(),
+                            session.sComputerName);
     fillGrid();
     clearCode();
 }
@@ -130,23 +129,23 @@ void frmApprvCode::save() {
         return;
     if (!bEditing)
         code.addNew();
-    code.set(QStringLiteral("ApprvDate"), dtDate.date());
-    code.set(QStringLiteral("consultID"), m_consultID);
-    code.set(QStringLiteral("ApprvCode"), txtApprv.text());
-    code.set(QStringLiteral("Remarks"), txtRem.text());
-    code.set(QStringLiteral("billType"), cboBill.text());
-    code.set(QStringLiteral("PNo"), lblNo.text());
+    code.set("ApprvDate", dtDate.date());
+    code.set("consultID", m_consultID);
+    code.set("ApprvCode", txtApprv.text());
+    code.set("Remarks", txtRem.text());
+    code.set("billType", cboBill.text());
+    code.set("PNo", lblNo.text());
     code.update();
 }
 
 void frmApprvCode::cmdEdit_Click() {
     if (grdData.currentRow() < 0)
         return;
-    dtDate.setDate(grdData.date(QStringLiteral("ApprvDate")));
-    txtApprv.setText(grdData.text(QStringLiteral("ApprvCode")));
+    dtDate.setDate(grdData.date("ApprvDate"));
+    txtApprv.setText(grdData.text("ApprvCode"));
     cboBill.setListIndex(-1);
-    cboBill.setText(grdData.text(QStringLiteral("BillType")));
-    txtRem.setText(grdData.text(QStringLiteral("Remarks")));
+    cboBill.setText(grdData.text("BillType"));
+    txtRem.setText(grdData.text("Remarks"));
     bEditing = true;
     txtApprv.setFocus();
 }
@@ -154,13 +153,13 @@ void frmApprvCode::cmdEdit_Click() {
 void frmApprvCode::cmdDel_Click() {
     if (grdData.currentRow() < 0)
         return;
-    if (!program.question(QStringLiteral("Are you sure to Delete Record"), QStringLiteral("Delete")))
+    if (!program.question("Are you sure to Delete Record", "Delete"))
         return;
     {
         Connection connection = program.openBilling();
         connection.execute(Sql("delete from hApprvCode where sno = '") << grdData.text(QStringLiteral("SNO")) << "'");
     }
-    program.box(QStringLiteral(" Record successfully deleted "));
+    program.box(" Record successfully deleted ");
     bEditing = false;
     fillGrid();
 }

@@ -2,12 +2,11 @@
 
 #include "billing/BillingRow.h"
 #include "billing/Collate.h"
-#include "data/Money.h"
+#include "data/words/Money.h"
 
 namespace orvane {
 
-frmBillDiscount::frmBillDiscount(Program& owner)
-    : Screen(owner, QStringLiteral("frmBillDiscount"), QStringLiteral("Discounts")) {
+frmBillDiscount::frmBillDiscount(Program& owner) : Screen(owner, "frmBillDiscount", "Discounts") {
     txtDue.numeric();
     txtDue.setLocked(true);
     txtHt.numeric();
@@ -32,16 +31,15 @@ void frmBillDiscount::Form_Load() {
     const QDate today = program.getServerDateTime().date();
     for (DatePicker* picker : {&DTPicker1, &DTPicker2, &dtDate})
         picker->setDate(today);
-    cboClinic.addItems({QString(), QStringLiteral("BILL"), QStringLiteral("DISCOUNT")});
-    cboCat.addItems({QString(), QStringLiteral("ENT"), QStringLiteral("DENTAL"), QStringLiteral("EYE"),
-                     QStringLiteral("BILL"), QStringLiteral("DISCOUNT")});
-    cboPay.addItems({QString(), QStringLiteral("CASH"), QStringLiteral("CHEQUE")});
-    cboPay.setText(QStringLiteral("CASH"));
+    cboClinic.addItems({QString(), "BILL", "DISCOUNT"});
+    cboCat.addItems({QString(), "ENT", "DENTAL", "EYE", "BILL", "DISCOUNT"});
+    cboPay.addItems({QString(), "CASH", "CHEQUE"});
+    cboPay.setText("CASH");
 }
 
 void frmBillDiscount::cboClinic_Click() {
     if (isDiscount())
-        cboCat.setText(QStringLiteral("DISCOUNT"));
+        cboCat.setText("DISCOUNT");
     else if (cboClinic.text() == QLatin1String("BILL"))
         cboCat.setListIndex(-1);
 }
@@ -53,9 +51,7 @@ void frmBillDiscount::cmdInv_Click() {
     Recordset bills(connection, Sql("select distinct date,pno,fullname,billno from vwBilling where  date between '")
                                     << DTPicker1.date() << "' and '" << DTPicker2.date() << " '");
     for (; !bills.eof(); bills.moveNext())
-        cboVehNo.addItem(bills.text(QStringLiteral("fullname")) + QStringLiteral(" [") +
-                         bills.text(QStringLiteral("PNo")) + QStringLiteral("]#") +
-                         bills.text(QStringLiteral("billNo")));
+        cboVehNo.addItem(bills.text("fullname") + " [" + bills.text("PNo") + "]#" + bills.text("billNo"));
 }
 
 void frmBillDiscount::cboVehNo_Click() {
@@ -66,12 +62,12 @@ void frmBillDiscount::cboVehNo_Click() {
     const auto bracket = entry.lastIndexOf(QLatin1Char('['), hash);
     m_pno = entry.mid(bracket + 1, hash - bracket - 2);
     lblBill.setText(entry.mid(hash + 1));
-    Label5.setText(QStringLiteral("Bill/Discount for: ") + entry.left(bracket).trimmed());
+    Label5.setText("Bill/Discount for: " + entry.left(bracket).trimmed());
     Connection connection = program.openBilling();
     const Recordset bill(connection, Sql("select AmountBilled,Amountpaid,billno from Billing where billno='")
                                          << lblBill.text() << "'");
-    const double billed = bill.eof() ? 0 : bill.number(QStringLiteral("AmountBilled"));
-    const double paid = bill.eof() ? 0 : bill.number(QStringLiteral("Amountpaid"));
+    const double billed = bill.eof() ? 0 : bill.number("AmountBilled");
+    const double paid = bill.eof() ? 0 : bill.number("Amountpaid");
     txtDue.setText(formatTwoDecimals(billed - paid));
     lblAmt.setText(formatTwoDecimals(paid));
 }

@@ -1,6 +1,6 @@
 #include "billing/BillSummary.h"
 #include "billing/frmBillingVerify.h"
-#include "data/Money.h"
+#include "data/words/Money.h"
 
 #include <QRegularExpression>
 

@@ -82,12 +82,12 @@ void frmPriceAdjustVerify::showItem(Connection& connection, const Recordset& ite
     m_date = item.date("dtDate");
     m_oldAmount = item.number("SubTotal");
     const QString capitated = item.text("Capitated");
-    cboCap.setText(capitated.isEmpty() || !isCapitatedCategory(m_category) ? QStringLiteral("NO") : capitated);
+    cboCap.setText(capitated.isEmpty() || !isCapitatedCategory(m_category) ? "NO" : capitated);
     cboAttend.setText(item.integer("attendedto") == 1 ? "YES" : "NO");
     const QString revType = item.text("revType");
     if (!revType.isEmpty() && !cboRev.items().contains(revType, Qt::CaseInsensitive))
         cboRev.addItem(revType);
-    cboRev.setText(revType.isEmpty() ? QStringLiteral("OTHERS") : revType);
+    cboRev.setText(revType.isEmpty() ? "OTHERS" : revType);
     offerClients(cboPat, connection, payers(m_billTo), m_billTo);
 }
 
@@ -220,7 +220,7 @@ void frmPriceAdjustVerify::rememberChoice() {
     const Recordset item(connection, Sql("select billtype from billAccum where SNo=") << m_sno);
     if (item.eof())
         return; // removed since
-    const QString kind = item.text("billtype").isEmpty() ? QStringLiteral("SERVICE") : item.text("billtype");
+    const QString kind = item.text("billtype").isEmpty() ? "SERVICE" : item.text("billtype");
     if (const TariffKind* known = tariffKind(kind, BillPatTariff))
         rememberTemplateFlags(connection, *known, {m_category, m_retainID, m_referal}, change().newItem, cboCap.text(),
                               cboRev.text());

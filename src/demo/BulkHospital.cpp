@@ -2,8 +2,8 @@
 
 #include "attendance/ConsultationFee.h"
 #include "billing/BillDate.h"
-#include "data/Money.h"
-#include "data/Transaction.h"
+#include "data/rows/Transaction.h"
+#include "data/words/Money.h"
 #include "demo/BulkRows.h"
 
 #include <cmath>
@@ -29,8 +29,8 @@ class BulkHospital {
 public:
     BulkHospital(DemoHospital& hospital, Connection& billing, Connection& audit)
         : m_hospital(hospital), m_random(hospital.random), m_prices(billing),
-          m_rows(billing, audit, hospital, m_prices), m_officers(hospital.employeesOf(QStringLiteral("REC"))),
-          m_doctors(hospital.employeesOf(QStringLiteral("MED"))), m_lastVisit(hospital.patients.size()) {
+          m_rows(billing, audit, hospital, m_prices), m_officers(hospital.employeesOf("REC")),
+          m_doctors(hospital.employeesOf("MED")), m_lastVisit(hospital.patients.size()) {
         for (Recordset row(billing, Sql("select retainID,BillEndDate from hRetainership")); !row.eof(); row.moveNext())
             m_billEndDays.insert(row.text("retainID"), int(row.integer("BillEndDate")));
     }
@@ -93,10 +93,10 @@ private:
         const QStringList& other = m_random.pick(m_hospital.clinics);
         const QStringList& clinic = m_random.chance(50) ? m_hospital.clinics.first() : other;
         visit.clinic = clinic.at(0);
-        visit.purpose = m_random.chance(15) ? QStringLiteral("FOLLOW-UP") : QStringLiteral("CONSULTATION");
+        visit.purpose = m_random.chance(15) ? "FOLLOW-UP" : "CONSULTATION";
         BulkItem consultation;
-        consultation.name = consultation.revType = QStringLiteral("CONSULTATION");
-        consultation.billType = QStringLiteral("SERVICE");
+        consultation.name = consultation.revType = "CONSULTATION";
+        consultation.billType = "SERVICE";
         consultation.price = consultation.subTotal = consultationFee(clinic.at(1).toDouble(), visit.purpose);
         visit.items.append(consultation);
         return visit;
@@ -152,7 +152,7 @@ private:
         row.name = item.name;
         row.category = item.category;
         row.revType = price.revType;
-        row.billType = item.kind == QLatin1String("LAB") ? QStringLiteral("INVESTIGATION") : item.kind;
+        row.billType = item.kind == QLatin1String("LAB") ? "INVESTIGATION" : item.kind;
         row.price = price.price;
         row.quantity = quantity;
         row.subTotal = round2(price.price * quantity);
@@ -268,7 +268,7 @@ private:
 void checkItemNumbers(Connection& billing, qlonglong items) {
     const Recordset row(billing, Sql("select count(*) as N,min(SNo) as Lowest,max(SNo) as Highest from BillAccum"));
     if (row.integer("N") != items || row.integer("Lowest") != 1 || row.integer("Highest") != items)
-        throw DataError(QStringLiteral("The items were not numbered from 1 on; the hospital is useless."));
+        throw DataError("The items were not numbered from 1 on; the hospital is useless.");
 }
 
 /// A transaction of each of the connections; the audit trail's may be the billing one's.

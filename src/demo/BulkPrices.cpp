@@ -22,10 +22,9 @@ PriceBook::PriceBook(Connection& billing) {
 
 BulkPrice PriceBook::price(const DemoItem& item, const DemoPatient& patient) const {
     const List& list = *m_lists.constFind(item.kind);
-    const TariffVisit visit{patient.category, patient.clientID,
-                            patient.feeForService ? QStringLiteral("YES") : QStringLiteral("NO")};
+    const TariffVisit visit{patient.category, patient.clientID, patient.feeForService ? "YES" : "NO"};
     const Entry own = list.value({item.name, tariffKey(visit)});
-    const Entry used = own.price > 0 ? own : list.value({item.name, QStringLiteral("0001")});
+    const Entry used = own.price > 0 ? own : list.value({item.name, "0001"});
     const QString& revType = own.revType;
     return {used.price, verifiedCapitation(BillPatTariff, visit, used.capitated) == QLatin1String("YES"),
             revType.isEmpty() || revType == QLatin1String("OTHERS") ? item.revType : revType};

@@ -1,6 +1,6 @@
 #include "demo/BulkRows.h"
 
-#include "data/Money.h"
+#include "data/words/Money.h"
 #include "session/Words.h"
 
 #include <QLocale>
@@ -10,15 +10,15 @@ namespace orvane {
 namespace {
 
 constexpr const char* workstation = "HALDEN-1";
-const QString privateClient = QStringLiteral("0001");
-const QString suspenseAccount = QStringLiteral("2130010");
+const QString privateClient = "0001";
+const QString suspenseAccount = "2130010";
 
 QString yesNo(bool yes) {
-    return yes ? QStringLiteral("YES") : QStringLiteral("NO");
+    return yes ? "YES" : "NO";
 }
 
 QString shortTime(QTime time) {
-    return time.toString(QStringLiteral("HH:mm"));
+    return time.toString("HH:mm");
 }
 
 QString fullName(const DemoPatient& patient) {
@@ -50,14 +50,11 @@ double BulkVisit::paid() const {
 }
 
 BulkRows::BulkRows(Connection& billing, Connection& audit, const DemoHospital& hospital, const PriceBook& prices)
-    : m_hospital(hospital), m_prices(prices), m_visits(billing, QStringLiteral("hRecords")),
-      m_consultations(billing, QStringLiteral("hconsulting")), m_items(billing, QStringLiteral("BillAccum")),
-      m_bills(billing, QStringLiteral("Billing")), m_lines(billing, QStringLiteral("BillingDetails")),
-      m_payments(billing, QStringLiteral("Payments")), m_ways(billing, QStringLiteral("PaymentTypes")),
-      m_shares(billing, QStringLiteral("PaymentDetails")), m_account(billing, QStringLiteral("Tranxaction")),
-      m_approvals(billing, QStringLiteral("hApprvCode")), m_admissions(billing, QStringLiteral("hAdmission")),
-      m_appointments(billing, QStringLiteral("hreferal")), m_sessions(billing, QStringLiteral("UserActivities")),
-      m_trail(audit, QStringLiteral("AuditTrail")) {}
+    : m_hospital(hospital), m_prices(prices), m_visits(billing, "hRecords"), m_consultations(billing, "hconsulting"),
+      m_items(billing, "BillAccum"), m_bills(billing, "Billing"), m_lines(billing, "BillingDetails"),
+      m_payments(billing, "Payments"), m_ways(billing, "PaymentTypes"), m_shares(billing, "PaymentDetails"),
+      m_account(billing, "Tranxaction"), m_approvals(billing, "hApprvCode"), m_admissions(billing, "hAdmission"),
+      m_appointments(billing, "hreferal"), m_sessions(billing, "UserActivities"), m_trail(audit, "AuditTrail") {}
 
 void BulkRows::flush() {
     for (BulkInsert* table :
@@ -101,7 +98,7 @@ void BulkRows::addItem(const BulkVisit& visit, const BulkItem& item) {
     const bool consultation = isConsultation(visit, item);
     const QString client = visit.patient->clientID;
     const auto unless = [](bool missing, const QVariant& value) { return missing ? QVariant() : value; };
-    QVariant capitated = item.onBill || !saved ? QStringLiteral("NO") : QStringLiteral("YES");
+    QVariant capitated = item.onBill || !saved ? "NO" : "YES";
     if (consultation && !item.onBill)
         capitated = QVariant();
     m_items.add({{"dtDate", visit.at.date()},
@@ -112,14 +109,14 @@ void BulkRows::addItem(const BulkVisit& visit, const BulkItem& item) {
                  {"Price", item.price},
                  {"Qty", item.quantity},
                  {"SubTotal", item.subTotal},
-                 {"usage", unless(consultation || !saved, QStringLiteral("***"))},
+                 {"usage", unless(consultation || !saved, "***")},
                  {"billType", item.billType},
                  {"billTo", unless(consultation && !saved, client)},
                  {"coyName", unless(consultation && !saved, client)},
                  {"revType", unless(consultation && !saved, item.revType)},
                  {"conID", unless(consultation || saved, 0)},
                  {"Capitated", capitated},
-                 {"BillBy", unless(consultation || saved, QStringLiteral("halima.y"))},
+                 {"BillBy", unless(consultation || saved, "halima.y")},
                  {"attendedto", saved ? 1 : 0},
                  {"isBilled", saved ? 1 : 0},
                  {"isRct", item.covered ? 1 : 0}});
@@ -159,7 +156,7 @@ void BulkRows::addBill(const BulkVisit& visit, DemoPatient& patient, const BulkU
 
 void BulkRows::addLine(const BulkVisit& visit, const BulkItem& item, DemoPatient& patient) {
     const bool consultation = isConsultation(visit, item);
-    const QString told = item.name + QStringLiteral(": ") + formatTwoDecimals(item.subTotal);
+    const QString told = item.name + ": " + formatTwoDecimals(item.subTotal);
     if (consultation && item.onBill)
         addTrail(QStringLiteral("insert Bill Item for %1").arg(fullName(patient)), visit.consultID, told, workstation);
     const QString client = consultation ? QString() : m_hospital.clientName(patient.clientID);
@@ -182,7 +179,7 @@ void BulkRows::addLine(const BulkVisit& visit, const BulkItem& item, DemoPatient
                  {"billTo", patient.clientID},
                  {"revType", item.revType},
                  {"BillBy", consultation ? QVariant(m_user.name) : QVariant()},
-                 {"Capitated", consultation ? QVariant() : QVariant(QStringLiteral("NO"))},
+                 {"Capitated", consultation ? QVariant() : QVariant("NO")},
                  {"isRct", item.covered ? 1 : 0}});
     if (patient.clientID == privateClient)
         addAccountEntry(visit, patient, -item.subTotal, item.name);
@@ -221,19 +218,17 @@ void BulkRows::addReceipt(const BulkVisit& visit, DemoPatient& patient) {
     }
     if (left > 0) {
         BulkItem balance;
-        balance.name = QStringLiteral("BALANCE_PAYMENT");
-        balance.revType = QStringLiteral("DEPOSITS");
+        balance.name = "BALANCE_PAYMENT";
+        balance.revType = "DEPOSITS";
         balance.subTotal = left;
         addShare(visit, balance, {}, left, suspenseAccount);
     }
-    addAccountEntry(visit, patient, visit.paid(), QStringLiteral("Payment"));
+    addAccountEntry(visit, patient, visit.paid(), "Payment");
     const QString entry = QStringLiteral("%1 @%2 %3 - %4 [%5]#%6")
-                              .arg(fullName(patient), m_now.toString(QStringLiteral("dd/MM/yyyy")), visit.purpose,
+                              .arg(fullName(patient), m_now.toString("dd/MM/yyyy"), visit.purpose,
                                    m_hospital.clientName(patient.clientID), patient.number, visit.consultID);
-    addTrail(QStringLiteral("insert Bill Summ for: ") + entry, visit.consultID, formatTwoDecimals(visit.total()),
-             workstation);
-    addTrail(QStringLiteral("insert Payment for: ") + entry, visit.consultID, formatTwoDecimals(visit.paid()),
-             workstation);
+    addTrail("insert Bill Summ for: " + entry, visit.consultID, formatTwoDecimals(visit.total()), workstation);
+    addTrail("insert Payment for: " + entry, visit.consultID, formatTwoDecimals(visit.paid()), workstation);
 }
 
 void BulkRows::addShare(const BulkVisit& visit, const BulkItem& item, QDate billDate, double paid,
@@ -280,9 +275,9 @@ void BulkRows::addSession(const BulkUser& user, QDate day) {
                     {"LogoutTime", "20:30"},
                     {"Remarks", "BILLING"}});
     m_now.setTime(QTime(8, 0));
-    addTrail(QStringLiteral("Login Billing"), {}, {}, workstation);
+    addTrail("Login Billing", {}, {}, workstation);
     m_now.setTime(QTime(20, 30));
-    addTrail(QStringLiteral("Login Out"), {}, {}, workstation);
+    addTrail("Login Out", {}, {}, workstation);
 }
 
 void BulkRows::addTrail(const QString& action, const QString& tranCode, const QString& remarks, const char* source) {
@@ -292,7 +287,7 @@ void BulkRows::addTrail(const QString& action, const QString& tranCode, const QS
                  {"ActionTime", shortTime(m_now.time())},
                  {"TranCode", tranCode},
                  {"Remarks", remarks},
-                 {"Src", QStringLiteral("BILLING: from ") + QLatin1String(source)}});
+                 {"Src", "BILLING: from " + QLatin1String(source)}});
 }
 
 } // namespace orvane

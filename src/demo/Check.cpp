@@ -1,6 +1,6 @@
 #include "demo/Check.h"
 
-#include "data/Catalog.h"
+#include "data/dialect/Catalog.h"
 #include "demo/IntegrityCheck.h"
 
 namespace orvane {
@@ -202,8 +202,8 @@ constexpr const char* demandedMoney[][2] = {
     {"BillingDetails", "SubTotal"},
 };
 
-const QString nullMoney = QStringLiteral("amount that is not stated");
-const QString noNumber = QStringLiteral("amount that is no number");
+const QString nullMoney = "amount that is not stated";
+const QString noNumber = "amount that is no number";
 
 class Checker {
 public:
@@ -237,7 +237,7 @@ public:
 
     void runDemanded() {
         for (const auto& [tableName, column] : demandedMoney) {
-            for (const Table* table : Catalog::instance().tables(QStringLiteral("billing")))
+            for (const Table* table : Catalog::instance().tables("billing"))
                 if (table->name == QLatin1String(tableName))
                     count(nullMoney, *table, QStringLiteral("[%1] is null").arg(QLatin1String(column)),
                           QLatin1String(column));
@@ -253,7 +253,7 @@ private:
     void count(const QString& check, const Table& table, const QString& condition, const QString& column) {
         const Recordset counted =
             m_connection.run(QStringLiteral("select count(*) as N from [%1] where %2").arg(table.name, condition));
-        if (const qlonglong rows = counted.integer(QStringLiteral("N")); rows > 0)
+        if (const qlonglong rows = counted.integer("N"); rows > 0)
             m_report.findings.append(QStringLiteral("%1: %2.%3 in %4 row(s)").arg(check, table.name, column).arg(rows));
     }
 
@@ -267,11 +267,11 @@ CheckReport checkDatabases(Program& program) {
     CheckReport report;
     Connection billing = program.openBilling();
     Connection accounting = program.openAccounting();
-    checkIntegrity(billing, QStringLiteral("billing database"), report);
-    checkIntegrity(accounting, QStringLiteral("accounting database"), report);
+    checkIntegrity(billing, "billing database", report);
+    checkIntegrity(accounting, "accounting database", report);
     if (billing.engine() == Engine::Sqlite) { // elsewhere the audit trail lies in the billing database
-        Connection audit = billing.beside(QStringLiteral("Audit"));
-        checkIntegrity(audit, QStringLiteral("audit database"), report);
+        Connection audit = billing.beside("Audit");
+        checkIntegrity(audit, "audit database", report);
     }
     // The rows of a damaged database cannot be read, or say nothing.
     if (!report.findings.isEmpty())
@@ -279,12 +279,12 @@ CheckReport checkDatabases(Program& program) {
     Checker ofBilling(billing, report);
     for (const Check& check : billingChecks)
         ofBilling.run(check);
-    ofBilling.runNumbers(QStringLiteral("billing"));
+    ofBilling.runNumbers("billing");
     ofBilling.runDemanded();
     Checker ofAccounting(accounting, report);
     for (const Check& check : accountingChecks)
         ofAccounting.run(check);
-    ofAccounting.runNumbers(QStringLiteral("accounting"));
+    ofAccounting.runNumbers("accounting");
     return report;
 }
 

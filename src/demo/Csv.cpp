@@ -29,10 +29,9 @@ std::optional<CsvRecord> CsvReader::next() {
     CsvRecord record;
     record.line = m_line;
     m_recordEnded = false;
-    while (!m_recordEnded) {
+    while (!m_recordEnded)
         if (!readField(record))
             return std::nullopt;
-    }
     return record;
 }
 
@@ -49,11 +48,11 @@ bool CsvReader::readField(CsvRecord& record) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     field.text = decoder(bytes);
     if (decoder.hasError())
-        return fail(line, column, QStringLiteral("the text is not UTF-8"));
+        return fail(line, column, "the text is not UTF-8");
     if (field.text.contains(QChar(u'\0')))
-        return fail(line, column, QStringLiteral("the text holds a null character"));
+        return fail(line, column, "the text holds a null character");
     if (!field.quoted && field.text.contains(u'"'))
-        return fail(line, column, QStringLiteral("a quote stands in a field that does not begin with one"));
+        return fail(line, column, "a quote stands in a field that does not begin with one");
     record.fields.append(field);
     return endOfField(record);
 }
@@ -80,7 +79,7 @@ bool CsvReader::readQuoted(QByteArray& bytes, int column) {
             ++m_line;
         bytes.append(c);
     }
-    return fail(line, column, QStringLiteral("the quote is never closed"));
+    return fail(line, column, "the quote is never closed");
 }
 
 bool CsvReader::endOfField(CsvRecord& record) {
@@ -93,7 +92,7 @@ bool CsvReader::endOfField(CsvRecord& record) {
         ++m_line;
         m_recordEnded = true;
     } else {
-        return fail(m_line, int(record.fields.size()), QStringLiteral("text follows the closing quote"));
+        return fail(m_line, int(record.fields.size()), "text follows the closing quote");
     }
     return true;
 }

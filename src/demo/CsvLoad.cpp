@@ -1,8 +1,8 @@
 #include "demo/CsvLoad.h"
 
-#include "data/Recordset.h"
-#include "data/ShownText.h"
-#include "data/Transaction.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/Transaction.h"
+#include "data/words/ShownText.h"
 #include "demo/Csv.h"
 
 #include <cmath>
@@ -54,16 +54,16 @@ QVariant flagOf(const QString& text, const Place& place) {
 }
 
 QVariant dateOf(const QString& text, const Place& place) {
-    const QDate date = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+    const QDate date = QDate::fromString(text, "yyyy-MM-dd");
     if (!date.isValid())
         refuse(place, QStringLiteral("\"%1\" is no date of the form yyyy-mm-dd").arg(shownText(text)));
     return date;
 }
 
 QVariant dateTimeOf(const QString& text, const Place& place) {
-    QDateTime at = QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    QDateTime at = QDateTime::fromString(text, "yyyy-MM-dd HH:mm:ss");
     if (!at.isValid())
-        at = QDate::fromString(text, QStringLiteral("yyyy-MM-dd")).startOfDay();
+        at = QDate::fromString(text, "yyyy-MM-dd").startOfDay();
     if (!at.isValid())
         refuse(place,
                QStringLiteral("\"%1\" is no date and time of the form yyyy-mm-dd hh:mm:ss").arg(shownText(text)));
@@ -94,7 +94,7 @@ QVector<const Column*> readHeads(CsvReader& reader, const Table& table, const QS
     if (reader.fault())
         refuse(file, *reader.fault(), {});
     if (!heads)
-        refuse(Place{file, 1, {}}, QStringLiteral("the file has no heads"));
+        refuse(Place{file, 1, {}}, "the file has no heads");
     QVector<const Column*> columns;
     for (const CsvField& head : heads->fields) {
         const QString name = head.text.trimmed();
@@ -103,7 +103,7 @@ QVector<const Column*> readHeads(CsvReader& reader, const Table& table, const QS
         if (!column)
             refuse(place, QStringLiteral("the table %1 has no such column").arg(table.name));
         if (columns.contains(column))
-            refuse(place, QStringLiteral("the column is named twice"));
+            refuse(place, "the column is named twice");
         columns.append(column);
     }
     return columns;
@@ -144,10 +144,9 @@ constexpr RuleFault ruleFaults[] = {
 };
 
 QString brokenRule(Engine engine, const DataError& error) {
-    for (const RuleFault& fault : ruleFaults) {
+    for (const RuleFault& fault : ruleFaults)
         if (fault.engine == engine && error.code() == QLatin1String(fault.code))
             return QLatin1String(fault.text);
-    }
     return onOneLine(error.description());
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/Catalog.h"
-#include "data/Connection.h"
+#include "data/dialect/Catalog.h"
+#include "data/rows/Connection.h"
 
 namespace orvane {
 

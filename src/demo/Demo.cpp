@@ -1,6 +1,6 @@
 #include "demo/Demo.h"
 
-#include "data/Schema.h"
+#include "data/rows/Schema.h"
 #include "demo/BulkHospital.h"
 #include "demo/DemoParts.h"
 #include "demo/Home.h"
@@ -18,7 +18,7 @@ void refuseFilledHospital(Connection& billing) {
     const Recordset hospitals(billing, Sql("select hospID from HospList"));
     const Recordset patients(billing, Sql("select top 1 PNo from hPatients"));
     if (!hospitals.eof() || !patients.eof())
-        throw DataError(QStringLiteral("The databases are not empty; nothing was changed."));
+        throw DataError("The databases are not empty; nothing was changed.");
 }
 
 /// What the hospital had before its first visit, entered by other programs and by its administrators.
@@ -31,8 +31,8 @@ void makeMasterData(DemoHospital& hospital) {
     program.data().setServerClock(hospital.options.until.addDays(-hospital.options.days).startOfDay());
     Connection billing = program.openBilling();
     refuseFilledHospital(billing);
-    hospital.clinics = demoFacts(QStringLiteral("clinics"));
-    hospital.diagnoses = demoFacts(QStringLiteral("diagnoses"));
+    hospital.clinics = demoFacts("clinics");
+    hospital.diagnoses = demoFacts("diagnoses");
     makeSettings(billing, hospital);
     makeUsers(billing);
     Connection accounting = program.openAccounting();
@@ -48,7 +48,7 @@ void makeMasterData(DemoHospital& hospital) {
 /// hospital as here.
 void settleServer(Connection& billing) {
     if (billing.engine() == Engine::Postgresql)
-        billing.run(QStringLiteral("vacuum analyze"));
+        billing.run("vacuum analyze");
 }
 
 void makeHistoryInBulk(DemoHospital& hospital, const std::function<void(const QString&)>& progress) {
@@ -59,12 +59,12 @@ void makeHistoryInBulk(DemoHospital& hospital, const std::function<void(const QS
     Connection billing = program.openBilling();
     std::optional<Connection> auditFile;
     if (billing.engine() == Engine::Sqlite)
-        auditFile.emplace(billing.beside(QStringLiteral("Audit")));
-    dropIndexes(billing, QStringLiteral("billing"));
+        auditFile.emplace(billing.beside("Audit"));
+    dropIndexes(billing, "billing");
     makeBulkHospital(hospital, billing, auditFile ? *auditFile : billing, progress);
-    createIndexes(billing, QStringLiteral("billing"));
+    createIndexes(billing, "billing");
     settleServer(billing);
-    progress(QStringLiteral("The indexes are in."));
+    progress("The indexes are in.");
 }
 
 void makeHistoryOnScreens(DemoHospital& hospital, const std::function<void(const QString&)>& progress) {
@@ -88,7 +88,7 @@ void makeDemo(const DemoOptions& options, const std::function<void(const QString
                      .arg(hospital.clients.size()));
         makeHistoryOnScreens(hospital, progress);
     }
-    writeSysDoc(options.home, QStringLiteral("amina.b"));
+    writeSysDoc(options.home, "amina.b");
 }
 
 } // namespace orvane

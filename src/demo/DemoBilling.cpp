@@ -36,22 +36,22 @@ DemoBilling::DemoBilling(Program& program, QuietUi& ui, DemoHospital& hospital)
 void DemoBilling::bill(const DemoVisit& visit) {
     m_visit = &visit;
     m_ui.takeBoxes();
-    m_program.open(QStringLiteral("frmBillingVerify"));
-    Form& form = m_program.form(QStringLiteral("frmBillingVerify"));
+    m_program.open("frmBillingVerify");
+    Form& form = m_program.form("frmBillingVerify");
     Hand hand(form);
-    hand.type(QStringLiteral("txtSearch"), visit.consultID);
-    hand.click(QStringLiteral("cmdOK"));
-    expectBoxes(QStringLiteral("collate"), {});
-    hand.click(QStringLiteral("cmdAddBill"));
-    expectBoxes(QStringLiteral("add items"), expectedOnItems);
+    hand.type("txtSearch", visit.consultID);
+    hand.click("cmdOK");
+    expectBoxes("collate", {});
+    hand.click("cmdAddBill");
+    expectBoxes("add items", expectedOnItems);
     if (!visit.patient->feeForService && visit.patient->category == QLatin1String("HMO") &&
         m_hospital.random.chance(60))
-        hand.type(QStringLiteral("txtApprv"), QStringLiteral("AP/%1").arg(m_hospital.random.between(10000, 99999)));
+        hand.type("txtApprv", QStringLiteral("AP/%1").arg(m_hospital.random.between(10000, 99999)));
     if (visit.patient->category == QLatin1String("PRIVATE"))
         takeReceipt(hand);
-    hand.click(QStringLiteral("OKButton"));
-    expectBoxes(QStringLiteral("save"), expectedOnSave);
-    if (Form* receipt = m_program.loadedForm(QStringLiteral("frmCashReceipt")))
+    hand.click("OKButton");
+    expectBoxes("save", expectedOnSave);
+    if (Form* receipt = m_program.loadedForm("frmCashReceipt"))
         receipt->unload();
     form.unload();
 }
@@ -64,29 +64,29 @@ void DemoBilling::expectBoxes(const QString& step, const QStringList& allowed) {
 
 void DemoBilling::addOrders(Form& itemScreen) {
     Hand hand(itemScreen);
-    hand.chooseContaining(QStringLiteral("cboPat"), m_hospital.clientName(m_visit->patient->clientID));
+    hand.chooseContaining("cboPat", m_hospital.clientName(m_visit->patient->clientID));
     for (const DemoOrder& order : m_visit->orders)
         addOrder(hand, order);
-    hand.click(QStringLiteral("OKButton"));
+    hand.click("OKButton");
 }
 
 void DemoBilling::addOrder(Hand& hand, const DemoOrder& order) {
     const bool test = order.item->kind == QLatin1String("LAB");
-    hand.choose(QStringLiteral("cboCat"), test ? QStringLiteral("INVESTIGATION") : order.item->kind);
-    hand.choose(QStringLiteral("cboDrug"), order.item->name);
+    hand.choose("cboCat", test ? "INVESTIGATION" : order.item->kind);
+    hand.choose("cboDrug", order.item->name);
     // A price of the private tariff brings no revenue type along: the officer chooses it.
-    if (const QString type = hand.value(QStringLiteral("cboRev")); type.isEmpty() || type == QLatin1String("OTHERS"))
-        hand.choose(QStringLiteral("cboRev"), order.item->revType);
-    hand.type(QStringLiteral("txtQty"), QString::number(order.quantity));
-    hand.click(QStringLiteral("cmdAdd"));
+    if (const QString type = hand.value("cboRev"); type.isEmpty() || type == QLatin1String("OTHERS"))
+        hand.choose("cboRev", order.item->revType);
+    hand.type("txtQty", QString::number(order.quantity));
+    hand.click("cmdAdd");
 }
 
 void DemoBilling::takeReceipt(Hand& hand) {
-    const double payable = amount(hand.value(QStringLiteral("txtEmp")));
+    const double payable = amount(hand.value("txtEmp"));
     if (payable <= 0 || m_hospital.random.chance(8)) // leaves without paying
         return;
-    hand.tick(QStringLiteral("chkRct"));
-    hand.choose(QStringLiteral("cboPayFor"), QStringLiteral("CONSULTING AND DRUGS"));
+    hand.tick("chkRct");
+    hand.choose("cboPayFor", "CONSULTING AND DRUGS");
     pay(hand, payable);
 }
 
@@ -94,21 +94,20 @@ void DemoBilling::takeReceipt(Hand& hand) {
 void DemoBilling::pay(Hand& hand, double payable) {
     const int way = m_hospital.random.below(100);
     if (way < 60) {
-        hand.type(QStringLiteral("txtAmt(0)"), typed(payable));
+        hand.type("txtAmt(0)", typed(payable));
     } else if (way < 80) {
         const bool card = way < 70;
-        hand.chooseContaining(card ? QStringLiteral("cboBank(1)") : QStringLiteral("cboBank(3)"),
-                              card ? QStringLiteral("[1220030]") : QStringLiteral("[1220020]"));
-        hand.type(card ? QStringLiteral("txtAmt(1)") : QStringLiteral("txtAmt(3)"), typed(payable));
+        hand.chooseContaining(card ? "cboBank(1)" : "cboBank(3)", card ? "[1220030]" : "[1220020]");
+        hand.type(card ? "txtAmt(1)" : "txtAmt(3)", typed(payable));
     } else if (way < 87) {
         const double cash = std::floor(payable / 200) * 100;
-        hand.chooseContaining(QStringLiteral("cboBank(1)"), QStringLiteral("[1220030]"));
-        hand.type(QStringLiteral("txtAmt(0)"), typed(cash));
-        hand.type(QStringLiteral("txtAmt(1)"), typed(payable - cash));
+        hand.chooseContaining("cboBank(1)", "[1220030]");
+        hand.type("txtAmt(0)", typed(cash));
+        hand.type("txtAmt(1)", typed(payable - cash));
     } else if (way < 97) {
-        hand.type(QStringLiteral("txtAmt(0)"), typed(std::max(100.0, std::floor(payable / 300) * 100)));
+        hand.type("txtAmt(0)", typed(std::max(100.0, std::floor(payable / 300) * 100)));
     } else {
-        hand.type(QStringLiteral("txtAmt(0)"), typed(std::ceil(payable / 1000) * 1000));
+        hand.type("txtAmt(0)", typed(std::ceil(payable / 1000) * 1000));
     }
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/BulkInsert.h"
-#include "data/Recordset.h"
+#include "data/rows/BulkInsert.h"
+#include "data/rows/Recordset.h"
 #include "demo/Demo.h"
 #include "demo/DemoRandom.h"
 

@@ -1,4 +1,4 @@
-#include "data/Transaction.h"
+#include "data/rows/Transaction.h"
 #include "demo/DemoParts.h"
 
 namespace orvane {
@@ -27,8 +27,8 @@ struct Names {
     QVector<QStringList> surnames;
     QHash<std::pair<QString, QString>, QStringList> firstNames; ///< by sex and origin
 
-    Names() : surnames(demoFacts(QStringLiteral("surnames"))) {
-        for (const QStringList& name : demoFacts(QStringLiteral("firstnames")))
+    Names() : surnames(demoFacts("surnames")) {
+        for (const QStringList& name : demoFacts("firstnames"))
             firstNames[{name.at(1), name.at(2)}].append(name.at(0));
     }
 
@@ -36,8 +36,7 @@ struct Names {
     QString firstName(const QString& sex, const QString& origin, DemoRandom& random) const {
         const bool english = random.chance(20);
         const auto own = firstNames.constFind({sex, origin});
-        return random.pick(english || own == firstNames.constEnd() ? firstNames[{sex, QStringLiteral("ENGLISH")}]
-                                                                   : *own);
+        return random.pick(english || own == firstNames.constEnd() ? firstNames[{sex, "ENGLISH"}] : *own);
     }
 };
 
@@ -86,12 +85,12 @@ QString categoryOf(const QString& type, int index) {
 
 QString receivablesAccount(const QString& type) {
     if (type == QLatin1String("HMO"))
-        return QStringLiteral("1230020");
+        return "1230020";
     if (type == QLatin1String("NHIS") || type == QLatin1String("PHIS"))
-        return QStringLiteral("1230030");
+        return "1230030";
     if (type == QLatin1String("STAFF"))
-        return QStringLiteral("1230060");
-    return type == QLatin1String("PRIVATE") ? QStringLiteral("1230010") : QStringLiteral("1230050");
+        return "1230060";
+    return type == QLatin1String("PRIVATE") ? "1230010" : "1230050";
 }
 
 DemoPatient makePatient(int number, const DemoHospital& hospital, const Names& names, DemoRandom& random) {
@@ -100,7 +99,7 @@ DemoPatient makePatient(int number, const DemoHospital& hospital, const Names& n
     patient.number = QStringLiteral("%1/001").arg(number, width, 10, QLatin1Char('0'));
     const QStringList& surname = random.pick(names.surnames);
     patient.surname = surname.at(0);
-    patient.sex = random.chance(55) ? QStringLiteral("F") : QStringLiteral("M");
+    patient.sex = random.chance(55) ? "F" : "M";
     patient.firstName = names.firstName(patient.sex, surname.at(1), random);
     const DemoClient& client = clientOf(hospital, random);
     patient.clientID = client.id;
@@ -112,7 +111,7 @@ DemoPatient makePatient(int number, const DemoHospital& hospital, const Names& n
     patient.cardExpires =
         random.chance(3) ? today.addDays(-random.between(1, 200)) : today.addDays(random.between(30, 700));
     if (number % 50 == 7) // the names that break careless statements
-        patient.surname = number % 100 == 7 ? QStringLiteral("O'NEILL") : QStringLiteral("D'ALMEIDA");
+        patient.surname = number % 100 == 7 ? "O'NEILL" : "D'ALMEIDA";
     return patient;
 }
 
@@ -144,7 +143,7 @@ RowValues patientRow(const DemoPatient& patient, const DemoHospital& hospital, D
             {"sex", patient.sex == QLatin1String("F") ? "FEMALE" : "MALE"},
             {"pPhoneNo", phone(random)},
             {"homeAddress", home},
-            {"occupation", child ? QStringLiteral("PUPIL") : random.pick(occupations)},
+            {"occupation", child ? "PUPIL" : random.pick(occupations)},
             {"religion", random.chance(50) ? "CHRISTIANITY" : "ISLAM"},
             {"empNo", privately ? QString() : QStringLiteral("S%1").arg(random.between(100, 9999))},
             {"status", random.chance(50) ? "MARRIED" : "SINGLE"},
@@ -159,10 +158,9 @@ RowValues patientRow(const DemoPatient& patient, const DemoHospital& hospital, D
 } // namespace
 
 void makeClients(Connection& billing, DemoHospital& hospital) {
-    hospital.clients.append(
-        {QStringLiteral("0001"), QStringLiteral("PRIVATE"), QStringLiteral("PRIVATE"), QStringLiteral("PRIVATE"), 100});
+    hospital.clients.append({"0001", "PRIVATE", "PRIVATE", "PRIVATE", 100});
     int index = 1;
-    for (const QStringList& payer : demoFacts(QStringLiteral("payers"))) {
+    for (const QStringList& payer : demoFacts("payers")) {
         const QString id = QStringLiteral("%1").arg(++index, 4, 10, QLatin1Char('0'));
         const QString type = payer.at(1);
         hospital.clients.append(
@@ -198,7 +196,7 @@ void makeEmployees(Connection& billing, DemoHospital& hospital) {
                                      "REC", "NUR", "NUR", "LAB", "PHA", "ACC"};
     for (const QString& department : departments) {
         const QStringList& surname = hospital.random.pick(names.surnames);
-        const QString sex = hospital.random.chance(50) ? QStringLiteral("F") : QStringLiteral("M");
+        const QString sex = hospital.random.chance(50) ? "F" : "M";
         const QString id = QStringLiteral("E%1").arg(hospital.employees.size() + 1, 3, 10, QLatin1Char('0'));
         hospital.employees.append(
             {id, surname.at(0), names.firstName(sex, surname.at(1), hospital.random), department});
@@ -217,7 +215,7 @@ void makeEmployees(Connection& billing, DemoHospital& hospital) {
 void makePatients(Connection& billing, DemoHospital& hospital) {
     const Names names;
     Transaction transaction(billing);
-    BulkInsert rows(billing, QStringLiteral("hPatients"));
+    BulkInsert rows(billing, "hPatients");
     for (int number = 1; number <= hospital.options.patients; ++number) {
         hospital.patients.append(makePatient(number, hospital, names, hospital.random));
         rows.add(patientRow(hospital.patients.last(), hospital, hospital.random));
@@ -234,7 +232,7 @@ void drawPatients(DemoHospital& hospital) {
 }
 
 void writePatients(Connection& billing, DemoHospital& hospital) {
-    BulkInsert rows(billing, QStringLiteral("hPatients"));
+    BulkInsert rows(billing, "hPatients");
     for (const DemoPatient& patient : hospital.patients)
         rows.add(patientRow(patient, hospital, hospital.random));
     rows.flush();

@@ -1,4 +1,4 @@
-#include "data/Transaction.h"
+#include "data/rows/Transaction.h"
 #include "demo/DemoParts.h"
 
 #include <QHash>
@@ -32,9 +32,9 @@ const QStringList capitatedCategories = {"CONSULTATION", "TABLETS",     "CAPSULE
                                          "NURSING",      "HAEMATOLOGY", "MICROBIOLOGY"};
 
 QString revenueType(const QString& kind, const QString& category) {
-    const QString ofKind = kind == QLatin1String("DRUG")  ? QStringLiteral("PHARMACY")
-                           : kind == QLatin1String("LAB") ? QStringLiteral("LABORATORY")
-                                                          : QStringLiteral("SUNDRY");
+    const QString ofKind = kind == QLatin1String("DRUG")  ? "PHARMACY"
+                           : kind == QLatin1String("LAB") ? "LABORATORY"
+                                                          : "SUNDRY";
     return revenueTypeOfCategory.value(category, ofKind);
 }
 
@@ -47,14 +47,14 @@ void readItems(DemoHospital& hospital) {
     const auto item = [](const QStringList& fact, const QString& kind, int priceField) {
         return DemoItem{fact.at(0), fact.at(1), kind, revenueType(kind, fact.at(1)), fact.at(priceField).toDouble(), 1};
     };
-    for (const QStringList& fact : demoFacts(QStringLiteral("drugs"))) {
-        hospital.drugs.append(item(fact, QStringLiteral("DRUG"), 3));
+    for (const QStringList& fact : demoFacts("drugs")) {
+        hospital.drugs.append(item(fact, "DRUG", 3));
         hospital.drugs.last().unitsInPack = fact.at(2).toInt();
     }
-    for (const QStringList& fact : demoFacts(QStringLiteral("labservices")))
-        hospital.labServices.append(item(fact, QStringLiteral("LAB"), 2));
-    for (const QStringList& fact : demoFacts(QStringLiteral("services")))
-        hospital.services.append(item(fact, QStringLiteral("SERVICE"), 2));
+    for (const QStringList& fact : demoFacts("labservices"))
+        hospital.labServices.append(item(fact, "LAB", 2));
+    for (const QStringList& fact : demoFacts("services"))
+        hospital.services.append(item(fact, "SERVICE", 2));
 }
 
 void makeDrugs(Connection& billing, DemoHospital& hospital) {
@@ -115,7 +115,7 @@ struct PriceList {
 };
 
 QVector<PriceList> priceLists(const DemoHospital& hospital) {
-    QVector<PriceList> lists = {{QStringLiteral("0001"), 100, 0, 0, false}, {QStringLiteral("NHIS"), 65, 6, 3, true}};
+    QVector<PriceList> lists = {{"0001", 100, 0, 0, false}, {"NHIS", 65, 6, 3, true}};
     for (const DemoClient& client : hospital.clients) {
         if (client.percent == 0 || client.id == QLatin1String("0001"))
             continue;
@@ -148,9 +148,9 @@ void makePrices(Connection& billing, DemoHospital& hospital) {
     Transaction transaction(billing);
     makeDrugs(billing, hospital);
     makeTestsAndServices(billing, hospital);
-    BulkInsert drugs(billing, QStringLiteral("DrugNHIS"));
-    BulkInsert tests(billing, QStringLiteral("LabServiceNHIS"));
-    BulkInsert services(billing, QStringLiteral("hServiceNHIS"));
+    BulkInsert drugs(billing, "DrugNHIS");
+    BulkInsert tests(billing, "LabServiceNHIS");
+    BulkInsert services(billing, "hServiceNHIS");
     for (const PriceList& list : priceLists(hospital)) {
         fillList(drugs, "drgName", hospital.drugs, list, hospital.random);
         fillList(tests, "drgName", hospital.labServices, list, hospital.random);

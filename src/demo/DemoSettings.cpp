@@ -1,4 +1,4 @@
-#include "data/Transaction.h"
+#include "data/rows/Transaction.h"
 #include "demo/DemoParts.h"
 #include "demo/Users.h"
 
@@ -134,10 +134,10 @@ void makeClinics(Connection& billing, const DemoHospital& hospital) {
 /// one.
 void makeChart(Connection& connection, const DemoHospital& hospital) {
     Recordset accounts(connection, Sql("select * from ChartOfAccounts where 1=2"));
-    for (const QStringList& account : demoFacts(QStringLiteral("accounts")))
+    for (const QStringList& account : demoFacts("accounts"))
         addRow(accounts, {{"AccountNo", account.at(0)}, {"AccountName", account.at(1)}, {"groupID", account.at(2)}});
     Recordset months(connection, Sql("select * from AccountMonth where 1=2"));
-    addRow(months, {{"Period", hospital.options.until.toString(QStringLiteral("yyyyMM"))}});
+    addRow(months, {{"Period", hospital.options.until.toString("yyyyMM")}});
 }
 
 } // namespace
@@ -187,8 +187,8 @@ void makeUsers(Connection& billing) {
         account.employeeID = latin(user.employee);
         account.roles = user.roles;
         account.accounts = user.accounts;
-        account.password = QStringLiteral("halden");
-        account.branch = QStringLiteral("IKEJA");
+        account.password = "halden";
+        account.branch = "IKEJA";
         addUser(billing, account);
     }
 }
@@ -199,7 +199,7 @@ void makeAccounts(Connection& accounting, const DemoHospital& hospital) {
     const QDate lastDay = hospital.options.until;
     const QDate firstOfMonth(lastDay.year(), lastDay.month(), 1);
     Recordset open(accounting, Sql("select * from AccountMonthOpen where 1=2"));
-    addRow(open, {{"Period", firstOfMonth.toString(QStringLiteral("yyyyMM"))},
+    addRow(open, {{"Period", firstOfMonth.toString("yyyyMM")},
                   {"PeriodVal", firstOfMonth.year() * 100 + firstOfMonth.month()},
                   {"PrdClose", firstOfMonth.addMonths(1).addDays(-1)},
                   {"isClose", 0}});

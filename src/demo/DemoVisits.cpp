@@ -1,6 +1,6 @@
 #include "demo/DemoVisits.h"
 
-#include "data/Transaction.h"
+#include "data/rows/Transaction.h"
 #include "demo/DemoBilling.h"
 #include "demo/Hand.h"
 #include "screens/Screens.h"
@@ -88,15 +88,15 @@ private:
         const QDateTime at(m_day, time);
         m_ui.setClock(at);
         m_program.data().setServerClock(at);
-        if (Form* shell = m_program.loadedForm(QStringLiteral("MdiTolmek")))
-            Hand(*shell).ring(QStringLiteral("Timer2"));
+        if (Form* shell = m_program.loadedForm("MdiTolmek"))
+            Hand(*shell).ring("Timer2");
     }
 
     QVector<DemoVisit> attend() {
-        m_program.open(QStringLiteral("frmRecordsOffline"));
-        Form& form = m_program.form(QStringLiteral("frmRecordsOffline"));
+        m_program.open("frmRecordsOffline");
+        Form& form = m_program.form("frmRecordsOffline");
         Hand hand(form);
-        const QVector<DemoEmployee> officers = m_hospital.employeesOf(QStringLiteral("REC"));
+        const QVector<DemoEmployee> officers = m_hospital.employeesOf("REC");
         QVector<DemoVisit> visits;
         for (const DemoPatient* patient : patientsOf(m_day, m_hospital)) {
             setTime(opening.addSecs(60 * 12 * int(visits.size())));
@@ -110,28 +110,26 @@ private:
         DemoRandom& random = m_hospital.random;
         DemoVisit visit;
         visit.patient = &patient;
-        visit.clinic = random.chance(50) ? QStringLiteral("OUT-PATIENT") : random.pick(m_hospital.clinics).at(0);
-        hand.click(QStringLiteral("cmdAdd"));
-        hand.type(QStringLiteral("txtName"), patient.surname);
-        hand.click(QStringLiteral("cmdOK"));
-        hand.date(QStringLiteral("dtDate"), m_day);
-        hand.chooseContaining(QStringLiteral("cboVehNo"), QStringLiteral("[%1]").arg(patient.number));
-        hand.choose(QStringLiteral("cboType"), visit.clinic);
-        hand.choose(QStringLiteral("cboClient"),
-                    random.chance(15) ? QStringLiteral("FOLLOW-UP") : QStringLiteral("CONSULTATION"));
-        hand.choose(QStringLiteral("cboAppr"), officerEntry(officer));
-        visit.consultID = hand.value(QStringLiteral("lblBill"));
-        hand.click(QStringLiteral("OKButton"));
+        visit.clinic = random.chance(50) ? "OUT-PATIENT" : random.pick(m_hospital.clinics).at(0);
+        hand.click("cmdAdd");
+        hand.type("txtName", patient.surname);
+        hand.click("cmdOK");
+        hand.date("dtDate", m_day);
+        hand.chooseContaining("cboVehNo", QStringLiteral("[%1]").arg(patient.number));
+        hand.choose("cboType", visit.clinic);
+        hand.choose("cboClient", random.chance(15) ? "FOLLOW-UP" : "CONSULTATION");
+        hand.choose("cboAppr", officerEntry(officer));
+        visit.consultID = hand.value("lblBill");
+        hand.click("OKButton");
         const QStringList boxes = m_ui.takeBoxes();
-        if (boxes != QStringList{QStringLiteral("Record Succesfully saved")})
-            throw DataError(QStringLiteral("The visit of %1 was not saved: %2")
-                                .arg(patient.number, boxes.join(QStringLiteral(" / "))));
+        if (boxes != QStringList{"Record Succesfully saved"})
+            throw DataError(QStringLiteral("The visit of %1 was not saved: %2").arg(patient.number, boxes.join(" / ")));
         return visit;
     }
 
     /// The doctors' part, which another program of the hospital writes.
     void see(QVector<DemoVisit>& visits) {
-        const QVector<DemoEmployee> doctors = m_hospital.employeesOf(QStringLiteral("MED"));
+        const QVector<DemoEmployee> doctors = m_hospital.employeesOf("MED");
         Connection connection = m_program.openBilling();
         Transaction transaction(connection);
         Recordset rows(connection, Sql("select * from hconsulting where 1=2"));
@@ -160,7 +158,7 @@ private:
         transaction.commit();
     }
 
-    void leave() { m_program.form(QStringLiteral("MdiTolmek")).unload(); }
+    void leave() { m_program.form("MdiTolmek").unload(); }
 
     DemoHospital& m_hospital;
     QDate m_day;
@@ -181,10 +179,10 @@ void makeAppointments(DemoHospital& hospital) {
     const Recordset visits(connection, Sql("select top 40 consultID,PNo,clinicType from hRecords order by recID"));
     int days = 0;
     for (Recordset visit = visits; !visit.eof(); visit.moveNext())
-        addRow(rows, {{"ConsultID", visit.text(QStringLiteral("consultID"))},
-                      {"PNo", visit.text(QStringLiteral("PNo"))},
+        addRow(rows, {{"ConsultID", visit.text("consultID")},
+                      {"PNo", visit.text("PNo")},
                       {"ApptDate", hospital.options.until.addDays(days++ % 7)},
-                      {"clinicType", visit.text(QStringLiteral("clinicType"))},
+                      {"clinicType", visit.text("clinicType")},
                       {"Remarks", hospital.random.chance(60) ? "FOLLOW-UP" : "REVIEW"},
                       {"attendedTo", 0}});
     transaction.commit();
@@ -194,7 +192,7 @@ void makeAppointments(DemoHospital& hospital) {
 
 RowValues consultationRow(const DemoVisit& visit, const DemoEmployee& doctor, QDateTime at, DemoHospital& hospital) {
     QStringList prescription, tests, services;
-    for (const DemoOrder& ordered : visit.orders) {
+    for (const DemoOrder& ordered : visit.orders)
         if (ordered.item->kind == QLatin1String("DRUG"))
             prescription.append(QStringLiteral("%1 (%2) %3")
                                     .arg(ordered.item->name)
@@ -202,12 +200,11 @@ RowValues consultationRow(const DemoVisit& visit, const DemoEmployee& doctor, QD
                                     .arg(hospital.random.pick(dosages)));
         else
             (ordered.item->kind == QLatin1String("LAB") ? tests : services).append(ordered.item->name);
-    }
     return {{"consultID", visit.consultID},
             {"billno", visit.consultID},
             {"PNo", visit.patient->number},
             {"CDate", at.date()},
-            {"cTime", at.time().toString(QStringLiteral("HH:mm"))},
+            {"cTime", at.time().toString("HH:mm")},
             {"Diagnosis", hospital.random.pick(hospital.diagnoses).at(1)},
             {"prescription", prescription.join(QLatin1Char('\n'))},
             {"Investigate", tests.join(QLatin1Char('\n'))},

@@ -12,16 +12,16 @@ template <typename Kind>
 Kind& Hand::usable(const QString& name, ControlKind kind) {
     Control* control = m_form.find(name);
     if (!control || control->kind() != kind)
-        fail(name, QStringLiteral("the form has no such control"));
+        fail(name, "the form has no such control");
     if (!control->isUsable())
-        fail(name, QStringLiteral("hidden or disabled"));
+        fail(name, "hidden or disabled");
     return static_cast<Kind&>(*control);
 }
 
 void Hand::type(const QString& name, const QString& text) {
     auto& box = usable<TextBox>(name, ControlKind::TextBox);
     if (box.isLocked())
-        fail(name, QStringLiteral("locked"));
+        fail(name, "locked");
     m_driver.type(box, text);
 }
 
@@ -63,7 +63,7 @@ void Hand::ring(const QString& name) {
 QString Hand::value(const QString& name) {
     const Control* control = m_form.find(name);
     if (!control)
-        fail(name, QStringLiteral("the form has no such control"));
+        fail(name, "the form has no such control");
     return control->valueText();
 }
 

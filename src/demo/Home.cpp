@@ -1,8 +1,8 @@
 #include "demo/Home.h"
 
 #include "data/Assert.h"
-#include "data/Schema.h"
-#include "data/ServerList.h"
+#include "data/engine/ServerList.h"
+#include "data/rows/Schema.h"
 
 #include <QDir>
 #include <QFile>
@@ -30,7 +30,7 @@ void writeFile(const QString& path, const QByteArray& content) {
 QByteArray iniFile(const HomeOptions& options) {
     QString text = QStringLiteral("[server %1]\nengine = %2\n").arg(QLatin1String(serverName), options.engine);
     if (options.engine == QLatin1String("sqlite")) {
-        text += QStringLiteral("folder = data\n");
+        text += "folder = data\n";
     } else {
         text += QStringLiteral("host = %1\n").arg(options.host);
         if (options.port > 0)
@@ -52,7 +52,7 @@ bool isThere(Program& program, const QString& connectionString) {
     const ConnectionTarget target = parseConnectionString(connectionString);
     const ServerEntry entry = ServerList(program.homeFolder()).entry(target.server);
     if (entry.engine == Engine::Sqlite)
-        return QFile::exists(QDir(entry.folder).filePath(target.database + QStringLiteral(".db")));
+        return QFile::exists(QDir(entry.folder).filePath(target.database + ".db"));
     try {
         program.data().open(connectionString);
         return true;
@@ -71,14 +71,14 @@ void writeHomeFiles(const QString& folder, const HomeOptions& options) {
         if (!home.exists(name))
             writeFile(home.filePath(name), content);
     };
-    write(QStringLiteral("made.sys"), QByteArray("SVR=") + serverName + "\nHNO=001\n");
-    write(QStringLiteral("orvane.ini"), iniFile(options));
+    write("made.sys", QByteArray("SVR=") + serverName + "\nHNO=001\n");
+    write("orvane.ini", iniFile(options));
     for (const char* name : {"RctPix.JPG", "RctPixLab.JPG", "RctPixDen.JPG", "ring1.wav"})
         write(QString::fromLatin1(name), resource(QString::fromLatin1(name)));
 }
 
 void writeSysDoc(const QString& folder, const QString& userName) {
-    const QString path = QDir(folder).filePath(QStringLiteral("sysdoc.sys"));
+    const QString path = QDir(folder).filePath("sysdoc.sys");
     QFile::remove(path);
     writeFile(path, userName.toUtf8() + '\n');
 }
@@ -86,12 +86,12 @@ void writeSysDoc(const QString& folder, const QString& userName) {
 bool hasDatabase(Program& program) {
     const Session& session = program.session;
     return isThere(program, session.gConnStr) || isThere(program, session.gAcctConnStr) ||
-           isThere(program, withDatabase(session.gConnStr, QStringLiteral("Audit")));
+           isThere(program, withDatabase(session.gConnStr, "Audit"));
 }
 
 void createDatabases(Program& program) {
     if (hasDatabase(program))
-        throw DataError(QStringLiteral("A database of this home folder is there already; nothing was changed."));
+        throw DataError("A database of this home folder is there already; nothing was changed.");
     createDatabases(program.data(), program.session.gConnStr, program.session.gAcctConnStr);
 }
 

@@ -8,8 +8,8 @@ namespace orvane {
 
 /// How the databases of a new home folder are reached.
 struct HomeOptions {
-    QString engine = QStringLiteral("sqlite"); ///< as orvane.ini writes it
-    QString host = QStringLiteral("127.0.0.1");
+    QString engine = "sqlite"; ///< as orvane.ini writes it
+    QString host = "127.0.0.1";
     int port = 0;   ///< 0: the engine's usual one
     QString prefix; ///< stands in front of the database names on a server that holds several hospitals
 };

@@ -9,11 +9,10 @@ void checkFile(Connection& connection, const QString& database, CheckReport& rep
         report.findings.append(QStringLiteral("integrity of the %1: %2").arg(database, what));
     };
     try {
-        for (Recordset row = connection.run(QStringLiteral("pragma integrity_check")); !row.eof(); row.moveNext()) {
+        for (Recordset row = connection.run("pragma integrity_check"); !row.eof(); row.moveNext())
             if (row.text(0) != QLatin1String("ok"))
                 tell(row.text(0));
-        }
-        const Recordset orphans = connection.run(QStringLiteral("pragma foreign_key_check"));
+        const Recordset orphans = connection.run("pragma foreign_key_check");
         if (orphans.count() > 0)
             tell(QStringLiteral("%1 row(s) refer to rows that are not there").arg(orphans.count()));
     } catch (const DataError& fault) {
@@ -23,9 +22,8 @@ void checkFile(Connection& connection, const QString& database, CheckReport& rep
 
 /// The server's own extension checks its indexes, where an administrator has installed it.
 void checkIndexes(Connection& connection, const QString& database, CheckReport& report) {
-    const Recordset installed =
-        connection.run(QStringLiteral("select count(*) as N from pg_extension where extname = 'amcheck'"));
-    if (installed.integer(QStringLiteral("N")) == 0) {
+    const Recordset installed = connection.run("select count(*) as N from pg_extension where extname = 'amcheck'");
+    if (installed.integer("N") == 0) {
         report.remarks.append(
             QStringLiteral("integrity of the %1: skipped, the extension amcheck is not installed there").arg(database));
         return;

@@ -1,8 +1,8 @@
 #include "demo/Tool.h"
 
-#include "data/Catalog.h"
-#include "data/Rights.h"
-#include "data/Schema.h"
+#include "data/dialect/Catalog.h"
+#include "data/engine/Rights.h"
+#include "data/rows/Schema.h"
 #include "demo/Check.h"
 #include "demo/CsvLoad.h"
 #include "demo/Demo.h"
@@ -80,12 +80,12 @@ constexpr Option allOptions[] = {
 
 void checkChoice(const Call& call, const QString& option, const QStringList& choices) {
     if (!choices.contains(call.parser.value(option)))
-        throw UsageError{QStringLiteral("--%1 is one of %2.").arg(option, choices.join(QStringLiteral(", ")))};
+        throw UsageError{QStringLiteral("--%1 is one of %2.").arg(option, choices.join(", "))};
 }
 
 QString engineOption(const Call& call) {
-    checkChoice(call, QStringLiteral("engine"), {"sqlite", "postgresql", "sqlserver"});
-    return call.parser.value(QStringLiteral("engine"));
+    checkChoice(call, "engine", {"sqlite", "postgresql", "sqlserver"});
+    return call.parser.value("engine");
 }
 
 /// The program of a home folder, without a user.
@@ -109,17 +109,17 @@ private:
 };
 
 HomeOptions homeOptions(const Call& call) {
-    HomeOptions options{engineOption(call), call.parser.value(QStringLiteral("host")),
-                        call.number(QStringLiteral("port"), 0, 65535), call.parser.value(QStringLiteral("prefix"))};
-    static const QRegularExpression word(QStringLiteral("^[a-z][a-z0-9_]{0,29}$"));
+    HomeOptions options{engineOption(call), call.parser.value("host"), call.number("port", 0, 65535),
+                        call.parser.value("prefix")};
+    static const QRegularExpression word("^[a-z][a-z0-9_]{0,29}$");
     if (!options.prefix.isEmpty() && !word.match(options.prefix).hasMatch())
-        throw UsageError{QStringLiteral("--prefix is a word of small letters, digits and underscores.")};
+        throw UsageError{"--prefix is a word of small letters, digits and underscores."};
     return options;
 }
 
 int create(Call& call) {
     const HomeOptions options = homeOptions(call);
-    const QString home = call.required(QStringLiteral("home"));
+    const QString home = call.required("home");
     writeHomeFiles(home, options);
     Workplace workplace(home);
     createDatabases(workplace.program());
@@ -128,12 +128,12 @@ int create(Call& call) {
 }
 
 int schema(Call& call) {
-    checkChoice(call, QStringLiteral("database"), {"billing", "accounting", "audit"});
+    checkChoice(call, "database", {"billing", "accounting", "audit"});
     const QString engine = engineOption(call);
     const Engine of = engine == QLatin1String("sqlite")       ? Engine::Sqlite
                       : engine == QLatin1String("postgresql") ? Engine::Postgresql
                                                               : Engine::SqlServer;
-    const QString database = call.parser.value(QStringLiteral("database"));
+    const QString database = call.parser.value("database");
     call.out << schemaScript(of, database) << rightsScript(of, database, call.required(QStringLiteral("login")));
     return Done;
 }
@@ -146,13 +146,13 @@ const Table& tableOf(const QString& database, const QString& name) {
 }
 
 int load(Call& call) {
-    checkChoice(call, QStringLiteral("database"), {"billing", "accounting"});
-    const QString database = call.parser.value(QStringLiteral("database"));
+    checkChoice(call, "database", {"billing", "accounting"});
+    const QString database = call.parser.value("database");
     const Table& table = tableOf(database, call.operands.at(0));
     QFile file(call.operands.at(1));
     if (!file.open(QIODevice::ReadOnly))
         throw DataError(QStringLiteral("The file %1 cannot be read: %2").arg(file.fileName(), file.errorString()));
-    Workplace workplace(call.required(QStringLiteral("home")));
+    Workplace workplace(call.required("home"));
     Program& program = workplace.program();
     Connection connection = database == QLatin1String("billing") ? program.openBilling() : program.openAccounting();
     const int rows = loadCsv(connection, table, file.fileName(), file.readAll());
@@ -163,16 +163,16 @@ int load(Call& call) {
 int userAdd(Call& call) {
     NewUser user;
     user.name = call.operands.at(0);
-    user.fullName = call.required(QStringLiteral("fullname"));
-    user.employeeID = call.parser.value(QStringLiteral("empid"));
-    if (call.parser.isSet(QStringLiteral("password-file")))
-        user.password = readPassword(call.parser.value(QStringLiteral("password-file")));
-    user.roles = call.parser.values(QStringLiteral("role"));
+    user.fullName = call.required("fullname");
+    user.employeeID = call.parser.value("empid");
+    if (call.parser.isSet("password-file"))
+        user.password = readPassword(call.parser.value("password-file"));
+    user.roles = call.parser.values("role");
     user.roles.removeAll(QString());
-    user.accounts = call.parser.isSet(QStringLiteral("accounts"));
+    user.accounts = call.parser.isSet("accounts");
     if (user.roles.isEmpty())
-        throw UsageError{QStringLiteral("--role is needed.")};
-    Workplace workplace(call.required(QStringLiteral("home")));
+        throw UsageError{"--role is needed."};
+    Workplace workplace(call.required("home"));
     Connection billing = workplace.program().openBilling();
     addUser(billing, user);
     call.out << "The user " << user.name << " is added.\n";
@@ -180,7 +180,7 @@ int userAdd(Call& call) {
 }
 
 int check(Call& call) {
-    Workplace workplace(call.required(QStringLiteral("home")));
+    Workplace workplace(call.required("home"));
     const CheckReport report = checkDatabases(workplace.program());
     for (const QString& line : report.findings + report.remarks)
         call.out << line << '\n';
@@ -191,20 +191,20 @@ int check(Call& call) {
 
 int demo(Call& call) {
     DemoOptions options;
-    options.home = QFileInfo(call.required(QStringLiteral("home"))).absoluteFilePath();
-    options.patients = call.number(QStringLiteral("patients"), 1, 99999);
-    options.days = call.number(QStringLiteral("days"), 1, 3650);
-    options.bills = call.number(QStringLiteral("bills"), 0, 1000000);
+    options.home = QFileInfo(call.required("home")).absoluteFilePath();
+    options.patients = call.number("patients", 1, 99999);
+    options.days = call.number("days", 1, 3650);
+    options.bills = call.number("bills", 0, 1000000);
     if (options.bills > 0) {
         options.patients = qMax(100, options.bills * 5 / 2); // as many as can come on one day at least
-        options.days = call.parser.isSet(QStringLiteral("days")) ? options.days : 730;
+        options.days = call.parser.isSet("days") ? options.days : 730;
     }
-    options.seed = quint64(call.number(QStringLiteral("seed"), 0, 2147483647));
+    options.seed = quint64(call.number("seed", 0, 2147483647));
     options.until = QDate::currentDate();
-    if (call.parser.isSet(QStringLiteral("until")))
-        options.until = QDate::fromString(call.parser.value(QStringLiteral("until")), QStringLiteral("yyyy-MM-dd"));
+    if (call.parser.isSet("until"))
+        options.until = QDate::fromString(call.parser.value("until"), "yyyy-MM-dd");
     if (!options.until.isValid())
-        throw UsageError{QStringLiteral("--until is a date of the form yyyy-mm-dd.")};
+        throw UsageError{"--until is a date of the form yyyy-mm-dd."};
     const HomeOptions home = homeOptions(call);
     writeHomeFiles(options.home, home);
     {
@@ -299,7 +299,7 @@ int runCommand(const Command& command, const QStringList& arguments, QTextStream
         }
         call.parser.addOption(known);
     }
-    if (!call.parser.parse(QStringList{QStringLiteral("orvane-db")} + arguments))
+    if (!call.parser.parse(QStringList{"orvane-db"} + arguments))
         throw UsageError{call.parser.errorText()};
     call.operands = call.parser.positionalArguments();
     if (call.operands.size() != command.operands.size())
@@ -314,7 +314,7 @@ int runCommand(const Command& command, const QStringList& arguments, QTextStream
 
 int runDatabaseTool(const QStringList& arguments, QTextStream& out, QTextStream& errors) {
     keepToOwner();
-    if (arguments.contains(QStringLiteral("--help")) || arguments.contains(QStringLiteral("-h"))) {
+    if (arguments.contains("--help") || arguments.contains("-h")) {
         writeUsage(out);
         return Done;
     }

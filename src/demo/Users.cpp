@@ -1,7 +1,7 @@
 #include "demo/Users.h"
 
-#include "data/Recordset.h"
-#include "data/Transaction.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/Transaction.h"
 #include "session/Scramble.h"
 
 namespace orvane {
@@ -12,7 +12,7 @@ constexpr int longestRoleName = 18; // as the role screen takes it
 
 void checkUser(const NewUser& user) {
     if (user.name.trimmed().isEmpty())
-        throw DataError(QStringLiteral("A user needs a name."));
+        throw DataError("A user needs a name.");
     if (user.name != user.name.trimmed())
         throw DataError(QStringLiteral("The user name \"%1\" begins or ends with a blank.").arg(user.name));
     for (const QString& role : user.roles)
@@ -26,8 +26,7 @@ QString storedPassword(const QString& password) {
     for (const QChar character : password) {
         const std::optional<QChar> scrambled = scrambledCharacter(character);
         if (!scrambled)
-            throw DataError(
-                QStringLiteral("A password holds letters, digits and signs of the plain alphabet, no blanks."));
+            throw DataError("A password holds letters, digits and signs of the plain alphabet, no blanks.");
         stored += *scrambled;
     }
     return stored;
@@ -36,13 +35,13 @@ QString storedPassword(const QString& password) {
 qlonglong roleID(Connection& billing, const QString& role) {
     Recordset found(billing, Sql("select RoleID from Roles where LoginRole='") << role << "'");
     if (!found.eof())
-        return found.integer(QStringLiteral("RoleID"));
+        return found.integer("RoleID");
     const Recordset last(billing, Sql("select max(RoleID) as ID from Roles"));
-    const qlonglong id = last.integer(QStringLiteral("ID")) + 1;
+    const qlonglong id = last.integer("ID") + 1;
     Recordset roles(billing, Sql("select * from Roles where 1=2"));
     roles.addNew();
-    roles.set(QStringLiteral("RoleID"), id);
-    roles.set(QStringLiteral("LoginRole"), role);
+    roles.set("RoleID", id);
+    roles.set("LoginRole", role);
     roles.update();
     return id;
 }
@@ -57,25 +56,25 @@ void addUser(Connection& billing, const NewUser& user) {
         throw DataError(QStringLiteral("The user name \"%1\" is taken.").arg(user.name));
     Recordset users(billing, Sql("select * from ApplicationUsers where 1=2"));
     users.addNew();
-    users.set(QStringLiteral("Username"), user.name);
-    users.set(QStringLiteral("Fullname"), user.fullName);
-    users.set(QStringLiteral("Password"), storedPassword(user.password));
-    users.set(QStringLiteral("AccountStatus"), QStringLiteral("Enabled"));
-    users.set(QStringLiteral("BranchCode"), user.branch);
-    users.set(QStringLiteral("EmpID"), user.employeeID);
+    users.set("Username", user.name);
+    users.set("Fullname", user.fullName);
+    users.set("Password", storedPassword(user.password));
+    users.set("AccountStatus", "Enabled");
+    users.set("BranchCode", user.branch);
+    users.set("EmpID", user.employeeID);
     users.update();
     Recordset held(billing, Sql("select * from UserRoles where 1=2"));
     for (const QString& role : user.roles) {
         const qlonglong id = roleID(billing, role);
         held.addNew();
-        held.set(QStringLiteral("RoleID"), id);
-        held.set(QStringLiteral("Username"), user.name);
+        held.set("RoleID", id);
+        held.set("Username", user.name);
         held.update();
     }
     if (user.accounts) {
         Recordset allowed(billing, Sql("select * from UsersForAccts where 1=2"));
         allowed.addNew();
-        allowed.set(QStringLiteral("username"), user.name);
+        allowed.set("username", user.name);
         allowed.update();
     }
     transaction.commit();

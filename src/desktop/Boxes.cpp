@@ -30,7 +30,7 @@ QMessageBox::Icon iconOf(Icon icon) {
 }
 
 QString titleOf(const QString& title) {
-    return title.isEmpty() ? QStringLiteral("Billing") : title;
+    return title.isEmpty() ? "Billing" : title;
 }
 
 void setWords(QMessageBox& box, const QString& text) {
@@ -40,7 +40,7 @@ void setWords(QMessageBox& box, const QString& text) {
     if (text.size() <= longestText && lines.size() <= longestLines) {
         box.setText(text);
     } else {
-        box.setText(lines.mid(0, longestLines).join(QLatin1Char('\n')).left(longestText) + QStringLiteral(" …"));
+        box.setText(lines.mid(0, longestLines).join(QLatin1Char('\n')).left(longestText) + " …");
         box.setDetailedText(text);
     }
     if (text.size() > longText)

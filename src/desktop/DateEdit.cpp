@@ -19,7 +19,7 @@ namespace orvane {
 
 namespace {
 
-const QString dateFormat = QStringLiteral("dd/MM/yyyy");
+const QString dateFormat = "dd/MM/yyyy";
 const QDate firstDate(1900, 1, 1), lastDate(2199, 12, 31);
 
 } // namespace
@@ -28,7 +28,7 @@ std::optional<QDate> DateEdit::parse(const QString& text) {
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty())
         return QDate();
-    static const QRegularExpression shape(QStringLiteral("^([0-9]{1,2})[-/. ]([0-9]{1,2})[-/. ]([0-9]{4})$"));
+    static const QRegularExpression shape("^([0-9]{1,2})[-/. ]([0-9]{1,2})[-/. ]([0-9]{4})$");
     const QRegularExpressionMatch match = shape.match(trimmed);
     if (!match.hasMatch())
         return std::nullopt;
@@ -39,13 +39,13 @@ std::optional<QDate> DateEdit::parse(const QString& text) {
 }
 
 DateEdit::DateEdit(QWidget* parent) : QWidget(parent), m_line(new QLineEdit(this)), m_button(new QToolButton(this)) {
-    m_line->setPlaceholderText(QStringLiteral("dd/mm/yyyy"));
+    m_line->setPlaceholderText("dd/mm/yyyy");
     m_line->setMaxLength(10);
     m_line->setFixedSize(look::charactersWidth(*m_line, 14), look::lineHeight);
     m_line->installEventFilter(this);
     m_button->setArrowType(Qt::DownArrow);
     m_button->setFocusPolicy(Qt::NoFocus);
-    m_button->setAccessibleName(QStringLiteral("Calendar"));
+    m_button->setAccessibleName("Calendar");
     m_button->setFixedHeight(look::lineHeight);
     auto* box = new QHBoxLayout(this);
     box->setContentsMargins(0, 0, 0, 0);
@@ -173,7 +173,8 @@ QFrame* DateEdit::makeCalendar() {
     };
     connect(calendar, &QCalendarWidget::clicked, popup, pick);
     connect(calendar, &QCalendarWidget::activated, popup, pick);
-    connect(today, &QPushButton::clicked, popup, [pick] { pick(QDate::currentDate()); });
+    connect(
+        today, &QPushButton::clicked, popup, [pick] { pick(QDate::currentDate()); });
     connect(none, &QPushButton::clicked, popup, [pick] { pick({}); });
     return popup;
 }

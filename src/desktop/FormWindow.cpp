@@ -27,9 +27,11 @@ Layout buttonsOnly(const Layout& layout) {
 }
 
 bool hasList(const Form& form) {
-    return std::any_of(form.controls().cbegin(), form.controls().cend(), [](const Control* control) {
-        return control->kind() == ControlKind::Grid || control->kind() == ControlKind::EntryGrid;
-    });
+    return std::any_of(
+        form.controls().cbegin(), form.controls().cend(),
+        [](const Control* control) {
+            return control->kind() == ControlKind::Grid || control->kind() == ControlKind::EntryGrid;
+        });
 }
 
 } // namespace
@@ -74,10 +76,12 @@ QWidget* FormWindow::pageButtons() {
     box->setContentsMargins(look::margin, 0, 0, 0);
     box->addWidget(preview);
     box->addWidget(save);
-    connect(preview, &QPushButton::clicked, this, [this] {
-        if (m_form && m_form->page())
-            printing::preview(Document::of(*m_form->page()), this);
-    });
+    connect(
+        preview, &QPushButton::clicked, this,
+        [this] {
+            if (m_form && m_form->page())
+                printing::preview(Document::of(*m_form->page()), this);
+        });
     connect(save, &QPushButton::clicked, this, [this] {
         if (m_form && m_form->page())
             printing::savePdf(Document::of(*m_form->page()), m_form->caption(), this);

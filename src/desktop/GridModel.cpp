@@ -23,8 +23,8 @@ void sortByKey(std::vector<int>& order, const std::vector<Key>& keys, Qt::SortOr
         std::stable_sort(order.begin(), order.end(),
                          [&](int a, int b) { return keys[std::size_t(a)] < keys[std::size_t(b)]; });
     else
-        std::stable_sort(order.begin(), order.end(),
-                         [&](int a, int b) { return keys[std::size_t(b)] < keys[std::size_t(a)]; });
+        std::stable_sort(
+            order.begin(), order.end(), [&](int a, int b) { return keys[std::size_t(b)] < keys[std::size_t(a)]; });
 }
 
 } // namespace

@@ -343,12 +343,11 @@ void LayoutBuilder::cardItem(QBoxLayout& box, const Layout& item) {
     } else if (item.kind == Layout::Row) {
         auto* line = new QHBoxLayout;
         spread(*line);
-        for (const Layout& child : item.children) {
+        for (const Layout& child : item.children)
             if (child.kind == Layout::Field)
                 cardField(*line, child);
             else
                 add(*line, piece(child).widget, nullptr, 0);
-        }
         box.addLayout(line);
     } else if (item.kind == Layout::Stretch) {
         box.addStretch(1);

@@ -90,7 +90,7 @@ QIcon programIcon() {
 }
 
 void apply(QApplication& application) {
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    application.setStyle(QStyleFactory::create("Fusion"));
     application.setPalette(palette());
     application.setStyleSheet(styleSheet.arg(application.font().pointSizeF() * 1.7));
     application.setWindowIcon(programIcon());

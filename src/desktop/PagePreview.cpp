@@ -16,7 +16,7 @@ constexpr int edge = 16;        ///< around the paper, pixels
 
 PagePreview::PagePreview(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
-    setAccessibleName(QStringLiteral("Page"));
+    setAccessibleName("Page");
 }
 
 void PagePreview::setPage(const Page& page) {

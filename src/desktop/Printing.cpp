@@ -24,10 +24,9 @@ QSizeF sheetOf(const Document& document) {
 }
 
 QString askFile(const QString& title, QWidget* parent) {
-    QString file = QFileDialog::getSaveFileName(parent, QStringLiteral("Save as PDF"), title + QStringLiteral(".pdf"),
-                                                QStringLiteral("PDF (*.pdf)"));
+    QString file = QFileDialog::getSaveFileName(parent, "Save as PDF", title + ".pdf", "PDF (*.pdf)");
     if (!file.isEmpty() && !file.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
-        file += QStringLiteral(".pdf");
+        file += ".pdf";
     return file;
 }
 
@@ -43,7 +42,7 @@ bool choosePrinter(QPrinter& printer, const QString& title, QWidget* parent) {
 }
 
 void sayFailed(QWidget* parent) {
-    boxes::message(parent, QStringLiteral("The document could not be printed."), Icon::Exclamation, {});
+    boxes::message(parent, "The document could not be printed.", Icon::Exclamation, {});
 }
 
 constexpr double a4Width = 210, a4Height = 297, paperMargin = 12; // mm

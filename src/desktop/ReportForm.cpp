@@ -29,9 +29,8 @@ ReportForm::ReportForm(Ui& ui, const QString& file, const QString& title, const 
     grdRows.load(rows);
     for (int column = 0; column < grdRows.columnCount(); ++column)
         if (isAmount(grdRows, column))
-            grdRows.setFormat(grdRows.columnName(column), QStringLiteral("#,##0.00"));
-    lblCount.setText(grdRows.rowCount() == 1 ? QStringLiteral("1 row")
-                                             : QStringLiteral("%L1 rows").arg(grdRows.rowCount()));
+            grdRows.setFormat(grdRows.columnName(column), "#,##0.00");
+    lblCount.setText(grdRows.rowCount() == 1 ? "1 row" : QStringLiteral("%L1 rows").arg(grdRows.rowCount()));
     cmdPrint.onClick = [this] { this->ui().printForm(*this); };
     cmdClose.onClick = [this] { unload(); };
 }

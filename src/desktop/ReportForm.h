@@ -13,10 +13,10 @@ public:
     Button* cancelButton() override { return &cmdClose; }
 
 private:
-    Grid grdRows{*this, QStringLiteral("grdRows")};
-    Label lblCount{*this, QStringLiteral("lblCount")};
-    Button cmdPrint{*this, QStringLiteral("cmdPrint"), QStringLiteral("&Print")};
-    Button cmdClose{*this, QStringLiteral("cmdClose"), QStringLiteral("&Close")};
+    Grid grdRows{*this, "grdRows"};
+    Label lblCount{*this, "lblCount"};
+    Button cmdPrint{*this, "cmdPrint", "&Print"};
+    Button cmdClose{*this, "cmdClose", "&Close"};
 };
 
 } // namespace orvane

@@ -48,8 +48,9 @@ void MenuBinding::refresh() {
 }
 
 bool ShellWindow::isShell(const Form& form) {
-    return std::any_of(form.controls().cbegin(), form.controls().cend(),
-                       [](const Control* control) { return control->kind() == ControlKind::Menu; });
+    return std::any_of(
+        form.controls().cbegin(), form.controls().cend(),
+        [](const Control* control) { return control->kind() == ControlKind::Menu; });
 }
 
 ShellWindow::ShellWindow(Form& form, bool scripted)
@@ -90,9 +91,9 @@ void ShellWindow::buildMenus() {
         fillMenu(*menu, item);
     }
     letters.assign();
-    addArrangement(QStringLiteral("mnuWindowTV"), &ShellWindow::tileVertical);
-    addArrangement(QStringLiteral("mnuWindowTH"), &ShellWindow::tileHorizontal);
-    addArrangement(QStringLiteral("mnuWindowCascade"), &ShellWindow::cascade);
+    addArrangement("mnuWindowTV", &ShellWindow::tileVertical);
+    addArrangement("mnuWindowTH", &ShellWindow::tileHorizontal);
+    addArrangement("mnuWindowCascade", &ShellWindow::cascade);
 }
 
 void ShellWindow::fillMenu(QMenu& menu, const MenuItem& item) {
@@ -132,10 +133,10 @@ void ShellWindow::listChildren(QMenu& menu) {
     for (QMdiSubWindow* child : m_area->subWindowList()) {
         if (!child->isVisible())
             continue;
-        const QString title = QString(child->windowTitle()).replace(QLatin1Char('&'), QStringLiteral("&&"));
+        const QString title = QString(child->windowTitle()).replace(QLatin1Char('&'), "&&");
         ++number;
-        QAction* action = menu.addAction(
-            QStringLiteral("%1%2 %3").arg(number < 10 ? QStringLiteral("&") : QString()).arg(number).arg(title));
+        QAction* action =
+            menu.addAction(QStringLiteral("%1%2 %3").arg(number < 10 ? "&" : QString()).arg(number).arg(title));
         action->setCheckable(true);
         action->setChecked(child == m_area->activeSubWindow());
         connect(action, &QAction::triggered, child, [this, child] { m_area->setActiveSubWindow(child); });

@@ -138,10 +138,12 @@ bool FrameBinding::eventFilter(QObject* watched, QEvent* event) {
 
 TabBinding::TabBinding(FormView& view, TabStrip& strip, QTabWidget* tabs)
     : Binding(view, strip, tabs), m_strip(&strip), m_tabs(tabs) {
-    connect(m_tabs, &QTabWidget::currentChanged, this, [this](int tab) {
-        if (m_strip && m_strip->tab() != tab)
-            user([this, tab] { m_strip->setTab(tab); });
-    });
+    connect(
+        m_tabs, &QTabWidget::currentChanged, this,
+        [this](int tab) {
+            if (m_strip && m_strip->tab() != tab)
+                user([this, tab] { m_strip->setTab(tab); });
+        });
 }
 
 void TabBinding::refresh() {
@@ -284,7 +286,8 @@ void StatusBinding::refresh() {
 }
 
 TimerBinding::TimerBinding(FormView& view, Timer& timer) : Binding(view, timer, nullptr), m_timer(&timer) {
-    connect(&m_clock, &QTimer::timeout, this, [this] { user([this] { m_timer->tick(); }); });
+    connect(
+        &m_clock, &QTimer::timeout, this, [this] { user([this] { m_timer->tick(); }); });
 }
 
 void TimerBinding::refresh() {

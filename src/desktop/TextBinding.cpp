@@ -25,8 +25,8 @@ void showLocked(QWidget& widget, bool locked) {
 } // namespace
 
 QString takeOneLine(QLineEdit& line) {
-    static const QRegularExpression lineBreak(QStringLiteral("[\n\r\u2028\u2029]"));
-    const QString text = QString(line.text()).replace(lineBreak, QStringLiteral(" "));
+    static const QRegularExpression lineBreak("[\n\r\u2028\u2029]");
+    const QString text = QString(line.text()).replace(lineBreak, " ");
     if (text != line.text()) {
         const int cursor = line.cursorPosition();
         line.setText(text);
@@ -116,7 +116,7 @@ void TextBinding::refresh() {
     showLocked(*m_edit, m_box->isLocked());
     m_edit->setReadOnly(m_box->isLocked());
     QString shown = m_box->text();
-    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    shown.replace("\r\n", "\n");
     if (m_edit->toPlainText() == shown)
         return;
     const int cursor = m_edit->textCursor().position();

@@ -26,8 +26,7 @@ namespace {
 
 void requireReachable(const Control& control, const QWidget& widget) {
     if (!widget.isEnabled())
-        throw PlayError(control.form().name() + QLatin1Char('.') + control.name() +
-                        QStringLiteral(" is disabled in its window"));
+        throw PlayError(control.form().name() + QLatin1Char('.') + control.name() + " is disabled in its window");
 }
 
 /// Replaces the text as a paste over the whole text does: one edit.
@@ -138,7 +137,7 @@ void WindowDriver::setDate(DatePicker& picker, QDate date) {
         return;
     }
     auto* edit = static_cast<DateEdit*>(binding->widget());
-    replaceText(*edit->lineEdit(), date.toString(QStringLiteral("dd/MM/yyyy")));
+    replaceText(*edit->lineEdit(), date.toString("dd/MM/yyyy"));
     edit->settle();
 }
 
@@ -210,7 +209,7 @@ void WindowDriver::key(Control& control, QChar character) {
         line->end(false);
     const bool enter = character == QLatin1Char('\n');
     const int code = enter ? int(Qt::Key_Return) : int(character.toUpper().unicode());
-    const QString text = enter ? QStringLiteral("\r") : QString(character);
+    const QString text = enter ? "\r" : QString(character);
     QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier, text);
     QApplication::sendEvent(editor, &press);
 }

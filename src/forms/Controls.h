@@ -120,7 +120,7 @@ public:
     }
     bool isChecked() const { return m_checked; }
     void setChecked(bool checked);
-    QString valueText() const override { return m_checked ? QStringLiteral("yes") : QStringLiteral("no"); }
+    QString valueText() const override { return m_checked ? "yes" : "no"; }
 
 private:
     bool m_checked = false;
@@ -135,7 +135,7 @@ public:
     }
     bool isChecked() const { return m_checked; }
     void setChecked(bool checked);
-    QString valueText() const override { return m_checked ? QStringLiteral("yes") : QStringLiteral("no"); }
+    QString valueText() const override { return m_checked ? "yes" : "no"; }
 
 private:
     bool m_checked = false;

@@ -1,7 +1,7 @@
 #include "forms/Grid.h"
 
 #include "data/Assert.h"
-#include "data/Money.h"
+#include "data/words/Money.h"
 
 #include <algorithm>
 
@@ -16,13 +16,13 @@ QString asPeopleReadDates(const QString& text) {
     if (!looksDated)
         return text;
     if (text.size() == 10) {
-        const QDate date = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+        const QDate date = QDate::fromString(text, "yyyy-MM-dd");
         if (date.isValid())
-            return date.toString(QStringLiteral("dd/MM/yyyy"));
+            return date.toString("dd/MM/yyyy");
     } else if (text.size() == 19) {
-        const QDateTime time = QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+        const QDateTime time = QDateTime::fromString(text, "yyyy-MM-dd HH:mm:ss");
         if (time.isValid())
-            return time.toString(QStringLiteral("dd/MM/yyyy HH:mm"));
+            return time.toString("dd/MM/yyyy HH:mm");
     }
     return text;
 }

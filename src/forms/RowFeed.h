@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/Recordset.h"
+#include "data/rows/Recordset.h"
 
 #include <functional>
 #include <utility>
@@ -19,10 +19,9 @@ public:
 
     /// Adds up to so many entries. A fault of the engine is raised once and ends the list.
     void read(int rows) {
-        while (rows > 0 && hasMore() && !m_rows.eof()) {
+        while (rows > 0 && hasMore() && !m_rows.eof())
             for (; rows > 0 && m_rows.row() < m_rows.rowsRead(); --rows, m_rows.moveNext())
                 m_add(m_rows);
-        }
         if (!hasMore())
             *this = RowFeed();
     }

@@ -15,7 +15,7 @@ QString nameOf(const Control& control) {
 template <typename Box>
 void requireUnlocked(const Box& box) {
     if (box.isLocked())
-        refuse(box, QStringLiteral("is locked"));
+        refuse(box, "is locked");
 }
 
 /// What is left of a typed text when the control has seen each of its characters.
@@ -34,7 +34,7 @@ QString acceptedBy(Control& control, const QString& text) {
 void setText(Driver& driver, TextBox& box, const QString& value) {
     requireUnlocked(box);
     if (!box.isMultiline() && value.contains(QLatin1Char('\n')))
-        refuse(box, QStringLiteral("takes one line"));
+        refuse(box, "takes one line");
     const QString accepted = acceptedBy(box, value);
     driver.type(box, box.maxLength() > 0 ? accepted.left(box.maxLength()) : accepted);
 }
@@ -52,7 +52,7 @@ void setText(Driver& driver, ComboBox& box, const QString& value) {
 
 bool readYesNo(const Control& control, const QString& value) {
     if (value != QLatin1String("yes") && value != QLatin1String("no"))
-        refuse(control, QStringLiteral("takes \"yes\" or \"no\""));
+        refuse(control, "takes \"yes\" or \"no\"");
     return value == QLatin1String("yes");
 }
 
@@ -60,14 +60,14 @@ void setChecked(Driver& driver, OptionButton& option, bool checked) {
     if (checked)
         driver.check(option);
     else if (option.isChecked())
-        refuse(option, QStringLiteral("is turned off by choosing another option"));
+        refuse(option, "is turned off by choosing another option");
 }
 
 void setDate(Driver& driver, DatePicker& picker, const QString& value) {
     requireUnlocked(picker);
-    const QDate date = QDate::fromString(value, QStringLiteral("yyyy-MM-dd"));
+    const QDate date = QDate::fromString(value, "yyyy-MM-dd");
     if (!date.isValid() && !value.isEmpty())
-        refuse(picker, QStringLiteral("takes a date as yyyy-mm-dd, or \"\""));
+        refuse(picker, "takes a date as yyyy-mm-dd, or \"\"");
     driver.setDate(picker, date);
 }
 
@@ -154,11 +154,11 @@ void requireUsable(const Control& control, const Form* modal) {
     if (modal && modal != &form)
         refuse(control, QStringLiteral("waits until %1 has closed").arg(modal->name()));
     if (form.isRunning())
-        refuse(control, QStringLiteral("waits until a handler of its form has ended"));
+        refuse(control, "waits until a handler of its form has ended");
     if (!control.isShown())
-        refuse(control, QStringLiteral("is hidden"));
+        refuse(control, "is hidden");
     if (!control.isUsable())
-        refuse(control, QStringLiteral("is disabled"));
+        refuse(control, "is disabled");
 }
 
 void setValue(Driver& driver, Control& control, const QString& value) {
@@ -174,7 +174,7 @@ void setValue(Driver& driver, Control& control, const QString& value) {
     case ControlKind::DatePicker:
         return setDate(driver, static_cast<DatePicker&>(control), value);
     default:
-        refuse(control, QStringLiteral("takes no value"));
+        refuse(control, "takes no value");
     }
 }
 
@@ -198,13 +198,13 @@ void pickEntry(Driver& driver, Control& control, const QString& entry, bool isIn
         return driver.choose(tabs, indexOf(tabs, pagesOf(tabs, tabs.form().layout()), entry, isIndex));
     }
     default:
-        refuse(control, QStringLiteral("has no entries to pick"));
+        refuse(control, "has no entries to pick");
     }
 }
 
 void tickEntries(Driver& driver, Control& control, const QStringList& entries, bool ticked) {
     if (control.kind() != ControlKind::ListBox)
-        refuse(control, QStringLiteral("is not a list to tick in"));
+        refuse(control, "is not a list to tick in");
     auto& list = static_cast<ListBox&>(control);
     for (const QString& entry : entries) {
         const qsizetype index = entriesOf(list).indexOf(entry);
@@ -223,7 +223,7 @@ void makeRowCurrent(Driver& driver, Control& control, const QString& row, bool i
         // A script counts the rows below the head from 0.
         driver.selectRow(grid, isIndex ? rowNumber(grid, row, grid.rows() - 1) + 1 : findRow(grid, row));
     } else {
-        refuse(control, QStringLiteral("has no rows"));
+        refuse(control, "has no rows");
     }
 }
 

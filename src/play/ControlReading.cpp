@@ -64,9 +64,9 @@ QString stateOf(const Control& control) {
     bool enabled = true;
     for (const Control* part = &control; part; part = part->parentFrame())
         enabled = enabled && part->isEnabled();
-    QString state = control.isShown() ? QStringLiteral("visible ") : QStringLiteral("hidden ");
-    state += enabled ? QStringLiteral("enabled") : QStringLiteral("disabled");
-    return isLocked(control) ? state + QStringLiteral(" locked") : state;
+    QString state = control.isShown() ? "visible " : "hidden ";
+    state += enabled ? "enabled" : "disabled";
+    return isLocked(control) ? state + " locked" : state;
 }
 
 std::optional<QStringList> itemsOf(const Control& control) {

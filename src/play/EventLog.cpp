@@ -1,6 +1,6 @@
 #include "play/EventLog.h"
 
-#include "data/ShownText.h"
+#include "data/words/ShownText.h"
 
 #include <QFileDevice>
 
@@ -11,15 +11,15 @@ namespace {
 QString iconName(Icon icon) {
     switch (icon) {
     case Icon::None:
-        return QStringLiteral("none");
+        return "none";
     case Icon::Information:
-        return QStringLiteral("information");
+        return "information";
     case Icon::Exclamation:
-        return QStringLiteral("exclamation");
+        return "exclamation";
     case Icon::Critical:
-        return QStringLiteral("critical");
+        return "critical";
     case Icon::Question:
-        return QStringLiteral("question");
+        return "question";
     }
     return {};
 }
@@ -36,7 +36,7 @@ void EventLog::write(const QString& line) {
 }
 
 void EventLog::box(Icon icon, const QString& title, const QString& text) {
-    write(QStringLiteral("box ") + iconName(icon) + QLatin1Char(' ') + quoted(title) + QLatin1Char(' ') + quoted(text));
+    write("box " + iconName(icon) + QLatin1Char(' ') + quoted(title) + QLatin1Char(' ') + quoted(text));
     m_boxes.push_back(text);
 }
 
@@ -55,13 +55,13 @@ void EventLog::fail(const QString& reason) {
 
 QString EventLog::quoted(const QString& text) {
     QString inside = text;
-    inside.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
-    inside.replace(QLatin1Char('"'), QStringLiteral("\\\""));
+    inside.replace(QLatin1Char('\\'), "\\\\");
+    inside.replace(QLatin1Char('"'), "\\\"");
     return QLatin1Char('"') + onOneLine(inside) + QLatin1Char('"');
 }
 
 QString EventLog::oneLine(const QString& text) {
-    return onOneLine(text).replace(QLatin1Char('\t'), QStringLiteral("\\t"));
+    return onOneLine(text).replace(QLatin1Char('\t'), "\\t");
 }
 
 } // namespace orvane

@@ -42,76 +42,94 @@ void typeCharacter(Control& control, QChar character) {
 } // namespace
 
 void HeadlessDriver::type(TextBox& box, const QString& text) {
-    act(box, [&] { box.setText(text); });
+    act(
+        box, [&] { box.setText(text); });
 }
 
 void HeadlessDriver::type(ComboBox& box, const QString& text) {
-    act(box, [&] { box.setText(text); });
+    act(
+        box, [&] { box.setText(text); });
 }
 
 void HeadlessDriver::choose(ComboBox& box, int index) {
-    act(box, [&] { box.setListIndex(index); });
+    act(
+        box, [&] { box.setListIndex(index); });
 }
 
 void HeadlessDriver::choose(TabStrip& tabs, int tab) {
-    act(tabs, [&] { tabs.setTab(tab); });
+    act(
+        tabs, [&] { tabs.setTab(tab); });
 }
 
 void HeadlessDriver::choose(Tree& tree, const QString& key) {
-    act(tree, [&] { tree.select(key); });
+    act(
+        tree, [&] { tree.select(key); });
 }
 
 void HeadlessDriver::setChecked(CheckBox& box, bool checked) {
-    act(box, [&] { box.setChecked(checked); });
+    act(
+        box, [&] { box.setChecked(checked); });
 }
 
 void HeadlessDriver::check(OptionButton& option) {
-    act(option, [&] { option.setChecked(true); });
+    act(
+        option, [&] { option.setChecked(true); });
 }
 
 void HeadlessDriver::setSelected(ListBox& list, int index, bool selected) {
-    act(list, [&] { list.setSelected(index, selected); });
+    act(
+        list, [&] { list.setSelected(index, selected); });
 }
 
 void HeadlessDriver::setDate(DatePicker& picker, QDate date) {
-    act(picker, [&] { picker.setDate(date); });
+    act(
+        picker, [&] { picker.setDate(date); });
 }
 
 void HeadlessDriver::selectRow(Grid& grid, int row) {
-    act(grid, [&] { grid.selectRow(row); });
+    act(
+        grid, [&] { grid.selectRow(row); });
 }
 
 void HeadlessDriver::selectRow(EntryGrid& grid, int row) {
-    act(grid, [&] { grid.selectRow(row); });
+    act(
+        grid, [&] { grid.selectRow(row); });
 }
 
 void HeadlessDriver::click(Control& control) {
-    act(control, [&] { control.click(); });
+    act(
+        control, [&] { control.click(); });
 }
 
 void HeadlessDriver::click(MenuItem& entry) {
-    act(entry, [&] { entry.click(); });
+    act(
+        entry, [&] { entry.click(); });
 }
 
 void HeadlessDriver::dblClick(Control& control) {
-    act(control, [&] { control.dblClick(); });
+    act(
+        control, [&] { control.dblClick(); });
 }
 
 void HeadlessDriver::leave(Control& control) {
-    act(control, [&] { control.leave(); });
+    act(
+        control, [&] { control.leave(); });
 }
 
 void HeadlessDriver::key(Control& control, QChar character) {
-    act(control, [&] {
-        if (character == QLatin1Char('\n'))
-            pressEnter(control);
-        else if (control.keyPress(character))
-            typeCharacter(control, character);
-    });
+    act(
+        control,
+        [&] {
+            if (character == QLatin1Char('\n'))
+                pressEnter(control);
+            else if (control.keyPress(character))
+                typeCharacter(control, character);
+        });
 }
 
 void HeadlessDriver::tick(Timer& timer) {
-    act(timer, [&] { timer.tick(); });
+    act(
+        timer, [&] { timer.tick(); });
 }
 
 void HeadlessDriver::close(Form& form) {

@@ -18,7 +18,7 @@ int runPlay(const QString& homeFolder, QIODevice& script, QIODevice& output, con
     const Player::Entry entry{[&] { Main(program, options.userName); },
                               [&] {
                                   if (!prepareServer(program))
-                                      throw PlayError(QStringLiteral("the home folder names no server"));
+                                      throw PlayError("the home folder names no server");
                               }};
     Player player(program, ui, log, options.driver ? *options.driver : modelDriver, script, entry);
     return player.run() ? 0 : 1;

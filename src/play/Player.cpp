@@ -21,12 +21,12 @@ namespace {
 constexpr int anyNumber = 1000;
 
 QString shell() {
-    return QStringLiteral("MdiTolmek");
+    return "MdiTolmek";
 }
 
 /// A value as a script can write it, which knows one line end only.
 QString comparable(QString value) {
-    return value.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return value.replace("\r\n", "\n");
 }
 
 } // namespace
@@ -74,7 +74,7 @@ bool Player::run() {
     }
     if (!m_ui.unusedAnswers().empty()) {
         m_log.setLine(m_ui.unusedAnswers().front().line);
-        m_log.fail(QStringLiteral("nothing asked for this answer"));
+        m_log.fail("nothing asked for this answer");
     }
     return !m_log.hasFailed();
 }
@@ -128,34 +128,34 @@ void Player::execute(const Words& words) {
 
 void Player::start(const Words&) {
     if (m_started)
-        throw PlayError(QStringLiteral("the program has been started"));
+        throw PlayError("the program has been started");
     m_started = true;
     m_entry.start();
 }
 
 void Player::clock(const Words& words) {
-    const QDateTime at = QDateTime::fromString(words.at(1).text, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    const QDateTime at = QDateTime::fromString(words.at(1).text, "yyyy-MM-dd HH:mm:ss");
     if (!at.isValid())
-        throw PlayError(QStringLiteral("a clock takes \"yyyy-mm-dd hh:mm:ss\""));
+        throw PlayError("a clock takes \"yyyy-mm-dd hh:mm:ss\"");
     if (words.first().text == QLatin1String("server"))
         m_program.data().setServerClock(at);
     else if (words.first().text == QLatin1String("workstation"))
         m_ui.setClock(at);
     else
-        throw PlayError(QStringLiteral("there is a server's and a workstation's clock"));
+        throw PlayError("there is a server's and a workstation's clock");
 }
 
 void Player::menu(const Words& words) {
     Control& entry = usableControl({shell() + QLatin1Char('.') + words.first().text});
     if (entry.kind() != ControlKind::Menu)
-        throw PlayError(words.first().text + QStringLiteral(" is not a menu entry"));
+        throw PlayError(words.first().text + " is not a menu entry");
     m_driver.click(static_cast<MenuItem&>(entry));
 }
 
 void Player::open(const Words& words) {
     const QString name = words.first().text;
     if (!m_program.isRegistered(name))
-        throw PlayError(QStringLiteral("there is no form ") + name);
+        throw PlayError("there is no form " + name);
     if (const Form* modal = m_ui.modalForm())
         throw PlayError(QStringLiteral("%1 waits until %2 has closed").arg(name, modal->name()));
     m_program.open(name);
@@ -211,11 +211,11 @@ void Player::key(const Words& words) {
 void Player::timer(const Words& words) {
     Control& timer = control(words.first());
     if (timer.kind() != ControlKind::Timer)
-        throw PlayError(words.first().text + QStringLiteral(" is not a timer"));
+        throw PlayError(words.first().text + " is not a timer");
     if (!timer.isEnabled())
-        throw PlayError(words.first().text + QStringLiteral(" is disabled"));
+        throw PlayError(words.first().text + " is disabled");
     if (timer.form().isRunning())
-        throw PlayError(words.first().text + QStringLiteral(" waits until a handler of its form has ended"));
+        throw PlayError(words.first().text + " waits until a handler of its form has ended");
     m_driver.tick(static_cast<Timer&>(timer));
 }
 
@@ -225,7 +225,7 @@ void Player::close(const Words& words) {
     if (modal && modal != &form)
         throw PlayError(QStringLiteral("%1 waits until %2 has closed").arg(form.name(), modal->name()));
     if (form.isRunning())
-        throw PlayError(form.name() + QStringLiteral(" waits until its handler has ended"));
+        throw PlayError(form.name() + " waits until its handler has ended");
     m_driver.close(form);
 }
 
@@ -240,7 +240,7 @@ void Player::answer(const Words& words) {
     else if (word.text == QLatin1String("cancel"))
         m_ui.queueAnswer({Answer::Cancel, {}, m_line});
     else
-        throw PlayError(QStringLiteral("an answer is yes, no, cancel or a text in quotes"));
+        throw PlayError("an answer is yes, no, cancel or a text in quotes");
 }
 
 void Player::print(const Words& words) {
@@ -249,7 +249,7 @@ void Player::print(const Words& words) {
 
 void Player::writeLines(const std::optional<QStringList>& lines, const ScriptWord& word) {
     if (!lines)
-        throw PlayError(word.text + QStringLiteral(" has none"));
+        throw PlayError(word.text + " has none");
     for (const QString& line : *lines)
         m_log.write(line);
 }
@@ -284,7 +284,7 @@ void Player::expect(const Words& words) {
     if (what == QLatin1String("sql"))
         return expectSql(words);
     if (words.size() != 2)
-        throw PlayError(QStringLiteral("one value is expected"));
+        throw PlayError("one value is expected");
     const QString wanted = words.at(1).text;
     if (what == QLatin1String("box"))
         return expectBox(wanted);
@@ -305,7 +305,7 @@ void Player::expectBox(const QString& text) {
 
 void Player::expectSql(const Words& words) {
     if (words.size() != 4)
-        throw PlayError(QStringLiteral("usage: expect sql billing|accounting \"statement\" \"value\""));
+        throw PlayError("usage: expect sql billing|accounting \"statement\" \"value\"");
     const QString wanted = words.at(3).text;
     const Recordset rows = query(words.at(1).text, words.at(2).text);
     if (rows.columns().isEmpty() || rows.eof())
@@ -323,23 +323,23 @@ Recordset Player::query(const QString& database, const QString& statement) {
         return m_program.openBilling().run(statement);
     if (database == QLatin1String("accounting"))
         return m_program.openAccounting().run(statement);
-    throw PlayError(QStringLiteral("the databases are billing and accounting"));
+    throw PlayError("the databases are billing and accounting");
 }
 
 Form& Player::openForm(const QString& name) {
     Form* form = m_program.loadedForm(name);
     if (!form || !form->isLoaded())
-        throw PlayError(name + QStringLiteral(" is not open"));
+        throw PlayError(name + " is not open");
     return *form;
 }
 
 Control& Player::control(const ScriptWord& word) {
     const qsizetype dot = word.text.indexOf(QLatin1Char('.'));
     if (dot < 0)
-        throw PlayError(word.text + QStringLiteral(" is not FORM.CONTROL"));
+        throw PlayError(word.text + " is not FORM.CONTROL");
     Control* found = openForm(word.text.left(dot)).find(word.text.mid(dot + 1));
     if (!found)
-        throw PlayError(QStringLiteral("there is no control ") + word.text);
+        throw PlayError("there is no control " + word.text);
     return *found;
 }
 

@@ -37,7 +37,7 @@ private:
         const qsizetype start = m_at;
         while (m_at < m_line.size() && !isBlank(m_line.at(m_at))) {
             if (m_line.at(m_at) == QLatin1Char('"'))
-                error = QStringLiteral("a quote inside a word");
+                error = "a quote inside a word";
             ++m_at;
         }
         return {m_line.mid(start, m_at - start), false};
@@ -50,12 +50,12 @@ private:
             if (character == QLatin1Char('"')) {
                 ++m_at;
                 if (m_at < m_line.size() && !isBlank(m_line.at(m_at)))
-                    error = QStringLiteral("no blank behind a closing quote");
+                    error = "no blank behind a closing quote";
                 return word;
             }
             word.text += character == QLatin1Char('\\') ? escaped(error) : character;
         }
-        error = QStringLiteral("a text without its closing quote");
+        error = "a text without its closing quote";
         return word;
     }
 
@@ -68,7 +68,7 @@ private:
         if (character == QLatin1Char('u'))
             return codedCharacter(error);
         if (character != QLatin1Char('"') && character != QLatin1Char('\\'))
-            error = QStringLiteral("a backslash that is not followed by \", \\, n or u");
+            error = "a backslash that is not followed by \", \\, n or u";
         return character;
     }
 
@@ -79,7 +79,7 @@ private:
         const ushort code = digits.toUShort(&isNumber, 16);
         if (digits.size() != 4 || !isNumber || digits.front() == QLatin1Char(' ') || code == 0 ||
             QChar::isSurrogate(code))
-            error = QStringLiteral("no character of four hexadecimal digits behind \\u");
+            error = "no character of four hexadecimal digits behind \\u";
         m_at += digits.size();
         return QChar(code);
     }
@@ -99,12 +99,12 @@ ScriptLine parseScriptLine(const QByteArray& line) {
     if (bytes.size() > maxScriptLine)
         return {{}, QStringLiteral("a line of more than %1 bytes").arg(maxScriptLine)};
     if (bytes.contains('\0'))
-        return {{}, QStringLiteral("a zero byte")};
+        return {{}, "a zero byte"};
     // Stateless: a character that is cut off at the end is an error. A byte order mark is left out.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder.decode(bytes);
     if (decoder.hasError())
-        return {{}, QStringLiteral("bytes that are not UTF-8")};
+        return {{}, "bytes that are not UTF-8"};
     return LineReader(text).read();
 }
 

@@ -1,6 +1,6 @@
 #include "play/ScriptUi.h"
 
-#include "data/Recordset.h"
+#include "data/rows/Recordset.h"
 #include "forms/Form.h"
 
 #include <QFileInfo>
@@ -14,31 +14,28 @@ void ScriptUi::box(const QString& text, Icon icon, const QString& title) {
 }
 
 bool ScriptUi::question(const QString& text, const QString& title) {
-    const std::optional<Answer> answer =
-        takeAnswer(Answer::Yes, Answer::No, QStringLiteral("question ") + EventLog::quoted(text));
+    const std::optional<Answer> answer = takeAnswer(Answer::Yes, Answer::No, "question " + EventLog::quoted(text));
     if (!answer)
         return false;
     const bool yes = answer->kind == Answer::Yes;
     m_log.write(
         QStringLiteral("question %1 -> ").arg(EventLog::quoted(title) + QLatin1Char(' ') + EventLog::quoted(text)) +
-        (yes ? QStringLiteral("yes") : QStringLiteral("no")));
+        (yes ? "yes" : "no"));
     return yes;
 }
 
 std::optional<QString> ScriptUi::inputBox(const QString& prompt, const QString&, const QString&) {
-    const std::optional<Answer> answer =
-        takeAnswer(Answer::Text, Answer::Cancel, QStringLiteral("input ") + EventLog::quoted(prompt));
+    const std::optional<Answer> answer = takeAnswer(Answer::Text, Answer::Cancel, "input " + EventLog::quoted(prompt));
     if (!answer)
         return std::nullopt;
     const bool cancelled = answer->kind == Answer::Cancel;
-    m_log.write(QStringLiteral("input ") + EventLog::quoted(prompt) + QStringLiteral(" -> ") +
-                (cancelled ? QStringLiteral("cancel") : EventLog::quoted(answer->text)));
+    m_log.write("input " + EventLog::quoted(prompt) + " -> " + (cancelled ? "cancel" : EventLog::quoted(answer->text)));
     return cancelled ? std::nullopt : std::optional(answer->text);
 }
 
 std::optional<Answer> ScriptUi::takeAnswer(Answer::Kind one, Answer::Kind other, const QString& asked) {
     if (m_answers.empty()) {
-        m_log.fail(QStringLiteral("no answer is queued for ") + asked);
+        m_log.fail("no answer is queued for " + asked);
         return std::nullopt;
     }
     const Answer answer = m_answers.front();
@@ -54,7 +51,7 @@ void ScriptUi::opened(Form& form) {
     if (m_open.contains(&form))
         return;
     m_open.insert(&form);
-    m_log.write(QStringLiteral("opened ") + form.name());
+    m_log.write("opened " + form.name());
 }
 
 void ScriptUi::show(Form& form) {
@@ -77,7 +74,7 @@ void ScriptUi::showModal(Form& form) {
 void ScriptUi::closed(Form& form) {
     m_modal.removeOne(&form);
     if (m_open.remove(&form))
-        m_log.write(QStringLiteral("closed ") + form.name());
+        m_log.write("closed " + form.name());
     m_shower.closed(form);
 }
 
@@ -90,7 +87,7 @@ void ScriptUi::processEvents() {
 }
 
 void ScriptUi::printForm(Form& form) {
-    m_log.write(QStringLiteral("print ") + form.name());
+    m_log.write("print " + form.name());
     m_shower.printForm(form);
 }
 
@@ -100,11 +97,11 @@ void ScriptUi::viewReport(const QString& file, const QString& title, const Recor
 }
 
 void ScriptUi::exported(const QString& file) {
-    m_log.write(QStringLiteral("export ") + QFileInfo(file).fileName());
+    m_log.write("export " + QFileInfo(file).fileName());
 }
 
 void ScriptUi::playSound(const QString& file) {
-    m_log.write(QStringLiteral("sound ") + QFileInfo(file).fileName());
+    m_log.write("sound " + QFileInfo(file).fileName());
 }
 
 QDateTime ScriptUi::now() const {

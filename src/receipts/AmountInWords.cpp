@@ -1,6 +1,6 @@
 #include "receipts/AmountInWords.h"
 
-#include "data/Money.h"
+#include "data/words/Money.h"
 #include "session/Words.h"
 
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "receipts/ReceiptScreen.h"
 
-#include "data/Money.h"
+#include "data/words/Money.h"
 
 namespace orvane {
 

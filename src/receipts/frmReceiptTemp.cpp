@@ -1,6 +1,6 @@
 #include "receipts/frmReceiptTemp.h"
 
-#include "data/Money.h"
+#include "data/words/Money.h"
 #include "receipts/AmountInWords.h"
 #include "receipts/ListEntry.h"
 #include "receipts/PatientAccount.h"

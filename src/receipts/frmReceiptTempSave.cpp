@@ -1,7 +1,7 @@
 // Saving a receipt or a reversal on frmReceiptTemp.
 #include "receipts/frmReceiptTemp.h"
 
-#include "data/Money.h"
+#include "data/words/Money.h"
 #include "receipts/PatientAccount.h"
 #include "receipts/ReceiptRows.h"
 #include "receipts/VisitFacts.h"

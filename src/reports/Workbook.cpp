@@ -100,12 +100,11 @@ void exportWorkbook(const Grid& grid, const QString& file) {
 }
 
 QString exportFileName(const QString& folder, const QString& title, const QDateTime& now) {
-    static const QRegularExpression unfit(QStringLiteral("[^\\w .-]+"), QRegularExpression::UseUnicodePropertiesOption);
+    static const QRegularExpression unfit("[^\\w .-]+", QRegularExpression::UseUnicodePropertiesOption);
     QString name = title;
-    name.replace(unfit, QStringLiteral(" "));
+    name.replace(unfit, " ");
     QDir().mkpath(folder);
-    return folder + QLatin1Char('/') + name.simplified().left(80) +
-           now.toString(QStringLiteral(" yyyy-MM-dd HH.mm.ss")) + QStringLiteral(".xlsx");
+    return folder + QLatin1Char('/') + name.simplified().left(80) + now.toString(" yyyy-MM-dd HH.mm.ss") + ".xlsx";
 }
 
 } // namespace orvane

@@ -4,8 +4,8 @@ namespace orvane {
 
 namespace {
 
-const QString unknownUser = QStringLiteral("Alert! Indicated username not found in the list of accredited users.");
-const QString emptyUser = QStringLiteral("Alert! Username can't be empty.");
+const QString unknownUser = "Alert! Indicated username not found in the list of accredited users.";
+const QString emptyUser = "Alert! Username can't be empty.";
 
 /// False: there is no such account.
 bool setAccountStatus(Program& program, const QString& name, const QString& status) {
@@ -14,14 +14,13 @@ bool setAccountStatus(Program& program, const QString& name, const QString& stat
                                       << name << "' ");
     if (account.eof())
         return false;
-    account.set(QStringLiteral("AccountStatus"), status);
+    account.set("AccountStatus", status);
     account.update();
     return true;
 }
 
 void changeAccountStatus(Program& program, const QString& status, const QString& done) {
-    const std::optional<QString> answer =
-        program.ui().inputBox(QStringLiteral("Kindly indicate the Account's Username."));
+    const std::optional<QString> answer = program.ui().inputBox("Kindly indicate the Account's Username.");
     if (!answer)
         return;
     const QString name = answer->trimmed();
@@ -35,13 +34,11 @@ void changeAccountStatus(Program& program, const QString& status, const QString&
 } // namespace
 
 void enableUserAccount(Program& program) {
-    changeAccountStatus(program, QStringLiteral("Enabled"),
-                        QStringLiteral("Congrats! User Account Enabled successfully."));
+    changeAccountStatus(program, "Enabled", "Congrats! User Account Enabled successfully.");
 }
 
 void disableUserAccount(Program& program) {
-    changeAccountStatus(program, QStringLiteral("Disabled"),
-                        QStringLiteral("Congrats! User Account diasbled successfully."));
+    changeAccountStatus(program, "Disabled", "Congrats! User Account diasbled successfully.");
 }
 
 void changeUserPassword(Program& program, const QString& user, const QString& oldPassword, const QString& newPassword) {
@@ -50,7 +47,7 @@ void changeUserPassword(Program& program, const QString& user, const QString& ol
         return;
     }
     if (oldPassword.trimmed().isEmpty()) {
-        program.box(QStringLiteral("Alert! Old Account password can't be empty."));
+        program.box("Alert! Old Account password can't be empty.");
         return;
     }
     Connection connection = program.openBilling();
@@ -62,7 +59,7 @@ void changeUserPassword(Program& program, const QString& user, const QString& ol
     }
     connection.execute(Sql("UPDATE ApplicationUsers SET Password = '")
                        << newPassword << "' where Username = '" << user << "'");
-    program.box(QStringLiteral("Congrats! User Account's Password changed."));
+    program.box("Congrats! User Account's Password changed.");
 }
 
 } // namespace orvane

@@ -6,7 +6,7 @@ namespace orvane {
 
 namespace {
 
-const QString shortTime = QStringLiteral("HH:mm");
+const QString shortTime = "HH:mm";
 
 } // namespace
 
@@ -27,14 +27,13 @@ void Program::writeAuditTrail(const QString& /*userName*/, const QString& action
         // `source` is mostly session.sComputerName itself, which this refreshes.
         readEnvironmentIdentity();
         Connection connection = openBilling();
-        connection.call(QStringLiteral("SpAudiTrail"),
-                        {{QStringLiteral("@userName"), session.gUsername},
-                         {QStringLiteral("@userAction"), action},
-                         {QStringLiteral("@ActionDate"), session.gServerDate},
-                         {QStringLiteral("@ActionTime"), session.gServerTime.toString(shortTime)},
-                         {QStringLiteral("@TranCode"), tranCode},
-                         {QStringLiteral("@Remarks"), remarks},
-                         {QStringLiteral("@Src"), session.gModuleName + QStringLiteral(": from ") + source}});
+        connection.call("SpAudiTrail", {{"@userName", session.gUsername},
+                                        {"@userAction", action},
+                                        {"@ActionDate", session.gServerDate},
+                                        {"@ActionTime", session.gServerTime.toString(shortTime)},
+                                        {"@TranCode", tranCode},
+                                        {"@Remarks", remarks},
+                                        {"@Src", session.gModuleName + ": from " + source}});
     } catch (const DataError& fault) {
         boxAfterTransaction(fault.description());
     }
@@ -48,19 +47,19 @@ void Program::openUserActivity(bool isLogout, bool autoLogoff, const QString& re
         Transaction transaction(connection);
         Recordset activity(connection, Sql("select * from UserActivities where 1=2"));
         activity.addNew();
-        activity.set(QStringLiteral("username"), session.gUsername);
-        activity.set(QStringLiteral("LoginDate"), now.date());
-        activity.set(QStringLiteral("LoginTime"), now.toString(shortTime));
-        activity.set(QStringLiteral("islogout"), int(isLogout));
+        activity.set("username", session.gUsername);
+        activity.set("LoginDate", now.date());
+        activity.set("LoginTime", now.toString(shortTime));
+        activity.set("islogout", int(isLogout));
         if (isLogout) {
-            activity.set(QStringLiteral("LogoutDate"), now.date());
-            activity.set(QStringLiteral("LogoutTime"), now.toString(shortTime));
+            activity.set("LogoutDate", now.date());
+            activity.set("LogoutTime", now.toString(shortTime));
         }
         activity.set(QStringLiteral("AutoLogoff"), int(autoLogoff));
-        activity.set(QStringLiteral("Remarks"), remarks);
+        activity.set("Remarks", remarks);
         activity.update();
         const Recordset last(connection, Sql("select top 1 SNO from UserActivities order by SNO desc"));
-        session.gActivitySNo = last.integer(QStringLiteral("SNo"));
+        session.gActivitySNo = last.integer("SNo");
         transaction.commit();
     } catch (const DataError& fault) {
         boxAfterTransaction(fault.description());
@@ -76,13 +75,13 @@ void Program::closeUserActivity(bool isLogout, bool autoLogoff, const QString& r
         Recordset activity(connection, Sql("select * from UserActivities where SNO=") << session.gActivitySNo);
         if (activity.eof())
             return;
-        activity.set(QStringLiteral("islogout"), int(isLogout));
+        activity.set("islogout", int(isLogout));
         if (isLogout) {
-            activity.set(QStringLiteral("LogoutDate"), now.date());
-            activity.set(QStringLiteral("LogoutTime"), now.toString(shortTime));
+            activity.set("LogoutDate", now.date());
+            activity.set("LogoutTime", now.toString(shortTime));
         }
         activity.set(QStringLiteral("AutoLogoff"), int(autoLogoff));
-        activity.set(QStringLiteral("Remarks"), remarks);
+        activity.set("Remarks", remarks);
         activity.update();
     } catch (const DataError& fault) {
         boxAfterTransaction(fault.description());

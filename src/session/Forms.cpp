@@ -21,14 +21,14 @@ std::unique_ptr<Form> make(Program& program) {
 } // namespace
 
 void registerSessionForms(Program& program) {
-    program.registerForm(QStringLiteral("MdiTolmek"), make<MdiTolmek>);
-    program.registerForm(QStringLiteral("frmLogin"), make<frmLogin>);
-    program.registerForm(QStringLiteral("frmWelcome"), make<frmWelcome>);
-    program.registerForm(QStringLiteral("frmStart"), make<frmStart>);
-    program.registerForm(QStringLiteral("frmUsers"), make<frmUsers>);
-    program.registerForm(QStringLiteral("frmUserRole"), make<frmUserRole>);
-    program.registerForm(QStringLiteral("frmRole"), make<frmRole>);
-    program.registerForm(QStringLiteral("frmDialog"), make<frmDialog>);
+    program.registerForm("MdiTolmek", make<MdiTolmek>);
+    program.registerForm("frmLogin", make<frmLogin>);
+    program.registerForm("frmWelcome", make<frmWelcome>);
+    program.registerForm("frmStart", make<frmStart>);
+    program.registerForm("frmUsers", make<frmUsers>);
+    program.registerForm("frmUserRole", make<frmUserRole>);
+    program.registerForm("frmRole", make<frmRole>);
+    program.registerForm("frmDialog", make<frmDialog>);
 }
 
 } // namespace orvane

@@ -9,7 +9,7 @@ void addTrail(Program& program, const QString& action) {
     const QDateTime now = program.ui().now();
     session.sLoginTrailAction = action;
     session.dLoginTrailDate = now.date();
-    session.sLoginTrailTime = now.toString(QStringLiteral("HH:mm:ss"));
+    session.sLoginTrailTime = now.toString("HH:mm:ss");
     Connection connection = program.openBilling();
     Recordset trail(connection, Sql("select * from LoginTrail where 1=2"));
     // The columns behind the key are known by their places only.
@@ -25,12 +25,12 @@ void addTrail(Program& program, const QString& action) {
 } // namespace
 
 int trailLogonSuccess(Program& program, int count) {
-    addTrail(program, QStringLiteral("Successful Logon"));
+    addTrail(program, "Successful Logon");
     return count;
 }
 
 int trailLogonFailure(Program& program, int count) {
-    addTrail(program, QStringLiteral("Failed Logon"));
+    addTrail(program, "Failed Logon");
     return count;
 }
 

@@ -8,15 +8,13 @@ namespace orvane {
 namespace {
 
 QString connectionString(const QString& server, const QString& database) {
-    return QStringLiteral("Driver={SQL Server};Server=") + server + QStringLiteral(";Database=") + database +
-           QStringLiteral(";UID=zorva;PWD=vexlarin");
+    return "Driver={SQL Server};Server=" + server + ";Database=" + database + ";UID=zorva;PWD=vexlarin";
 }
 
 bool refuseSecondCopy(Program& program) {
     if (program.lockInstance())
         return false;
-    program.box(program.session.gModuleName + QStringLiteral(" Module is Already Running !"), Icon::Critical,
-                QStringLiteral("Error"));
+    program.box(program.session.gModuleName + " Module is Already Running !", Icon::Critical, "Error");
     return true;
 }
 
@@ -26,18 +24,18 @@ bool proveUser(Program& program, Connection& connection) {
                          Sql("SELECT EmpID, Fullname,username,loginrole,hname,hospID FROM vwUsers WHERE Username = '")
                              << session.gUsername << "'  and loginrole='" << session.gModuleName << "'");
     if (user.eof()) {
-        program.box(QStringLiteral("Invalid Login OR session has expired!!! Please Re-login"));
+        program.box("Invalid Login OR session has expired!!! Please Re-login");
         return false;
     }
-    session.gEmpID = user.text(QStringLiteral("empID"));
-    session.gUsername = user.text(QStringLiteral("username"));
-    session.gFullName = user.text(QStringLiteral("fullName"));
-    session.gHospName = user.text(QStringLiteral("hname"));
-    session.gHospID = user.text(QStringLiteral("hospID"));
+    session.gEmpID = user.text("empID");
+    session.gUsername = user.text("username");
+    session.gFullName = user.text("fullName");
+    session.gHospName = user.text("hname");
+    session.gHospID = user.text("hospID");
     session.gHospIDName = session.gHospID;
     if (!session.gHospID.isEmpty())
         return true;
-    program.box(QStringLiteral("Value needed for Hospital ID/Name"));
+    program.box("Value needed for Hospital ID/Name");
     return false;
 }
 
@@ -47,10 +45,10 @@ bool takeHospitalNames(Program& program, Connection& connection) {
                                              << session.gHospID << "'");
     if (hospital.eof())
         return true;
-    session.gHospName2 = hospital.text(QStringLiteral("hname2"));
+    session.gHospName2 = hospital.text("hname2");
     if (!session.gHospName.isEmpty() && !session.gHospName2.isEmpty())
         return true;
-    program.box(QStringLiteral("Value needed for Hospital ID/Name"));
+    program.box("Value needed for Hospital ID/Name");
     return false;
 }
 
@@ -75,14 +73,14 @@ bool prepareServer(Program& program) {
     session.iHNO = *number;
     session.sHospitalNoStr = QString::number(*number);
     if (session.gServerName.isEmpty())
-        session.gServerName = QStringLiteral("SERVER");
-    session.gConnStr = connectionString(session.gServerName, QStringLiteral("Dunmarch"));
-    session.gAcctConnStr = connectionString(session.gServerName, QStringLiteral("Accounting"));
+        session.gServerName = "SERVER";
+    session.gConnStr = connectionString(session.gServerName, "Dunmarch");
+    session.gAcctConnStr = connectionString(session.gServerName, "Accounting");
     session.bReceiptHeadLoaded = false;
-    session.gPatientsFolder = QStringLiteral("\\\\") + session.gServerName + QStringLiteral("\\Patients\\");
+    session.gPatientsFolder = "\\\\" + session.gServerName + "\\Patients\\";
     session.bFirstShow = true;
     session.bAutoLogoff = false;
-    session.gModuleName = QStringLiteral("BILLING");
+    session.gModuleName = "BILLING";
     session.bAlertOn = false;
     session.bBillSound = false;
     return true;
@@ -98,27 +96,31 @@ bool prepareSession(Program& program) {
 }
 
 bool Main(Program& program, const std::optional<QString>& userName) {
-    return showingFaults(program, [&] {
-        if (!prepareServer(program) || refuseSecondCopy(program))
-            return false;
-        if (userName)
-            program.session.gUsername = *userName;
-        else if (!readSysDoc(program))
-            return false;
-        if (!prepareSession(program))
-            return false;
-        program.open(QStringLiteral("MdiTolmek"));
-        return true;
-    });
+    return showingFaults(
+        program,
+        [&] {
+            if (!prepareServer(program) || refuseSecondCopy(program))
+                return false;
+            if (userName)
+                program.session.gUsername = *userName;
+            else if (!readSysDoc(program))
+                return false;
+            if (!prepareSession(program))
+                return false;
+            program.open("MdiTolmek");
+            return true;
+        });
 }
 
 bool MainWithLogin(Program& program) {
-    return showingFaults(program, [&] {
-        if (!prepareServer(program) || refuseSecondCopy(program))
-            return false;
-        program.open(QStringLiteral("frmWelcome"));
-        return true;
-    });
+    return showingFaults(
+        program,
+        [&] {
+            if (!prepareServer(program) || refuseSecondCopy(program))
+                return false;
+            program.open("frmWelcome");
+            return true;
+        });
 }
 
 } // namespace orvane

@@ -11,11 +11,11 @@ constexpr unsigned alarmColor = 0xff0000;
 
 } // namespace
 
-MdiTolmek::MdiTolmek(Program& owner) : Screen(owner, QStringLiteral("MdiTolmek"), QStringLiteral("Billing : Orvane")) {
+MdiTolmek::MdiTolmek(Program& owner) : Screen(owner, "MdiTolmek", "Billing : Orvane") {
     Frame1.holds({&lblServer, &lblDate, &lblTime});
     buildMenus();
     Picture1.onDblClick = [this] { Picture1_DblClick(); };
-    cmdView.onClick = [this] { program.open(QStringLiteral("frmFlash")); };
+    cmdView.onClick = [this] { program.open("frmFlash"); };
     Timer2.onTimer = [this] { refreshServerClock(); };
     Timer1.onTimer = [this] { checkWaitingVisits(); };
     tmrMDI.onTimer = [this] { tmrMDI_Timer(); };
@@ -30,15 +30,15 @@ Layout MdiTolmek::layout() const {
 }
 
 void MdiTolmek::Form_Load() {
-    Control* accounts = find(QStringLiteral("mnuAccts"));
+    Control* accounts = find("mnuAccts");
     accounts->setVisible(false);
     refreshServerClock();
     lblHospital.setText(session.gHospName);
     SbrTolmek.setPanel(1, session.gModuleName);
     SbrTolmek.setPanel(2, session.gUsername);
     SbrTolmek.setPanel(3, session.gFullName);
-    find(QStringLiteral("mnuEPE"))->setCaption(QStringLiteral("Log Off ") + session.gUsername);
-    program.writeAuditTrail(session.gUsername, QStringLiteral("Login Billing"), {}, {}, session.sComputerName);
+    find("mnuEPE")->setCaption("Log Off " + session.gUsername);
+    program.writeAuditTrail(session.gUsername, "Login Billing", {}, {}, session.sComputerName);
     {
         Connection connection = program.openBilling();
         const Recordset user(connection, Sql("select username from UsersForAccts where username ='")
@@ -53,7 +53,7 @@ bool MdiTolmek::Form_Unload() {
         endSession(true);
         return true;
     }
-    if (!program.question(QStringLiteral(" Do you want to Exit the Application?"), QStringLiteral("Exit Application")))
+    if (!program.question(" Do you want to Exit the Application?", "Exit Application"))
         return false;
     endSession(false);
     return true;
@@ -61,7 +61,7 @@ bool MdiTolmek::Form_Unload() {
 
 void MdiTolmek::endSession(bool autoLogoff) {
     program.closeUserActivity(true, autoLogoff, session.gModuleName);
-    program.writeAuditTrail(session.gUsername, QStringLiteral("Login Out"), {}, {}, session.sComputerName);
+    program.writeAuditTrail(session.gUsername, "Login Out", {}, {}, session.sComputerName);
     program.end();
 }
 
@@ -73,8 +73,8 @@ void MdiTolmek::refreshServerClock() {
         return;
     session.gServerDate = now.date();
     session.gServerTime = QTime(now.time().hour(), now.time().minute());
-    lblDate.setText(session.gServerDate.toString(QStringLiteral("dd/MM/yyyy")));
-    lblTime.setText(session.gServerTime.toString(QStringLiteral("HH:mm")));
+    lblDate.setText(session.gServerDate.toString("dd/MM/yyyy"));
+    lblTime.setText(session.gServerTime.toString("HH:mm"));
     program.ui().processEvents();
 }
 
@@ -104,7 +104,7 @@ void MdiTolmek::tmrSound_Timer() {
         return;
     }
     soundTicks = 0;
-    program.ui().playSound(QDir(program.homeFolder()).filePath(QStringLiteral("ring1.wav")));
+    program.ui().playSound(QDir(program.homeFolder()).filePath("ring1.wav"));
 }
 
 /// Silences the alert, or lets it sound again.
@@ -121,13 +121,13 @@ void MdiTolmek::Picture1_DblClick() {
 void MdiTolmek::VerifyApptDate() {
     Connection connection = program.openBilling();
     if (!Recordset(connection, Sql("select * from qryhNextAppt")).eof())
-        sPrompt.prepend(QStringLiteral("--Some Patients Appt Date is Due Today--\n"));
+        sPrompt.prepend("--Some Patients Appt Date is Due Today--\n");
 }
 
 void MdiTolmek::VerifyVisitsToday() {
     Connection connection = program.openBilling();
     if (!Recordset(connection, Sql("select * from qryhVisitsForToday")).eof())
-        sPrompt.prepend(QStringLiteral("--There are Visits to the clinic Today--\n"));
+        sPrompt.prepend("--There are Visits to the clinic Today--\n");
 }
 
 } // namespace orvane

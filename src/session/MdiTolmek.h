@@ -62,20 +62,20 @@ private:
     void openPanel(const QString& mode, const QString& label);
     void viewToday(const Sql& sql, const QString& emptyMessage, const QString& report, const QString& title);
 
-    Picture Picture1{*this, QStringLiteral("Picture1")};
-    Picture Picture2{*this, QStringLiteral("Picture2")};
-    Label lblHospital{*this, QStringLiteral("lblHospital")};
-    Frame Frame1{*this, QStringLiteral("Frame1")};
-    Label lblServer{*this, QStringLiteral("lblServer"), QStringLiteral("Server Date && Time: ")};
-    Label lblDate{*this, QStringLiteral("lblDate")};
-    Label lblTime{*this, QStringLiteral("lblTime")};
-    Button cmdView{*this, QStringLiteral("cmdView"), QStringLiteral("Patients from Doctor")};
-    StatusBar SbrTolmek{*this, QStringLiteral("SbrTolmek"), 3};
-    Timer Timer2{*this, QStringLiteral("Timer2"), 60000, true};
-    Timer Timer1{*this, QStringLiteral("Timer1"), 60000, true};
-    Timer tmrMDI{*this, QStringLiteral("tmrMDI"), 500, false};
-    Timer tmrSound{*this, QStringLiteral("tmrSound"), 60000, false};
-    Timer tmrIdle{*this, QStringLiteral("tmrIdle"), 10000, false}; ///< the hook of an idle rule; it does nothing
+    Picture Picture1{*this, "Picture1"};
+    Picture Picture2{*this, "Picture2"};
+    Label lblHospital{*this, "lblHospital"};
+    Frame Frame1{*this, "Frame1"};
+    Label lblServer{*this, "lblServer", "Server Date && Time: "};
+    Label lblDate{*this, "lblDate"};
+    Label lblTime{*this, "lblTime"};
+    Button cmdView{*this, "cmdView", "Patients from Doctor"};
+    StatusBar SbrTolmek{*this, "SbrTolmek", 3};
+    Timer Timer2{*this, "Timer2", 60000, true};
+    Timer Timer1{*this, "Timer1", 60000, true};
+    Timer tmrMDI{*this, "tmrMDI", 500, false};
+    Timer tmrSound{*this, "tmrSound", 60000, false};
+    Timer tmrIdle{*this, "tmrIdle", 10000, false}; ///< the hook of an idle rule; it does nothing
     std::vector<std::unique_ptr<MenuItem>> m_menus;
 
     bool flashToggle = false;

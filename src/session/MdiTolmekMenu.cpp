@@ -136,7 +136,7 @@ void MdiTolmek::mnuPrint_Click() {
     if (Form* active = program.activeForm())
         program.ui().printForm(*active);
     else
-        program.box(QStringLiteral("There is no open screen to print."), Icon::Information);
+        program.box("There is no open screen to print.", Icon::Information);
 }
 
 void MdiTolmek::mnuEPE_Click() {
@@ -144,59 +144,56 @@ void MdiTolmek::mnuEPE_Click() {
 }
 
 void MdiTolmek::mnuRPtES_Click() {
-    openPanel(QStringLiteral("Receipt"), QStringLiteral("select a receipt No"));
+    openPanel("Receipt", "select a receipt No");
 }
 
 void MdiTolmek::mnuPCB_Click() {
-    openPanel(QStringLiteral("Coy"), QStringLiteral("select a Company Name"));
+    openPanel("Coy", "select a Company Name");
 }
 
 void MdiTolmek::openPanel(const QString& mode, const QString& label) {
     session.sRptPanelMode = mode;
     session.sRptPanelLabel = label;
     // It takes its mode when it loads.
-    if (Form* open = program.loadedForm(QStringLiteral("rptPanelSummary")))
+    if (Form* open = program.loadedForm("rptPanelSummary"))
         open->unload();
-    program.open(QStringLiteral("rptPanelSummary"));
+    program.open("rptPanelSummary");
 }
 
 void MdiTolmek::mnuTB_Click() {
-    openTrialBalance(QStringLiteral("TB"));
+    openTrialBalance("TB");
 }
 
 void MdiTolmek::mnuTBBP_Click() {
-    openTrialBalance(QStringLiteral("TB2"));
+    openTrialBalance("TB2");
 }
 
 void MdiTolmek::mnuGL_Click() {
-    openTrialBalance(QStringLiteral("GL"));
+    openTrialBalance("GL");
 }
 
 void MdiTolmek::openTrialBalance(const QString& kind) {
     session.sRptKind = kind;
-    program.open(QStringLiteral("frmRptTB"));
+    program.open("frmRptTB");
 }
 
 void MdiTolmek::mnuBFT_Click() {
     viewToday(Sql("select * from qryhBillingbalanceForPrivate where bdate = '")
                   << session.gServerDate << "' order by bdate desc,fullname asc",
-              QStringLiteral("No Bills for Today"), QStringLiteral("rptCompanyBill"),
-              QStringLiteral("Unpaid Bills for Today"));
+              "No Bills for Today", "rptCompanyBill", "Unpaid Bills for Today");
 }
 
 /// Receipts are those of the workstation's today.
 void MdiTolmek::mnuINC_Click() {
     viewToday(Sql("select * from qryhBillingIncome where receiptdate = '")
                   << program.ui().now().date() << "' order by receiptNo",
-              QStringLiteral("No Income between these two dates"), QStringLiteral("rptBillingIncome"),
-              QStringLiteral("Income for Today"));
+              "No Income between these two dates", "rptBillingIncome", "Income for Today");
 }
 
 void MdiTolmek::mnuCR_Click() {
     viewToday(Sql("select * from qryreceiptCancelled where receiptdate ='")
                   << program.ui().now().date() << "' order by receiptdate desc",
-              QStringLiteral("No Cancelled Receipts"), QStringLiteral("rptCancelledReceipt"),
-              QStringLiteral("Cancelled Receipts"));
+              "No Cancelled Receipts", "rptCancelledReceipt", "Cancelled Receipts");
 }
 
 void MdiTolmek::viewToday(const Sql& sql, const QString& emptyMessage, const QString& report, const QString& title) {

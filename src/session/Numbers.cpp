@@ -3,7 +3,7 @@
 namespace orvane {
 
 void Program::fetchIDNo(Connection& connection, const QString& destName) {
-    const Recordset next = connection.call(QStringLiteral("getIDNo"), {{QStringLiteral("DestName"), destName}});
+    const Recordset next = connection.call("getIDNo", {{"DestName", destName}});
     session.gIDNo = next.eof() ? QString() : next.text(0);
 }
 

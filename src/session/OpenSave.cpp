@@ -12,9 +12,8 @@ const QString unknownText = QStringLiteral(
 const QString stillUnknownText =
     QStringLiteral("The database cannot be asked yet, so it is still not known whether the entry was saved. Please "
                    "press the same button again when the server is back.");
-const QString savedText = QStringLiteral("The entry was saved before the connection broke. It is not saved again.");
-const QString notSavedText =
-    QStringLiteral("The entry was not saved when the connection broke. Please check it and save it again.");
+const QString savedText = "The entry was saved before the connection broke. It is not saved again.";
+const QString notSavedText = "The entry was not saved when the connection broke. Please check it and save it again.";
 const QString leftOpenText = QStringLiteral(
     "It is still not known whether the last entry was saved. Please look it up before you enter it again.");
 
@@ -23,8 +22,7 @@ void follow(const std::function<void()>& afterSave) {
     try {
         afterSave();
     } catch (const DataError& fault) {
-        throw DataError(QStringLiteral("The entry was saved. Only what follows it could not be done:\n") +
-                            fault.description(),
+        throw DataError("The entry was saved. Only what follows it could not be done:\n" + fault.description(),
                         fault.statement(), fault.code());
     }
 }

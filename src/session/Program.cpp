@@ -94,7 +94,8 @@ void Program::end() {
 }
 
 void Program::deleteClosedForms() {
-    std::erase_if(m_closedForms, [](const std::unique_ptr<Form>& closed) { return !closed->isRunning(); });
+    std::erase_if(
+        m_closedForms, [](const std::unique_ptr<Form>& closed) { return !closed->isRunning(); });
 }
 
 void Program::box(const QString& text, Icon icon, const QString& title) {

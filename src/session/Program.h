@@ -1,8 +1,8 @@
 #pragma once
 
-#include "data/Connection.h"
-#include "data/Recordset.h"
-#include "data/Transaction.h"
+#include "data/rows/Connection.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/Transaction.h"
 #include "forms/Form.h"
 #include "session/Session.h"
 

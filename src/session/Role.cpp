@@ -38,7 +38,7 @@ void Role::Submit() {
                            << m_roleID << ", '" << m_roleName << "')");
         log(QStringLiteral("Successfully created a new Role  %1").arg(m_roleID));
     } catch (const DataError& fault) {
-        logServerError(m_program, QStringLiteral("Submit"), fault);
+        logServerError(m_program, "Submit", fault);
     }
 }
 
@@ -47,7 +47,7 @@ void Role::Delete(qlonglong id) {
         Connection connection = m_program.openBilling();
         const Recordset role(connection, Sql("SELECT * FROM Roles WHERE RoleID = ") << id);
         if (role.eof()) {
-            log(QStringLiteral("Attempted to delete a non existing Role "));
+            log("Attempted to delete a non existing Role ");
             return;
         }
         const Recordset holders(connection, Sql("SELECT * FROM UserRoles WHERE RoleID = ") << id);
@@ -58,7 +58,7 @@ void Role::Delete(qlonglong id) {
         connection.execute(Sql("DELETE FROM Roles WHERE RoleID = '") << id << "'");
         log(QStringLiteral("Successfully deleted the Role for %1").arg(id));
     } catch (const DataError& fault) {
-        logServerError(m_program, QStringLiteral("Delete"), fault);
+        logServerError(m_program, "Delete", fault);
     }
 }
 
@@ -67,7 +67,7 @@ Recordset Role::DisplayData() {
         Connection connection = m_program.openBilling();
         return Recordset(connection, Sql("SELECT * FROM Roles"));
     } catch (const DataError& fault) {
-        logServerError(m_program, QStringLiteral("DisplayData"), fault);
+        logServerError(m_program, "DisplayData", fault);
         return {};
     }
 }

@@ -4,7 +4,7 @@ namespace orvane {
 
 namespace {
 
-const QString separator = QStringLiteral("  |  ");
+const QString separator = "  |  ";
 
 void appendLine(Program& program, const QString& fileName, QString line) {
     // One message is one line, whatever it holds.
@@ -20,20 +20,20 @@ void appendLine(Program& program, const QString& fileName, QString line) {
 }
 
 QString stamp(const QDateTime& at) {
-    return at.toString(QStringLiteral("dd/MM/yyyy HH:mm:ss"));
+    return at.toString("dd/MM/yyyy HH:mm:ss");
 }
 
 } // namespace
 
 void logUserActivity(Program& program, const QString& message, const QString& who) {
-    appendLine(program, QStringLiteral("ServerUserActivities.txt"),
+    appendLine(program, "ServerUserActivities.txt",
                stamp(program.getServerDateTime()) + separator + message + separator + who);
 }
 
 void logServerError(Program& program, const QString& operation, const DataError& fault) {
-    appendLine(program, QStringLiteral("ServerErrorLog.txt"),
+    appendLine(program, "ServerErrorLog.txt",
                stamp(program.ui().now()) + separator + operation + separator + fault.code() + separator +
-                   fault.description() + separator + QStringLiteral("billing database"));
+                   fault.description() + separator + "billing database");
 }
 
 } // namespace orvane

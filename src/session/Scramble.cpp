@@ -23,7 +23,7 @@ QString scramblePassword(Program& program, const QString& text) {
     for (const QChar character : text) {
         const std::optional<QChar> stored = scrambledCharacter(character);
         if (!stored)
-            program.box(QStringLiteral("Invalid character detected!"));
+            program.box("Invalid character detected!");
         else
             scrambled += *stored;
     }

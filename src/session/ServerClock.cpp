@@ -6,7 +6,7 @@ QDateTime Program::getServerDateTime() {
     try {
         Connection connection = openBilling();
         const Recordset clock(connection, Sql("select sysDT from qrySysDateTime"));
-        return clock.eof() ? QDateTime() : clock.dateTime(QStringLiteral("sysdt"));
+        return clock.eof() ? QDateTime() : clock.dateTime("sysdt");
     } catch (const DataError& fault) {
         boxAfterTransaction(fault.description());
         return {};

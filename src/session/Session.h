@@ -24,7 +24,7 @@ struct Session {
     QString gRctPictureLab2;
     QString gPrivateTariff, gLockPrice, gRevTypeRpt, gNHISFee, gOldPNo, gBillTo, gCoyCode;
     bool gAcctPostOn = false, gAcctPostAuto = false;
-    QString gAcctPostType = QStringLiteral("AUTO"), gAutoTranNo, gAcctCostCenter;
+    QString gAcctPostType = "AUTO", gAutoTranNo, gAcctCostCenter;
     QString gAcctNoPOS, gAcctNoCheque, gAcctNoTransfer, gAcctNoCash, gAcctNoOthers;
     QString gAcctNoSales, gAcctNoSalesInv, gAcctNoSales2, gAcctNoSalesInv2;
     qlonglong gCashAccountIndex = 0, gARAccountIndex = 0;

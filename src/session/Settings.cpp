@@ -128,7 +128,7 @@ bool parseFlag(const SettingRule& rule, const QString& value) {
     bool isNumber = false;
     const double number = word.toDouble(&isNumber);
     if (!isNumber)
-        refuse(rule, value, QStringLiteral("true or false"));
+        refuse(rule, value, "true or false");
     return number != 0;
 }
 
@@ -137,7 +137,7 @@ qlonglong parseIndex(const SettingRule& rule, const QString& value) {
     bool isNumber = false;
     const qlonglong number = value.trimmed().toLongLong(&isNumber);
     if (!isNumber && !value.trimmed().isEmpty())
-        refuse(rule, value, QStringLiteral("a whole number"));
+        refuse(rule, value, "a whole number");
     return number;
 }
 

@@ -1,6 +1,6 @@
 #include "session/StartFiles.h"
 
-#include "data/TextFile.h"
+#include "data/words/TextFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,9 +9,9 @@
 namespace orvane {
 
 std::optional<qint16> readMadeSys(Program& program) {
-    const QString path = QDir(program.homeFolder()).filePath(QStringLiteral("made.sys"));
+    const QString path = QDir(program.homeFolder()).filePath("made.sys");
     if (!QFile::exists(path)) {
-        program.box(QStringLiteral("A System inifile bAccum required for this Application is MISSING"));
+        program.box("A System inifile bAccum required for this Application is MISSING");
         return std::nullopt;
     }
     for (const QString& line : readTextLines(path)) {
@@ -25,9 +25,9 @@ std::optional<qint16> readMadeSys(Program& program) {
 }
 
 bool readSysDoc(Program& program) {
-    const QString path = QDir(program.homeFolder()).filePath(QStringLiteral("sysdoc.sys"));
+    const QString path = QDir(program.homeFolder()).filePath("sysdoc.sys");
     if (!QFile::exists(path)) {
-        program.box(QStringLiteral("A System file UName required for this Application is MISSING"));
+        program.box("A System file UName required for this Application is MISSING");
         return false;
     }
     for (const QString& line : readTextLines(path))
@@ -37,11 +37,11 @@ bool readSysDoc(Program& program) {
 
 QSet<QString> readMenuEntriesTurnedOn(const QString& homeFolder) {
     QSet<QString> turnedOn;
-    const QString path = QDir(homeFolder).filePath(QStringLiteral("orvane.ini"));
+    const QString path = QDir(homeFolder).filePath("orvane.ini");
     if (!QFile::exists(path))
         return turnedOn;
     bool inMenu = false;
-    static const QRegularExpression comment(QStringLiteral("[;#].*"));
+    static const QRegularExpression comment("[;#].*");
     for (QString line : readTextLines(path)) {
         line = line.remove(comment).trimmed();
         if (line.startsWith(QLatin1Char('[')))

@@ -45,20 +45,20 @@ void UserRole::Submit() {
                            << m_roleID << ", '" << m_username << "')");
         AllocationComplete();
     } catch (const DataError& fault) {
-        logServerError(m_program, QStringLiteral("Submit"), fault);
+        logServerError(m_program, "Submit", fault);
     }
 }
 
 Recordset UserRole::LoadData() {
-    return load(QStringLiteral("LoadData"), Sql("SELECT * FROM UserRoles"));
+    return load("LoadData", Sql("SELECT * FROM UserRoles"));
 }
 
 Recordset UserRole::LoadRoleID() {
-    return load(QStringLiteral("LoadRoleID"), Sql("SELECT RoleID, LoginRole FROM Roles"));
+    return load("LoadRoleID", Sql("SELECT RoleID, LoginRole FROM Roles"));
 }
 
 Recordset UserRole::LoadUsername() {
-    return load(QStringLiteral("LoadUsername"), Sql("SELECT Username FROM ApplicationUsers"));
+    return load("LoadUsername", Sql("SELECT Username FROM ApplicationUsers"));
 }
 
 Recordset UserRole::UserRoleMatch(const QString& id) {
@@ -68,8 +68,7 @@ Recordset UserRole::UserRoleMatch(const QString& id) {
             break;
         digits += character;
     }
-    return load(QStringLiteral("UserRoleMatch"), Sql("select * from qryUserRole k WHERE k.RoleID = ")
-                                                     << digits.toLongLong());
+    return load("UserRoleMatch", Sql("select * from qryUserRole k WHERE k.RoleID = ") << digits.toLongLong());
 }
 
 Recordset UserRole::load(const QString& operation, const Sql& sql) {

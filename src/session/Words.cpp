@@ -1,6 +1,6 @@
 #include "session/Words.h"
 
-#include "data/FigToWrd.h"
+#include "data/words/FigToWrd.h"
 #include "session/Program.h"
 
 namespace orvane {

@@ -4,7 +4,7 @@
 
 namespace orvane {
 
-frmDialog::frmDialog(Program& owner) : Screen(owner, QStringLiteral("frmDialog"), QStringLiteral("Change Password")) {
+frmDialog::frmDialog(Program& owner) : Screen(owner, "frmDialog", "Change Password") {
     for (TextBox* box : {&txtPass, &txtPassN, &txtPassC})
         box->masked();
     txtPassC.onLeave = [this] { txtPassC_LostFocus(); };
@@ -27,7 +27,7 @@ Layout frmDialog::layout() const {
 bool frmDialog::txtPassC_LostFocus() {
     if (txtPassC.text() == txtPassN.text())
         return true;
-    program.box(QStringLiteral("Alert! Unmatched password. Kindly re-type to go on."), Icon::Critical);
+    program.box("Alert! Unmatched password. Kindly re-type to go on.", Icon::Critical);
     txtPassC.setFocus();
     return false;
 }

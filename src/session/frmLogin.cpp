@@ -6,15 +6,14 @@
 
 namespace orvane {
 
-frmLogin::frmLogin(Program& owner) : Screen(owner, QStringLiteral("frmLogin"), QStringLiteral("Login")) {
+frmLogin::frmLogin(Program& owner) : Screen(owner, "frmLogin", "Login") {
     txtPassword.masked();
     cmdOK.onClick = [this] { cmdOK_Click(); };
     cmdCancel.onClick = [this] { program.end(); };
 }
 
 Layout frmLogin::layout() const {
-    return layout::column({layout::field(QStringLiteral("&User Name"), txtUserName, 24),
-                           layout::field(QStringLiteral("&Password"), txtPassword, 24),
+    return layout::column({layout::field("&User Name", txtUserName, 24), layout::field("&Password", txtPassword, 24),
                            layout::buttons({}, {&cmdCancel, &cmdOK})});
 }
 
@@ -41,14 +40,14 @@ void frmLogin::cmdOK_Click() {
     takeUser(user);
     // The server may compare without regard to case; a password does not.
     if (session.sLoginPassword != session.sUserPassword)
-        program.box(QStringLiteral("Invalid Login details"));
+        program.box("Invalid Login details");
     else
         enter();
 }
 
 void frmLogin::refuse() {
     trailLogonFailure(program, m_attempts);
-    program.box(QStringLiteral("Alert! Invalid Login details."), Icon::Information);
+    program.box("Alert! Invalid Login details.", Icon::Information);
     txtUserName.clear();
     txtPassword.clear();
     txtUserName.setFocus();
@@ -56,15 +55,15 @@ void frmLogin::refuse() {
 }
 
 void frmLogin::takeUser(const Recordset& user) {
-    session.gEmpID = user.text(QStringLiteral("empID"));
-    session.gUsername = user.text(QStringLiteral("username"));
-    session.gFullName = user.text(QStringLiteral("fullName"));
-    session.sUserPassword = user.text(QStringLiteral("Password"));
-    session.sLoginBranch = user.text(QStringLiteral("branchcode"));
+    session.gEmpID = user.text("empID");
+    session.gUsername = user.text("username");
+    session.gFullName = user.text("fullName");
+    session.sUserPassword = user.text("Password");
+    session.sLoginBranch = user.text("branchcode");
 }
 
 void frmLogin::enter() {
-    program.box(QStringLiteral("You're welcome, ") + session.gFullName + QStringLiteral("."), Icon::Information);
+    program.box("You're welcome, " + session.gFullName + ".", Icon::Information);
     program.openUserActivity(false, false, session.gModuleName);
     trailLogonSuccess(program, m_attempts);
     // Nobody may work before the hospital and the settings are known; a start by the launcher has them already.
@@ -72,8 +71,8 @@ void frmLogin::enter() {
         program.end();
         return;
     }
-    program.open(QStringLiteral("MdiTolmek"));
-    if (Form* welcome = program.loadedForm(QStringLiteral("frmWelcome")))
+    program.open("MdiTolmek");
+    if (Form* welcome = program.loadedForm("frmWelcome"))
         welcome->unload();
     unload();
 }

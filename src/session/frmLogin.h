@@ -19,10 +19,10 @@ private:
     void takeUser(const Recordset& user);
     void enter();
 
-    TextBox txtUserName{*this, QStringLiteral("txtUserName")};
-    TextBox txtPassword{*this, QStringLiteral("txtPassword")};
-    Button cmdOK{*this, QStringLiteral("cmdOK"), QStringLiteral("OK")};
-    Button cmdCancel{*this, QStringLiteral("cmdCancel"), QStringLiteral("Exit")};
+    TextBox txtUserName{*this, "txtUserName"};
+    TextBox txtPassword{*this, "txtPassword"};
+    Button cmdOK{*this, "cmdOK", "OK"};
+    Button cmdCancel{*this, "cmdCancel", "Exit"};
     int m_attempts = 0;
 };
 

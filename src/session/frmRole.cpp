@@ -2,27 +2,22 @@
 
 namespace orvane {
 
-frmRole::frmRole(Program& owner)
-    : Screen(owner, QStringLiteral("frmRole"), QStringLiteral("Role Creation")), m_role(owner) {
-    m_role.onRefused = [this] { narrate(QStringLiteral("The value is empty or too long and was not taken.")); };
+frmRole::frmRole(Program& owner) : Screen(owner, "frmRole", "Role Creation"), m_role(owner) {
+    m_role.onRefused = [this] { narrate("The value is empty or too long and was not taken."); };
     txtRID.onKeyPress = [this](QChar key) { return txtRID_KeyPress(key); };
-    txtRID.onChange = [this] {
-        narrate(QStringLiteral("Accepting RoleID from ") + session.gFullName + QStringLiteral("..."));
-    };
+    txtRID.onChange = [this] { narrate("Accepting RoleID from " + session.gFullName + "..."); };
     txtRID.onLeave = [this] {
-        narrate(QStringLiteral("Waiting to Accept new Role Name from ") + session.gFullName + QStringLiteral("..."));
+        narrate("Waiting to Accept new Role Name from " + session.gFullName + "...");
         m_role.setRoleID(txtRID.text());
     };
-    txtRName.onChange = [this] {
-        narrate(QStringLiteral("Accepting Role Name from ") + session.gFullName + QStringLiteral("..."));
-    };
+    txtRName.onChange = [this] { narrate("Accepting Role Name from " + session.gFullName + "..."); };
     txtRName.onLeave = [this] {
-        narrate(QStringLiteral("Ready to Submit New Role Profile."));
+        narrate("Ready to Submit New Role Profile.");
         m_role.setRoleName(txtRName.text());
     };
     cmdSubmit.onClick = [this] { cmdSubmit_Click(); };
     cmdCancel.onClick = [this] { unload(); };
-    cmdCancel.onFocus = [this] { narrate(QStringLiteral("Click here to unload the form.")); };
+    cmdCancel.onFocus = [this] { narrate("Click here to unload the form."); };
 }
 
 Layout frmRole::layout() const {
@@ -37,13 +32,13 @@ void frmRole::Form_Load() {
 }
 
 void frmRole::waitForRoleID() {
-    narrate(QStringLiteral("Waiting for ") + session.gFullName + QStringLiteral(" to key in RoleID"));
+    narrate("Waiting for " + session.gFullName + " to key in RoleID");
 }
 
 bool frmRole::txtRID_KeyPress(QChar key) {
     if (key.isDigit() || key.category() == QChar::Other_Control)
         return true;
-    narrate(QStringLiteral("Numeric entries expected here."));
+    narrate("Numeric entries expected here.");
     return false;
 }
 

@@ -2,7 +2,7 @@
 
 namespace orvane {
 
-frmStart::frmStart(Program& owner) : Screen(owner, QStringLiteral("frmStart"), QStringLiteral("Billing : Orvane")) {
+frmStart::frmStart(Program& owner) : Screen(owner, "frmStart", "Billing : Orvane") {
     Timer1.onTimer = [this] { Timer1_Timer(); };
 }
 

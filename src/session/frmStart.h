@@ -14,9 +14,9 @@ public:
 private:
     void Timer1_Timer();
 
-    Label lblName{*this, QStringLiteral("lblName"), QStringLiteral("Billing : Orvane")};
-    ProgressBar ProgressBar1{*this, QStringLiteral("ProgressBar1")};
-    Timer Timer1{*this, QStringLiteral("Timer1"), 50, true};
+    Label lblName{*this, "lblName", "Billing : Orvane"};
+    ProgressBar ProgressBar1{*this, "ProgressBar1"};
+    Timer Timer1{*this, "Timer1", 50, true};
 };
 
 } // namespace orvane

@@ -3,7 +3,7 @@
 namespace orvane {
 
 frmUserRole::frmUserRole(Program& owner)
-    : Screen(owner, QStringLiteral("frmUserRole"), QStringLiteral("User Allocation To Roles")), oNewUserRole(owner) {
+    : Screen(owner, "frmUserRole", "User Allocation To Roles"), oNewUserRole(owner) {
     answerEvents();
     ListView1.hide({"RoleID", "LoginRole"});
     ListView1.setHead("AccountStatus", "Account Status");
@@ -17,12 +17,12 @@ frmUserRole::frmUserRole(Program& owner)
 
 void frmUserRole::answerEvents() {
     const auto tell = [this](const QString& text) { return [this, text] { program.box(text, Icon::Information); }; };
-    oNewUserRole.AllocationComplete = tell(QStringLiteral("Submission Successful."));
-    oNewUserRole.EmptyRoleID = tell(QStringLiteral("RoleID cannot be empty. Matching Record Exists."));
-    oNewUserRole.EmptyUsername = tell(QStringLiteral("Username cannot be empty."));
-    oNewUserRole.InvalidRoleID = tell(QStringLiteral("Invalid RoleID."));
-    oNewUserRole.InvalidUsername = tell(QStringLiteral("Invalid Username."));
-    oNewUserRole.RecordExists = tell(QStringLiteral("Submission Failed! Matching Record Exists."));
+    oNewUserRole.AllocationComplete = tell("Submission Successful.");
+    oNewUserRole.EmptyRoleID = tell("RoleID cannot be empty. Matching Record Exists.");
+    oNewUserRole.EmptyUsername = tell("Username cannot be empty.");
+    oNewUserRole.InvalidRoleID = tell("Invalid RoleID.");
+    oNewUserRole.InvalidUsername = tell("Invalid Username.");
+    oNewUserRole.RecordExists = tell("Submission Failed! Matching Record Exists.");
 }
 
 Layout frmUserRole::layout() const {
@@ -34,21 +34,19 @@ Layout frmUserRole::layout() const {
 
 void frmUserRole::Form_Load() {
     TreeView1.clear();
-    TreeView1.addNode({QStringLiteral("root"), QStringLiteral("Available Roles"), {}, true});
+    TreeView1.addNode({"root", "Available Roles", {}, true});
     for (Recordset roles = oNewUserRole.LoadRoleID(); !roles.eof(); roles.moveNext()) {
-        const QString id = roles.text(QStringLiteral("RoleID"));
+        const QString id = roles.text("RoleID");
         cboRoleID.addItem(id);
-        TreeView1.addNode({id + QStringLiteral("abc"),
-                           id + QStringLiteral(" : ") + roles.text(QStringLiteral("LoginRole")), QStringLiteral("root"),
-                           false});
+        TreeView1.addNode({id + "abc", id + " : " + roles.text("LoginRole"), "root", false});
     }
     for (Recordset users = oNewUserRole.LoadUsername(); !users.eof(); users.moveNext())
-        cboUsername.addItem(users.text(QStringLiteral("Username")));
+        cboUsername.addItem(users.text("Username"));
 }
 
 void frmUserRole::cmdSubmit_Click() {
     if (cboRoleID.text().isEmpty() || cboUsername.text().isEmpty()) {
-        program.box(QStringLiteral("Please enter values into both fields above"));
+        program.box("Please enter values into both fields above");
         return;
     }
     // A typed value reaches its property here; a role that was not meant must never be given.

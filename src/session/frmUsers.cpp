@@ -2,7 +2,7 @@
 
 namespace orvane {
 
-frmUsers::frmUsers(Program& owner) : Screen(owner, QStringLiteral("frmUsers"), QStringLiteral("Application Users")) {
+frmUsers::frmUsers(Program& owner) : Screen(owner, "frmUsers", "Application Users") {
     txtPassword.masked();
     txtConfirmPWD.masked();
     cmdApply.setEnabled(false);
@@ -31,24 +31,23 @@ Layout frmUsers::layout() const {
 }
 
 void frmUsers::Form_Load() {
-    cboAcctStatus.addItems({QStringLiteral("Enabled"), QStringLiteral("Disabled")});
+    cboAcctStatus.addItems({"Enabled", "Disabled"});
     Connection connection = program.openBilling();
     for (Recordset branches(connection, Sql("SELECT BranchCode FROM LagosBranches ORDER BY BranchCode ASC"));
          !branches.eof(); branches.moveNext())
-        cboBranchCode.addItem(branches.text(QStringLiteral("BranchCode")));
+        cboBranchCode.addItem(branches.text("BranchCode"));
     buildTree();
 }
 
 void frmUsers::buildTree() {
     TreeView1.clear();
-    TreeView1.addNode({QStringLiteral("zpt"), QStringLiteral("Zelmont Trust Bank Plc"), {}, true});
+    TreeView1.addNode({"zpt", "Zelmont Trust Bank Plc", {}, true});
     Connection connection = program.openBilling();
     Recordset users(
         connection,
         Sql("SELECT Distinct Username, Fullname, Password, AccountStatus, BranchCode FROM ApplicationUsers"));
     for (; !users.eof(); users.moveNext())
-        TreeView1.addNode({users.text(QStringLiteral("Username")) + QStringLiteral("ijkl"),
-                           users.text(QStringLiteral("Fullname")), QStringLiteral("zpt"), false});
+        TreeView1.addNode({users.text("Username") + "ijkl", users.text("Fullname"), "zpt", false});
 }
 
 void frmUsers::clearFields() {
@@ -68,38 +67,38 @@ void frmUsers::TreeView1_NodeClick() {
                                          << node->text << "'");
     if (user.eof())
         return;
-    txtUserName.setText(user.text(QStringLiteral("Username")));
-    txtFullName.setText(user.text(QStringLiteral("Fullname")));
-    txtPassword.setText(user.text(QStringLiteral("Password")));
+    txtUserName.setText(user.text("Username"));
+    txtFullName.setText(user.text("Fullname"));
+    txtPassword.setText(user.text("Password"));
     cboAcctStatus.setListIndex(-1); // a status that is not in its list leaves the box empty
-    cboAcctStatus.setText(user.text(QStringLiteral("AccountStatus")));
-    cboBranchCode.setText(user.text(QStringLiteral("BranchCode")));
+    cboAcctStatus.setText(user.text("AccountStatus"));
+    cboBranchCode.setText(user.text("BranchCode"));
 }
 
 bool frmUsers::txtConfirmPWD_LostFocus() {
     if (txtConfirmPWD.text() == txtPassword.text())
         return true;
-    program.box(QStringLiteral("Alert! Unmatched password. Kindly re-type to go on."), Icon::Critical);
+    program.box("Alert! Unmatched password. Kindly re-type to go on.", Icon::Critical);
     txtConfirmPWD.setFocus();
     return false;
 }
 
 void frmUsers::cmdApply_Click() {
     if (cboAcctStatus.text().isEmpty()) {
-        program.box(QStringLiteral("Alert! Account Status is required."));
+        program.box("Alert! Account Status is required.");
         cboAcctStatus.setFocus();
         return;
     }
     if (cboBranchCode.text().isEmpty()) {
-        program.box(QStringLiteral("Alert! Branch Code is required."));
+        program.box("Alert! Branch Code is required.");
         cboBranchCode.setFocus();
         return;
     }
     if (!addAccount()) {
-        program.box(QStringLiteral("Alert! Username already assigned to someone else."), Icon::Critical);
+        program.box("Alert! Username already assigned to someone else.", Icon::Critical);
         return;
     }
-    program.box(QStringLiteral("Account creation succeeded."));
+    program.box("Account creation succeeded.");
     buildTree();
     clearFields();
     cmdApply.setEnabled(false);
@@ -116,12 +115,12 @@ bool frmUsers::addAccount() {
     if (!account.eof())
         return false;
     account.addNew();
-    account.set(QStringLiteral("Username"), txtUserName.text().trimmed());
-    account.set(QStringLiteral("Fullname"), txtFullName.text());
+    account.set("Username", txtUserName.text().trimmed());
+    account.set("Fullname", txtFullName.text());
     // Stored as typed: the way in by password compares the scrambled form, which is given by other means.
-    account.set(QStringLiteral("Password"), txtPassword.text().trimmed());
-    account.set(QStringLiteral("AccountStatus"), cboAcctStatus.text());
-    account.set(QStringLiteral("BranchCode"), cboBranchCode.text());
+    account.set("Password", txtPassword.text().trimmed());
+    account.set("AccountStatus", cboAcctStatus.text());
+    account.set("BranchCode", cboBranchCode.text());
     account.update();
     transaction.commit();
     return true;

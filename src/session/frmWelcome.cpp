@@ -2,8 +2,8 @@
 
 namespace orvane {
 
-frmWelcome::frmWelcome(Program& owner) : Screen(owner, QStringLiteral("frmWelcome"), QStringLiteral("Welcome")) {
-    cmdEnter.onClick = [this] { program.open(QStringLiteral("frmLogin")); };
+frmWelcome::frmWelcome(Program& owner) : Screen(owner, "frmWelcome", "Welcome") {
+    cmdEnter.onClick = [this] { program.open("frmLogin"); };
     cmdExit.onClick = [this] { program.end(); };
     Timer1.onTimer = [this] { Timer1_Timer(); };
 }
@@ -18,12 +18,12 @@ Layout frmWelcome::layout() const {
 
 void frmWelcome::Form_Load() {
     const QDate today = program.ui().now().date();
-    Label6.setText(QLocale(QLocale::English).toString(today, QStringLiteral("dddd, d MMMM yyyy")));
+    Label6.setText(QLocale(QLocale::English).toString(today, "dddd, d MMMM yyyy"));
     Timer1_Timer();
 }
 
 void frmWelcome::Timer1_Timer() {
-    Label5.setText(QLocale(QLocale::English).toString(program.ui().now().time(), QStringLiteral("hh:mm AP")));
+    Label5.setText(QLocale(QLocale::English).toString(program.ui().now().time(), "hh:mm AP"));
 }
 
 } // namespace orvane

@@ -17,15 +17,15 @@ public:
 private:
     void Timer1_Timer();
 
-    Label Label1{*this, QStringLiteral("Label1"), QStringLiteral("Welcome")};
-    Label Label2{*this, QStringLiteral("Label2"), QStringLiteral("Billing : Orvane")};
-    Label Label3{*this, QStringLiteral("Label3"), QStringLiteral("Bills, receipts and accounts of the hospital")};
-    Label Label4{*this, QStringLiteral("Label4"), QStringLiteral("Today")};
-    Label Label5{*this, QStringLiteral("Label5")};
-    Label Label6{*this, QStringLiteral("Label6")};
-    Button cmdEnter{*this, QStringLiteral("cmdEnter"), QStringLiteral("&Enter")};
-    Button cmdExit{*this, QStringLiteral("cmdExit"), QStringLiteral("E&xit")};
-    Timer Timer1{*this, QStringLiteral("Timer1"), 1000, true};
+    Label Label1{*this, "Label1", "Welcome"};
+    Label Label2{*this, "Label2", "Billing : Orvane"};
+    Label Label3{*this, "Label3", "Bills, receipts and accounts of the hospital"};
+    Label Label4{*this, "Label4", "Today"};
+    Label Label5{*this, "Label5"};
+    Label Label6{*this, "Label6"};
+    Button cmdEnter{*this, "cmdEnter", "&Enter"};
+    Button cmdExit{*this, "cmdExit", "E&xit"};
+    Timer Timer1{*this, "Timer1", 1000, true};
 };
 
 } // namespace orvane

@@ -1,7 +1,7 @@
 #include "stock/frmDrugPrice.h"
 
-#include "data/FigToWrd.h"
-#include "data/Money.h"
+#include "data/words/FigToWrd.h"
+#include "data/words/Money.h"
 
 namespace orvane {
 

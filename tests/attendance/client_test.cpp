@@ -43,16 +43,16 @@ protected:
     /// What names the client in the rows of a bill: patient, visit, line, bill, item.
     QString clientOf(const QString& bill) {
         QStringList parts;
-        for (const QString& part : {QStringLiteral("coyName + ',' + clientcatID from hPatients where PNo='P/0001'"),
-                                    "coyName + ',' + clientCat from hRecords where consultID='" + bill + "'",
-                                    "coyName + ',' + billTo from BillingDetails where billNo='" + bill + "'",
-                                    "clientID from Billing where billNo='" + bill + "'",
-                                    "coyName + ',' + billTo from BillAccum where consultID='" + bill + "'"})
+        for (const QString& part : QStringList{"coyName + ',' + clientcatID from hPatients where PNo='P/0001'",
+                                               "coyName + ',' + clientCat from hRecords where consultID='" + bill + "'",
+                                               "coyName + ',' + billTo from BillingDetails where billNo='" + bill + "'",
+                                               "clientID from Billing where billNo='" + bill + "'",
+                                               "coyName + ',' + billTo from BillAccum where consultID='" + bill + "'"})
             parts << ws.scalar("select " + part);
         return parts.join(' ');
     }
     QString lastAudit() {
-        Connection audit = ws.billing().beside(GetParam() == Engine::Sqlite ? QStringLiteral("Audit") : QString());
+        Connection audit = ws.billing().beside(GetParam() == Engine::Sqlite ? "Audit" : QString());
         const Recordset row = audit.run("select userAction, TranCode, Remarks from AuditTrail order by SNo desc");
         return row.text(0) + '|' + row.text(1) + '|' + row.text(2);
     }

@@ -71,7 +71,7 @@ protected:
 
     /// The audit rows of these actions, "action: remarks", a line each.
     QString audit(const QString& actionStart) {
-        Connection trail = ws.billing().beside(GetParam() == Engine::Sqlite ? QStringLiteral("Audit") : QString());
+        Connection trail = ws.billing().beside(GetParam() == Engine::Sqlite ? "Audit" : QString());
         QStringList found;
         for (Recordset row = trail.run("select * from AuditTrail order by SNo"); !row.eof(); row.moveNext())
             if (row.text("userAction").startsWith(actionStart))

@@ -27,8 +27,7 @@ protected:
         if (!ws.program.loadedForm("frmBillDiscount"))
             ws.open("frmBillDiscount");
         for (const char* picker : {"DTPicker1", "DTPicker2", "dtDate"})
-            ws.set(QStringLiteral("frmBillDiscount.") + QLatin1StringView(picker),
-                   ws.scalar("select bdate from Billing"));
+            ws.set("frmBillDiscount." + QLatin1StringView(picker), ws.scalar("select bdate from Billing"));
         ws.click("frmBillDiscount.cmdInv");
         ws.pick("frmBillDiscount.cboVehNo", QString::fromLatin1(billNo));
         ws.set("frmBillDiscount.cboClinic", type);

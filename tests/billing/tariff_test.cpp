@@ -2,7 +2,7 @@
 #include "support/TestHome.h"
 
 #include "billing/Tariff.h"
-#include "data/Recordset.h"
+#include "data/rows/Recordset.h"
 
 #include <gtest/gtest.h>
 

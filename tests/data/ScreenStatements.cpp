@@ -182,9 +182,8 @@ const char* const receipts[] = {
 
 template <std::size_t N>
 void add(QStringList& list, const char* const (&statements)[N]) {
-    for (const char* statement : statements) {
+    for (const char* statement : statements)
         list += QString::fromUtf8(statement);
-    }
 }
 
 } // namespace

@@ -1,7 +1,7 @@
-#include "data/BulkInsert.h"
-#include "data/Recordset.h"
-#include "data/Schema.h"
-#include "data/Transaction.h"
+#include "data/rows/BulkInsert.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/Schema.h"
+#include "data/rows/Transaction.h"
 #include "support/TestHome.h"
 
 #include <limits>
@@ -45,7 +45,7 @@ TEST_P(BulkInsertTest, leavesTheRowsThatRecordsetsWouldHaveLeft) {
     }
     const QStringList expected = lines(ofAll);
     ASSERT_EQ(expected.size(), 4);
-    billing.run(QStringLiteral("delete from hPatients"));
+    billing.run("delete from hPatients");
     Transaction transaction(billing);
     BulkInsert patients(billing, "hPatients");
     for (const RowValues& row : rows)

@@ -1,7 +1,7 @@
 #include "data/DataError.h"
-#include "data/Recordset.h"
-#include "data/Schema.h"
-#include "data/Transaction.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/Schema.h"
+#include "data/rows/Transaction.h"
 #include "support/TestHome.h"
 
 #include <QDir>
@@ -38,35 +38,33 @@ struct PlainUser {
 
 TEST(EmbeddedFile, IsNeverCreatedByOpening) {
     const TestHome home;
-    const QString path = home.folder() + QStringLiteral("/data/Dunmarch.db");
+    const QString path = home.folder() + "/data/Dunmarch.db";
     QFile::remove(path);
-    EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("does not exist")));
+    EXPECT_TRUE(openFault(home.folder()).contains("does not exist"));
     EXPECT_FALSE(QFile::exists(path));
-    EXPECT_TRUE(openFault(home.folder(), QStringLiteral("Server=elsewhere;Database=Nothing"))
-                    .contains(QStringLiteral("does not exist")));
+    EXPECT_TRUE(
+        openFault(home.folder(), QStringLiteral("Server=elsewhere;Database=Nothing")).contains("does not exist"));
 }
 
 TEST(EmbeddedFile, SaysWhatIsWrongWithIt) {
     const TestHome home;
-    const QString path = home.folder() + QStringLiteral("/data/Dunmarch.db");
-    DataSource(home.folder()).open(TestHome::billing()).run(QStringLiteral("pragma user_version = 999"));
-    EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("schema version 999")));
+    const QString path = home.folder() + "/data/Dunmarch.db";
+    DataSource(home.folder()).open(TestHome::billing()).run("pragma user_version = 999");
+    EXPECT_TRUE(openFault(home.folder()).contains("schema version 999"));
     write(path, QByteArray(4096, 'x'));
-    EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("is not a database")));
+    EXPECT_TRUE(openFault(home.folder()).contains("is not a database"));
     write(path, {});
-    EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("schema version 0")));
+    EXPECT_TRUE(openFault(home.folder()).contains("schema version 0"));
 }
 
 TEST(EmbeddedFile, MustBeWritable) {
     const TestHome home;
-    const QString path = home.folder() + QStringLiteral("/data/Dunmarch.db");
-    for (const QString& folder : {home.folder(), home.folder() + QStringLiteral("/data")}) {
+    const QString path = home.folder() + "/data/Dunmarch.db";
+    for (const QString& folder : {home.folder(), home.folder() + "/data"})
         QFile::setPermissions(folder, QFile::Permissions(0x5555) | QFile::WriteOwner);
-    }
     QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
     const PlainUser user;
-    EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("read-only")))
-        << openFault(home.folder()).toStdString();
+    EXPECT_TRUE(openFault(home.folder()).contains("read-only")) << openFault(home.folder()).toStdString();
 }
 
 TEST(EmbeddedFile, IsNotCreatedOverAnother) {
@@ -88,34 +86,33 @@ TEST(ServerFile, NamesItsBrokenLine) {
         {"[server SERVER]\n\n; note\nengine\n", "line 4"},
     };
     for (const auto& one : cases) {
-        write(home.folder() + QStringLiteral("/orvane.ini"), one.text);
+        write(home.folder() + "/orvane.ini", one.text);
         EXPECT_TRUE(openFault(home.folder()).contains(QString::fromUtf8(one.fault))) << one.text;
     }
 }
 
 TEST(ServerFile, SaysWhichEngineServesAServer) {
     const TestHome home;
-    write(home.folder() + QStringLiteral("/orvane.ini"),
+    write(home.folder() + "/orvane.ini",
           "# sites\n[server MAIN]\nengine = PostgreSQL ; the big one\nhost = db\n[Server old one]\nengine=sqlserver\n"
           "[menu]\nmnuRct = 1\n[server here]\nfolder = other\n");
     const DataSource source(home.folder());
-    EXPECT_EQ(source.engineOf(QStringLiteral("Server=main;Database=Dunmarch")), Engine::Postgresql);
-    EXPECT_EQ(source.engineOf(QStringLiteral("Driver={SQL Server};Server=OLD ONE;Database=Dunmarch")),
-              Engine::SqlServer);
-    EXPECT_EQ(source.engineOf(QStringLiteral("Server=unknown;Database=Dunmarch")), Engine::Sqlite);
-    EXPECT_THROW(source.engineOf(QStringLiteral("Database=Dunmarch")), DataError);
-    EXPECT_TRUE(openFault(home.folder(), QStringLiteral("Server=here;Database=Dunmarch"))
-                    .contains(QStringLiteral("/other/Dunmarch.db")));
-    QFile::remove(home.folder() + QStringLiteral("/orvane.ini"));
+    EXPECT_EQ(source.engineOf("Server=main;Database=Dunmarch"), Engine::Postgresql);
+    EXPECT_EQ(source.engineOf("Driver={SQL Server};Server=OLD ONE;Database=Dunmarch"), Engine::SqlServer);
+    EXPECT_EQ(source.engineOf("Server=unknown;Database=Dunmarch"), Engine::Sqlite);
+    EXPECT_THROW(source.engineOf("Database=Dunmarch"), DataError);
+    EXPECT_TRUE(
+        openFault(home.folder(), QStringLiteral("Server=here;Database=Dunmarch")).contains("/other/Dunmarch.db"));
+    QFile::remove(home.folder() + "/orvane.ini");
     EXPECT_EQ(openFault(home.folder()), QString()) << "without the file the embedded engine serves from data/";
 }
 
 TEST(ServerFile, ANamedServerMustAnswer) {
     const TestHome home;
     for (const char* engine : {"postgresql", "sqlserver"}) {
-        write(home.folder() + QStringLiteral("/orvane.ini"),
+        write(home.folder() + "/orvane.ini",
               QByteArray("[server SERVER]\nhost = 127.0.0.1\nport = 1\nengine = ") + engine);
-        EXPECT_TRUE(openFault(home.folder()).contains(QStringLiteral("cannot be opened"))) << engine;
+        EXPECT_TRUE(openFault(home.folder()).contains("cannot be opened")) << engine;
     }
 }
 
@@ -124,9 +121,8 @@ class Pool : public EngineTest {};
 TEST_P(Pool, GivesAnIdleConnectionAgain) {
     const auto open = [] { return QSqlDatabase::connectionNames().size(); };
     const qsizetype before = open();
-    for (int i = 0; i < 5; ++i) {
-        data.open(TestHome::billing()).run(QStringLiteral("select 1 as x"));
-    }
+    for (int i = 0; i < 5; ++i)
+        data.open(TestHome::billing()).run("select 1 as x");
     EXPECT_EQ(open(), before + 1);
     {
         Connection one = data.open(TestHome::billing());
@@ -141,11 +137,11 @@ TEST_P(Pool, GivesAnIdleConnectionAgain) {
         // What a handler leaves open behind a fault is rolled back before the next one gets the connection.
         Connection left = data.open(TestHome::billing());
         auto* transaction = new Transaction(left);
-        left.run(QStringLiteral("insert into Payments (ReceiptNo) values ('R1')"));
+        left.run("insert into Payments (ReceiptNo) values ('R1')");
         { const Connection gone = std::move(left); }
         delete transaction;
     }
-    EXPECT_EQ(scalar(QStringLiteral("select count(*) from Payments")), QStringLiteral("0"));
+    EXPECT_EQ(scalar("select count(*) from Payments"), "0");
     EXPECT_EQ(data.openTransactions(), 0);
 }
 
@@ -154,33 +150,32 @@ TEST_P(Pool, EachWorkstationHasItsOwnClock) {
     data.setServerClock(QDateTime(QDate(2026, 1, 31), QTime(23, 59, 59)));
     other.setServerClock(QDateTime(QDate(2026, 2, 1), QTime(0, 0)));
     Connection theirs = other.open(TestHome::billing());
-    EXPECT_EQ(scalar(QStringLiteral("select sysDT from qrySysDateTime")), QStringLiteral("2026-01-31 23:59:59"));
-    EXPECT_EQ(theirs.run(QStringLiteral("select sysDT from qrySysDateTime")).text(0),
-              QStringLiteral("2026-02-01 00:00:00"));
+    EXPECT_EQ(scalar("select sysDT from qrySysDateTime"), "2026-01-31 23:59:59");
+    EXPECT_EQ(theirs.run("select sysDT from qrySysDateTime").text(0), "2026-02-01 00:00:00");
     data.setServerClock(QDateTime(QDate(2026, 3, 1), QTime(8, 0)));
-    EXPECT_EQ(scalar(QStringLiteral("select sysDT from qrySysDateTime")), QStringLiteral("2026-03-01 08:00:00"));
+    EXPECT_EQ(scalar("select sysDT from qrySysDateTime"), "2026-03-01 08:00:00");
 }
 
 TEST_P(Pool, KeepsTheEnginesWordsInAFault) {
-    billing.run(QStringLiteral("insert into hPatients (PNo, psurname) values ('P1', 'A')"));
+    billing.run("insert into hPatients (PNo, psurname) values ('P1', 'A')");
     try {
-        billing.run(QStringLiteral("insert into hPatients (PNo, psurname) values ('P1', 'A')"));
+        billing.run("insert into hPatients (PNo, psurname) values ('P1', 'A')");
         FAIL();
     } catch (const DataError& fault) {
-        EXPECT_TRUE(fault.description().contains(QStringLiteral("unique"), Qt::CaseInsensitive)) << fault.what();
-        EXPECT_FALSE(fault.description().startsWith(QStringLiteral("ERROR")));
-        EXPECT_TRUE(fault.statement().contains(QStringLiteral("insert into hPatients")));
+        EXPECT_TRUE(fault.description().contains("unique", Qt::CaseInsensitive)) << fault.what();
+        EXPECT_FALSE(fault.description().startsWith("ERROR"));
+        EXPECT_TRUE(fault.statement().contains("insert into hPatients"));
     }
 }
 
 /// The second row cannot be worked out: the first alone is not the answer.
 TEST_P(Pool, RowsThatEndInAFaultAreNotTakenForAll) {
-    billing.run(QStringLiteral("delete from IDgen"));
-    billing.run(QStringLiteral("insert into IDgen (DestName, ID) values ('A', 1)"));
-    EXPECT_EQ(scalar(QStringLiteral("select abs(ID) as n from IDgen order by DestName")), QStringLiteral("1"));
-    billing.run(QStringLiteral("insert into IDgen (DestName, ID) values ('B', -9223372036854775807 - 1)"));
-    EXPECT_THROW(billing.run(QStringLiteral("select abs(ID) as n from IDgen order by DestName")), DataError);
-    EXPECT_EQ(scalar(QStringLiteral("select count(*) from IDgen")), QStringLiteral("2")) << "the connection goes on";
+    billing.run("delete from IDgen");
+    billing.run("insert into IDgen (DestName, ID) values ('A', 1)");
+    EXPECT_EQ(scalar("select abs(ID) as n from IDgen order by DestName"), "1");
+    billing.run("insert into IDgen (DestName, ID) values ('B', -9223372036854775807 - 1)");
+    EXPECT_THROW(billing.run("select abs(ID) as n from IDgen order by DestName"), DataError);
+    EXPECT_EQ(scalar("select count(*) from IDgen"), "2") << "the connection goes on";
 }
 
 ORVANE_ON_EACH_ENGINE(Pool);
@@ -205,32 +200,32 @@ TEST_P(LostServer, AnIdleConnectionIsReplacedBeforeItIsGiven) {
             "select pg_terminate_backend(pid, 10000) from pg_stat_activity where datname=current_database() and "
             "pid <> pg_backend_pid()"));
     Connection fresh = data.open(TestHome::billing());
-    EXPECT_EQ(fresh.run(QStringLiteral("select count(*) from Payments")).text(0), QStringLiteral("0"));
+    EXPECT_EQ(fresh.run("select count(*) from Payments").text(0), "0");
 }
 
 TEST_P(LostServer, AnIdleConnectionThatIsAliveIsGivenWithoutAMessage) {
     QString server;
     {
         Connection idle = data.open(TestHome::billing());
-        server = idle.run(QStringLiteral("select pg_backend_pid() as pid")).text(0);
+        server = idle.run("select pg_backend_pid() as pid").text(0);
     }
     const Connection again = data.open(TestHome::billing());
-    EXPECT_TRUE(scalar(QStringLiteral("select query from pg_stat_activity where pid=") + server)
-                    .contains(QStringLiteral("pg_backend_pid")));
+    EXPECT_TRUE(
+        scalar(QStringLiteral("select query from pg_stat_activity where pid=") + server).contains("pg_backend_pid"));
 }
 
 TEST_P(LostServer, AConnectionInUseIsDroppedAndNothingIsSentTwice) {
     cut();
-    EXPECT_THROW(billing.run(QStringLiteral("insert into Payments (ReceiptNo) values ('R1')")), DataError);
-    EXPECT_THROW(billing.run(QStringLiteral("select 1 as x")), DataError);
+    EXPECT_THROW(billing.run("insert into Payments (ReceiptNo) values ('R1')"), DataError);
+    EXPECT_THROW(billing.run("select 1 as x"), DataError);
     billing = data.open(TestHome::billing());
-    EXPECT_EQ(scalar(QStringLiteral("select count(*) from Payments")), QStringLiteral("0"));
+    EXPECT_EQ(scalar("select count(*) from Payments"), "0");
 }
 
 TEST_P(LostServer, ACommitThatBreaksIsAskedForOnANewConnection) {
     {
         Transaction transaction(billing);
-        billing.run(QStringLiteral("insert into Payments (ReceiptNo) values ('R1')"));
+        billing.run("insert into Payments (ReceiptNo) values ('R1')");
         cut();
         try {
             transaction.commit();
@@ -238,12 +233,12 @@ TEST_P(LostServer, ACommitThatBreaksIsAskedForOnANewConnection) {
         } catch (const CommitUnknown&) {
             FAIL() << "the server knows";
         } catch (const DataError& fault) {
-            EXPECT_TRUE(fault.description().contains(QStringLiteral("Nothing was saved."))) << fault.what();
+            EXPECT_TRUE(fault.description().contains("Nothing was saved.")) << fault.what();
         }
         EXPECT_EQ(data.openTransactions(), 0);
     }
     billing = data.open(TestHome::billing());
-    EXPECT_EQ(scalar(QStringLiteral("select count(*) from Payments")), QStringLiteral("0"));
+    EXPECT_EQ(scalar("select count(*) from Payments"), "0");
 }
 
 INSTANTIATE_TEST_SUITE_P(On, LostServer, ::testing::ValuesIn(testEngines().mid(1)),

@@ -1,5 +1,5 @@
-#include "data/FigToWrd.h"
-#include "data/Money.h"
+#include "data/words/FigToWrd.h"
+#include "data/words/Money.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -33,9 +33,8 @@ TEST(Words, AreThoseOfTheRecords) {
         {std::numeric_limits<double>::infinity(), "***"},
         {-5, " Naira"},
     };
-    for (const auto& one : cases) {
+    for (const auto& one : cases)
         EXPECT_EQ(figToWrd().amountToWords(one.amount).toStdString(), one.words) << one.amount;
-    }
 }
 
 TEST(Words, ObeyTheirOptions) {
@@ -49,7 +48,7 @@ TEST(Words, ObeyTheirOptions) {
     words.setLetterCase(2);
     words.setDelimiter(1);
     words.setPadding(1);
-    EXPECT_EQ(words.amountToWords(2001), QStringLiteral("*two thousand one naira*"));
+    EXPECT_EQ(words.amountToWords(2001), "*two thousand one naira*");
 }
 
 TEST(Formats, ShowAmountsAsTheScreensDo) {
@@ -85,13 +84,11 @@ TEST(Amounts, AreReadOnlyFromPlainNumbers) {
         const char* text;
         double value;
     } good[] = {{"1,234.50", 1234.5}, {" 12 ", 12}, {"-0.5", -0.5}, {".5", 0.5}, {"5.", 5}, {"1,2,3", 123}, {"007", 7}};
-    for (const auto& one : good) {
+    for (const auto& one : good)
         EXPECT_EQ(parseAmount(QString::fromUtf8(one.text)), one.value) << one.text;
-    }
     for (const char* text :
-         {"", " ", ".", "-", "abc", "12a", "inf", "nan", "1e5", "0x10", "1.2.3", ",", "--5", "5-", "1 000", "12,"}) {
+         {"", " ", ".", "-", "abc", "12a", "inf", "nan", "1e5", "0x10", "1.2.3", ",", "--5", "5-", "1 000", "12,"})
         EXPECT_EQ(parseAmount(QString::fromUtf8(text)), std::nullopt) << text;
-    }
     EXPECT_EQ(parseAmount(QString(400, u'9')), std::nullopt) << "no amount holds it";
 }
 
@@ -102,9 +99,8 @@ TEST(Amounts, RoundHalfAwayFromZeroOnTheDecimalText) {
     } cases[] = {{1.005, 1.01},   {2.675, 2.68},    {-1.005, -1.01},
                  {1.004999, 1.0}, {0.1 + 0.2, 0.3}, {1e12 + 0.125, 1e12 + 0.13},
                  {0, 0},          {99.995, 100}};
-    for (const auto& one : cases) {
+    for (const auto& one : cases)
         EXPECT_EQ(round2(one.value), one.rounded) << one.value;
-    }
 }
 
 } // namespace orvane

@@ -1,6 +1,6 @@
 #include "ScreenStatements.h"
-#include "data/Catalog.h"
-#include "data/Recordset.h"
+#include "data/dialect/Catalog.h"
+#include "data/rows/Recordset.h"
 #include "support/TestHome.h"
 
 #include <QRegularExpression>
@@ -20,22 +20,21 @@ const QSet<QString>& growingTables() {
 
 /// What reads a table whole by design: the newest row by its key, or the few rows that a partial index holds.
 bool readsFewRows(const QString& statement, const QString& step) {
-    return (statement.startsWith(QStringLiteral("select top 1 SNO")) && step.contains(QStringLiteral("Limit"))) ||
-           step.contains(QStringLiteral("ixRecordsUnbilled"), Qt::CaseInsensitive);
+    return (statement.startsWith("select top 1 SNO") && step.contains("Limit")) ||
+           step.contains("ixRecordsUnbilled", Qt::CaseInsensitive);
 }
 
 /// The tables that each alias (or table name) in the statement and in the views under it may stand for, in lower case.
 QMultiHash<QString, QString> tablesByAlias(const QString& statement) {
-    static const QRegularExpression source(QStringLiteral("\\b(?:from|join|update)\\s+(\\w+)(?:\\s+(\\w+))?"),
+    static const QRegularExpression source("\\b(?:from|join|update)\\s+(\\w+)(?:\\s+(\\w+))?",
                                            QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression word(QStringLiteral("\\w+"));
+    static const QRegularExpression word("\\w+");
     QStringList texts = {statement};
-    for (const QString& definition : Catalog::instance().statements(QStringLiteral("billing"))) {
-        const qsizetype at = definition.indexOf(QStringLiteral("create view "));
+    for (const QString& definition : Catalog::instance().statements("billing")) {
+        const qsizetype at = definition.indexOf("create view ");
         const QString name = at < 0 ? QString() : word.match(definition, at + 12).captured();
-        if (!name.isEmpty() && statement.contains(name, Qt::CaseInsensitive)) {
+        if (!name.isEmpty() && statement.contains(name, Qt::CaseInsensitive))
             texts += definition;
-        }
     }
     QMultiHash<QString, QString> tables;
     for (const QString& text : texts) {
@@ -50,23 +49,20 @@ QMultiHash<QString, QString> tablesByAlias(const QString& statement) {
 
 /// SQLite: "SCAN h" and "SCAN h USING INDEX ..." read all of h; "SEARCH h ..." does not.
 QStringList fullScansOfSqlite(Connection& connection, const QString& statement) {
-    static const QRegularExpression scan(QStringLiteral("^SCAN (\\w+)"));
+    static const QRegularExpression scan("^SCAN (\\w+)");
     const QMultiHash<QString, QString> tables = tablesByAlias(statement);
     QStringList scans;
-    const bool newest = statement.startsWith(QStringLiteral("select top 1 SNO"));
-    for (Recordset plan = connection.run(QStringLiteral("explain query plan ") + statement); !plan.eof();
-         plan.moveNext()) {
-        const QString step = plan.text(QStringLiteral("detail"));
+    const bool newest = statement.startsWith("select top 1 SNO");
+    for (Recordset plan = connection.run("explain query plan " + statement); !plan.eof(); plan.moveNext()) {
+        const QString step = plan.text("detail");
         const QRegularExpressionMatch match = scan.match(step);
-        if (!match.hasMatch()) {
+        if (!match.hasMatch())
             continue;
-        }
         const QStringList candidates = tables.values(match.captured(1).toLower());
         const bool grows = std::any_of(candidates.begin(), candidates.end(),
                                        [](const QString& table) { return growingTables().contains(table); });
-        if (grows && !newest && !readsFewRows(statement, step)) {
+        if (grows && !newest && !readsFewRows(statement, step))
             scans += step;
-        }
     }
     return scans;
 }
@@ -74,25 +70,21 @@ QStringList fullScansOfSqlite(Connection& connection, const QString& statement) 
 /// PostgreSQL with sequential scans priced out: a scan is full when it is sequential all the same, or walks an index
 /// with no condition on it.
 QStringList fullScansOfPostgresql(Connection& connection, const QString& statement) {
-    static const QRegularExpression scan(QStringLiteral("(Seq Scan|Index Scan|Index Only Scan).* on (\\w+)"));
+    static const QRegularExpression scan("(Seq Scan|Index Scan|Index Only Scan).* on (\\w+)");
     QStringList steps;
-    for (Recordset plan = connection.run(QStringLiteral("explain ") + statement); !plan.eof(); plan.moveNext()) {
+    for (Recordset plan = connection.run("explain " + statement); !plan.eof(); plan.moveNext())
         steps += plan.text(0);
-    }
     QStringList scans;
     for (qsizetype i = 0; i < steps.size(); ++i) {
         const QRegularExpressionMatch match = scan.match(steps[i]);
-        if (!match.hasMatch() || !growingTables().contains(match.captured(2))) {
+        if (!match.hasMatch() || !growingTables().contains(match.captured(2)))
             continue;
-        }
         bool conditioned = false;
-        for (qsizetype k = i + 1; k < steps.size() && !steps[k].contains(QStringLiteral("->")); ++k) {
-            conditioned = conditioned || steps[k].contains(QStringLiteral("Index Cond"));
-        }
+        for (qsizetype k = i + 1; k < steps.size() && !steps[k].contains("->"); ++k)
+            conditioned = conditioned || steps[k].contains("Index Cond");
         const QString context = (i > 0 ? steps[i - 1] : QString()) + steps[i];
-        if (!conditioned && !readsFewRows(statement, context)) {
+        if (!conditioned && !readsFewRows(statement, context))
             scans += steps[i];
-        }
     }
     return scans;
 }
@@ -103,11 +95,10 @@ class Plan : public EngineTest {};
 
 TEST_P(Plan, NoStatementOnAVisitABillOrAReceiptReadsAGrowingTableWhole) {
     const bool sqlite = GetParam() == Engine::Sqlite;
-    if (!sqlite) {
-        billing.run(QStringLiteral("select set_config('enable_seqscan', 'off', false)"));
-    }
+    if (!sqlite)
+        billing.run("select set_config('enable_seqscan', 'off', false)");
     const auto fullScans = sqlite ? fullScansOfSqlite : fullScansOfPostgresql;
-    EXPECT_EQ(fullScans(billing, QStringLiteral("select * from qryhVisits where Remarks='REVIEW'")).size(), 1)
+    EXPECT_EQ(fullScans(billing, "select * from qryhVisits where Remarks='REVIEW'").size(), 1)
         << "a filter that no index serves must be seen";
     for (const QString& statement : screenStatements()) {
         try {

@@ -1,6 +1,6 @@
 #include "data/DataError.h"
-#include "data/Recordset.h"
-#include "data/Transaction.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/Transaction.h"
 #include "support/TestHome.h"
 
 #include <set>
@@ -17,43 +17,41 @@ protected:
     }
 
     Connection audit() {
-        return GetParam() == Engine::Sqlite ? data.open(QStringLiteral("Server=SERVER;Database=Audit"))
+        return GetParam() == Engine::Sqlite ? data.open("Server=SERVER;Database=Audit")
                                             : data.open(TestHome::billing());
     }
 };
 
 TEST_P(ProceduresTest, RefusesWrongCalls) {
-    EXPECT_THROW(billing.call(QStringLiteral("noSuchProcedure")), DataError);
-    EXPECT_THROW(billing.call(QStringLiteral("getIDNo")), DataError);
-    EXPECT_THROW(billing.call(QStringLiteral("getIDNo"), {{"DestName", "X"}, {"Other", 1}}), DataError);
+    EXPECT_THROW(billing.call("noSuchProcedure"), DataError);
+    EXPECT_THROW(billing.call("getIDNo"), DataError);
+    EXPECT_THROW(billing.call("getIDNo", {{"DestName", "X"}, {"Other", 1}}), DataError);
 }
 
 TEST_P(ProceduresTest, AnAuditRowSurvivesARollback) {
     {
         Transaction transaction(billing);
-        billing.run(QStringLiteral("insert into Payments (ReceiptNo) values ('R1')"));
-        billing.call(QStringLiteral("spauditrail"), auditRow(QStringLiteral("Save O'NEILL")));
+        billing.run("insert into Payments (ReceiptNo) values ('R1')");
+        billing.call("spauditrail", auditRow("Save O'NEILL"));
     }
     Connection trail = audit();
     const Recordset row(trail, Sql("select * from AuditTrail"));
     ASSERT_EQ(row.count(), 1);
-    EXPECT_EQ(row.text(QStringLiteral("userAction")), QStringLiteral("Save O'NEILL"));
-    EXPECT_EQ(row.text(QStringLiteral("ActionDate")), QStringLiteral("2026-03-14"));
-    EXPECT_EQ(row.text(QStringLiteral("ActionTime")), QStringLiteral("09:30:00"));
-    EXPECT_EQ(scalar(QStringLiteral("select count(*) from Payments")), QStringLiteral("0"));
+    EXPECT_EQ(row.text("userAction"), "Save O'NEILL");
+    EXPECT_EQ(row.text("ActionDate"), "2026-03-14");
+    EXPECT_EQ(row.text("ActionTime"), "09:30:00");
+    EXPECT_EQ(scalar("select count(*) from Payments"), "0");
 }
 
 TEST_P(ProceduresTest, ANumberIsGivenOnce) {
-    EXPECT_TRUE(billing.call(QStringLiteral("getIDNo"), {{"DestName", "RECEIPT2"}}).eof()) << "no such counter: no row";
-    billing.run(QStringLiteral("insert into IDgen (DestName, ID) values ('RECEIPT2', 41)"));
-    EXPECT_EQ(billing.call(QStringLiteral("getIDNo"), {{"@DestName", "receipt2"}}).text(QStringLiteral("getIDNo")),
-              QStringLiteral("42"));
+    EXPECT_TRUE(billing.call("getIDNo", {{"DestName", "RECEIPT2"}}).eof()) << "no such counter: no row";
+    billing.run("insert into IDgen (DestName, ID) values ('RECEIPT2', 41)");
+    EXPECT_EQ(billing.call("getIDNo", {{"@DestName", "receipt2"}}).text("getIDNo"), "42");
     {
         Transaction transaction(billing);
-        EXPECT_EQ(billing.call(QStringLiteral("getIDNo"), {{"DestName", "RECEIPT2"}}).text(0), QStringLiteral("43"));
+        EXPECT_EQ(billing.call("getIDNo", {{"DestName", "RECEIPT2"}}).text(0), "43");
     }
-    EXPECT_EQ(scalar(QStringLiteral("select ID from IDgen")), QStringLiteral("42"))
-        << "goes back with the caller's transaction";
+    EXPECT_EQ(scalar("select ID from IDgen"), "42") << "goes back with the caller's transaction";
 
     std::array<std::vector<qlonglong>, 3> numbers;
     std::vector<std::thread> threads;
@@ -62,8 +60,8 @@ TEST_P(ProceduresTest, ANumberIsGivenOnce) {
             DataSource workstation(home.folder());
             for (int i = 0; i < 20; ++i) {
                 Connection connection = workstation.open(TestHome::billing());
-                own.push_back(connection.call(QStringLiteral("getIDNo"), {{"DestName", "RECEIPT2"}})
-                                  .integer(QStringLiteral("getIDNo")));
+                own.push_back(
+                    connection.call(QStringLiteral("getIDNo"), {{"DestName", "RECEIPT2"}}).integer("getIDNo"));
             }
         });
     }
@@ -80,9 +78,8 @@ TEST_P(ProceduresTest, RevenueTypesComeFromTheItemMasters) {
     for (const char* tsql : {"insert into drugMaster (drgName, revType) values ('PARACETAMOL', 'DRUGS')",
                              "insert into drugMaster (drgName, revType) values ('SWAB', '')",
                              "insert into labservices (Drgname, revType) values ('FBC', 'LABORATORY')",
-                             "insert into hservices (service, revType) values ('SWAB', 'NURSING')"}) {
+                             "insert into hservices (service, revType) values ('SWAB', 'NURSING')"})
         billing.run(QString::fromUtf8(tsql));
-    }
     const struct {
         const char* item;
         const char* before;
@@ -100,14 +97,13 @@ TEST_P(ProceduresTest, RevenueTypesComeFromTheItemMasters) {
                             .arg(bill, one.item, one.before));
         }
     }
-    billing.run(QStringLiteral("insert into Billing (billNo, isProcess) values ('V2', 1)"));
-    billing.call(QStringLiteral("updateRevType"), {{"@ConsultID", "V1"}});
-    billing.call(QStringLiteral("updateRevType"), {{"@ConsultID", "V2"}});
+    billing.run("insert into Billing (billNo, isProcess) values ('V2', 1)");
+    billing.call("updateRevType", {{"@ConsultID", "V1"}});
+    billing.call("updateRevType", {{"@ConsultID", "V2"}});
     const auto check = [this, &cases](const char* table, bool filled) {
         Recordset rows = billing.run(QString::fromUtf8(table));
         for (const auto& one : cases) {
-            const QString before =
-                QString::fromUtf8(one.before).remove(u'\'').replace(QStringLiteral("null"), QString());
+            const QString before = QString::fromUtf8(one.before).remove(u'\'').replace("null", QString());
             EXPECT_EQ(rows.text(0), filled ? QString::fromUtf8(one.after) : before) << table << " " << one.item;
             rows.moveNext();
         }

@@ -1,5 +1,5 @@
 #include "data/DataError.h"
-#include "data/Recordset.h"
+#include "data/rows/Recordset.h"
 #include "support/TestHome.h"
 
 #include <cmath>
@@ -10,7 +10,7 @@ namespace orvane {
 namespace {
 
 const QString kChanged =
-    QStringLiteral("Row cannot be located for updating. Some values may have been changed since it was last read.");
+    "Row cannot be located for updating. Some values may have been changed since it was last read.";
 
 /// The description of the fault that the call raises; "" when it raises none.
 template <typename Call>
@@ -30,18 +30,18 @@ protected:
     Recordset added(const QString& receipt, double amount) {
         Recordset row(billing, Sql("select * from Payments where 1=2"));
         row.addNew();
-        row.set(QStringLiteral("ReceiptNo"), receipt);
-        row.set(QStringLiteral("AmountPaid"), amount);
-        row.set(QStringLiteral("receiptdate"), QDate(2026, 3, 14));
+        row.set("ReceiptNo", receipt);
+        row.set("AmountPaid", amount);
+        row.set("receiptdate", QDate(2026, 3, 14));
         row.update();
         return row;
     }
 };
 
 TEST_P(RecordsetTest, ReadsALongListAsItIsAskedFor) {
-    billing.run(QStringLiteral("insert into BillAccum (drgName, dtDate) values ('SYRINGE', '2026-03-14')"));
+    billing.run("insert into BillAccum (drgName, dtDate) values ('SYRINGE', '2026-03-14')");
     for (int i = 0; i < 11; ++i)
-        billing.run(QStringLiteral("insert into BillAccum (drgName, dtDate) select drgName, dtDate from BillAccum"));
+        billing.run("insert into BillAccum (drgName, dtDate) select drgName, dtDate from BillAccum");
     const auto list = [this] {
         return Recordset::paged(billing.beside(), Sql("select SNo, DRGNAME, dtDate from BillAccum order by SNo"));
     };
@@ -49,13 +49,13 @@ TEST_P(RecordsetTest, ReadsALongListAsItIsAskedFor) {
     EXPECT_EQ(rows.rowsRead(), 0);
     const Recordset shown = rows.detached();
     EXPECT_FALSE(rows.eof());
-    EXPECT_EQ(rows.date(QStringLiteral("dtdate")), QDate(2026, 3, 14));
+    EXPECT_EQ(rows.date("dtdate"), QDate(2026, 3, 14));
     EXPECT_TRUE(rows.has(3));
     EXPECT_FALSE(shown.isWhole());
     EXPECT_EQ(shown.rowsRead(), rows.rowsRead()) << "what one has read is there for both";
-    billing.run(QStringLiteral("insert into BillAccum (drgName) values ('LATER')"));
+    billing.run("insert into BillAccum (drgName) values ('LATER')");
     rows.moveTo(rows.rowsRead() + 700);
-    EXPECT_EQ(rows.integer(QStringLiteral("SNo")), rows.row() + 1);
+    EXPECT_EQ(rows.integer("SNo"), rows.row() + 1);
     EXPECT_FALSE(rows.has(2048));
     EXPECT_EQ(shown.count(), 2048) << "the list as it was when it was asked for";
     EXPECT_TRUE(shown.isWhole());
@@ -65,10 +65,10 @@ TEST_P(RecordsetTest, ReadsALongListAsItIsAskedFor) {
     for (int i = 0; i < 3; ++i)
         EXPECT_TRUE(list().has(i));
     Connection next = billing.beside();
-    next.run(QStringLiteral("update BillAccum set drgName='GAUZE' where SNo=1"));
+    next.run("update BillAccum set drgName='GAUZE' where SNo=1");
     EXPECT_EQ(Recordset(billing, Sql("select drgName from BillAccum where SNo=1")).text(0), "GAUZE");
     EXPECT_NE(fault([&] { Recordset::paged(billing.beside(), Sql("select nothing from BillAccum")); }), "");
-    EXPECT_NE(fault([&] { list().set(QStringLiteral("drgName"), QStringLiteral("x")); }), "") << "is read only";
+    EXPECT_NE(fault([&] { list().set("drgName", "x"); }), "") << "is read only";
     if (GetParam() == Engine::Postgresql) {
         Recordset broken = Recordset::paged(billing.beside(),
                                             Sql("select 1000000 / (SNo - 1500) as Share from BillAccum order by SNo"));
@@ -79,37 +79,37 @@ TEST_P(RecordsetTest, ReadsALongListAsItIsAskedFor) {
 }
 
 TEST_P(RecordsetTest, WalksRowsAndReadsThemTyped) {
-    added(QStringLiteral("R1"), 12);
-    added(QStringLiteral("R2"), 0.1);
-    billing.run(QStringLiteral("insert into Payments (ReceiptNo) values (null)"));
+    added("R1", 12);
+    added("R2", 0.1);
+    billing.run("insert into Payments (ReceiptNo) values (null)");
     Recordset rows(billing, Sql("select SNo, ReceiptNo, AmountPaid, ReceiptDate, isPost from Payments order by SNo"));
     ASSERT_EQ(rows.count(), 3);
-    EXPECT_EQ(rows.text(QStringLiteral("amountpaid")), QStringLiteral("12"));
-    EXPECT_EQ(rows.text(QStringLiteral("RECEIPTDATE")), QStringLiteral("2026-03-14"));
-    EXPECT_EQ(rows.value(QStringLiteral("ReceiptDate")).typeId(), int(QMetaType::QDate));
-    EXPECT_EQ(rows.value(QStringLiteral("isPost")), QVariant(0LL));
-    EXPECT_TRUE(rows.find(QStringLiteral("receiptno"), QStringLiteral("r2")));
+    EXPECT_EQ(rows.text("amountpaid"), "12");
+    EXPECT_EQ(rows.text("RECEIPTDATE"), "2026-03-14");
+    EXPECT_EQ(rows.value("ReceiptDate").typeId(), int(QMetaType::QDate));
+    EXPECT_EQ(rows.value("isPost"), QVariant(0LL));
+    EXPECT_TRUE(rows.find("receiptno", "r2"));
     EXPECT_EQ(rows.row(), 1);
-    EXPECT_EQ(rows.number(QStringLiteral("AmountPaid")), 0.1);
+    EXPECT_EQ(rows.number("AmountPaid"), 0.1);
     rows.moveNext();
-    EXPECT_TRUE(rows.isNull(QStringLiteral("ReceiptNo")));
-    EXPECT_EQ(rows.text(QStringLiteral("ReceiptDate")), QString());
-    EXPECT_EQ(rows.number(QStringLiteral("AmountPaid")), 0);
-    EXPECT_FALSE(rows.date(QStringLiteral("ReceiptDate")).isValid());
-    EXPECT_FALSE(rows.find(QStringLiteral("ReceiptNo"), QStringLiteral("R1"))) << "searches from here on";
+    EXPECT_TRUE(rows.isNull("ReceiptNo"));
+    EXPECT_EQ(rows.text("ReceiptDate"), QString());
+    EXPECT_EQ(rows.number("AmountPaid"), 0);
+    EXPECT_FALSE(rows.date("ReceiptDate").isValid());
+    EXPECT_FALSE(rows.find("ReceiptNo", "R1")) << "searches from here on";
     EXPECT_TRUE(rows.eof());
-    EXPECT_THROW(rows.text(QStringLiteral("ReceiptNo")), DataError);
+    EXPECT_THROW(rows.text("ReceiptNo"), DataError);
     rows.moveFirst();
-    EXPECT_THROW(rows.text(QStringLiteral("NoSuchColumn")), DataError);
-    EXPECT_THROW(rows.number(QStringLiteral("ReceiptNo")), DataError);
+    EXPECT_THROW(rows.text("NoSuchColumn"), DataError);
+    EXPECT_THROW(rows.number("ReceiptNo"), DataError);
 }
 
 TEST_P(RecordsetTest, GivesTheServersClockAsDateAndTime) {
     data.setServerClock(QDateTime(QDate(2026, 3, 14), QTime(9, 30)));
     const Recordset clock(billing, Sql("select sysDT from qrySysDateTime"));
-    EXPECT_EQ(clock.text(0), QStringLiteral("2026-03-14 09:30:00"));
-    EXPECT_EQ(clock.dateTime(QStringLiteral("sysdt")), QDateTime(QDate(2026, 3, 14), QTime(9, 30)));
-    EXPECT_EQ(clock.date(QStringLiteral("sysdt")), QDate(2026, 3, 14));
+    EXPECT_EQ(clock.text(0), "2026-03-14 09:30:00");
+    EXPECT_EQ(clock.dateTime("sysdt"), QDateTime(QDate(2026, 3, 14), QTime(9, 30)));
+    EXPECT_EQ(clock.date("sysdt"), QDate(2026, 3, 14));
     data.setServerClock({});
     EXPECT_NEAR(double(Recordset(billing, Sql("select sysDT from qrySysDateTime"))
                            .dateTime("sysDT")
@@ -118,58 +118,57 @@ TEST_P(RecordsetTest, GivesTheServersClockAsDateAndTime) {
 }
 
 TEST_P(RecordsetTest, ChangesTheRowThatWasReadAndOnlyThat) {
-    added(QStringLiteral("R1"), 10);
-    added(QStringLiteral("R2"), 10);
+    added("R1", 10);
+    added("R2", 10);
     Recordset row(billing, Sql("select * from Payments where ReceiptNo='R2'"));
-    row.set(QStringLiteral("AmountPaid"), 0.1 + 0.2);
-    row.set(QStringLiteral("Remarks"), QStringLiteral("kept blanks  "));
+    row.set("AmountPaid", 0.1 + 0.2);
+    row.set("Remarks", "kept blanks  ");
     row.update();
     // Once more over the same recordset: the old values are those of the last update.
-    row.set(QStringLiteral("Remarks"), QVariant());
-    row.set(QStringLiteral("AmountPaid"), 5);
+    row.set("Remarks", QVariant());
+    row.set("AmountPaid", 5);
     row.update();
-    EXPECT_EQ(scalar(QStringLiteral("select AmountPaid from Payments where ReceiptNo='R2' and Remarks is null")),
-              QStringLiteral("5"));
-    EXPECT_EQ(scalar(QStringLiteral("select AmountPaid from Payments where ReceiptNo='R1'")), QStringLiteral("10"));
+    EXPECT_EQ(scalar("select AmountPaid from Payments where ReceiptNo='R2' and Remarks is null"), "5");
+    EXPECT_EQ(scalar("select AmountPaid from Payments where ReceiptNo='R1'"), "10");
 }
 
 TEST_P(RecordsetTest, ALostUpdateIsAFault) {
-    added(QStringLiteral("R1"), 10);
+    added("R1", 10);
     Recordset mine(billing, Sql("select * from Payments where ReceiptNo='R1'"));
     const char* const changes[] = {"update Payments set AmountPaid=11 where ReceiptNo='R1'",
                                    "update Payments set AmountPaid=null where ReceiptNo='R1'", "delete from Payments"};
     for (const char* change : changes) {
         Recordset fresh(billing, Sql("select * from Payments where ReceiptNo='R1'"));
         billing.run(QString::fromUtf8(change));
-        fresh.set(QStringLiteral("AmountPaid"), 99);
+        fresh.set("AmountPaid", 99);
         EXPECT_EQ(fault([&] { fresh.update(); }), kChanged) << change;
     }
-    EXPECT_EQ(scalar(QStringLiteral("select count(*) from Payments where AmountPaid=99")), QStringLiteral("0"));
-    mine.set(QStringLiteral("Remarks"), QStringLiteral("x"));
+    EXPECT_EQ(scalar("select count(*) from Payments where AmountPaid=99"), "0");
+    mine.set("Remarks", "x");
     EXPECT_EQ(fault([&] { mine.update(); }), kChanged);
 }
 
 TEST_P(RecordsetTest, FitsValuesToTheColumn) {
     Recordset row(billing, Sql("select * from Payments where 1=2"));
     row.addNew();
-    row.set(QStringLiteral("AmountPaid"), QStringLiteral(" 12.50 "));
-    row.set(QStringLiteral("Amountbilled"), QString());
-    row.set(QStringLiteral("ReceiptDate"), QDateTime(QDate(2026, 3, 14), QTime(23, 59)));
-    row.set(QStringLiteral("isPost"), true);
-    row.set(QStringLiteral("ReceiptNo"), 42);
-    row.set(QStringLiteral("ChequeNo"), QString());
-    row.set(QStringLiteral("rTime"), QTime(9, 5));
-    row.set(QStringLiteral("billNo"), QDate());
+    row.set("AmountPaid", " 12.50 ");
+    row.set("Amountbilled", QString());
+    row.set("ReceiptDate", QDateTime(QDate(2026, 3, 14), QTime(23, 59)));
+    row.set("isPost", true);
+    row.set("ReceiptNo", 42);
+    row.set("ChequeNo", QString());
+    row.set("rTime", QTime(9, 5));
+    row.set("billNo", QDate());
     row.update();
     const Recordset stored(billing, Sql("select * from Payments"));
-    EXPECT_EQ(stored.number(QStringLiteral("AmountPaid")), 12.5);
-    EXPECT_TRUE(stored.isNull(QStringLiteral("Amountbilled")));
-    EXPECT_EQ(stored.text(QStringLiteral("ReceiptDate")), QStringLiteral("2026-03-14"));
-    EXPECT_EQ(stored.integer(QStringLiteral("isPost")), 1);
-    EXPECT_EQ(stored.text(QStringLiteral("ReceiptNo")), QStringLiteral("42"));
-    EXPECT_FALSE(stored.isNull(QStringLiteral("ChequeNo"))) << "an empty text stays a text";
-    EXPECT_EQ(stored.text(QStringLiteral("rTime")), QStringLiteral("09:05:00"));
-    EXPECT_TRUE(stored.isNull(QStringLiteral("billNo")));
+    EXPECT_EQ(stored.number("AmountPaid"), 12.5);
+    EXPECT_TRUE(stored.isNull("Amountbilled"));
+    EXPECT_EQ(stored.text("ReceiptDate"), "2026-03-14");
+    EXPECT_EQ(stored.integer("isPost"), 1);
+    EXPECT_EQ(stored.text("ReceiptNo"), "42");
+    EXPECT_FALSE(stored.isNull("ChequeNo")) << "an empty text stays a text";
+    EXPECT_EQ(stored.text("rTime"), "09:05:00");
+    EXPECT_TRUE(stored.isNull("billNo"));
 }
 
 TEST_P(RecordsetTest, RefusesWhatTheColumnMayNotHold) {
@@ -178,15 +177,15 @@ TEST_P(RecordsetTest, RefusesWhatTheColumnMayNotHold) {
     const struct {
         const char* column;
         QVariant value;
-    } cases[] = {{"AmountPaid", QStringLiteral("1,000")},
-                 {"AmountPaid", QStringLiteral("inf")},
+    } cases[] = {{"AmountPaid", "1,000"},
+                 {"AmountPaid", "inf"},
                  {"AmountPaid", std::nan("")},
                  {"AmountPaid", std::numeric_limits<double>::infinity()},
                  {"AmountPaid", 1e13},
-                 {"AmountPaid", QStringLiteral("-10000000000000")},
+                 {"AmountPaid", "-10000000000000"},
                  {"isPost", 1.5},
-                 {"ReceiptDate", QStringLiteral("14/03/2026")},
-                 {"ReceiptDate", QStringLiteral("2026-02-30")},
+                 {"ReceiptDate", "14/03/2026"},
+                 {"ReceiptDate", "2026-02-30"},
                  {"Remarks", QString(QChar(0))},
                  {"Remarks", QString(QChar(0xD83D))},
                  {"Remarks", std::nan("")}};
@@ -195,9 +194,9 @@ TEST_P(RecordsetTest, RefusesWhatTheColumnMayNotHold) {
             fault([&] { row.set(QString::fromUtf8(one.column), one.value); }).contains(QString::fromUtf8(one.column)))
             << one.column << " " << one.value.toString().toStdString();
     }
-    EXPECT_THROW(row.set(QStringLiteral("NoSuchColumn"), 1), DataError);
+    EXPECT_THROW(row.set("NoSuchColumn", 1), DataError);
     Recordset view(billing, Sql("select * from qrySysDateTime"));
-    EXPECT_THROW(view.set(QStringLiteral("sysDT"), QDate(2026, 1, 1)), DataError);
+    EXPECT_THROW(view.set("sysDT", QDate(2026, 1, 1)), DataError);
 }
 
 TEST_P(RecordsetTest, WritesNoMoreWhenItsConnectionIsClosed) {
@@ -205,9 +204,9 @@ TEST_P(RecordsetTest, WritesNoMoreWhenItsConnectionIsClosed) {
     Recordset row(brief, Sql("select * from Payments where 1=2"));
     { const Connection closed = std::move(brief); }
     row.addNew();
-    row.set(QStringLiteral("ReceiptNo"), QStringLiteral("R1"));
+    row.set("ReceiptNo", "R1");
     EXPECT_THROW(row.update(), DataError);
-    EXPECT_EQ(scalar(QStringLiteral("select count(*) from Payments")), QStringLiteral("0"));
+    EXPECT_EQ(scalar("select count(*) from Payments"), "0");
 }
 
 ORVANE_ON_EACH_ENGINE(RecordsetTest);

@@ -1,8 +1,8 @@
 // A statement outside a transaction that PostgreSQL has undone for the sake of another one is sent again, and writes
 // once.
-#include "data/Recordset.h"
-#include "data/ServerList.h"
-#include "data/Transaction.h"
+#include "data/engine/ServerList.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/Transaction.h"
 #include "support/Hospital.h"
 #include "support/TestHome.h"
 

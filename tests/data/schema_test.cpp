@@ -1,5 +1,5 @@
-#include "data/Catalog.h"
-#include "data/Recordset.h"
+#include "data/dialect/Catalog.h"
+#include "data/rows/Recordset.h"
 #include "support/Print.h"
 #include "support/TestHome.h"
 
@@ -42,11 +42,10 @@ TEST_P(SchemaRules, ANumberIsGivenOnce) {
     };
     for (const auto& test : cases) {
         EXPECT_NO_THROW(run(test.first)) << test.first;
-        if (test.accepted) {
+        if (test.accepted)
             EXPECT_NO_THROW(run(test.second)) << test.second;
-        } else {
+        else
             EXPECT_THROW(run(test.second), DataError) << test.second;
-        }
     }
 }
 
@@ -54,14 +53,14 @@ TEST_P(SchemaRules, AKeyNeverComesBack) {
     for (const char* table : {"BillAccum", "hRecords", "Payments"}) {
         const QString name = QString::fromLatin1(table);
         const bool visit = name == QLatin1StringView("hRecords");
-        const QString key = visit ? QStringLiteral("recID") : QStringLiteral("SNo");
+        const QString key = visit ? "recID" : "SNo";
         const QString insert = visit
                                    ? QStringLiteral("insert into hRecords (consultID, PNo, recDate) values ('A', 'P', "
                                                     "'2026-03-14')")
                                    : QStringLiteral("insert into %1 (PNo) values ('P')").arg(name);
         billing.run(insert);
         const qlonglong first = scalar(QStringLiteral("select max(%1) as n from %2").arg(key, name)).toLongLong();
-        billing.run(QStringLiteral("delete from ") + name);
+        billing.run("delete from " + name);
         billing.run(insert);
         EXPECT_GT(scalar(QStringLiteral("select max(%1) as n from %2").arg(key, name)).toLongLong(), first) << table;
     }
@@ -84,7 +83,7 @@ TEST_P(SchemaRules, APatientsFullNameFollowsItsParts) {
     run("insert into hPatients (PNo, psurname, pfirstname) values ('P/1', 'O''NEILL', 'Áine')");
     run("insert into hPatients (PNo, psurname) values ('P/2', 'ONE_ILL')");
     run("update hPatients set psurname='One' where PNo='P/2'");
-    EXPECT_EQ(scalar("select fullname from hPatients where PNo='P/1'"), QStringLiteral("O'NEILL Áine"));
+    EXPECT_EQ(scalar("select fullname from hPatients where PNo='P/1'"), "O'NEILL Áine");
     EXPECT_EQ(scalar("select PNo from hPatients where fullname='one'"), "P/2");
     EXPECT_EQ(scalar("select PNo from vwhpatients where fullname like 'o''n%'"), "P/1");
 }
@@ -93,7 +92,7 @@ TEST_P(SchemaRules, APatientsFullNameFollowsItsParts) {
 TEST_P(SchemaRules, BothTablesOfOneNameAreWritten) {
     Recordset account(billing, Sql("select * from Tranxaction where 1=2"));
     account.addNew();
-    account.set("PNo", QStringLiteral("P/1"));
+    account.set("PNo", "P/1");
     account.set("Amount", -2000.5);
     account.set("RunningTotal", -2000.5);
     account.update();
@@ -102,8 +101,8 @@ TEST_P(SchemaRules, BothTablesOfOneNameAreWritten) {
     Connection accounting = data.open(TestHome::accounting());
     Recordset ledger(accounting, Sql("select * from Tranxaction where 1=2"));
     ledger.addNew();
-    ledger.set("TranID", QStringLiteral("T1"));
-    ledger.set("AccountNo", QStringLiteral("1001"));
+    ledger.set("TranID", "T1");
+    ledger.set("AccountNo", "1001");
     ledger.set("TranDate", QDate(2026, 3, 14));
     ledger.set("Amount", 2000.5);
     ledger.update();
@@ -122,9 +121,8 @@ TEST_P(SchemaRules, ADeletedSupplierIsKeptWhole) {
 
 TEST_P(SchemaRules, ForeignNumbersDoNotDisturbTheGenerators) {
     for (const char* number :
-         {"001OP0000007", "001OP0000041", "SN 900", "0", "OP0000012", "002OP0000090", "001LB0000099"}) {
+         {"001OP0000007", "001OP0000041", "SN 900", "0", "OP0000012", "002OP0000090", "001LB0000099"})
         billing.run(QStringLiteral("insert into Payments (ReceiptNo) values ('%1')").arg(QLatin1StringView(number)));
-    }
     EXPECT_EQ(scalar("select MAX(cast(SUBSTRING(ReceiptNo, 6, 7)as bigint))  as ID from Payments WHERE  "
                      "SUBSTRING(ReceiptNo, 4, 2)='OP ' and SUBSTRING(ReceiptNo, 1, 3)='001 '"),
               "41");

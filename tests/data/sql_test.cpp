@@ -1,8 +1,8 @@
 #include "data/DataError.h"
-#include "data/Sql.h"
+#include "data/dialect/Sql.h"
 #include "support/TestHome.h"
 
-#include "data/Recordset.h"
+#include "data/rows/Recordset.h"
 
 #include <cmath>
 #include <limits>
@@ -10,7 +10,7 @@
 namespace orvane {
 
 TEST(SqlBuilder, PutsValuesIntoTheStatement) {
-    const QString name = QStringLiteral("O'NEILL");
+    const QString name = "O'NEILL";
     EXPECT_EQ(
         (Sql("select * from T where a='")
          << name << "' and b=" << 7 << " and c=" << -12.5 << "and d='" << QDate(2026, 3, 4) << "' and e='"
@@ -20,9 +20,9 @@ TEST(SqlBuilder, PutsValuesIntoTheStatement) {
             "select * from T where a='O''NEILL' and b=7 and c=-12.5and d='2026-03-04' and e='2026-03-04 05:06:07'"));
     EXPECT_EQ(
         (Sql("update T set a='") << QString() << "', b='" << QDate() << "' where c='" << QDateTime() << "'").text(),
-        QStringLiteral("update T set a='', b= null  where c= null "));
+        "update T set a='', b= null  where c= null ");
     EXPECT_EQ((Sql("d between '") << QDate() << "' and '" << QDate() << " ' and a='x'").text(),
-              QStringLiteral("d between  null  and  null  and a='x'"));
+              "d between  null  and  null  and a='x'");
     EXPECT_EQ((Sql("select ") << Sql("a, b") << " from T").text(), QStringLiteral("select a, b from T"));
     // A negative amount behind a minus sign must not begin a comment.
     EXPECT_EQ((Sql("set debt=debt-") << -5.5 << ",n=n-" << -1).text(), QStringLiteral("set debt=debt- -5.5,n=n- -1"));
@@ -31,7 +31,7 @@ TEST(SqlBuilder, PutsValuesIntoTheStatement) {
 
 TEST(SqlBuilder, WritesNumbersThatReadBackTheSame) {
     for (const double value : {0.0, -0.1, 0.1 + 0.2, 1e15 / 3, 999999999999.99, 1e-7, 5e-324, 1e308, -1e308}) {
-        const QString text = sqlNumber(value, QStringLiteral("x"));
+        const QString text = sqlNumber(value, "x");
         EXPECT_EQ(text.toDouble(), value) << text.toStdString();
         EXPECT_FALSE(text.contains(u'e')) << text.toStdString();
     }
@@ -40,13 +40,11 @@ TEST(SqlBuilder, WritesNumbersThatReadBackTheSame) {
 TEST(SqlBuilder, RefusesWhatNoColumnMayHold) {
     const QString bad[] = {QString(QChar(0)), QStringLiteral("a") + QChar(0xD83D), QChar(0xDE00) + QStringLiteral("a"),
                            QStringLiteral("a") + QChar(0xD83D) + QStringLiteral("b")};
-    for (const QString& text : bad) {
+    for (const QString& text : bad)
         EXPECT_THROW(Sql("'") << text, DataError);
-    }
     for (const double number :
-         {std::nan(""), std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()}) {
+         {std::nan(""), std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()})
         EXPECT_THROW(Sql() << number, DataError);
-    }
 }
 
 TEST(SqlBuilderDeathTest, RefusesATextOutsideQuotes) {
@@ -57,23 +55,19 @@ TEST(SqlBuilderDeathTest, RefusesATextOutsideQuotes) {
 class Values : public EngineTest {};
 
 TEST_P(Values, ComeBackAsTheyWent) {
-    const QString texts[] = {QStringLiteral("O'NEILL"),
-                             QStringLiteral("x'; delete from hPatients; --"),
-                             QStringLiteral("Ọlá 😀 \\ \" ? :a $1 %"),
-                             QStringLiteral("line\nline\ttab"),
-                             QStringLiteral("''"),
-                             QStringLiteral("null")};
+    const QString texts[] = {
+        "O'NEILL", "x'; delete from hPatients; --", "Ọlá 😀 \\ \" ? :a $1 %", "line\nline\ttab", "''", "null"};
     for (const QString& text : texts) {
         billing.execute(Sql("insert into hPatients (PNo, psurname) values ('1', '") << text << "')");
         const Recordset found(billing, Sql("select psurname from hPatients where psurname='") << text << "'");
         ASSERT_EQ(found.count(), 1) << text.toStdString();
         EXPECT_EQ(found.text(0).toStdString(), text.toStdString());
         billing.execute(Sql("delete from hPatients where psurname='") << text << "'");
-        EXPECT_EQ(scalar(QStringLiteral("select count(*) from hPatients")), QStringLiteral("0"));
+        EXPECT_EQ(scalar("select count(*) from hPatients"), "0");
     }
     for (const double amount : {0.1 + 0.2, 999999999999.99, -1234567.005, 1e308, 5e-324}) {
         billing.execute(Sql("insert into hPatients (PNo, psurname, DebtBF) values ('1', 'A', ") << amount << ")");
-        EXPECT_EQ(Recordset(billing, Sql("select DebtBF from hPatients")).number(QStringLiteral("debtbf")), amount);
+        EXPECT_EQ(Recordset(billing, Sql("select DebtBF from hPatients")).number("debtbf"), amount);
         billing.execute(Sql("delete from hPatients"));
     }
 }

@@ -1,8 +1,8 @@
 #include "ScreenStatements.h"
 #include "data/DataError.h"
-#include "data/Recordset.h"
-#include "data/Statement.h"
-#include "data/Translator.h"
+#include "data/dialect/Statement.h"
+#include "data/dialect/Translator.h"
+#include "data/rows/Recordset.h"
 #include "support/Hospital.h"
 #include "support/TestHome.h"
 
@@ -57,7 +57,7 @@ const QStringList& numbers() {
 
 /// The statement with other values: each of its texts and each number behind "=" gives way to the next one of the list.
 QString withOtherValues(const QString& tsql, qsizetype first) {
-    static const QRegularExpression value(QStringLiteral("'(?:[^']|'')*'|(?<==) *-?\\d[\\d.]*"));
+    static const QRegularExpression value("'(?:[^']|'')*'|(?<==) *-?\\d[\\d.]*");
     QString result;
     qsizetype from = 0;
     for (auto values = value.globalMatch(tsql); values.hasNext(); ++first) {
@@ -84,9 +84,8 @@ QStringList rowsOf(Connection& connection, const QString& tsql) {
     QStringList lines = {rows.columns().join(u'|')};
     for (; !rows.eof(); rows.moveNext()) {
         QStringList cells;
-        for (int i = 0; i < rows.columns().size(); ++i) {
+        for (int i = 0; i < rows.columns().size(); ++i)
             cells += QLatin1StringView(rows.value(i).typeName()) + u' ' + rows.text(i);
-        }
         lines += cells.join(u'|');
     }
     return lines;
@@ -97,7 +96,7 @@ QStringList planOf(const QString& text) {
     QSqlDatabase database;
     for (const QString& name : QSqlDatabase::connectionNames()) {
         const QSqlDatabase open = QSqlDatabase::database(name, false);
-        database = open.databaseName().contains(QStringLiteral("Dunmarch")) ? open : database;
+        database = open.databaseName().contains("Dunmarch") ? open : database;
     }
     const QVariant handle = database.driver()->handle();
     sqlite3_stmt* statement = nullptr;
@@ -105,9 +104,8 @@ QStringList planOf(const QString& text) {
                                  ("explain query plan " + text).toUtf8().constData(), -1, &statement, nullptr),
               SQLITE_OK);
     QStringList steps;
-    while (sqlite3_step(statement) == SQLITE_ROW) {
+    while (sqlite3_step(statement) == SQLITE_ROW)
         steps += QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(statement, 3)));
-    }
     sqlite3_finalize(statement);
     return steps;
 }
@@ -175,19 +173,17 @@ TEST_P(Compiled, StatementsFindAndPlanTheSameAsThoseWithTheirValuesInTheText) {
     }
     int found = 0, compiled = 0;
     for (const QString& statement : screenStatements()) {
-        if (!statement.startsWith(QStringLiteral("select"), Qt::CaseInsensitive)) {
+        if (!statement.startsWith("select", Qt::CaseInsensitive))
             continue;
-        }
         for (const char* visit : {"001OFL0000001", "001OFL0000002", "none"}) {
-            const QString tsql = QString(statement).replace(QStringLiteral("001OFL0000001"), QString::fromUtf8(visit));
+            const QString tsql = QString(statement).replace("001OFL0000001", QString::fromUtf8(visit));
             const QStringList rows = rowsOf(billing, tsql);
-            EXPECT_EQ(rows, rowsOf(billing, tsql + QStringLiteral(" -- as it stands"))) << tsql.toStdString();
+            EXPECT_EQ(rows, rowsOf(billing, tsql + " -- as it stands")) << tsql.toStdString();
             found += rows.size() > 1;
         }
         const Statement known = statementOf(statement, GetParam());
-        if (known.marked.isNull() || known.bound.isEmpty()) {
+        if (known.marked.isNull() || known.bound.isEmpty())
             continue;
-        }
         ++compiled;
         const QStringList plan = planOf(known.marked);
         EXPECT_FALSE(plan.isEmpty());
@@ -212,29 +208,28 @@ TEST_P(Compiled, StatementsStoreAndFindAnAmountToItsLastDigit) {
 
 /// SQLite reads such a start as the byte order of a bound text; PostgreSQL's driver drops it from what it reads.
 TEST_P(Compiled, StatementsStoreAndFindATextThatBeginsWithAByteOrderMark) {
-    if (GetParam() != Engine::Sqlite) {
+    if (GetParam() != Engine::Sqlite)
         GTEST_SKIP();
-    }
     for (const QString& start : {QStringLiteral("\uFEFF"), QStringLiteral("\uFEFF\uFEFF")}) {
         const QString name = start + QStringLiteral("ADA");
         billing.run(QStringLiteral("delete from hPatients"));
         billing.execute(Sql("insert into hPatients (PNo, psurname) values ('1', '") << name << "')");
         Recordset other(billing, Sql("select * from hPatients where 1=2"));
         other.addNew();
-        other.set(QStringLiteral("PNo"), QStringLiteral("2"));
-        other.set(QStringLiteral("psurname"), name);
+        other.set("PNo", "2");
+        other.set("psurname", name);
         other.update();
         Recordset found(billing, Sql("select PNo, psurname from hPatients where psurname='") << name << "'");
         ASSERT_EQ(found.count(), 2);
         for (; !found.eof(); found.moveNext()) {
-            EXPECT_EQ(found.text(QStringLiteral("psurname")), name);
-            found.set(QStringLiteral("psurname"), QStringLiteral("OBI"));
+            EXPECT_EQ(found.text("psurname"), name);
+            found.set("psurname", "OBI");
             EXPECT_NO_THROW(found.update());
         }
     }
     // The bytes of a text behind U+FFFE were swapped.
     billing.execute(Sql("update hPatients set psurname='") << QStringLiteral("\uFFFEADA") << "' where PNo='1'");
-    EXPECT_TRUE(scalar("select psurname from hPatients where PNo='1'").endsWith(QStringLiteral("ADA")));
+    EXPECT_TRUE(scalar("select psurname from hPatients where PNo='1'").endsWith("ADA"));
 }
 
 ORVANE_ON_EACH_ENGINE(Compiled);

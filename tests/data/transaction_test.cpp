@@ -1,6 +1,6 @@
 #include "data/DataError.h"
-#include "data/Recordset.h"
-#include "data/Transaction.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/Transaction.h"
 #include "support/TestHome.h"
 
 #include <QCoreApplication>
@@ -14,8 +14,8 @@ namespace {
 void addPayment(Connection& connection, qlonglong number) {
     Recordset row(connection, Sql("select * from Payments where 1=2"));
     row.addNew();
-    row.set(QStringLiteral("ReceiptNo"), QStringLiteral("OP001%1").arg(number, 7, 10, QChar(u'0')));
-    row.set(QStringLiteral("AmountPaid"), number);
+    row.set("ReceiptNo", QStringLiteral("OP001%1").arg(number, 7, 10, QChar(u'0')));
+    row.set("AmountPaid", number);
     row.update();
 }
 
@@ -26,7 +26,7 @@ void saveReceipts(const QString& homeFolder, int count) {
         Connection connection = workstation.open(TestHome::billing());
         Transaction transaction(connection);
         const Recordset last(connection, Sql("select MAX(CAST(right(ReceiptNo, 7) AS BIGINT)) as ID from Payments"));
-        addPayment(connection, last.integer(QStringLiteral("ID")) + 1);
+        addPayment(connection, last.integer("ID") + 1);
         transaction.commit();
     }
 }
@@ -35,7 +35,7 @@ void saveReceipts(const QString& homeFolder, int count) {
 
 class TransactionTest : public EngineTest {
 protected:
-    QString payments() { return scalar(QStringLiteral("select count(*) from Payments")); }
+    QString payments() { return scalar("select count(*) from Payments"); }
 };
 
 TEST_P(TransactionTest, KeepsWhatWasCommittedAndNothingElse) {
@@ -64,7 +64,7 @@ TEST_P(TransactionTest, KeepsWhatWasCommittedAndNothingElse) {
         throw std::runtime_error("a fault of the screen");
     } catch (const std::runtime_error&) {
     }
-    EXPECT_EQ(payments(), QStringLiteral("1"));
+    EXPECT_EQ(payments(), "1");
     EXPECT_EQ(data.openTransactions(), 0);
 }
 
@@ -76,31 +76,30 @@ TEST_P(TransactionTest, AFailedStatementPoisonsIt) {
         addPayment(billing, 1);
         EXPECT_THROW(billing.run(QString::fromUtf8(statement)), DataError) << statement;
         EXPECT_THROW(addPayment(billing, 2), DataError) << "a later statement";
-        EXPECT_THROW(billing.run(QStringLiteral("select 1 as x")), DataError) << "a later question";
+        EXPECT_THROW(billing.run("select 1 as x"), DataError) << "a later question";
         EXPECT_THROW(transaction.commit(), DataError);
         EXPECT_FALSE(billing.inTransaction());
-        EXPECT_EQ(payments(), QStringLiteral("0")) << statement;
+        EXPECT_EQ(payments(), "0") << statement;
     }
 }
 
 TEST_P(TransactionTest, ALostUpdateRollsAllBack) {
     addPayment(billing, 1);
     Recordset row(billing, Sql("select * from Payments"));
-    billing.run(QStringLiteral("update Payments set AmountPaid=77"));
+    billing.run("update Payments set AmountPaid=77");
     Transaction transaction(billing);
     addPayment(billing, 2);
-    row.set(QStringLiteral("AmountPaid"), 5);
+    row.set("AmountPaid", 5);
     EXPECT_THROW(row.update(), DataError);
     EXPECT_THROW(transaction.commit(), DataError);
-    EXPECT_EQ(scalar(QStringLiteral("select sum(AmountPaid) from Payments")), QStringLiteral("77"));
+    EXPECT_EQ(scalar("select sum(AmountPaid) from Payments"), "77");
 }
 
 TEST_P(TransactionTest, AFaultAtAnyStepSavesNothing) {
     for (const char* step : {"begin transaction", "insert into [Payments]", "update Payments", "commit transaction"}) {
         data.setStatementHook([step](const QString& tsql) {
-            if (tsql.startsWith(QString::fromUtf8(step))) {
-                throw DataError(QStringLiteral("broken here"));
-            }
+            if (tsql.startsWith(QString::fromUtf8(step)))
+                throw DataError("broken here");
         });
         const auto save = [this] {
             Transaction transaction(billing);
@@ -110,18 +109,17 @@ TEST_P(TransactionTest, AFaultAtAnyStepSavesNothing) {
         };
         EXPECT_THROW(save(), DataError) << step;
         data.setStatementHook({});
-        EXPECT_EQ(payments(), QStringLiteral("0")) << step;
+        EXPECT_EQ(payments(), "0") << step;
         EXPECT_EQ(data.openTransactions(), 0) << step;
     }
     data.setStatementHook([](const QString& tsql) {
-        if (tsql == QStringLiteral("transaction committed")) {
-            throw DataError(QStringLiteral("broken here"));
-        }
+        if (tsql == "transaction committed")
+            throw DataError("broken here");
     });
     Transaction transaction(billing);
     addPayment(billing, 1);
     EXPECT_THROW(transaction.commit(), CommitUnknown);
-    EXPECT_EQ(payments(), QStringLiteral("1"));
+    EXPECT_EQ(payments(), "1");
 }
 
 TEST_P(TransactionTest, NeverWaitsForItsOwnWorkstation) {
@@ -129,9 +127,8 @@ TEST_P(TransactionTest, NeverWaitsForItsOwnWorkstation) {
     Transaction transaction(billing);
     addPayment(billing, 1);
     EXPECT_THROW(Transaction second(other), DataError);
-    if (GetParam() == Engine::Sqlite) {
+    if (GetParam() == Engine::Sqlite)
         EXPECT_THROW(addPayment(other, 2), DataError);
-    }
     EXPECT_EQ(other.run(QStringLiteral("select count(*) from Payments")).text(0), QStringLiteral("0"))
         << "sees what is committed";
     // The other database has a gate of its own.
@@ -139,44 +136,40 @@ TEST_P(TransactionTest, NeverWaitsForItsOwnWorkstation) {
     Transaction posting(accounting);
     posting.commit();
     transaction.commit();
-    EXPECT_EQ(payments(), QStringLiteral("1"));
+    EXPECT_EQ(payments(), "1");
 }
 
 TEST_P(TransactionTest, TheGateKeepsWorkstationsApart) {
     std::vector<std::thread> threads;
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 3; ++i)
         threads.emplace_back([this] { EXPECT_NO_THROW(saveReceipts(home.folder(), 20)); });
-    }
-    for (std::thread& thread : threads) {
+    for (std::thread& thread : threads)
         thread.join();
-    }
     // Other processes, as on other machines.
     std::vector<std::unique_ptr<QProcess>> processes;
     for (int i = 0; i < 3; ++i) {
         auto process = std::make_unique<QProcess>();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("ORVANE_TEST_GATE"), home.folder());
+        environment.insert("ORVANE_TEST_GATE", home.folder());
         process->setProcessEnvironment(environment);
-        process->start(QCoreApplication::applicationFilePath(), {QStringLiteral("--gtest_filter=GateWorker.*")});
+        process->start(QCoreApplication::applicationFilePath(), {"--gtest_filter=GateWorker.*"});
         processes.push_back(std::move(process));
     }
     for (const auto& process : processes) {
         ASSERT_TRUE(process->waitForFinished(60000));
         EXPECT_EQ(process->exitCode(), 0) << process->readAllStandardOutput().toStdString();
     }
-    EXPECT_EQ(payments(), QStringLiteral("120"));
-    EXPECT_EQ(scalar(QStringLiteral("select count(*) from (select distinct ReceiptNo from Payments) t")),
-              QStringLiteral("120"));
-    EXPECT_EQ(scalar(QStringLiteral("select max(AmountPaid) from Payments")), QStringLiteral("120"));
+    EXPECT_EQ(payments(), "120");
+    EXPECT_EQ(scalar("select count(*) from (select distinct ReceiptNo from Payments) t"), "120");
+    EXPECT_EQ(scalar("select max(AmountPaid) from Payments"), "120");
 }
 
 ORVANE_ON_EACH_ENGINE(TransactionTest);
 
 /// The part of the other processes in the test above.
 TEST(GateWorker, SavesReceipts) {
-    if (!qEnvironmentVariableIsSet("ORVANE_TEST_GATE")) {
+    if (!qEnvironmentVariableIsSet("ORVANE_TEST_GATE"))
         GTEST_SKIP() << "runs in the processes of TheGateKeepsWorkstationsApart";
-    }
     saveReceipts(qEnvironmentVariable("ORVANE_TEST_GATE"), 20);
 }
 

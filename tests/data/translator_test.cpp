@@ -1,6 +1,6 @@
 #include "data/DataError.h"
-#include "data/Recordset.h"
-#include "data/Translator.h"
+#include "data/dialect/Translator.h"
+#include "data/rows/Recordset.h"
 #include "support/TestHome.h"
 
 namespace orvane {
@@ -12,9 +12,8 @@ QString rowsOf(Connection& connection, const QString& tsql) {
     QStringList lines;
     for (Recordset rows = connection.run(tsql); !rows.eof(); rows.moveNext()) {
         QStringList cells;
-        for (int i = 0; i < rows.columns().size(); ++i) {
+        for (int i = 0; i < rows.columns().size(); ++i)
             cells += rows.text(i);
-        }
         lines += cells.join(u'|');
     }
     return lines.join(u'/');
@@ -45,9 +44,8 @@ protected:
                  "insert into BillAccum (consultID, drgName, Qty, SubTotal) values ('001OFL0000009', 'C', 3, null)",
                  "insert into BillingDetails (SNo, billNo) values (2, '001OFL0000009')",
                  "insert into BillingDetails (SNo, billNo) values (null, '001OFL0000009')",
-             }) {
+             })
             billing.run(QString::fromUtf8(tsql));
-        }
     }
 
     void check(std::initializer_list<Case> cases) {
@@ -155,11 +153,11 @@ TEST_P(Dialect, CalculatesAsTheServerDoes) {
 }
 
 TEST_P(Dialect, WritesAsTheServerDoes) {
-    billing.run(QStringLiteral("update hPatients set DebtBF=-7.25where pno='P2 '"));
+    billing.run("update hPatients set DebtBF=-7.25where pno='P2 '");
     billing.run(QStringLiteral(
         "update hPatients set latestBillno= 0, policyType='kept  ', regdate='', expirydate='2026-01-02 10:00:00' "
         "where PNo='P2'"));
-    billing.run(QStringLiteral("update BillAccum set Price='', SubTotal=isnull(SubTotal,0)+0.5 where SNo=3"));
+    billing.run("update BillAccum set Price='', SubTotal=isnull(SubTotal,0)+0.5 where SNo=3");
     check({{"select DebtBF, latestBillno, len(policyType + '.'), regdate, expirydate from hPatients where PNo='P2'",
             "-7.25|0|7||2026-01-02"},
            {"select Price, SubTotal from BillAccum where SNo=3", "0|0.5"}});
@@ -176,9 +174,8 @@ TEST_P(Dialect, HeadsKeepTheStatementsSpelling) {
         {"select * from hRevenueType", "SNo,revType,CatRemarks,Active,AccountNo"},
         {"select * from qrySysDateTime", "sysDT"},
     };
-    for (const auto& one : cases) {
+    for (const auto& one : cases)
         EXPECT_EQ(billing.run(QString::fromUtf8(one.tsql)).columns().join(u',').toStdString(), one.heads) << one.tsql;
-    }
 }
 
 ORVANE_ON_EACH_ENGINE(Dialect);
@@ -194,32 +191,29 @@ TEST(Translator, LeavesTheServersOwnWordsToSqlServer) {
          "update T set a=N'Ọlá', b='plain' where c=-1.5 and d in (select e from f)"},
         {"select a from T where b not in (Select c from d)", "select a from T where b not in (Select c from d)"},
     };
-    for (const auto& one : cases) {
+    for (const auto& one : cases)
         EXPECT_EQ(translate(QString::fromUtf8(one.tsql), Engine::SqlServer).toStdString(), one.expected);
-    }
     // 1e308 written out has more digits than a decimal of SQL Server holds; as a float it has not.
-    const QString huge = QStringLiteral("select 1") + QString(308, u'0');
-    EXPECT_TRUE(translate(huge, Engine::SqlServer).endsWith(QStringLiteral("0e0")));
+    const QString huge = "select 1" + QString(308, u'0');
+    EXPECT_TRUE(translate(huge, Engine::SqlServer).endsWith("0e0"));
 }
 
 TEST(Translator, RefusesWhatEndsTooEarly) {
     for (const char* tsql : {"select 'a", "select [a", "select \"a", "select 1 /* x", "select 'it''",
-                             "select 1 where 1 in ('a'", "select 1)", "select )("}) {
+                             "select 1 where 1 in ('a'", "select 1)", "select )("})
         EXPECT_THROW(translate(QString::fromUtf8(tsql), Engine::Sqlite), DataError) << tsql;
-    }
-    EXPECT_EQ(translate(QStringLiteral("select 1 -- 'open\n, '--no comment'"), Engine::Sqlite),
-              QStringLiteral("select 1 , '--no comment'"));
+    EXPECT_EQ(translate("select 1 -- 'open\n, '--no comment'", Engine::Sqlite), "select 1 , '--no comment'");
 }
 
 // An engine must read a text as the text it is, whatever stands around it.
 TEST(Translator, LetsNoLiteralBreakOut) {
-    const QString nasty = QStringLiteral("'x''; -- '");
+    const QString nasty = "'x''; -- '";
     const struct {
         QString tsql;
         Engine engine;
         QString expected; ///< empty: refused
     } cases[] = {
-        {QStringLiteral("select top %1 a from T"), Engine::Sqlite, {}},
+        {"select top %1 a from T", Engine::Sqlite, {}},
         {QStringLiteral("select top (1 + %1) a from T"), Engine::Postgresql, {}},
         {QStringLiteral("select `%1"), Engine::Sqlite, {}},
         {QStringLiteral("select $$%1$$"), Engine::Postgresql, {}},
@@ -227,37 +221,34 @@ TEST(Translator, LetsNoLiteralBreakOut) {
         {QStringLiteral("select U&%1"), Engine::Postgresql, QStringLiteral("select U& %1")},
         {QStringLiteral("select x%1"), Engine::Sqlite, QStringLiteral("select x %1")},
         {QStringLiteral("select a[%1]]\"]"), Engine::Sqlite, QStringLiteral("select a \"%1]\"\"\"")},
-        {QStringLiteral("create table %1 (a int)"), Engine::Sqlite, {}},
-        {QStringLiteral("create index i(a on T (b))"), Engine::Sqlite, {}},
-        {QStringLiteral("create table T (%1 int)"), Engine::Postgresql, {}},
-        {QStringLiteral("create table T (a [%1])"), Engine::Postgresql, {}},
-        {QStringLiteral("create table T (a int default)"), Engine::Postgresql, {}},
-        {QStringLiteral("not like %1"), Engine::Postgresql, QStringLiteral("not like %1")},
-        {QStringLiteral("in (%1)"), Engine::Sqlite, QStringLiteral("in (%1)")},
-        {QStringLiteral("end"), Engine::Sqlite, QStringLiteral("end")},
-        {QString(100, u'(') + QStringLiteral("%1") + QString(100, u')'), Engine::Sqlite,
-         QString(100, u'(') + QStringLiteral("%1") + QString(100, u')')},
+        {"create table %1 (a int)", Engine::Sqlite, {}},
+        {"create index i(a on T (b))", Engine::Sqlite, {}},
+        {"create table T (%1 int)", Engine::Postgresql, {}},
+        {"create table T (a [%1])", Engine::Postgresql, {}},
+        {"create table T (a int default)", Engine::Postgresql, {}},
+        {"not like %1", Engine::Postgresql, "not like %1"},
+        {"in (%1)", Engine::Sqlite, "in (%1)"},
+        {"end", Engine::Sqlite, "end"},
+        {QString(100, u'(') + "%1" + QString(100, u')'), Engine::Sqlite,
+         QString(100, u'(') + "%1" + QString(100, u')')},
         {QString(101, u'(') + QString(101, u')'), Engine::Sqlite, {}},
         {QStringLiteral("select top 1 ").repeated(101), Engine::Sqlite, {}},
-        {QStringLiteral("a") + QStringLiteral(" not in (select %1)").repeated(60), Engine::Postgresql, {}},
-        {QStringLiteral("datediff(month, 1, ").repeated(60) + QStringLiteral("%1") + QString(60, u')'),
-         Engine::Sqlite,
-         {}},
+        {"a" + QStringLiteral(" not in (select %1)").repeated(60), Engine::Postgresql, {}},
+        {QStringLiteral("datediff(month, 1, ").repeated(60) + "%1" + QString(60, u')'), Engine::Sqlite, {}},
     };
     for (const auto& one : cases) {
-        const QString tsql = QString(one.tsql).replace(QStringLiteral("%1"), nasty);
+        const QString tsql = QString(one.tsql).replace("%1", nasty);
         const auto translated = [&] { return translate(tsql, one.engine).toStdString(); };
-        if (one.expected.isEmpty()) {
+        if (one.expected.isEmpty())
             EXPECT_THROW(translated(), DataError) << tsql.toStdString();
-        } else {
-            EXPECT_EQ(translated(), QString(one.expected).replace(QStringLiteral("%1"), nasty).toStdString());
-        }
+        else
+            EXPECT_EQ(translated(), QString(one.expected).replace("%1", nasty).toStdString());
     }
 }
 
 TEST(Translator, SplitsScriptsAtGo) {
-    EXPECT_EQ(splitScript(QStringLiteral("-- head\n\ngo\nselect 1\nGO \n select 'go\n'\n")),
-              QStringList({QStringLiteral("select 1"), QStringLiteral("select 'go\n'")}));
+    EXPECT_EQ(splitScript("-- head\n\ngo\nselect 1\nGO \n select 'go\n'\n"),
+              QStringList({"select 1", "select 'go\n'"}));
 }
 
 } // namespace orvane

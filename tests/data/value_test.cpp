@@ -1,4 +1,4 @@
-#include "data/Value.h"
+#include "data/dialect/Value.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "data/Catalog.h"
-#include "data/Recordset.h"
+#include "data/dialect/Catalog.h"
+#include "data/rows/Recordset.h"
 #include "support/Hospital.h"
 #include "support/Print.h"
 #include "support/TestHome.h"
@@ -21,18 +21,16 @@ protected:
         QStringList lines;
         for (Recordset recordset = billing.run(tsql); !recordset.eof(); recordset.moveNext()) {
             QStringList cells;
-            for (int i = 0; i < recordset.columns().size(); ++i) {
+            for (int i = 0; i < recordset.columns().size(); ++i)
                 cells += recordset.text(i);
-            }
             lines += cells.join(u'|');
         }
         return lines.join(u'\n');
     }
 
     void run(std::initializer_list<const char*> statements) {
-        for (const char* statement : statements) {
+        for (const char* statement : statements)
             billing.run(QString::fromUtf8(statement));
-        }
     }
 
     void visit(const char* consultID, const char* category = "PRIVATE", const char* client = "0001") {
@@ -48,11 +46,10 @@ TEST_P(Views, EveryViewOfBothDatabasesSelects) {
         Connection& connection = database == std::string("billing") ? billing : accounting;
         for (const QString& view : Catalog::instance().views(QString::fromLatin1(database))) {
             try {
-                const Recordset all = connection.run(QStringLiteral("select * from ") + view);
+                const Recordset all = connection.run("select * from " + view);
                 QStringList names;
-                for (const QString& column : all.columns()) {
+                for (const QString& column : all.columns())
                     names += column.toLower();
-                }
                 EXPECT_EQ(names.removeDuplicates(), 0) << view.toStdString() << " gives a column twice";
             } catch (const DataError& fault) {
                 ADD_FAILURE() << view.toStdString() << ": " << fault.what();
@@ -167,9 +164,8 @@ TEST_P(Views, TheListsGiveOneRowAVisit) {
     visit("B", "HMO", "0201");
     visit("C");
     visit("D");
-    for (const char* consultID : {"A", "A", "B", "D"}) {
+    for (const char* consultID : {"A", "A", "B", "D"})
         makeConsultation(billing, {.consultID = QString::fromLatin1(consultID)});
-    }
     makeConsultation(billing, {.consultID = "C", .finished = false});
     run({"update hRecords set BillDate='2026-03-14' where consultID='D'",
          "delete from hRetainership where retainID='0201'",

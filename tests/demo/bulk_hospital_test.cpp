@@ -3,9 +3,9 @@
 #include "demo/QuietUi.h"
 #include "demo/Tool.h"
 
-#include "data/Catalog.h"
-#include "data/Recordset.h"
-#include "data/ServerList.h"
+#include "data/dialect/Catalog.h"
+#include "data/engine/ServerList.h"
+#include "data/rows/Recordset.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
 #include "support/TestHome.h"

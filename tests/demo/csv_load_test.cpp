@@ -1,6 +1,6 @@
 #include "demo/CsvLoad.h"
 
-#include "data/Recordset.h"
+#include "data/rows/Recordset.h"
 #include "support/TestHome.h"
 
 using namespace orvane;
@@ -9,9 +9,9 @@ namespace {
 
 class CsvLoad : public EngineTest {
 protected:
-    const Table& patients = *Catalog::instance().table(QStringLiteral("hPatients"));
+    const Table& patients = *Catalog::instance().table("hPatients");
 
-    int load(const QByteArray& content) { return loadCsv(billing, patients, QStringLiteral("patients.csv"), content); }
+    int load(const QByteArray& content) { return loadCsv(billing, patients, "patients.csv", content); }
 };
 
 TEST_P(CsvLoad, readsEachKindOfColumnAndLeavesTheRestToTheDefault) {
@@ -27,7 +27,7 @@ TEST_P(CsvLoad, readsEachKindOfColumnAndLeavesTheRestToTheDefault) {
     EXPECT_FALSE(row.isNull("email"));
     EXPECT_TRUE(row.isNull("ref"));
     row.moveNext();
-    EXPECT_EQ(row.text("psurname"), QStringLiteral("\u1ECC\u1E62UN"));
+    EXPECT_EQ(row.text("psurname"), "\u1ECC\u1E62UN");
     EXPECT_TRUE(row.isNull("DOB"));
     EXPECT_EQ(row.value("DebtBF").toDouble(), 0);
     EXPECT_FALSE(row.isNull("DebtBF")) << "the column's default";
@@ -85,8 +85,8 @@ TEST_P(CsvLoad, putsTheLineBeforeTheEnginesOwnRefusal) {
 }
 
 TEST_P(CsvLoad, goesOnNumberingBehindTheLoadedKeys) {
-    const Table& items = *Catalog::instance().table(QStringLiteral("BillAccum"));
-    loadCsv(billing, items, QStringLiteral("items.csv"), "SNo,drgName\n7,SEVENTH\n3,THIRD\n");
+    const Table& items = *Catalog::instance().table("BillAccum");
+    loadCsv(billing, items, "items.csv", "SNo,drgName\n7,SEVENTH\n3,THIRD\n");
     billing.execute(Sql("insert into BillAccum (drgName) values ('NEXT')"));
     EXPECT_EQ(scalar("select SNo from BillAccum where drgName='NEXT'"), "8");
 }

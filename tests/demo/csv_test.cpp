@@ -13,7 +13,7 @@ QStringList read(const QByteArray& content, std::optional<CsvFault>* fault = nul
     while (const auto record = reader.next()) {
         QStringList fields;
         for (const CsvField& field : record->fields)
-            fields.append(field.isNoValue() ? QStringLiteral("-") : field.text);
+            fields.append(field.isNoValue() ? "-" : field.text);
         records.append(QStringLiteral("%1:%2").arg(record->line).arg(fields.join(u'|')));
     }
     if (fault)
@@ -43,7 +43,7 @@ TEST(Csv, readsWhatTheFormatAllows) {
         {"  a , b\n", {"1:  a | b"}},
         {"\xE2\x82\xA6"
          "500,\xF0\x9F\x98\x80\n",
-         {QStringLiteral("1:\u20A6500|\U0001F600")}},
+         {"1:\u20A6500|\U0001F600"}},
         {"a\rb,c\n", {"1:a\rb|c"}},
     };
     for (const Case& c : cases)

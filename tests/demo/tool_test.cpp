@@ -1,7 +1,7 @@
 #include "demo/Tool.h"
 
-#include "data/Catalog.h"
-#include "data/Recordset.h"
+#include "data/dialect/Catalog.h"
+#include "data/rows/Recordset.h"
 #include "demo/QuietUi.h"
 #include "screens/Screens.h"
 #include "session/Main.h"

@@ -7,7 +7,7 @@ namespace orvane {
 /// The sample form with each of its controls in the layout.
 class ShownForm : public SampleForm {
 public:
-    explicit ShownForm(Ui& ui, const QString& name = QStringLiteral("frmShown")) : SampleForm(ui, name) {
+    explicit ShownForm(Ui& ui, const QString& name = "frmShown") : SampleForm(ui, name) {
         txtAmt0.numeric();
         cmdExtra.onClick = [this] { note("cmdExtra Click"); };
         tmrFast.onTimer = [this] { note("tmrFast Timer"); };
@@ -16,30 +16,26 @@ public:
 
     Layout layout() const override {
         using namespace orvane::layout;
-        return column(
-            {row({field(QStringLiteral("Name"), txtName, 20), field(QStringLiteral("Code"), txtCode, 8),
-                  field(QStringLiteral("Color"), cboColor, 12), cell(chkCard), stretch()}),
-             field(QStringLiteral("Town"), cboTown),
-             facts({{QStringLiteral("Bill No"), &lblTitle}, {QStringLiteral("Fixed"), &txtLocked}}),
-             row({field(QStringLiteral("Digits"), txtDigits, 10), field(QStringLiteral("Date"), dtDate)}),
-             growing(pages()),
-             row({cell(radOne), cell(radTwo),
-                  group(QStringLiteral("Payment"), {row({cell(radCash), cell(radBank)})}, &fraInner), cell(bar)}),
-             cell(status), buttons({&cmdExtra}, {&cmdClose, &cmdSave})});
+        return column({row({field("Name", txtName, 20), field("Code", txtCode, 8), field("Color", cboColor, 12),
+                            cell(chkCard), stretch()}),
+                       field("Town", cboTown), facts({{"Bill No", &lblTitle}, {"Fixed", &txtLocked}}),
+                       row({field("Digits", txtDigits, 10), field("Date", dtDate)}), growing(pages()),
+                       row({cell(radOne), cell(radTwo),
+                            group("Payment", {row({cell(radCash), cell(radBank)})}, &fraInner), cell(bar)}),
+                       cell(status), buttons({&cmdExtra}, {&cmdClose, &cmdSave})});
     }
 
-    Timer tmrFast{*this, QStringLiteral("tmrFast"), 1, false};
-    Button cmdExtra{*this, QStringLiteral("cmdExtra"), QStringLiteral("Save Copy")};
+    Timer tmrFast{*this, "tmrFast", 1, false};
+    Button cmdExtra{*this, "cmdExtra", "Save Copy"};
 
 private:
     Layout pages() const {
         using namespace orvane::layout;
-        return tabs(strip,
-                    {layout::page(QStringLiteral("Bill"),
-                                  {row({growing(cell(grdRows)), card({field(QStringLiteral("Amount"), txtAmt0),
-                                                                      field(QStringLiteral("Second"), txtAmt1)})})}),
-                     layout::page(QStringLiteral("More"), {row({cell(grdEntry), cell(lstItems), cell(tree)}),
-                                                           field(QStringLiteral("Note"), txtNote)})});
+        return tabs(
+            strip,
+            {layout::page("Bill",
+                          {row({growing(cell(grdRows)), card({field("Amount", txtAmt0), field("Second", txtAmt1)})})}),
+             layout::page("More", {row({cell(grdEntry), cell(lstItems), cell(tree)}), field("Note", txtNote)})});
     }
 };
 

@@ -31,16 +31,16 @@ protected:
             billing.run(QStringLiteral("insert into Lines values (%1, '%2', %3, %4, 'x')")
                             .arg(++number)
                             .arg(QLatin1String(row.service), QLatin1String(row.amount), QLatin1String(row.paid)));
-        form.grdRows.hide({QStringLiteral("secret")});
-        form.grdRows.setFormat(QStringLiteral("Amount"), QStringLiteral("#,###.00"));
+        form.grdRows.hide({"secret"});
+        form.grdRows.setFormat("Amount", "#,###.00");
         form.grdRows.load(lines());
         ViewTest::SetUp();
     }
     Recordset lines(int times = 1) {
-        QString text = QStringLiteral("select SNo, Service, Amount, Paid, Secret from Lines");
+        QString text = "select SNo, Service, Amount, Paid, Secret from Lines";
         for (int i = 1; i < times; ++i)
             text += QStringLiteral(" union all select SNo + %1, Service, Amount, Paid, Secret from Lines").arg(5 * i);
-        return billing.run(text + QStringLiteral(" order by SNo"));
+        return billing.run(text + " order by SNo");
     }
     TableView* table() { return static_cast<GridBinding*>(window->view()->bindingOf(form.grdRows))->table(); }
     QStringList column(int number) {
@@ -100,7 +100,7 @@ TEST_F(GridViewTest, AClickOnAHeadSortsAndKeepsTheCurrentRow) {
     clickRow(0);
     EXPECT_EQ(form.grdRows.currentRow(), 0) << "the view's first row is the query's first one in this order";
     clickRow(4);
-    EXPECT_EQ(form.grdRows.number(QStringLiteral("SNo")), 3);
+    EXPECT_EQ(form.grdRows.number("SNo"), 3);
     EXPECT_EQ(events(), (QStringList{"grdRows Click", "grdRows Click"}));
 }
 
@@ -210,7 +210,7 @@ TEST_F(GridViewTest, RowsThatGoWhileTheyArePaintedAreNoFault) {
     form.grdRows.load(lines(20));
     settleEvents();
     clickHead(1);
-    form.grdRows.load(billing.run(QStringLiteral("select SNo from Lines where SNo < 3")));
+    form.grdRows.load(billing.run("select SNo from Lines where SNo < 3"));
     table()->viewport()->repaint();
     EXPECT_FALSE(table()->model()->index(90, 3).data().isValid());
     settleEvents();
@@ -230,8 +230,8 @@ TEST_F(GridViewTest, WhoWalksThroughTheRowsIsNotMovedByTheView) {
 TEST_F(GridViewTest, AnEntryGridShowsItsCellsAndItsEmptyRow) {
     form.strip.setTab(1);
     form.grdEntry.setMoney({1});
-    form.grdEntry.setCell(1, 0, QStringLiteral("CONSULTATION"));
-    form.grdEntry.setCell(1, 1, QStringLiteral("7,500.00"));
+    form.grdEntry.setCell(1, 0, "CONSULTATION");
+    form.grdEntry.setCell(1, 1, "7,500.00");
     form.grdEntry.addRow();
     settleEvents();
     auto* entries = static_cast<GridBinding*>(window->view()->bindingOf(form.grdEntry))->table();

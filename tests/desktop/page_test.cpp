@@ -51,16 +51,15 @@ QImage paintedAt(const Page& page, double dotsPerMm) {
 
 TEST(PageTest, TheSameTextTakesTheSameRoomOnEveryDevice) {
     Page page;
-    page.texts << PageText{
-        20,
-        20,
-        60,
-        0,
-        QStringLiteral("SEVEN THOUSAND, FIVE HUNDRED NAIRA AND FIFTY KOBO ONLY, received with thanks"),
-        11,
-        PageAlign::Left,
-        false,
-        true};
+    page.texts << PageText{20,
+                           20,
+                           60,
+                           0,
+                           "SEVEN THOUSAND, FIVE HUNDRED NAIRA AND FIFTY KOBO ONLY, received with thanks",
+                           11,
+                           PageAlign::Left,
+                           false,
+                           true};
     QVector<QRectF> taken;
     for (const double dots : {4.0, 12.0}) {
         const QImage image = paintedAt(page, dots);
@@ -90,20 +89,19 @@ TEST(PageTest, ATextTooWideIsShownSmallerAndNeverCutOff) {
 TEST(PageTest, ThePdfHasThePageSizeAndItsWords) {
     TestUi ui;
     DocumentForm form(ui);
-    form.txtName.setText(QStringLiteral("ADE"));
+    form.txtName.setText("ADE");
     QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("page.pdf"));
+    const QString file = folder.filePath("page.pdf");
     ASSERT_TRUE(renderPdf(Document::of(*form.page()), file));
     QFile pdf(file);
     ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
     const QString content = QString::fromLatin1(pdf.readAll());
-    const QRegularExpressionMatch box =
-        QRegularExpression(QStringLiteral("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]")).match(content);
+    const QRegularExpressionMatch box = QRegularExpression("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]").match(content);
     ASSERT_TRUE(box.hasMatch());
     EXPECT_NEAR(box.captured(1).toDouble(), 148 / 25.4 * 72, 1.5);
     EXPECT_NEAR(box.captured(2).toDouble(), 210 / 25.4 * 72, 1.5);
-    EXPECT_EQ(content.count(QStringLiteral("/Type /Page\n")), 1) << "one sheet";
-    EXPECT_FALSE(renderPdf(Document::of(*form.page()), folder.filePath(QStringLiteral("nowhere/page.pdf"))));
+    EXPECT_EQ(content.count("/Type /Page\n"), 1) << "one sheet";
+    EXPECT_FALSE(renderPdf(Document::of(*form.page()), folder.filePath("nowhere/page.pdf")));
 }
 
 TEST(PageTest, AListPrintsEachRowOnceUnderItsHeads) {
@@ -112,14 +110,14 @@ TEST(PageTest, AListPrintsEachRowOnceUnderItsHeads) {
     TestHome home;
     DataSource data(home.folder());
     Connection billing = data.open(TestHome::billing());
-    QString text = QStringLiteral("select 1 as SNo, 1234.5 as Amount, 'x' as Secret");
+    QString text = "select 1 as SNo, 1234.5 as Amount, 'x' as Secret";
     for (int i = 2; i <= 130; ++i)
         text += QStringLiteral(" union all select %1, 1234.5, 'x'").arg(i);
     Grid& grid = form.grdRows;
-    grid.hide({QStringLiteral("Secret")});
-    grid.setFormat(QStringLiteral("Amount"), QStringLiteral("#,###.00"));
+    grid.hide({"Secret"});
+    grid.setFormat("Amount", "#,###.00");
     grid.load(billing.run(text));
-    const ReportPages pages(grid, QStringLiteral("Income for Today"));
+    const ReportPages pages(grid, "Income for Today");
     ASSERT_EQ(pages.count(), 3);
     QStringList numbers;
     for (int number = 0; number < pages.count(); ++number) {
@@ -141,12 +139,12 @@ TEST(PageTest, AListPrintsEachRowOnceUnderItsHeads) {
     EXPECT_EQ(numbers.first(), "1");
     EXPECT_EQ(numbers.last(), "130");
     grid.clear();
-    EXPECT_EQ(ReportPages(grid, QStringLiteral("Empty")).count(), 1);
+    EXPECT_EQ(ReportPages(grid, "Empty").count(), 1);
 }
 
 TEST(PageTest, ADocumentShowsItsPageAndPrintsItAsItStands) {
     TestUi ui;
-    DocumentForm form(ui, QStringLiteral("frmDocument"));
+    DocumentForm form(ui, "frmDocument");
     QTemporaryDir folder;
     FormWindow window(form, ViewSetting{});
     window.resize(700, 900);
@@ -156,7 +154,7 @@ TEST(PageTest, ADocumentShowsItsPageAndPrintsItAsItStands) {
     EXPECT_TRUE(window.view()->widgetOf(form.cmdSave)) << "its buttons are there";
     EXPECT_FALSE(window.view()->widgetOf(form.txtName)) << "its page stands in for its fields";
     const QImage before = preview->grab().toImage();
-    form.txtName.setText(QStringLiteral("ADEBAYO"));
+    form.txtName.setText("ADEBAYO");
     QApplication::processEvents();
     EXPECT_NE(preview->grab().toImage(), before) << "the preview follows the form";
 
@@ -164,9 +162,9 @@ TEST(PageTest, ADocumentShowsItsPageAndPrintsItAsItStands) {
     windows.setPrintFolder(folder.path());
     windows.print(form);
     windows.print(form);
-    EXPECT_EQ(QDir(folder.path()).entryList({QStringLiteral("*.pdf")}, QDir::Files, QDir::Name),
+    EXPECT_EQ(QDir(folder.path()).entryList({"*.pdf"}, QDir::Files, QDir::Name),
               (QStringList{"frmDocument-1.pdf", "frmDocument-2.pdf"}));
-    windows.setPrintFolder(folder.filePath(QStringLiteral("nowhere")));
+    windows.setPrintFolder(folder.filePath("nowhere"));
     windows.print(form);
     EXPECT_EQ(ui.takeBoxes().size(), 1) << "a print that fails says so";
 }

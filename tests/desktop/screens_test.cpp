@@ -32,7 +32,7 @@ protected:
                 continue;
             ++shown;
             const ::testing::ScopedTrace trace(__FILE__, __LINE__, form.name().toStdString());
-            FormWindow window(form, ViewSetting{QStringLiteral("FACSRW"), true});
+            FormWindow window(form, ViewSetting{"FACSRW", true});
             window.resize(window.sizeFor(smallRoom));
             window.show();
             QApplication::processEvents();

@@ -64,15 +64,15 @@ TEST_F(ViewTest, ACharacterTypedInTheMiddleKeepsItsPlace) {
 }
 
 TEST_F(ViewTest, WhatCodeSetsIsShown) {
-    form.txtName.setText(QStringLiteral("<b>O'NEILL</b>"));
+    form.txtName.setText("<b>O'NEILL</b>");
     form.chkCard.setChecked(true);
     form.radTwo.setChecked(true);
     form.cboTown.setListIndex(1);
     form.dtDate.setDate(QDate(2026, 3, 4));
     form.bar.setValue(40);
     form.strip.setTab(1);
-    form.lblTitle.setText(QStringLiteral("A && B"));
-    form.tree.select(QStringLiteral("leaf"));
+    form.lblTitle.setText("A && B");
+    form.tree.select("leaf");
     settleEvents();
     EXPECT_EQ(widget<QLineEdit>(form.txtName)->text(), "<b>O'NEILL</b>");
     EXPECT_TRUE(widget<QAbstractButton>(form.chkCard)->isChecked());
@@ -196,7 +196,7 @@ TEST_F(ViewTest, AListIsSearchedAsOneTypesAndTakesOnlyItsEntries) {
 }
 
 TEST_F(ViewTest, ACompletionPicksItsOwnEntryAmongEqualOnes) {
-    form.cboTown.addItem(QStringLiteral("ABA"), 7);
+    form.cboTown.addItem("ABA", 7);
     settleEvents();
     auto* town = widget<QComboBox>(form.cboTown);
     type(form.cboTown, "aba");
@@ -291,7 +291,7 @@ TEST_F(ViewTest, NothingIsPressedTwiceWhileAHandlerRuns) {
 
 TEST_F(ViewTest, AFaultIsShownOnceAndTheFormStaysFilled) {
     type(form.txtName, "ADE");
-    form.cmdSave.onClick = [] { throw DataError(QStringLiteral("The server has gone away.")); };
+    form.cmdSave.onClick = [] { throw DataError("The server has gone away."); };
     press(form.cmdSave);
     EXPECT_BOXES(ui, {"The server has gone away."});
     EXPECT_EQ(widget<QLineEdit>(form.txtName)->text(), "ADE");
@@ -309,13 +309,13 @@ TEST_F(ViewTest, EveryButtonHasALetterOfItsOwnAndEveryFieldOne) {
     EXPECT_EQ(widget<QPushButton>(form.cmdSave)->text(), "&Save");
     EXPECT_NE(widget<QPushButton>(form.cmdExtra)->text(), "&Save Copy") << "S is taken";
 
-    form.cmdExtra.setCaption(QStringLiteral("Keep && Go"));
+    form.cmdExtra.setCaption("Keep && Go");
     settleEvents();
     EXPECT_EQ(Mnemonics::plain(widget<QPushButton>(form.cmdExtra)->text()), "Keep & Go");
 }
 
 TEST(MnemonicsTest, AsksForFreeLettersAndSharesThemOnlyAmongFields) {
-    Mnemonics letters(QStringLiteral("F"));
+    Mnemonics letters("F");
     QStringList shown;
     auto add = [&](Mnemonics::Kind kind, const char* caption) {
         const qsizetype place = shown.size();
@@ -345,9 +345,9 @@ TEST(MnemonicsTest, AsksForFreeLettersAndSharesThemOnlyAmongFields) {
     letters.assign();
     EXPECT_EQ(shown, (QStringList{"Fi&nd", "&OK", "OK", "OK", "O&K", "&AA", "&A A", "Profit && &Loss", "&12 %", "&X",
                                   "&X", "X&i", "Z&e", "&Z", "&U", "U"}));
-    letters.captionChanged(third, QStringLiteral("Other"));
+    letters.captionChanged(third, "Other");
     EXPECT_EQ(shown.at(third), "Other");
-    letters.captionChanged(1, QStringLiteral("Go on"));
+    letters.captionChanged(1, "Go on");
     EXPECT_EQ(shown.at(1), "Go &on") << "its letter goes along";
 }
 
@@ -407,7 +407,7 @@ TEST_F(ViewTest, AClosedFormIsNotTouchedAgain) {
     QTest::keyClicks(own.view()->bindingOf(closing->txtName)->editor(), "a");
     own.release();
     closing.reset();
-    QTest::keyClicks(own.view()->findChild<QWidget*>(QStringLiteral("txtName")), "b");
+    QTest::keyClicks(own.view()->findChild<QWidget*>("txtName"), "b");
     for (QPushButton* button : own.findChildren<QPushButton*>())
         button->click();
     for (QTreeView* tree : own.findChildren<QTreeView*>())

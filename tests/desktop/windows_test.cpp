@@ -6,6 +6,7 @@
 #include "desktop/ShownForm.h"
 #include "desktop/WindowDriver.h"
 #include "play/Play.h"
+#include "support/SourceTree.h"
 #include "support/Workstation.h"
 
 #include <QApplication>
@@ -32,32 +33,32 @@ public:
     PlainForm(Ui& ui, const QString& name) : Form(ui, name, name) {}
     Layout layout() const override {
         using namespace orvane::layout;
-        return column({field(QStringLiteral("Name"), txtName), buttons({}, {&cmdGo})});
+        return column({field("Name", txtName), buttons({}, {&cmdGo})});
     }
     bool Form_Unload() override { return !refuses; }
 
-    TextBox txtName{*this, QStringLiteral("txtName")};
-    Button cmdGo{*this, QStringLiteral("cmdGo"), QStringLiteral("Go")};
+    TextBox txtName{*this, "txtName"};
+    Button cmdGo{*this, "cmdGo", "Go"};
     bool refuses = false;
 };
 
 class ShellForm : public PlainForm {
 public:
-    explicit ShellForm(Ui& ui) : PlainForm(ui, QStringLiteral("frmShell")) {}
-    MenuItem mnuFile{*this, QStringLiteral("mnuFile"), QStringLiteral("File")};
-    MenuItem mnuOpen{*this, QStringLiteral("mnuOpen"), QStringLiteral("Open && Go"), &mnuFile};
-    MenuItem mnuSecret{*this, QStringLiteral("mnuSecret"), QStringLiteral("Secret"), &mnuFile};
-    MenuItem mnuWindow{*this, QStringLiteral("mnuWindow"), QStringLiteral("Window")};
-    MenuItem mnuWindowTV{*this, QStringLiteral("mnuWindowTV"), QStringLiteral("Tile Vertical"), &mnuWindow};
-    MenuItem mnuWindowTH{*this, QStringLiteral("mnuWindowTH"), QStringLiteral("Tile Horizontal"), &mnuWindow};
-    StatusBar status{*this, QStringLiteral("status"), 2};
+    explicit ShellForm(Ui& ui) : PlainForm(ui, "frmShell") {}
+    MenuItem mnuFile{*this, "mnuFile", "File"};
+    MenuItem mnuOpen{*this, "mnuOpen", "Open && Go", &mnuFile};
+    MenuItem mnuSecret{*this, "mnuSecret", "Secret", &mnuFile};
+    MenuItem mnuWindow{*this, "mnuWindow", "Window"};
+    MenuItem mnuWindowTV{*this, "mnuWindowTV", "Tile Vertical", &mnuWindow};
+    MenuItem mnuWindowTH{*this, "mnuWindowTH", "Tile Horizontal", &mnuWindow};
+    StatusBar status{*this, "status", 2};
 };
 
 class WindowsTest : public ::testing::Test {
 protected:
     void SetUp() override {
         ui.windows().setMainSize({1366, 768});
-        shell.status.setPanel(1, QStringLiteral("amina.b"));
+        shell.status.setPanel(1, "amina.b");
         shell.mnuSecret.setVisible(false);
         ui.show(shell);
         QApplication::processEvents();
@@ -69,16 +70,18 @@ protected:
     /// Acts on the box that comes up, once the program waits in it.
     template <typename Dialog>
     void onBox(std::function<void(Dialog&)> act) {
-        QTimer::singleShot(0, [act] {
-            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(dialog);
-            act(*dialog);
-        });
+        QTimer::singleShot(
+            0,
+            [act] {
+                auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+                ASSERT_TRUE(dialog);
+                act(*dialog);
+            });
     }
 
     DesktopUi ui;
     ShellForm shell{ui};
-    PlainForm first{ui, QStringLiteral("frmFirst")}, second{ui, QStringLiteral("frmSecond")};
+    PlainForm first{ui, "frmFirst"}, second{ui, "frmSecond"};
 };
 
 TEST_F(WindowsTest, FormsShowInsideTheMainWindowOnceAndGoWhenTheyClose) {
@@ -100,7 +103,7 @@ TEST_F(WindowsTest, FormsShowInsideTheMainWindowOnceAndGoWhenTheyClose) {
     first.refuses = false;
     area().activeSubWindow()->close();
     EXPECT_TRUE(first.isClosed());
-    second.setCaption(QStringLiteral("Another"));
+    second.setCaption("Another");
     EXPECT_EQ(area().activeSubWindow()->windowTitle(), "Another");
     second.unload();
     EXPECT_EQ(area().subWindowList().size(), 0);
@@ -172,7 +175,7 @@ TEST_F(WindowsTest, BoxesShowPlainWordsAndEscIsNo) {
         EXPECT_EQ(box.icon(), QMessageBox::Critical);
         box.accept();
     });
-    ui.box(QStringLiteral("<b>5 < 6</b>"), Icon::Critical);
+    ui.box("<b>5 < 6</b>", Icon::Critical);
     onBox<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.detailedText().size(), 5000) << "the whole text can be read";
         EXPECT_LT(box.text().size(), 2000);
@@ -183,17 +186,17 @@ TEST_F(WindowsTest, BoxesShowPlainWordsAndEscIsNo) {
         EXPECT_EQ(box.windowTitle(), "Exit Application");
         QTest::keyClick(&box, Qt::Key_Escape);
     });
-    EXPECT_FALSE(ui.question(QStringLiteral("Exit?"), QStringLiteral("Exit Application")));
+    EXPECT_FALSE(ui.question("Exit?", "Exit Application"));
     onBox<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
-    EXPECT_TRUE(ui.question(QStringLiteral("Exit?")));
+    EXPECT_TRUE(ui.question("Exit?"));
     onBox<QInputDialog>([](QInputDialog& dialog) {
         EXPECT_EQ(dialog.textValue(), "5");
-        dialog.setTextValue(QStringLiteral("7"));
+        dialog.setTextValue("7");
         dialog.accept();
     });
-    EXPECT_EQ(ui.inputBox(QStringLiteral("How many?"), {}, QStringLiteral("5")), QStringLiteral("7"));
+    EXPECT_EQ(ui.inputBox("How many?", {}, "5"), "7");
     onBox<QInputDialog>([](QInputDialog& dialog) { dialog.reject(); });
-    EXPECT_EQ(ui.inputBox(QStringLiteral("How many?")), std::nullopt);
+    EXPECT_EQ(ui.inputBox("How many?"), std::nullopt);
 }
 
 TEST_F(WindowsTest, ABusyPointerGivesWayToABox) {
@@ -204,7 +207,7 @@ TEST_F(WindowsTest, ABusyPointerGivesWayToABox) {
         EXPECT_FALSE(QApplication::overrideCursor());
         box.accept();
     });
-    ui.box(QStringLiteral("Saved"));
+    ui.box("Saved");
     EXPECT_TRUE(QApplication::overrideCursor());
     ui.setBusy(false);
     EXPECT_FALSE(QApplication::overrideCursor());
@@ -241,13 +244,13 @@ Played play(const QString& home, const QByteArray& script, const QString& out = 
 }
 
 TEST(ScriptTest, TheTourOfTheDemonstrationHospitalIsTheSameOnRealWindows) {
-    QFile tour(QStringLiteral(ORVANE_SOURCE_DIR "/demo/tour.play"));
+    QFile tour(sourceFile("demo/tour.play"));
     ASSERT_TRUE(tour.open(QIODevice::ReadOnly));
     const QByteArray script = tour.readAll();
     const QTemporaryDir folder;
-    const QString out = folder.filePath(QStringLiteral("out"));
+    const QString out = folder.filePath("out");
     QDir().mkpath(out);
-    const QString model = folder.filePath(QStringLiteral("model")), twin = folder.filePath(QStringLiteral("twin"));
+    const QString model = folder.filePath("model"), twin = folder.filePath("twin");
     QString words;
     QTextStream stream(&words);
     const QStringList demo{"demo", "--home", model, "--patients", "60",        "--days",
@@ -257,8 +260,8 @@ TEST(ScriptTest, TheTourOfTheDemonstrationHospitalIsTheSameOnRealWindows) {
     const Played onModel = play(model, script);
     EXPECT_EQ(onModel.code, 0) << qPrintable(onModel.output);
     EXPECT_EQ(play(twin, script, out).output, onModel.output);
-    EXPECT_EQ(QImage(out + QStringLiteral("/01-shell.png")).size(), QSize(1366, 768));
-    EXPECT_TRUE(QFile::exists(out + QStringLiteral("/frmCashReceipt-1.pdf")));
+    EXPECT_EQ(QImage(out + "/01-shell.png").size(), QSize(1366, 768));
+    EXPECT_TRUE(QFile::exists(out + "/frmCashReceipt-1.pdf"));
 }
 
 // What the tour does not touch: an emptied date, entries read back, a list picked by its number, keys one by one.

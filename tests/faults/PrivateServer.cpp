@@ -1,5 +1,7 @@
 #include "PrivateServer.h"
 
+#include "support/SourceTree.h"
+
 #include <QProcess>
 #include <stdexcept>
 
@@ -12,10 +14,9 @@ QString folder;
 QString cluster(const QString& action) {
     QProcess script;
     script.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    script.start(QStringLiteral(ORVANE_SOURCE_DIR "/scripts/pg-cluster.sh"), {action, folder});
-    if (!script.waitForFinished(120000) || script.exitCode() != 0) {
+    script.start(sourceFile("scripts/pg-cluster.sh"), {action, folder});
+    if (!script.waitForFinished(120000) || script.exitCode() != 0)
         throw std::runtime_error("the test server: " + action.toStdString() + " failed");
-    }
     return QString::fromUtf8(script.readAllStandardOutput()).trimmed();
 }
 
@@ -23,20 +24,20 @@ QString cluster(const QString& action) {
 
 PrivateServer::PrivateServer() {
     QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
-    folder = m_folder.path() + QStringLiteral("/cluster");
-    qputenv("ORVANE_TEST_PG", cluster(QStringLiteral("start")).section(u'=', 1).toUtf8());
+    folder = m_folder.path() + "/cluster";
+    qputenv("ORVANE_TEST_PG", cluster("start").section(u'=', 1).toUtf8());
 }
 
 PrivateServer::~PrivateServer() {
-    QProcess::execute(QStringLiteral(ORVANE_SOURCE_DIR "/scripts/pg-cluster.sh"), {QStringLiteral("stop"), folder});
+    QProcess::execute(sourceFile("scripts/pg-cluster.sh"), {"stop", folder});
 }
 
 void PrivateServer::halt() {
-    cluster(QStringLiteral("halt"));
+    cluster("halt");
 }
 
 void PrivateServer::start() {
-    cluster(QStringLiteral("start"));
+    cluster("start");
 }
 
 } // namespace orvane

@@ -10,12 +10,11 @@ namespace orvane {
 
 namespace {
 
-const QString unknown = QStringLiteral("It is not known whether it was saved.");
-const QString stillUnknown = QStringLiteral("it is still not known whether the entry was saved");
-const QString wasSaved = QStringLiteral("The entry was saved before the connection broke. It is not saved again.");
-const QString notSaved =
-    QStringLiteral("The entry was not saved when the connection broke. Please check it and save it again.");
-const QString nothingSaved = QStringLiteral("Nothing was saved.");
+const QString unknown = "It is not known whether it was saved.";
+const QString stillUnknown = "it is still not known whether the entry was saved";
+const QString wasSaved = "The entry was saved before the connection broke. It is not saved again.";
+const QString notSaved = "The entry was not saved when the connection broke. Please check it and save it again.";
+const QString nothingSaved = "Nothing was saved.";
 
 struct Fault {
     Engine engine;

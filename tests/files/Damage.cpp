@@ -42,7 +42,7 @@ QString unclear(const QString& text) {
             return QStringLiteral("a character U+%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
     for (const char* words : {"qsql", "constraint", "syntax error", "sqlstate", "libpq", "near \"", "near line", "::"})
         if (text.contains(QLatin1String(words), Qt::CaseInsensitive))
-            return QStringLiteral("the words ") + QLatin1String(words);
+            return "the words " + QLatin1String(words);
     return {};
 }
 

@@ -1,6 +1,6 @@
 // A CSV file, cut off and with bits turned over: all of its rows are there, or none and one line that says why.
 #include "Damage.h"
-#include "data/Recordset.h"
+#include "data/rows/Recordset.h"
 #include "demo/CsvLoad.h"
 #include "demo/Tool.h"
 #include "support/TestHome.h"
@@ -38,7 +38,7 @@ int countRecords(const QByteArray& content) {
 
 class CsvDamage : public EngineTest {
 protected:
-    const Table& patients = *Catalog::instance().table(QStringLiteral("hPatients"));
+    const Table& patients = *Catalog::instance().table("hPatients");
     int taken = 0, refused = 0;
 
     void SetUp() override {
@@ -48,7 +48,7 @@ protected:
 
     void load(const QByteArray& content) {
         try {
-            const int loaded = loadCsv(billing, patients, QStringLiteral("patients.csv"), content);
+            const int loaded = loadCsv(billing, patients, "patients.csv", content);
             ++taken;
             ASSERT_EQ(loaded, countRecords(content)) << content.toStdString();
             ASSERT_EQ(scalar("select count(*) from hPatients").toInt(), loaded);

@@ -2,6 +2,7 @@
 #include "Damage.h"
 #include "play/Play.h"
 #include "play/ScriptParser.h"
+#include "support/SourceTree.h"
 #include "support/Workstation.h"
 
 #include <QBuffer>
@@ -24,7 +25,7 @@ QByteArray changedLines(const QByteArray& original, const QByteArray& copy) {
 }
 
 TEST(ScriptDamage, IsReadLineByLineOrRefusedClearly) {
-    QFile tour(QStringLiteral(ORVANE_SOURCE_DIR) + "/demo/tour.play");
+    QFile tour(sourceFile("demo/tour.play"));
     ASSERT_TRUE(tour.open(QIODevice::ReadOnly));
     const QByteArray original = tour.read(4096);
     int read = 0, refused = 0;

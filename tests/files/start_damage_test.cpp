@@ -1,6 +1,6 @@
 // The three files of the home folder, cut off and with bits turned over.
 #include "Damage.h"
-#include "data/ServerList.h"
+#include "data/engine/ServerList.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
 #include "session/StartFiles.h"
@@ -72,42 +72,47 @@ void readEachDamage(const QString& name, const QByteArray& content,
 }
 
 TEST(StartDamage, OfTheServersFileIsReadOrRefusedWhole) {
-    readEachDamage("made.sys", madeSys, [](const QString& homeFolder) {
-        TestUi ui;
-        Program program(homeFolder, ui);
-        try {
-            readMadeSys(program);
-            for (const QString& value : {program.session.gServerName, program.session.gHospID})
-                EXPECT_TRUE(value.isEmpty() || unclear(value).isEmpty()) << value.toStdString();
-        } catch (const DataError&) {
-            EXPECT_EQ(program.session.gServerName + program.session.gHospID, "");
-            throw;
-        }
-    });
+    readEachDamage(
+        "made.sys", madeSys,
+        [](const QString& homeFolder) {
+            TestUi ui;
+            Program program(homeFolder, ui);
+            try {
+                readMadeSys(program);
+                for (const QString& value : {program.session.gServerName, program.session.gHospID})
+                    EXPECT_TRUE(value.isEmpty() || unclear(value).isEmpty()) << value.toStdString();
+            } catch (const DataError&) {
+                EXPECT_EQ(program.session.gServerName + program.session.gHospID, "");
+                throw;
+            }
+        });
 }
 
 TEST(StartDamage, OfTheUsersFileIsReadOrRefusedWhole) {
-    readEachDamage("sysdoc.sys", sysDoc, [](const QString& homeFolder) {
-        TestUi ui;
-        Program program(homeFolder, ui);
-        try {
-            readSysDoc(program);
-            const QString user = program.session.gUsername;
-            EXPECT_TRUE(user.isEmpty() || unclear(user).isEmpty()) << user.toStdString();
-        } catch (const DataError&) {
-            EXPECT_EQ(program.session.gUsername, "");
-            throw;
-        }
-    });
+    readEachDamage(
+        "sysdoc.sys", sysDoc,
+        [](const QString& homeFolder) {
+            TestUi ui;
+            Program program(homeFolder, ui);
+            try {
+                readSysDoc(program);
+                const QString user = program.session.gUsername;
+                EXPECT_TRUE(user.isEmpty() || unclear(user).isEmpty()) << user.toStdString();
+            } catch (const DataError&) {
+                EXPECT_EQ(program.session.gUsername, "");
+                throw;
+            }
+        });
 }
 
 TEST(StartDamage, OfTheListOfServersIsReadOrRefusedWhole) {
-    readEachDamage("orvane.ini", iniContent("[server SERVER]\nengine = sqlite\nfolder = data\n"),
-                   [](const QString& homeFolder) {
-                       const ServerEntry entry = ServerList(homeFolder).entry("HALL1");
-                       EXPECT_TRUE(entry.port >= 0 && entry.port <= 65535);
-                       readMenuEntriesTurnedOn(homeFolder);
-                   });
+    readEachDamage(
+        "orvane.ini", iniContent("[server SERVER]\nengine = sqlite\nfolder = data\n"),
+        [](const QString& homeFolder) {
+            const ServerEntry entry = ServerList(homeFolder).entry("HALL1");
+            EXPECT_TRUE(entry.port >= 0 && entry.port <= 65535);
+            readMenuEntriesTurnedOn(homeFolder);
+        });
 }
 
 /// The whole start on damaged files, on a hospital that is there.
@@ -127,7 +132,7 @@ protected:
             EXPECT_EQ(boxes.size(), started ? 0 : 1);
             for (const QString& box : boxes)
                 EXPECT_EQ(unclear(box), "") << box.toStdString();
-            EXPECT_EQ(ui.opened.contains(QStringLiteral("MdiTolmek")), started);
+            EXPECT_EQ(ui.opened.contains("MdiTolmek"), started);
             ++(started ? starts : refusals);
         }
         EXPECT_EQ(filesBelow(home.folder()), files);

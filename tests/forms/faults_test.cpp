@@ -23,7 +23,7 @@ public:
 };
 
 void fail() {
-    throw DataError(QStringLiteral("the server is gone"));
+    throw DataError("the server is gone");
 }
 
 TEST(Faults, AFaultInsideAnotherHandlerRisesToTheOutermostAndIsShownOnce) {

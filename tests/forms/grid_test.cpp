@@ -1,6 +1,6 @@
 // The grids: rows of a query, and cells to type into.
-#include "data/Connection.h"
-#include "data/Recordset.h"
+#include "data/rows/Connection.h"
+#include "data/rows/Recordset.h"
 #include "support/SampleForm.h"
 #include "support/TestHome.h"
 #include "support/TestUi.h"

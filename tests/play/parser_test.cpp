@@ -12,7 +12,7 @@ namespace {
 QString shape(const QByteArray& line) {
     const ScriptLine read = parseScriptLine(line);
     if (!read.error.isEmpty())
-        return read.words.isEmpty() ? QLatin1Char('!') + read.error : QStringLiteral("words and an error");
+        return read.words.isEmpty() ? QLatin1Char('!') + read.error : "words and an error";
     QStringList words;
     for (const ScriptWord& word : read.words)
         words << (word.quoted ? QLatin1Char('[') + word.text + QLatin1Char(']') : word.text);
@@ -42,7 +42,7 @@ TEST(ScriptParser, ReadsWordsTextsAndComments) {
         {"set f.c \"open", "!a text without its closing quote"},
         {"set f.c \"open\\\"", "!a text without its closing quote"},
         {"set f.c \"a\\t\"", "!a backslash that is not followed by \", \\, n or u"},
-        {"set f.c \"\\u001b[2J\\u00E9\"", QStringLiteral("set|f.c|[\u001b[2J\u00e9]")},
+        {"set f.c \"\\u001b[2J\\u00E9\"", "set|f.c|[\u001b[2J\u00e9]"},
         {"set f.c \"\\u0000\"", "!no character of four hexadecimal digits behind \\u"},
         {"set f.c \"\\u00xx\"", "!no character of four hexadecimal digits behind \\u"},
         {"set f.c \"\\u 12a\"", "!no character of four hexadecimal digits behind \\u"},
@@ -74,7 +74,7 @@ TEST(ScriptParser, TakesAnyBytes) {
 
 TEST(ScriptParser, ReadsBackWhatTheEventLogWrites) {
     QRandomGenerator random(7);
-    const QString alphabet = QStringLiteral("\"\\n\n#\t aÌ😀\u001b\u007f\u0085");
+    const QString alphabet = "\"\\n\n#\t aÌ😀\u001b\u007f\u0085";
     for (int round = 0; round < 2000; ++round) {
         QString text;
         for (int left = random.bounded(12); left > 0; --left)

@@ -15,40 +15,32 @@ class PlayedForm : public SampleForm {
 public:
     PlayedForm(Program& program, const QString& name) : SampleForm(program.ui(), name), m_program(program) {
         txtName.onChange = [this] { lblTitle.setText(txtName.text()); };
-        cmdSave.onClick = [this] {
-            Form::ui().box(QStringLiteral("saved ") + txtName.text(), Icon::Information, QStringLiteral("Save"));
-        };
+        cmdSave.onClick = [this] { Form::ui().box("saved " + txtName.text(), Icon::Information, "Save"); };
         cmdClose.onClick = [this] { unload(); };
         for (MenuItem* entry : {&mnuEntry, &mnuInHidden, &mnuMain})
             entry->onClick = [this, entry] { Form::ui().box(entry->name()); };
-        tmrTick.onTimer = [this] { Form::ui().playSound(QStringLiteral("/somewhere/ring1.wav")); };
-        chkCard.onClick = [this] {
-            Form::ui().box(Form::ui().question(QStringLiteral("Sure?"), QStringLiteral("Card"))
-                               ? QStringLiteral("sure")
-                               : QStringLiteral("not"));
-        };
+        tmrTick.onTimer = [this] { Form::ui().playSound("/somewhere/ring1.wav"); };
+        chkCard.onClick = [this] { Form::ui().box(Form::ui().question("Sure?", "Card") ? "sure" : "not"); };
         radTwo.onClick = [this] {
-            const std::optional<QString> given = Form::ui().inputBox(QStringLiteral("Code?"));
-            Form::ui().box(given ? *given : QStringLiteral("cancelled"));
+            const std::optional<QString> given = Form::ui().inputBox("Code?");
+            Form::ui().box(given ? *given : "cancelled");
         };
         radOne.onClick = [this] {
-            m_program.openModal(QStringLiteral("frmModal"));
-            Form::ui().box(QStringLiteral("back"));
+            m_program.openModal("frmModal");
+            Form::ui().box("back");
         };
         txtNote.onLeave = [this] {
             Connection billing = m_program.openBilling();
             grdRows.load(
                 Recordset(billing, Sql("select DestName as Name, ID, ID + 1 as Next from IDgen order by DestName")));
-            grdRows.hide({QStringLiteral("ID")});
+            grdRows.hide({"ID"});
         };
-        grdRows.onDblClick = [this] {
-            Form::ui().viewReport(grdRows.text(QStringLiteral("Name")), QStringLiteral("List"), Recordset());
-        };
+        grdRows.onDblClick = [this] { Form::ui().viewReport(grdRows.text("Name"), "List", Recordset()); };
         lblTitle.onClick = [this] { Form::ui().printForm(*this); };
-        lblTitle.onDblClick = [this] { Form::ui().exported(QStringLiteral("/tmp/x/list.xlsx")); };
+        lblTitle.onDblClick = [this] { Form::ui().exported("/tmp/x/list.xlsx"); };
     }
     bool Form_Unload() override {
-        return !refusesUnload && (name() != QLatin1String("frmAsking") || ui().question(QStringLiteral("Leave?")));
+        return !refusesUnload && (name() != QLatin1String("frmAsking") || ui().question("Leave?"));
     }
 
 private:

@@ -64,12 +64,12 @@ exit 0)script");
 
 TEST_P(ProgramScriptTest, ARefusedStartIsShownAndOpensNothing) {
     PlayOptions options;
-    options.userName = QStringLiteral("nobody");
-    const QString refusal = QStringLiteral("Invalid Login OR session has expired!!! Please Re-login");
+    options.userName = "nobody";
+    const QString refusal = "Invalid Login OR session has expired!!! Please Re-login";
     EXPECT_EQ(play("start\nmenu mnuOffAttd", options),
               QStringLiteral("box none \"\" \"%1\"\nFAIL line 2: MdiTolmek is not open\nexit 1").arg(refusal));
-    ASSERT_TRUE(QFile::remove(home.folder() + QStringLiteral("/made.sys")));
-    const QString missing = QStringLiteral("A System inifile bAccum required for this Application is MISSING");
+    ASSERT_TRUE(QFile::remove(home.folder() + "/made.sys"));
+    const QString missing = "A System inifile bAccum required for this Application is MISSING";
     EXPECT_EQ(play("start"), QStringLiteral("box none \"\" \"%1\"\nexit 0").arg(missing));
     EXPECT_EQ(
         play("sql billing \"select 1 as n\""),

@@ -1,6 +1,6 @@
 #include "Worker.h"
 
-#include "data/Physical.h"
+#include "data/engine/Physical.h"
 #include "demo/Hand.h"
 #include "demo/QuietUi.h"
 #include "screens/Screens.h"
@@ -15,8 +15,8 @@ namespace orvane {
 
 namespace {
 
-const QString saved = QStringLiteral("Record Succesfully saved");
-const QString attendedAlready = QStringLiteral("Patient Attendance already entered!!! Duplicate not allowed");
+const QString saved = "Record Succesfully saved";
+const QString attendedAlready = "Patient Attendance already entered!!! Duplicate not allowed";
 
 /// A box that no step allows: the save did not come to its end.
 struct Refusal {
@@ -56,7 +56,7 @@ public:
         m_ui.setClock(today);
         m_program.data().setServerClock(today);
         registerScreens(m_program);
-        if (!Main(m_program, QStringLiteral("amina.b")))
+        if (!Main(m_program, "amina.b"))
             throw DataError(m_ui.takeBoxes().join(QLatin1Char('\n')));
         m_ui.takeBoxes();
         setHook();
@@ -133,7 +133,7 @@ private:
 
     void expectBoxes(const QString& step, const QStringList& expected) {
         if (const QStringList boxes = m_ui.takeBoxes(); boxes != expected)
-            throw Refusal{step, boxes.join(QStringLiteral(" / "))};
+            throw Refusal{step, boxes.join(" / ")};
     }
 
     Form& opened(const QString& name) {
@@ -143,24 +143,24 @@ private:
 
     /// The number on the receipt that the screen has just shown.
     QString shownReceipt(const QString& step) {
-        Form* receipt = m_program.loadedForm(QStringLiteral("frmCashReceipt"));
+        Form* receipt = m_program.loadedForm("frmCashReceipt");
         if (!receipt)
-            throw Refusal{step, QStringLiteral("no receipt came up")};
-        const QString number = Hand(*receipt).value(QStringLiteral("txtReceiptNo"));
+            throw Refusal{step, "no receipt came up"};
+        const QString number = Hand(*receipt).value("txtReceiptNo");
         receipt->abandon();
         return number;
     }
 
     /// Enters the next patient who has no open visit: the other workers enter the same ones. Gives the visit.
     QString attend() {
-        Form& form = opened(QStringLiteral("frmRecordsOffline"));
+        Form& form = opened("frmRecordsOffline");
         Hand hand(form);
         for (int attempts = 0; attempts < 200; ++attempts) {
             const QString pno = m_field.patients.at(m_next++ % m_field.patients.size());
-            hand.click(QStringLiteral("cmdAdd"));
-            hand.type(QStringLiteral("txtName"), QStringLiteral("PROOF"));
-            hand.click(QStringLiteral("cmdOK"));
-            hand.chooseContaining(QStringLiteral("cboVehNo"), QStringLiteral("[%1]").arg(pno));
+            hand.click("cmdAdd");
+            hand.type("txtName", "PROOF");
+            hand.click("cmdOK");
+            hand.chooseContaining("cboVehNo", QStringLiteral("[%1]").arg(pno));
             QStringList boxes = m_ui.takeBoxes();
             if (boxes.isEmpty()) {
                 const QString visit = saveVisit(hand, boxes);
@@ -173,32 +173,32 @@ private:
                 }
             }
             if (boxes != QStringList{attendedAlready})
-                throw Refusal{QStringLiteral("visit"), boxes.join(QStringLiteral(" / "))};
+                throw Refusal{"visit", boxes.join(" / ")};
             QThread::msleep(5);
         }
-        throw Refusal{QStringLiteral("visit"), QStringLiteral("every patient is in")};
+        throw Refusal{"visit", "every patient is in"};
     }
 
     QString saveVisit(Hand& hand, QStringList& boxes) {
-        hand.choose(QStringLiteral("cboType"), QStringLiteral("OPD"));
-        hand.choose(QStringLiteral("cboClient"), QStringLiteral("CONSULTATION"));
-        hand.chooseContaining(QStringLiteral("cboAppr"), QStringLiteral("[E001]"));
+        hand.choose("cboType", "OPD");
+        hand.choose("cboClient", "CONSULTATION");
+        hand.chooseContaining("cboAppr", "[E001]");
         QString visit;
-        m_ui.onBox = [&](const QString&) { visit = hand.value(QStringLiteral("lblBill")); };
-        hand.click(QStringLiteral("OKButton"));
+        m_ui.onBox = [&](const QString&) { visit = hand.value("lblBill"); };
+        hand.click("OKButton");
         m_ui.onBox = nullptr;
         boxes = m_ui.takeBoxes();
         return visit;
     }
 
     void deposit(const QString& visit, double amount) {
-        Hand hand(opened(QStringLiteral("frmReceiptDeposit")));
-        hand.click(QStringLiteral("cmdAdd"));
-        hand.chooseContaining(QStringLiteral("cboVehNo"), visit);
-        hand.type(QStringLiteral("txtHt"), QString::number(amount, 'f', 2));
-        hand.click(QStringLiteral("OKButton"));
-        expectBoxes(QStringLiteral("deposit"), {});
-        tellReceipt("deposit", shownReceipt(QStringLiteral("deposit")), visit, amount);
+        Hand hand(opened("frmReceiptDeposit"));
+        hand.click("cmdAdd");
+        hand.chooseContaining("cboVehNo", visit);
+        hand.type("txtHt", QString::number(amount, 'f', 2));
+        hand.click("OKButton");
+        expectBoxes("deposit", {});
+        tellReceipt("deposit", shownReceipt("deposit"), visit, amount);
     }
 
     /// What an outlet has given to the patient of a visit.
@@ -211,17 +211,17 @@ private:
 
     /// Collates and saves a visit, with a receipt where `cash` (naira) is above 0.
     void collate(const QString& visit, double cash) {
-        const QString step = QStringLiteral("bill");
-        Hand hand(opened(QStringLiteral("frmBillingVerify")));
-        hand.type(QStringLiteral("txtSearch"), visit);
-        hand.click(QStringLiteral("cmdOK"));
+        const QString step = "bill";
+        Hand hand(opened("frmBillingVerify"));
+        hand.type("txtSearch", visit);
+        hand.click("cmdOK");
         expectBoxes(step, {});
         if (cash > 0) {
-            hand.tick(QStringLiteral("chkRct"));
-            hand.choose(QStringLiteral("cboPayFor"), QStringLiteral("CONSULTING AND DRUGS"));
-            hand.type(QStringLiteral("txtAmt(0)"), QString::number(cash, 'f', 2));
+            hand.tick("chkRct");
+            hand.choose("cboPayFor", "CONSULTING AND DRUGS");
+            hand.type("txtAmt(0)", QString::number(cash, 'f', 2));
         }
-        hand.click(QStringLiteral("OKButton"));
+        hand.click("OKButton");
         expectBoxes(step, cash > 0 ? QStringList() : QStringList{saved});
         if (cash > 0)
             tellReceipt("paidbill", shownReceipt(step), visit, cash);
@@ -230,26 +230,26 @@ private:
     }
 
     void receiveAndReverse(const QString& bill, double amount) {
-        Form& form = opened(QStringLiteral("frmReceiptTemp"));
+        Form& form = opened("frmReceiptTemp");
         Hand hand(form);
-        hand.click(QStringLiteral("cmdAdd"));
-        hand.chooseContaining(QStringLiteral("cboVehNo"), bill);
-        hand.choose(QStringLiteral("cboPay"), QStringLiteral("CASH"));
-        hand.type(QStringLiteral("txtHt"), QString::number(amount, 'f', 2));
-        hand.click(QStringLiteral("OKButton"));
-        expectBoxes(QStringLiteral("receipt"), {saved});
-        const QString number = shownReceipt(QStringLiteral("receipt"));
+        hand.click("cmdAdd");
+        hand.chooseContaining("cboVehNo", bill);
+        hand.choose("cboPay", "CASH");
+        hand.type("txtHt", QString::number(amount, 'f', 2));
+        hand.click("OKButton");
+        expectBoxes("receipt", {saved});
+        const QString number = shownReceipt("receipt");
         tellReceipt("receipt", number, bill, amount);
 
         // The screen leaves the saved receipt selected.
         const auto& grid = static_cast<const Grid&>(*form.find(QStringLiteral("grdData")));
-        if (grid.text(QStringLiteral("ReceiptNo")) != number)
-            throw Refusal{QStringLiteral("reversal"), QStringLiteral("another receipt is selected")};
-        hand.click(QStringLiteral("cmdRev"));
-        hand.tick(QStringLiteral("chkRev"));
-        hand.click(QStringLiteral("OKButton"));
-        expectBoxes(QStringLiteral("reversal"), {saved});
-        tellReceipt("reversal", grid.text(QStringLiteral("ReceiptNo")), bill, -amount);
+        if (grid.text("ReceiptNo") != number)
+            throw Refusal{"reversal", "another receipt is selected"};
+        hand.click("cmdRev");
+        hand.tick("chkRev");
+        hand.click("OKButton");
+        expectBoxes("reversal", {saved});
+        tellReceipt("reversal", grid.text("ReceiptNo"), bill, -amount);
     }
 
     QStringList m_options;

@@ -15,7 +15,7 @@ namespace {
 
 /// Each worker's rounds, of six saves each; ORVANE_PROOF_COUNT asks for a longer run.
 int roundsOfAWorker() {
-    return std::max(1, qEnvironmentVariable("ORVANE_PROOF_COUNT", QStringLiteral("3")).toInt());
+    return std::max(1, qEnvironmentVariable("ORVANE_PROOF_COUNT", "3").toInt());
 }
 
 QString naira(double amount) {

@@ -13,7 +13,7 @@ class EveryScreenTest : public ScreenWalk {
 protected:
     EveryScreenTest() {
         ui.yes = [this] { return random.bounded(4) > 0; };
-        ui.answer = [this] { return random.bounded(3) ? std::optional(QStringLiteral("1'0")) : std::nullopt; };
+        ui.answer = [this] { return random.bounded(3) ? std::optional("1'0") : std::nullopt; };
         ui.inModal = [this](Form& form) { actAtRandom(form, 20); };
     }
 
@@ -21,9 +21,9 @@ protected:
 
     QString someValue(const Control& control) {
         if (control.kind() == ControlKind::DatePicker)
-            return random.bounded(3) ? QStringLiteral("2026-03-14") : QString();
+            return random.bounded(3) ? "2026-03-14" : QString();
         if (control.kind() == ControlKind::CheckBox)
-            return random.bounded(2) ? QStringLiteral("yes") : QStringLiteral("no");
+            return random.bounded(2) ? "yes" : "no";
         static const QStringList values = {"",       "10",  "-2.5",  "1,500.00", "O'NEILL", "001OFL0000001",
                                            "P/0002", "abc", "1e999", "%_[",      "😀",       " "};
         return values.at(random.bounded(int(values.size())));

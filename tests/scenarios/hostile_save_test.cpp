@@ -9,8 +9,8 @@
 namespace orvane {
 namespace {
 
-const QString visit = QStringLiteral("001OFL0000001");
-const QString companyBill = QStringLiteral("001OFL0000003");
+const QString visit = "001OFL0000001";
+const QString companyBill = "001OFL0000003";
 
 class HostileSave;
 

@@ -1,8 +1,8 @@
 // Whatever text comes into whichever field: it is shown back as it was typed, every search, refresh and save answers in
 // plain words, and nothing in the databases moves that was not meant to.
 #include "ScreenWalk.h"
-#include "data/Catalog.h"
-#include "data/Money.h"
+#include "data/dialect/Catalog.h"
+#include "data/words/Money.h"
 #include "demo/Check.h"
 #include "support/HostileTexts.h"
 
@@ -42,9 +42,7 @@ protected:
     }
 
     static QString nameOf(const Control& control) { return control.form().name() + QLatin1Char('.') + control.name(); }
-    QString where(const Control& control) const {
-        return nameOf(control) + QStringLiteral(" <") + text.left(20) + QLatin1Char('>');
-    }
+    QString where(const Control& control) const { return nameOf(control) + " <" + text.left(20) + QLatin1Char('>'); }
 
     /// Types into a field, a disabled one too: another state of its screen enables it.
     void type(Control& control, QString typed) {
@@ -69,7 +67,7 @@ protected:
             << where(control).toStdString() << " shows " << shown.left(40).toStdString();
         checkBoxes(where(control));
         driver.leave(control);
-        checkBoxes(where(control) + QStringLiteral(" left"));
+        checkBoxes(where(control) + " left");
     }
 
     void typeEverywhere(Form& form) {

@@ -18,8 +18,7 @@ void walk(const Layout& part, QList<const Control*>& seen, const Control* frame,
         while (holder && holder != frame)
             holder = holder->parentFrame();
         if (holder != frame)
-            faults << part.control->name() + QStringLiteral(" stands in ") + frame->name() +
-                          QStringLiteral(", which does not hold it");
+            faults << part.control->name() + QStringLiteral(" stands in ") + frame->name() + ", which does not hold it";
     }
     for (const Layout& child : part.children)
         walk(child, seen, inside, faults);
@@ -41,10 +40,9 @@ TEST(Layouts, LayOutEveryControlThatItsUserNeeds) {
         QStringList faults;
         QList<const Control*> seen;
         walk(form.layout(), seen, nullptr, faults);
-        for (const Control* control : form.controls()) {
+        for (const Control* control : form.controls())
             if (control->isVisible() && !shownElsewhere.contains(control->kind()) && !seen.contains(control))
                 faults << control->name() + QStringLiteral(" is nowhere");
-        }
         EXPECT_EQ(faults.join("; "), "") << name.toStdString();
     }
 }

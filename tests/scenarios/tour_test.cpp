@@ -1,6 +1,8 @@
 // The tour that ./run.sh shows, without its windows: it must go through, and leave books that agree.
 #include "demo/Tool.h"
+
 #include "play/Play.h"
+#include "support/SourceTree.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -24,7 +26,7 @@ TEST(Tour, GoesThroughAndTheBooksAgree) {
     const QString home = folder.filePath("home");
     // The hospital of run.sh.
     runTool({"demo", "--home", home, "--patients", "60", "--days", "5", "--seed", "1", "--until", "2026-03-13"}, 0);
-    QFile script(QStringLiteral(ORVANE_SOURCE_DIR) + "/demo/tour.play");
+    QFile script(sourceFile("demo/tour.play"));
     ASSERT_TRUE(script.open(QIODevice::ReadOnly));
     QBuffer output;
     output.open(QIODevice::WriteOnly);

@@ -171,9 +171,8 @@ TEST_P(Roles, AllocationAnswersEachEventWithABox) {
         for (const TestUi::Box& box : boxes)
             texts << box.text;
         EXPECT_EQ(texts, test.boxes) << test.role << ' ' << test.user;
-        if (*test.user) {
+        if (*test.user)
             EXPECT_EQ(boxes.last().icon, Icon::Information);
-        }
         EXPECT_EQ(ws.tableCount("UserRoles"), test.rows);
     }
     ws.set("frmUserRole.cboUsername", "");

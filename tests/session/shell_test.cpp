@@ -12,21 +12,19 @@ class Shell : public ::testing::TestWithParam<Engine> {
 protected:
     Shell() {
         station.layHospital();
-        serverClock(QStringLiteral("2026-03-14 09:30:45"));
+        serverClock("2026-03-14 09:30:45");
     }
 
     void SetUp() override { ASSERT_TRUE(station.start()); }
 
     void serverClock(const QString& at) {
-        station.program.data().setServerClock(QDateTime::fromString(at, QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+        station.program.data().setServerClock(QDateTime::fromString(at, "yyyy-MM-dd HH:mm:ss"));
     }
-    QString state(const char* control) { return station.state(QStringLiteral("MdiTolmek.") + QLatin1String(control)); }
-    QString value(const char* control) { return station.value(QStringLiteral("MdiTolmek.") + QLatin1String(control)); }
-    void tick(const char* timer) { station.timer(QStringLiteral("MdiTolmek.") + QLatin1String(timer)); }
-    bool isOn(const char* timer) {
-        return station.control(QStringLiteral("MdiTolmek.") + QLatin1String(timer)).isEnabled();
-    }
-    std::optional<unsigned> stripColor() { return station.control(QStringLiteral("MdiTolmek.Picture1")).color(); }
+    QString state(const char* control) { return station.state("MdiTolmek." + QLatin1String(control)); }
+    QString value(const char* control) { return station.value("MdiTolmek." + QLatin1String(control)); }
+    void tick(const char* timer) { station.timer("MdiTolmek." + QLatin1String(timer)); }
+    bool isOn(const char* timer) { return station.control("MdiTolmek." + QLatin1String(timer)).isEnabled(); }
+    std::optional<unsigned> stripColor() { return station.control("MdiTolmek.Picture1").color(); }
     void makeWaitingVisit(const QString& consultID, QDate date) {
         Connection billing = station.billing();
         makeVisit(billing, {.consultID = consultID, .date = date});
@@ -60,9 +58,9 @@ TEST_P(Shell, clockIsTheServersAndItsDateNeverGoesBack) {
     }
     EXPECT_EQ(session.gServerDate, QDate(2026, 3, 15));
     EXPECT_EQ(session.gServerTime, QTime(0, 0));
-    station.run(QStringLiteral("drop view qrySysDateTime"));
+    station.run("drop view qrySysDateTime");
     tick("Timer2");
-    EXPECT_EQ(value("lblDate"), QStringLiteral("15/03/2026"));
+    EXPECT_EQ(value("lblDate"), "15/03/2026");
     EXPECT_EQ(ui.takeBoxes().size(), 1);
 }
 
@@ -74,10 +72,10 @@ TEST_P(Shell, alertFollowsTheVisitsThatWaitToday) {
         Connection billing = station.billing();
         makePatient(billing);
     }
-    makeWaitingVisit(QStringLiteral("001OFL0000001"), QDate(2026, 3, 13));
+    makeWaitingVisit("001OFL0000001", QDate(2026, 3, 13));
     tick("Timer1");
     EXPECT_TRUE(alertIs(false));
-    makeWaitingVisit(QStringLiteral("001OFL0000002"), QDate(2026, 3, 14));
+    makeWaitingVisit("001OFL0000002", QDate(2026, 3, 14));
     tick("Timer1");
     EXPECT_TRUE(alertIs(true));
 
@@ -91,12 +89,12 @@ TEST_P(Shell, alertFollowsTheVisitsThatWaitToday) {
         tick("tmrSound");
         EXPECT_EQ(ui.sounds.size(), minute / 6) << minute;
     }
-    EXPECT_EQ(ui.sounds.first(), QDir(home.folder()).filePath(QStringLiteral("ring1.wav")));
+    EXPECT_EQ(ui.sounds.first(), QDir(home.folder()).filePath("ring1.wav"));
 
-    station.run(QStringLiteral("update hRecords set BillDate='2026-03-14' where consultID='001OFL0000002'"));
+    station.run("update hRecords set BillDate='2026-03-14' where consultID='001OFL0000002'");
     tick("Timer1");
     EXPECT_TRUE(alertIs(false));
-    station.run(QStringLiteral("drop view vwhConsultingVisitsForBilling"));
+    station.run("drop view vwhConsultingVisitsForBilling");
     tick("Timer1");
     EXPECT_EQ(ui.takeBoxes().size(), 1);
     EXPECT_TRUE(isOn("Timer1"));
@@ -104,13 +102,12 @@ TEST_P(Shell, alertFollowsTheVisitsThatWaitToday) {
 
 TEST_P(Shell, doubleClickOnTheStripSilencesUntilTheNextOne) {
     for (const bool sounds : {false, true, false}) {
-        station.dblClick(QStringLiteral("MdiTolmek.Picture1"));
+        station.dblClick("MdiTolmek.Picture1");
         EXPECT_EQ(session.bFirstShow, sounds);
         for (const char* timer : {"Timer1", "tmrMDI", "tmrSound"})
             EXPECT_EQ(isOn(timer), sounds) << timer;
-        if (!sounds) {
+        if (!sounds)
             EXPECT_EQ(stripColor(), 0xff8080u);
-        }
         tick("tmrMDI");
         tick("tmrMDI"); // while it sounds, the strip is left red
     }
@@ -119,35 +116,35 @@ TEST_P(Shell, doubleClickOnTheStripSilencesUntilTheNextOne) {
 }
 
 TEST_P(Shell, namesItsUser) {
-    EXPECT_EQ(value("SbrTolmek"), QStringLiteral("BILLING|amina.b|AMINA BELLO"));
-    EXPECT_EQ(value("mnuEPE"), QStringLiteral("Log Off amina.b"));
-    EXPECT_EQ(value("lblServer"), QStringLiteral("Server Date && Time: "));
+    EXPECT_EQ(value("SbrTolmek"), "BILLING|amina.b|AMINA BELLO");
+    EXPECT_EQ(value("mnuEPE"), "Log Off amina.b");
+    EXPECT_EQ(value("lblServer"), "Server Date && Time: ");
 }
 
 TEST_P(Shell, onlyUsersForAcctsSeeTheAccounts) {
-    EXPECT_EQ(state("mnuAccts"), QStringLiteral("visible enabled"));
+    EXPECT_EQ(state("mnuAccts"), "visible enabled");
     ui.answer(true);
-    station.menu(QStringLiteral("mnuEPE"));
-    station.run(QStringLiteral("delete from UsersForAccts"));
+    station.menu("mnuEPE");
+    station.run("delete from UsersForAccts");
     ASSERT_TRUE(station.start());
-    EXPECT_EQ(state("mnuAccts"), QStringLiteral("hidden enabled"));
+    EXPECT_EQ(state("mnuAccts"), "hidden enabled");
 }
 
 TEST_P(Shell, hiddenEntriesAreTurnedOnByTheIniAlone) {
     QStringList hidden;
-    for (Control* control : station.form(QStringLiteral("MdiTolmek")).controls())
+    for (Control* control : station.form("MdiTolmek").controls())
         if (control->kind() == ControlKind::Menu && !control->isVisible())
             hidden << control->name();
     EXPECT_EQ(hidden,
               QStringLiteral("mnuUPC mnuBanks mnuAdmDepo mnuRct mnuDisc mnuPCR mnuPSITC mnuPCBILL mnuPCB mnuDFO "
                              "mnuCBFHPC mnuSearch mnuView mnuReal mnuBIBC mnuRemnd mnuCR mnusecurity mnuLR mnuAuto")
                   .split(QLatin1Char(' ')));
-    EXPECT_FALSE(station.control(QStringLiteral("MdiTolmek.mnusecurity")).isEnabled());
+    EXPECT_FALSE(station.control("MdiTolmek.mnusecurity").isEnabled());
 
     ui.answer(true);
-    station.menu(QStringLiteral("mnuEPE"));
-    station.run(QStringLiteral("delete from UsersForAccts"));
-    QFile ini(QDir(home.folder()).filePath(QStringLiteral("orvane.ini")));
+    station.menu("mnuEPE");
+    station.run("delete from UsersForAccts");
+    QFile ini(QDir(home.folder()).filePath("orvane.ini"));
     ASSERT_TRUE(ini.open(QIODevice::Append));
     ini.write("\n[menu]\nmnuRct = 1\nmnuSecurity = 1\nmnuAccts = 1\nmnuDisc = 0\nmnuVerify = 0\n");
     ini.close();
@@ -158,7 +155,7 @@ TEST_P(Shell, hiddenEntriesAreTurnedOnByTheIniAlone) {
         bool visible;
     } cases[] = {{"mnuRct", true}, {"mnusecurity", true}, {"mnuAccts", false}, {"mnuDisc", false}, {"mnuVerify", true}};
     for (const auto& each : cases) {
-        const Control& entry = restarted.control(QStringLiteral("MdiTolmek.") + QLatin1String(each.name));
+        const Control& entry = restarted.control("MdiTolmek." + QLatin1String(each.name));
         EXPECT_EQ(entry.isVisible(), each.visible) << each.name;
         EXPECT_TRUE(entry.isEnabled()) << each.name;
     }
@@ -171,7 +168,7 @@ TEST_P(Shell, everyEntryActsButTheEmptyOnes) {
             "mnuWindowTH mnuWindowCascade")
             .split(QLatin1Char(' '));
     QStringList quiet;
-    for (Control* control : station.form(QStringLiteral("MdiTolmek")).controls()) {
+    for (Control* control : station.form("MdiTolmek").controls()) {
         auto* item = dynamic_cast<MenuItem*>(control);
         if (!item || !item->menu() || item->name() == QLatin1String("mnuEPE"))
             continue;
@@ -188,17 +185,17 @@ TEST_P(Shell, everyEntryActsButTheEmptyOnes) {
 }
 
 TEST_P(Shell, entriesHandTheirPurposeToTheScreen) {
-    station.menu(QStringLiteral("mnuRPtES"));
-    EXPECT_EQ(session.sRptPanelMode, QStringLiteral("Receipt"));
-    EXPECT_EQ(session.sRptPanelLabel, QStringLiteral("select a receipt No"));
+    station.menu("mnuRPtES");
+    EXPECT_EQ(session.sRptPanelMode, "Receipt");
+    EXPECT_EQ(session.sRptPanelLabel, "select a receipt No");
     for (const auto& [entry, kind] :
          {std::pair("mnuTB", "TB"), std::pair("mnuTBBP", "TB2"), std::pair("mnuGL", "GL")}) {
         station.menu(QLatin1String(entry));
         EXPECT_EQ(session.sRptKind, QLatin1String(kind));
     }
     ui.forgetBoxes();
-    station.menu(QStringLiteral("mnuSupp"));
-    EXPECT_BOXES(ui, {QStringLiteral("The screen frmSupplers is not part of this version yet.")});
+    station.menu("mnuSupp");
+    EXPECT_BOXES(ui, {"The screen frmSupplers is not part of this version yet."});
 }
 
 TEST_P(Shell, reportsOfTodayTakeTheirOwnDate) {
@@ -206,12 +203,11 @@ TEST_P(Shell, reportsOfTodayTakeTheirOwnDate) {
     ui.clock = QDateTime(QDate(2026, 3, 15), QTime(7, 0));
     const auto viewAll = [&] {
         for (const char* entry : {"mnuBFT", "mnuINC", "mnuCR"}) {
-            Control& item = station.control(QStringLiteral("MdiTolmek.") + QLatin1String(entry));
+            Control& item = station.control("MdiTolmek." + QLatin1String(entry));
             item.form().userEvent([&] { item.click(); });
         }
     };
-    const QStringList nothing{QStringLiteral("No Bills for Today"), QStringLiteral("No Income between these two dates"),
-                              QStringLiteral("No Cancelled Receipts")};
+    const QStringList nothing{"No Bills for Today", "No Income between these two dates", "No Cancelled Receipts"};
     const auto layDay = [&](int id, const QString& billDay, const QString& receiptDay) {
         Connection billing = station.billing();
         const QString bill = QStringLiteral("001OFL000000%1").arg(id);
@@ -228,10 +224,10 @@ TEST_P(Shell, reportsOfTodayTakeTheirOwnDate) {
         Connection billing = station.billing();
         makePatient(billing);
     }
-    layDay(1, QStringLiteral("2026-03-15"), QStringLiteral("2026-03-14"));
+    layDay(1, "2026-03-15", "2026-03-14");
     viewAll();
     EXPECT_EQ(ui.takeBoxes(), nothing);
-    layDay(2, QStringLiteral("2026-03-14"), QStringLiteral("2026-03-15"));
+    layDay(2, "2026-03-14", "2026-03-15");
     viewAll();
     EXPECT_BOXES(ui, {});
     ASSERT_EQ(ui.reports.size(), 3);
@@ -250,37 +246,36 @@ TEST_P(Shell, reportsOfTodayTakeTheirOwnDate) {
 }
 
 TEST_P(Shell, printsTheActiveScreen) {
-    station.menu(QStringLiteral("mnuPrint"));
-    EXPECT_BOXES(ui, {QStringLiteral("There is no open screen to print.")});
-    station.open(QStringLiteral("frmRole"));
-    station.open(QStringLiteral("frmDialog"));
-    station.menu(QStringLiteral("mnuPrint"));
-    station.form(QStringLiteral("frmRole")).activated();
-    station.menu(QStringLiteral("mnuPrint"));
-    station.close(QStringLiteral("frmRole"));
-    station.menu(QStringLiteral("mnuPrint"));
-    EXPECT_EQ(ui.printed,
-              (QStringList{QStringLiteral("frmDialog"), QStringLiteral("frmRole"), QStringLiteral("frmDialog")}));
+    station.menu("mnuPrint");
+    EXPECT_BOXES(ui, {"There is no open screen to print."});
+    station.open("frmRole");
+    station.open("frmDialog");
+    station.menu("mnuPrint");
+    station.form("frmRole").activated();
+    station.menu("mnuPrint");
+    station.close("frmRole");
+    station.menu("mnuPrint");
+    EXPECT_EQ(ui.printed, (QStringList{"frmDialog", "frmRole", "frmDialog"}));
 }
 
 TEST_P(Shell, exitAsksAndEndsEverything) {
-    const QString question = QStringLiteral(" Do you want to Exit the Application?");
+    const QString question = " Do you want to Exit the Application?";
     const QString row = QStringLiteral("UserActivities where SNo=%1 and ").arg(session.gActivitySNo);
-    station.open(QStringLiteral("frmRole"));
+    station.open("frmRole");
     ui.answer(false);
-    station.close(QStringLiteral("MdiTolmek"));
+    station.close("MdiTolmek");
     EXPECT_QUESTIONS(ui, {question});
     EXPECT_FALSE(ui.hasQuit);
-    EXPECT_EQ(station.tableCount(row + QStringLiteral("islogout=0 and LogoutDate is null")), 1);
+    EXPECT_EQ(station.tableCount(row + "islogout=0 and LogoutDate is null"), 1);
 
-    serverClock(QStringLiteral("2026-03-15 17:05:00"));
+    serverClock("2026-03-15 17:05:00");
     ui.answer(true);
-    station.close(QStringLiteral("MdiTolmek"));
+    station.close("MdiTolmek");
     EXPECT_QUESTIONS(ui, {question});
     EXPECT_TRUE(ui.hasQuit);
     EXPECT_EQ(ui.closedForms.size(), 2);
-    EXPECT_EQ(station.program.loadedForm(QStringLiteral("frmRole")), nullptr);
-    EXPECT_EQ(station.program.loadedForm(QStringLiteral("MdiTolmek")), nullptr);
+    EXPECT_EQ(station.program.loadedForm("frmRole"), nullptr);
+    EXPECT_EQ(station.program.loadedForm("MdiTolmek"), nullptr);
     EXPECT_EQ(station.tableCount(row + QStringLiteral("islogout=1 and AutoLogoff=0 and LogoutDate='2026-03-15' and "
                                                       "LogoutTime='17:05' and LoginDate='2026-03-14'")),
               1);
@@ -288,15 +283,15 @@ TEST_P(Shell, exitAsksAndEndsEverything) {
 
 TEST_P(Shell, anAutomaticLogOffAsksNothing) {
     session.bAutoLogoff = true;
-    station.close(QStringLiteral("MdiTolmek"));
+    station.close("MdiTolmek");
     EXPECT_TRUE(ui.hasQuit);
-    EXPECT_EQ(station.tableCount(QStringLiteral("UserActivities where islogout=1 and AutoLogoff=1")), 1);
+    EXPECT_EQ(station.tableCount("UserActivities where islogout=1 and AutoLogoff=1"), 1);
 }
 
 TEST_P(Shell, endsEvenWhenItsTrailCannotBeWritten) {
-    station.run(QStringLiteral("drop table UserActivities"));
+    station.run("drop table UserActivities");
     ui.answer(true);
-    station.close(QStringLiteral("MdiTolmek"));
+    station.close("MdiTolmek");
     EXPECT_EQ(ui.takeBoxes().size(), 1);
     EXPECT_TRUE(ui.hasQuit);
 }
@@ -305,7 +300,7 @@ TEST_P(Shell, promptsStandInFrontOfEachOther) {
     auto& shell = dynamic_cast<MdiTolmek&>(station.form(QStringLiteral("MdiTolmek")));
     shell.VerifyApptDate();
     EXPECT_EQ(shell.sPrompt, QString());
-    station.run(QStringLiteral("insert into hreferal (PNo, ApptDate, attendedTo) values ('P/0001', '2026-03-14', 0)"));
+    station.run("insert into hreferal (PNo, ApptDate, attendedTo) values ('P/0001', '2026-03-14', 0)");
     {
         Connection billing = station.billing();
         makePatient(billing);

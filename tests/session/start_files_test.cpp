@@ -1,4 +1,4 @@
-#include "data/TextFile.h"
+#include "data/words/TextFile.h"
 #include "session/Scramble.h"
 #include "session/StartFiles.h"
 #include "support/TestUi.h"
@@ -44,7 +44,7 @@ TEST_F(StartFiles, madeSysGivesTheLastServerAndHospital) {
     for (const auto& each : cases) {
         SCOPED_TRACE(each.content);
         program.session = Session();
-        write(QStringLiteral("made.sys"), each.content);
+        write("made.sys", each.content);
         EXPECT_EQ(readMadeSys(program), qint16(0));
         EXPECT_EQ(program.session.gServerName, QString::fromUtf8(each.server));
         EXPECT_EQ(program.session.gHospID, QString::fromUtf8(each.hospital));
@@ -62,7 +62,7 @@ TEST_F(StartFiles, sysdocGivesItsLastLineAsItStands) {
     for (const auto& each : cases) {
         SCOPED_TRACE(each.content);
         program.session = Session();
-        write(QStringLiteral("sysdoc.sys"), each.content);
+        write("sysdoc.sys", each.content);
         EXPECT_TRUE(readSysDoc(program));
         EXPECT_EQ(program.session.gUsername, QString::fromUtf8(each.user));
     }
@@ -71,8 +71,8 @@ TEST_F(StartFiles, sysdocGivesItsLastLineAsItStands) {
 TEST_F(StartFiles, missingFilesSayWhichAreMissing) {
     EXPECT_EQ(readMadeSys(program), std::nullopt);
     EXPECT_FALSE(readSysDoc(program));
-    EXPECT_BOXES(ui, {QStringLiteral("A System inifile bAccum required for this Application is MISSING"),
-                      QStringLiteral("A System file UName required for this Application is MISSING")});
+    EXPECT_BOXES(ui, {"A System inifile bAccum required for this Application is MISSING",
+                      "A System file UName required for this Application is MISSING"});
 }
 
 TEST_F(StartFiles, filesThatAreNoTextAreRefusedInOneLine) {
@@ -87,7 +87,7 @@ TEST_F(StartFiles, filesThatAreNoTextAreRefusedInOneLine) {
         {"SVR=A\n" + QByteArray(1024 * 1024, 'x'), "has a line of more than 64 KB"},
     };
     for (const auto& each : cases) {
-        write(QStringLiteral("made.sys"), each.content);
+        write("made.sys", each.content);
         try {
             readMadeSys(program);
             ADD_FAILURE() << "no fault: " << each.reason;
@@ -98,23 +98,22 @@ TEST_F(StartFiles, filesThatAreNoTextAreRefusedInOneLine) {
         }
     }
     EXPECT_THROW(readTextLines(home.path()), DataError);
-    write(QStringLiteral("longest"), QByteArray(64 * 1024 - 1, 'x') + "\r\nend");
-    EXPECT_EQ(readTextLines(home.filePath(QStringLiteral("longest"))).last(), QStringLiteral("end"));
+    write("longest", QByteArray(64 * 1024 - 1, 'x') + "\r\nend");
+    EXPECT_EQ(readTextLines(home.filePath("longest")).last(), "end");
 }
 
 TEST_F(StartFiles, onlyTheMenuSectionTurnsEntriesOn) {
     EXPECT_TRUE(readMenuEntriesTurnedOn(home.path()).isEmpty());
-    write(QStringLiteral("orvane.ini"), "mnuA = 1\n[server SERVER]\nmnuB = 1\n[Menu]\r\n; mnuC = 1\nmnuRct = 1 ; on\n"
-                                        "mnuDisc=0\nmnuBanks\nmnuMixed=1\n[server X]\nmnuD=1\n");
-    EXPECT_EQ(readMenuEntriesTurnedOn(home.path()),
-              (QSet<QString>{QStringLiteral("mnurct"), QStringLiteral("mnumixed")}));
+    write("orvane.ini", "mnuA = 1\n[server SERVER]\nmnuB = 1\n[Menu]\r\n; mnuC = 1\nmnuRct = 1 ; on\n"
+                        "mnuDisc=0\nmnuBanks\nmnuMixed=1\n[server X]\nmnuD=1\n");
+    EXPECT_EQ(readMenuEntriesTurnedOn(home.path()), (QSet<QString>{"mnurct", "mnumixed"}));
 }
 
 TEST_F(StartFiles, aHomeThatCannotBeWrittenIsLockedElsewhere) {
-    const QString readOnly = QStringLiteral("/proc");
+    const QString readOnly = "/proc";
     auto first = std::make_unique<Program>(readOnly, ui);
     Program second(readOnly, ui);
-    Program otherHome(QStringLiteral("/proc/self"), ui);
+    Program otherHome("/proc/self", ui);
     EXPECT_TRUE(first->lockInstance());
     EXPECT_TRUE(first->lockInstance());
     EXPECT_FALSE(second.lockInstance());
@@ -137,13 +136,12 @@ TEST_F(StartFiles, passwordsAreScrambledOneForOne) {
     const QString scrambled = scramblePassword(program, printable);
     EXPECT_EQ(QSet<QChar>(scrambled.begin(), scrambled.end()).size(), 94);
     EXPECT_EQ(QSet<QChar>(scrambled.begin(), scrambled.end()), QSet<QChar>(printable.begin(), printable.end()));
-    EXPECT_EQ(scramblePassword(program, QStringLiteral("cba")), scrambled.mid(printable.indexOf(u'c'), 1) +
-                                                                    scrambled.mid(printable.indexOf(u'b'), 1) +
-                                                                    scrambled.mid(printable.indexOf(u'a'), 1));
+    EXPECT_EQ(scramblePassword(program, "cba"), scrambled.mid(printable.indexOf(u'c'), 1) +
+                                                    scrambled.mid(printable.indexOf(u'b'), 1) +
+                                                    scrambled.mid(printable.indexOf(u'a'), 1));
     EXPECT_BOXES(ui, {});
-    EXPECT_EQ(scramblePassword(program, QStringLiteral("a b\x7f\u00e9")),
-              scramblePassword(program, QStringLiteral("ab")));
-    const QString invalid = QStringLiteral("Invalid character detected!");
+    EXPECT_EQ(scramblePassword(program, "a b\x7f\u00e9"), scramblePassword(program, "ab"));
+    const QString invalid = "Invalid character detected!";
     EXPECT_BOXES(ui, {invalid, invalid, invalid});
 }
 

@@ -45,25 +45,25 @@ TEST_P(Start, refusalsComeInOrder) {
         file((QByteArray(".orvane-billing-") + QSysInfo::machineHostName().toUtf8() + ".lock").constData()));
     ASSERT_TRUE(otherCopy.tryLock());
     QFile::remove(file("sysdoc.sys"));
-    owner.run(QStringLiteral("update Roles set LoginRole='RECORDS' where LoginRole='BILLING'"));
-    owner.run(QStringLiteral("update ApplicationUsers set hospID=''"));
-    owner.run(QStringLiteral("update HospList set hname2=null"));
-    owner.run(QStringLiteral("delete from AppDefaults where ID='PRIVATE'"));
+    owner.run("update Roles set LoginRole='RECORDS' where LoginRole='BILLING'");
+    owner.run("update ApplicationUsers set hospID=''");
+    owner.run("update HospList set hname2=null");
+    owner.run("delete from AppDefaults where ID='PRIVATE'");
 
-    const QString hospital = QStringLiteral("Value needed for Hospital ID/Name");
+    const QString hospital = "Value needed for Hospital ID/Name";
     const struct {
         QString box;
         std::function<void()> mend;
     } steps[] = {
-        {QStringLiteral("BILLING Module is Already Running !"), [&] { otherCopy.unlock(); }},
-        {QStringLiteral("A System file UName required for this Application is MISSING"),
+        {"BILLING Module is Already Running !", [&] { otherCopy.unlock(); }},
+        {"A System file UName required for this Application is MISSING",
          [&] { writeFile(file("sysdoc.sys"), "someone\nAMINA.B\n"); }},
-        {QStringLiteral("Invalid Login OR session has expired!!! Please Re-login"),
-         [&] { owner.run(QStringLiteral("update Roles set LoginRole='BILLING' where LoginRole='RECORDS'")); }},
-        {hospital, [&] { owner.run(QStringLiteral("update ApplicationUsers set hospID='001'")); }},
-        {hospital, [&] { owner.run(QStringLiteral("update HospList set hname2='MAIN CLINIC'")); }},
-        {QStringLiteral("System Default Value needed for Private Tariff"),
-         [&] { owner.run(QStringLiteral("insert into AppDefaults (ID, idval) values ('PRIVATE', '0001')")); }},
+        {"Invalid Login OR session has expired!!! Please Re-login",
+         [&] { owner.run("update Roles set LoginRole='BILLING' where LoginRole='RECORDS'"); }},
+        {hospital, [&] { owner.run("update ApplicationUsers set hospID='001'"); }},
+        {hospital, [&] { owner.run("update HospList set hname2='MAIN CLINIC'"); }},
+        {"System Default Value needed for Private Tariff",
+         [&] { owner.run("insert into AppDefaults (ID, idval) values ('PRIVATE', '0001')"); }},
     };
     for (const auto& step : steps) {
         Attempt run(home.folder());
@@ -74,25 +74,25 @@ TEST_P(Start, refusalsComeInOrder) {
     }
     Attempt run(home.folder());
     EXPECT_TRUE(run.started);
-    EXPECT_EQ(run.ui.opened, QStringList{QStringLiteral("MdiTolmek")});
+    EXPECT_EQ(run.ui.opened, QStringList{"MdiTolmek"});
     // What the database says of the user replaces what the files say.
-    EXPECT_EQ(run.session.gUsername, QStringLiteral("amina.b"));
-    EXPECT_EQ(run.session.gFullName, QStringLiteral("AMINA BELLO"));
-    EXPECT_EQ(run.session.gHospName2, QStringLiteral("MAIN CLINIC"));
+    EXPECT_EQ(run.session.gUsername, "amina.b");
+    EXPECT_EQ(run.session.gFullName, "AMINA BELLO");
+    EXPECT_EQ(run.session.gHospName2, "MAIN CLINIC");
 }
 
 TEST_P(Start, theUsersHospitalReplacesThatOfTheFile) {
     writeFile(file("made.sys"), "HNO=777\n" + QByteArray("SVR=SERVER\n"));
-    owner.run(QStringLiteral("update ApplicationUsers set hospID='009'"));
+    owner.run("update ApplicationUsers set hospID='009'");
     Attempt run(home.folder());
     // A hospital that the list does not know is let in without names.
     EXPECT_TRUE(run.started);
-    EXPECT_EQ(run.session.gHospID, QStringLiteral("009"));
-    EXPECT_EQ(run.session.gHospIDName, QStringLiteral("009"));
+    EXPECT_EQ(run.session.gHospID, "009");
+    EXPECT_EQ(run.session.gHospIDName, "009");
     EXPECT_EQ(run.session.gHospName2, QString());
     EXPECT_EQ(run.session.iHNO, 0);
-    EXPECT_EQ(run.session.sHospitalNoStr, QStringLiteral("0"));
-    EXPECT_EQ(run.session.gPatientsFolder, QStringLiteral("\\\\SERVER\\Patients\\"));
+    EXPECT_EQ(run.session.sHospitalNoStr, "0");
+    EXPECT_EQ(run.session.gPatientsFolder, "\\\\SERVER\\Patients\\");
 }
 
 TEST_P(Start, aSecondCopyIsRefusedUntilTheFirstHasEnded) {
@@ -102,11 +102,10 @@ TEST_P(Start, aSecondCopyIsRefusedUntilTheFirstHasEnded) {
         Attempt second(home.folder());
         EXPECT_FALSE(second.started);
         EXPECT_EQ(second.ui.takeBoxesWithTitles(),
-                  (QList<TestUi::Box>{{QStringLiteral("BILLING Module is Already Running !"), QStringLiteral("Error"),
-                                       Icon::Critical}}));
+                  (QList<TestUi::Box>{{"BILLING Module is Already Running !", "Error", Icon::Critical}}));
     }
     first.ui.answer(true);
-    first.station.menu(QStringLiteral("mnuEPE"));
+    first.station.menu("mnuEPE");
     EXPECT_TRUE(first.ui.hasQuit);
     Attempt third(home.folder());
     EXPECT_TRUE(third.started);
@@ -115,38 +114,38 @@ TEST_P(Start, aSecondCopyIsRefusedUntilTheFirstHasEnded) {
 TEST_P(Start, aNamedUserNeedsNoFile) {
     QFile::remove(file("sysdoc.sys"));
     Workstation station(home.folder());
-    EXPECT_FALSE(station.start(QStringLiteral("O'NEILL")));
-    EXPECT_BOXES(station.ui, {QStringLiteral("Invalid Login OR session has expired!!! Please Re-login")});
-    EXPECT_TRUE(station.start(QStringLiteral("amina.b")));
+    EXPECT_FALSE(station.start("O'NEILL"));
+    EXPECT_BOXES(station.ui, {"Invalid Login OR session has expired!!! Please Re-login"});
+    EXPECT_TRUE(station.start("amina.b"));
 }
 
 TEST_P(Start, theLogInWayTakesHospitalAndSettingsOver) {
-    owner.run(QStringLiteral("delete from AppDefaults where ID='PRIVATE'"));
-    owner.run(QStringLiteral("update ApplicationUsers set Password=''"));
+    owner.run("delete from AppDefaults where ID='PRIVATE'");
+    owner.run("update ApplicationUsers set Password=''");
     QFile::remove(file("sysdoc.sys"));
     for (const bool complete : {false, true}) {
         Workstation station(home.folder());
         ASSERT_TRUE(MainWithLogin(station.program));
-        station.click(QStringLiteral("frmWelcome.cmdEnter"));
-        station.set(QStringLiteral("frmLogin.txtUserName"), QStringLiteral("amina.b"));
-        station.click(QStringLiteral("frmLogin.cmdOK"));
-        QStringList boxes{QStringLiteral("You're welcome, AMINA BELLO.")};
+        station.click("frmWelcome.cmdEnter");
+        station.set("frmLogin.txtUserName", "amina.b");
+        station.click("frmLogin.cmdOK");
+        QStringList boxes{"You're welcome, AMINA BELLO."};
         if (!complete)
             boxes << QStringLiteral("System Default Value needed for Private Tariff");
         EXPECT_EQ(station.ui.takeBoxes(), boxes);
         EXPECT_EQ(station.ui.hasQuit, !complete);
-        EXPECT_EQ(station.ui.opened.contains(QStringLiteral("MdiTolmek")), complete);
-        EXPECT_EQ(station.program.session.gHospID, QStringLiteral("001"));
-        EXPECT_EQ(station.program.loadedForm(QStringLiteral("frmWelcome")), nullptr);
+        EXPECT_EQ(station.ui.opened.contains("MdiTolmek"), complete);
+        EXPECT_EQ(station.program.session.gHospID, "001");
+        EXPECT_EQ(station.program.loadedForm("frmWelcome"), nullptr);
         if (!complete)
-            owner.run(QStringLiteral("insert into AppDefaults (ID, idval) values ('PRIVATE', '0001')"));
+            owner.run("insert into AppDefaults (ID, idval) values ('PRIVATE', '0001')");
     }
 }
 
 /// Where the row of a setting lies, taken from its own statement.
 struct SettingRow {
     explicit SettingRow(const SettingRule& rule) {
-        static const QRegularExpression form(QStringLiteral("from (\\w+)(?: where ID='(\\w+)')?"));
+        static const QRegularExpression form("from (\\w+)(?: where ID='(\\w+)')?");
         const QRegularExpressionMatch match = form.match(Sql(rule.statement).text());
         table = match.captured(1);
         id = match.captured(2);
@@ -160,7 +159,7 @@ QString valueOf(const Session& session, const SettingTarget& target) {
         return session.*(*text);
     if (const auto* number = std::get_if<qlonglong Session::*>(&target.variable))
         return QString::number(session.*(*number));
-    return session.*std::get<bool Session::*>(target.variable) ? QStringLiteral("1") : QString();
+    return session.*std::get<bool Session::*>(target.variable) ? "1" : QString();
 }
 
 bool isText(const SettingTarget& target) {
@@ -176,7 +175,7 @@ TEST_P(Start, eachSettingWithoutItsRow) {
         const SettingRow row(rule);
         SCOPED_TRACE((row.table + row.filter).toStdString());
         if (row.id.isEmpty())
-            owner.run(QStringLiteral("delete from ") + row.table);
+            owner.run("delete from " + row.table);
         else
             owner.run(QStringLiteral("update %1 set ID='gone'").arg(row.table) + row.filter);
 
@@ -185,9 +184,8 @@ TEST_P(Start, eachSettingWithoutItsRow) {
         EXPECT_EQ(run.started, !ends);
         EXPECT_EQ(run.ui.takeBoxes(), boxOf(rule.noRowText));
         for (const SettingTarget& target : rule.targets)
-            if (!ends) {
+            if (!ends)
                 EXPECT_EQ(valueOf(run.session, target), QString::fromUtf8(rule.defaultValue)) << target.column;
-            }
         for (const SettingPicture& picture : rule.pictures)
             EXPECT_EQ(run.session.*picture.variable, QString());
 
@@ -203,16 +201,15 @@ TEST_P(Start, eachSettingThatIsEmptyOrNull) {
         const SettingRow row(rule);
         if (row.table != QLatin1String("AppDefaults"))
             continue;
-        const QString before = owner.scalar(QStringLiteral("select idval from AppDefaults") + row.filter);
+        const QString before = owner.scalar("select idval from AppDefaults" + row.filter);
         for (const char* nothing : {"''", "null"}) {
             SCOPED_TRACE((row.filter + QLatin1String(nothing)).toStdString());
             owner.run(QStringLiteral("update AppDefaults set idval=%1").arg(QLatin1String(nothing)) + row.filter);
             Attempt run(home.folder());
             EXPECT_EQ(run.started, rule.emptyText == nullptr);
             EXPECT_EQ(run.ui.takeBoxes(), boxOf(rule.emptyText));
-            if (isText(rule.targets.first())) {
+            if (isText(rule.targets.first()))
                 EXPECT_EQ(valueOf(run.session, rule.targets.first()), QString());
-            }
         }
         owner.run(QStringLiteral("update AppDefaults set idval='%1'").arg(before) + row.filter);
     }
@@ -234,9 +231,8 @@ TEST_P(Start, eachSettingReachesItsOwnVariables) {
     ASSERT_TRUE(run.started);
     for (const SettingRule& rule : settingRules())
         for (const SettingTarget& target : rule.targets)
-            if (isText(target)) {
+            if (isText(target))
                 EXPECT_EQ(valueOf(run.session, target), valueFor(SettingRow(rule), target));
-            }
     EXPECT_EQ(run.session.gCashAccountIndex, 1);
     EXPECT_EQ(run.session.gARAccountIndex, 2);
     EXPECT_FALSE(run.session.gAcctPostAuto);
@@ -264,17 +260,17 @@ TEST_P(Start, postingIsAsked) {
                              "'ARAccountIndex', 'AUTO_TRAN_NO', 'AcctPostOn')"));
     Attempt run(home.folder());
     EXPECT_TRUE(run.started);
-    EXPECT_EQ(run.session.gAcctPostType, QStringLiteral("AUTO"));
+    EXPECT_EQ(run.session.gAcctPostType, "AUTO");
     EXPECT_EQ(run.session.gAcctNoCash + run.session.gCurrentPeriod, QString());
 }
 
 TEST_P(Start, anAccountIndexThatIsNoNumberIsRefused) {
-    owner.run(QStringLiteral("update AppDefaults set idval='12x' where ID='ARAccountIndex'"));
+    owner.run("update AppDefaults set idval='12x' where ID='ARAccountIndex'");
     Attempt run(home.folder());
     EXPECT_FALSE(run.started);
     const QStringList boxes = run.ui.takeBoxes();
     ASSERT_EQ(boxes.size(), 1);
-    EXPECT_TRUE(boxes.first().contains(QStringLiteral("ARAccountIndex"))) << boxes.first().toStdString();
+    EXPECT_TRUE(boxes.first().contains("ARAccountIndex")) << boxes.first().toStdString();
 }
 
 /// What lies in the home folder instead of a database or of the list of servers; each is one box and no start.

@@ -23,10 +23,9 @@ protected:
 
     /// The rows of the audit trail, which lies in a file of its own on the embedded engine.
     QStringList auditRows() {
-        Connection audit = station.billing().beside(GetParam() == Engine::Sqlite ? QStringLiteral("Audit") : QString());
+        Connection audit = station.billing().beside(GetParam() == Engine::Sqlite ? "Audit" : QString());
         QStringList rows;
-        for (Recordset row = audit.run(QStringLiteral("select * from AuditTrail order by SNo")); !row.eof();
-             row.moveNext()) {
+        for (Recordset row = audit.run("select * from AuditTrail order by SNo"); !row.eof(); row.moveNext()) {
             QStringList cells;
             for (int column = 1; column < row.columns().size(); ++column)
                 cells << row.text(column);
@@ -36,13 +35,13 @@ protected:
     }
 
     void logIn(const QString& user, const QString& password) {
-        station.set(QStringLiteral("frmLogin.txtUserName"), user);
-        station.set(QStringLiteral("frmLogin.txtPassword"), password);
-        station.click(QStringLiteral("frmLogin.cmdOK"));
+        station.set("frmLogin.txtUserName", user);
+        station.set("frmLogin.txtPassword", password);
+        station.click("frmLogin.cmdOK");
     }
     void storePassword(const QString& stored) {
-        station.run(QStringLiteral("update ApplicationUsers set Password='%1'")
-                        .arg(QString(stored).replace(u'\'', QStringLiteral("''"))));
+        station.run(
+            QStringLiteral("update ApplicationUsers set Password='%1'").arg(QString(stored).replace(u'\'', "''")));
     }
 
     TestHome home{GetParam()};
@@ -56,25 +55,22 @@ TEST_P(Trail, auditBearsTheShellsClockAndTheUserOfTheSession) {
     ASSERT_TRUE(station.start());
     // The stamp is the clock of the shell's last tick.
     station.program.data().setServerClock(QDateTime(QDate(2026, 3, 15), QTime(11, 0)));
-    station.program.writeAuditTrail(QStringLiteral("someone"), QStringLiteral("Deleted O'NEILL's bill"),
-                                    QStringLiteral("B1"), QStringLiteral("why"), session.sComputerName);
+    station.program.writeAuditTrail("someone", "Deleted O'NEILL's bill", "B1", "why", session.sComputerName);
     qunsetenv("computername"); // the host's name stands in
-    station.timer(QStringLiteral("MdiTolmek.Timer2"));
+    station.timer("MdiTolmek.Timer2");
     ui.answer(true);
-    station.close(QStringLiteral("MdiTolmek"));
-    EXPECT_EQ(
-        auditRows(),
-        (QStringList{QStringLiteral("amina.b|Login Billing|2026-03-14|09:30|||BILLING: from CASH-01"),
-                     QStringLiteral("amina.b|Deleted O'NEILL's bill|2026-03-14|09:30|B1|why|BILLING: from CASH-01"),
-                     QStringLiteral("amina.b|Login Out|2026-03-15|11:00|||BILLING: from ") +
-                         QSysInfo::machineHostName()}));
-    EXPECT_EQ(session.sEnvUserName, QStringLiteral("till"));
+    station.close("MdiTolmek");
+    EXPECT_EQ(auditRows(),
+              (QStringList{"amina.b|Login Billing|2026-03-14|09:30|||BILLING: from CASH-01",
+                           "amina.b|Deleted O'NEILL's bill|2026-03-14|09:30|B1|why|BILLING: from CASH-01",
+                           "amina.b|Login Out|2026-03-15|11:00|||BILLING: from " + QSysInfo::machineHostName()}));
+    EXPECT_EQ(session.sEnvUserName, "till");
 }
 
 TEST_P(Trail, eachSessionHasItsOwnActivityRow) {
     ASSERT_TRUE(station.start());
     const qlonglong own = session.gActivitySNo;
-    station.program.openUserActivity(true, true, QStringLiteral("other"));
+    station.program.openUserActivity(true, true, "other");
     EXPECT_EQ(session.gActivitySNo, own + 1);
     EXPECT_EQ(session.dWorkDate, QDate(2026, 3, 14));
     EXPECT_EQ(
@@ -89,14 +85,14 @@ TEST_P(Trail, eachSessionHasItsOwnActivityRow) {
     // A row that is gone is neither written anew nor complained of.
     station.run(QStringLiteral("delete from UserActivities where SNo=%1").arg(own + 1));
     session.bAutoLogoff = true;
-    station.program.closeUserActivity(true, false, QStringLiteral("BILLING"));
+    station.program.closeUserActivity(true, false, "BILLING");
     EXPECT_FALSE(session.bAutoLogoff);
-    EXPECT_EQ(station.tableCount(QStringLiteral("UserActivities")), 1);
+    EXPECT_EQ(station.tableCount("UserActivities"), 1);
 }
 
 TEST_P(Trail, aFaultOfATrailWaitsForTheEndOfTheTransaction) {
     ASSERT_TRUE(station.start());
-    station.run(QStringLiteral("drop view qrySysDateTime"));
+    station.run("drop view qrySysDateTime");
     {
         Connection billing = station.billing();
         Transaction transaction(billing);
@@ -108,97 +104,92 @@ TEST_P(Trail, aFaultOfATrailWaitsForTheEndOfTheTransaction) {
 }
 
 TEST_P(Trail, threeWrongPasswordsEndTheProgramAtTheFourthPress) {
-    storePassword(scramblePassword(station.program, QStringLiteral("Secret1")));
-    station.open(QStringLiteral("frmLogin"));
+    storePassword(scramblePassword(station.program, "Secret1"));
+    station.open("frmLogin");
     for (const char* password : {"", "secret2", "' or '1'='1"}) {
-        logIn(QStringLiteral(" amina.b "), QLatin1String(password));
+        logIn(" amina.b ", QLatin1String(password));
         QStringList boxes = ui.takeBoxes();
-        EXPECT_EQ(boxes.takeLast(), QStringLiteral("Alert! Invalid Login details."));
-        EXPECT_EQ(station.value(QStringLiteral("frmLogin.txtUserName")) +
-                      station.value(QStringLiteral("frmLogin.txtPassword")),
-                  QString());
+        EXPECT_EQ(boxes.takeLast(), "Alert! Invalid Login details.");
+        EXPECT_EQ(station.value("frmLogin.txtUserName") + station.value("frmLogin.txtPassword"), QString());
     }
     EXPECT_FALSE(ui.hasQuit);
-    logIn(QStringLiteral("amina.b"), QStringLiteral("Secret1"));
+    logIn("amina.b", "Secret1");
     EXPECT_BOXES(ui, {});
     EXPECT_TRUE(ui.hasQuit);
     EXPECT_EQ(
         station.tableCount(QStringLiteral("LoginTrail where LoginName='amina.b' and LoginAction='Failed Logon' and "
                                           "LoginDate='2026-03-14' and LoginTime='09:30:00'")),
         3);
-    EXPECT_EQ(station.tableCount(QStringLiteral("LoginTrail")), 3);
+    EXPECT_EQ(station.tableCount("LoginTrail"), 3);
 }
 
 TEST_P(Trail, onlyAnEnabledAccountOfTheModuleWithTheExactPasswordLogsIn) {
-    const QString stored = scramblePassword(station.program, QStringLiteral("abcXYZ"));
+    const QString stored = scramblePassword(station.program, "abcXYZ");
     QString otherCase;
     for (const QChar letter : stored)
         otherCase += letter.isUpper() ? letter.toLower() : letter.toUpper();
     ASSERT_NE(stored, otherCase);
-    station.open(QStringLiteral("frmLogin"));
+    station.open("frmLogin");
 
     // The server's comparison lets it through; it costs no attempt.
     storePassword(otherCase);
     for (int i = 0; i < 4; ++i) {
-        logIn(QStringLiteral("amina.b"), QStringLiteral("abcXYZ"));
-        EXPECT_BOXES(ui, {QStringLiteral("Invalid Login details")});
+        logIn("amina.b", "abcXYZ");
+        EXPECT_BOXES(ui, {"Invalid Login details"});
     }
     storePassword(stored);
-    const QStringList refused{QStringLiteral("Alert! Invalid Login details.")};
-    station.run(QStringLiteral("update ApplicationUsers set AccountStatus='Disabled'"));
-    logIn(QStringLiteral("amina.b"), QStringLiteral("abcXYZ"));
+    const QStringList refused{"Alert! Invalid Login details."};
+    station.run("update ApplicationUsers set AccountStatus='Disabled'");
+    logIn("amina.b", "abcXYZ");
     EXPECT_EQ(ui.takeBoxes(), refused);
-    station.run(QStringLiteral("update ApplicationUsers set AccountStatus='Enabled'"));
-    station.run(QStringLiteral("update Roles set LoginRole='RECORDS' where LoginRole='BILLING'"));
-    logIn(QStringLiteral("amina.b"), QStringLiteral("abcXYZ"));
+    station.run("update ApplicationUsers set AccountStatus='Enabled'");
+    station.run("update Roles set LoginRole='RECORDS' where LoginRole='BILLING'");
+    logIn("amina.b", "abcXYZ");
     EXPECT_EQ(ui.takeBoxes(), refused);
-    station.run(QStringLiteral("update Roles set LoginRole='BILLING' where LoginRole='RECORDS'"));
+    station.run("update Roles set LoginRole='BILLING' where LoginRole='RECORDS'");
 
-    logIn(QStringLiteral("AMINA.B"), QStringLiteral("abcXYZ"));
-    EXPECT_EQ(ui.takeBoxesWithTitles(),
-              (QList<TestUi::Box>{{QStringLiteral("You're welcome, AMINA BELLO."), {}, Icon::Information}}));
-    EXPECT_EQ(ui.opened, (QStringList{QStringLiteral("frmLogin"), QStringLiteral("MdiTolmek")}));
-    EXPECT_EQ(ui.closedForms, QStringList{QStringLiteral("frmLogin")});
-    EXPECT_EQ(session.gUsername, QStringLiteral("amina.b"));
-    EXPECT_EQ(session.sLoginBranch, QStringLiteral("HQ"));
-    EXPECT_EQ(station.scalar(QStringLiteral("select LoginAction from LoginTrail order by SNo desc")),
-              QStringLiteral("Successful Logon"));
+    logIn("AMINA.B", "abcXYZ");
+    EXPECT_EQ(ui.takeBoxesWithTitles(), (QList<TestUi::Box>{{"You're welcome, AMINA BELLO.", {}, Icon::Information}}));
+    EXPECT_EQ(ui.opened, (QStringList{"frmLogin", "MdiTolmek"}));
+    EXPECT_EQ(ui.closedForms, QStringList{"frmLogin"});
+    EXPECT_EQ(session.gUsername, "amina.b");
+    EXPECT_EQ(session.sLoginBranch, "HQ");
+    EXPECT_EQ(station.scalar("select LoginAction from LoginTrail order by SNo desc"), "Successful Logon");
 }
 
 TEST_P(Trail, welcomeShowsTheWorkstationsClock) {
-    station.open(QStringLiteral("frmWelcome"));
-    EXPECT_EQ(station.value(QStringLiteral("frmWelcome.Label6")), QStringLiteral("Saturday, 14 March 2026"));
+    station.open("frmWelcome");
+    EXPECT_EQ(station.value("frmWelcome.Label6"), "Saturday, 14 March 2026");
     ui.clock = QDateTime(QDate(2026, 3, 14), QTime(15, 5));
-    station.timer(QStringLiteral("frmWelcome.Timer1"));
-    EXPECT_EQ(station.value(QStringLiteral("frmWelcome.Label5")), QStringLiteral("03:05 PM"));
-    station.click(QStringLiteral("frmWelcome.cmdEnter"));
-    station.click(QStringLiteral("frmLogin.cmdCancel"));
+    station.timer("frmWelcome.Timer1");
+    EXPECT_EQ(station.value("frmWelcome.Label5"), "03:05 PM");
+    station.click("frmWelcome.cmdEnter");
+    station.click("frmLogin.cmdCancel");
     EXPECT_TRUE(ui.hasQuit);
     EXPECT_EQ(ui.closedForms.size(), 2);
 }
 
 TEST_P(Trail, theSplashGoesWhenItsBarIsFull) {
-    station.open(QStringLiteral("frmStart"));
+    station.open("frmStart");
     for (int i = 0; i < 99; ++i)
-        station.timer(QStringLiteral("frmStart.Timer1"));
-    EXPECT_EQ(station.value(QStringLiteral("frmStart.ProgressBar1")), QStringLiteral("99"));
-    station.timer(QStringLiteral("frmStart.Timer1"));
-    EXPECT_EQ(ui.closedForms, QStringList{QStringLiteral("frmStart")});
+        station.timer("frmStart.Timer1");
+    EXPECT_EQ(station.value("frmStart.ProgressBar1"), "99");
+    station.timer("frmStart.Timer1");
+    EXPECT_EQ(ui.closedForms, QStringList{"frmStart"});
 }
 
 TEST_P(Trail, numbersAndWordsReachTheSession) {
     Connection billing = station.billing();
     for (const char* number : {"1", "2"}) {
-        station.program.fetchIDNo(billing, QStringLiteral("RECEIPT2"));
+        station.program.fetchIDNo(billing, "RECEIPT2");
         EXPECT_EQ(session.gIDNo, QLatin1String(number));
     }
-    station.program.fetchIDNo(billing, QStringLiteral("UNKNOWN"));
+    station.program.fetchIDNo(billing, "UNKNOWN");
     EXPECT_EQ(session.gIDNo, QString());
     session.dBillTotal = 2531.5;
     station.program.amountToUpperWords();
-    EXPECT_EQ(session.sAmountWords,
-              QStringLiteral("TWO THOUSAND, FIVE HUNDRED AND THIRTY ONE NAIRA AND FIFTY KOBO ONLY"));
-    EXPECT_EQ(getValInWord(0), QStringLiteral(" NAIRA"));
+    EXPECT_EQ(session.sAmountWords, "TWO THOUSAND, FIVE HUNDRED AND THIRTY ONE NAIRA AND FIFTY KOBO ONLY");
+    EXPECT_EQ(getValInWord(0), " NAIRA");
 }
 
 } // namespace

@@ -58,9 +58,8 @@ TEST_P(DrugPrice, UndoesTheMarkUpOfTheClientType) {
         EXPECT_EQ(ui.takeBoxes(), test.boxes);
         EXPECT_EQ(value("lblPrice"), QString(test.price));
         EXPECT_EQ(value("lblWord"), QString(test.words));
-        if (*test.focus) {
+        if (*test.focus)
             EXPECT_EQ(focused(), test.focus);
-        }
     }
 }
 

@@ -1,7 +1,7 @@
 #include "support/Hospital.h"
 
-#include "data/Recordset.h"
-#include "data/Transaction.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/Transaction.h"
 
 namespace orvane {
 
@@ -207,7 +207,7 @@ void layHospital(Connection& billing, Connection& accounting) {
     layClients(billing);
     layItems(billing);
     transaction.commit();
-    accounting.run(QStringLiteral("insert into AccountMonth (Period) values ('2026-03')"));
+    accounting.run("insert into AccountMonth (Period) values ('2026-03')");
 }
 
 void makePatient(Connection& billing, const TestPatient& patient) {
@@ -265,7 +265,7 @@ qlonglong makeItem(Connection& billing, const TestItem& item) {
             {"Capitated", item.capitated},
             {"conID", 0},
             {"BillBy", "amina.b"}});
-    return billing.run(QStringLiteral("select max(SNo) as SNo from BillAccum")).integer(QStringLiteral("SNo"));
+    return billing.run("select max(SNo) as SNo from BillAccum").integer("SNo");
 }
 
 } // namespace orvane

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/Connection.h"
+#include "data/rows/Connection.h"
 
 #include <QDate>
 #include <QString>
@@ -16,12 +16,12 @@ namespace orvane {
 void layHospital(Connection& billing, Connection& accounting);
 
 struct TestPatient {
-    QString pno = QStringLiteral("P/0001");
-    QString surname = QStringLiteral("ADEYEMI");
-    QString firstname = QStringLiteral("BOLA");
-    QString category = QStringLiteral("PRIVATE");
-    QString client = QStringLiteral("0001");
-    QString ref = QStringLiteral("NO");
+    QString pno = "P/0001";
+    QString surname = "ADEYEMI";
+    QString firstname = "BOLA";
+    QString category = "PRIVATE";
+    QString client = "0001";
+    QString ref = "NO";
     QDate expiry = {};
     double debt = 0; ///< naira, minus is owed
 };
@@ -29,40 +29,40 @@ void makePatient(Connection& billing, const TestPatient& patient = {});
 
 /// A visit that a doctor has not seen yet.
 struct TestVisit {
-    QString consultID = QStringLiteral("001OFL0000001");
-    QString pno = QStringLiteral("P/0001");
+    QString consultID = "001OFL0000001";
+    QString pno = "P/0001";
     QDate date = QDate(2026, 3, 14);
-    QString category = QStringLiteral("PRIVATE");
-    QString client = QStringLiteral("0001");
-    QString clinic = QStringLiteral("OPD");
-    QString purpose = QStringLiteral("CONSULTATION");
-    QString referal = QStringLiteral("NO");
+    QString category = "PRIVATE";
+    QString client = "0001";
+    QString clinic = "OPD";
+    QString purpose = "CONSULTATION";
+    QString referal = "NO";
 };
 void makeVisit(Connection& billing, const TestVisit& visit = {});
 
 /// A doctor's consultation of a visit; a finished one makes the visit wait for billing.
 struct TestConsultation {
-    QString consultID = QStringLiteral("001OFL0000001");
-    QString pno = QStringLiteral("P/0001");
+    QString consultID = "001OFL0000001";
+    QString pno = "P/0001";
     QDate date = QDate(2026, 3, 14);
-    QString diagnosis = QStringLiteral("MALARIA");
-    QString prescription = QStringLiteral("PARACETAMOL 500MG 2 TDS X 3/7");
+    QString diagnosis = "MALARIA";
+    QString prescription = "PARACETAMOL 500MG 2 TDS X 3/7";
     bool finished = true;
 };
 void makeConsultation(Connection& billing, const TestConsultation& consultation = {});
 
 /// An item of a visit that waits for collation. Gives its SNo.
 struct TestItem {
-    QString consultID = QStringLiteral("001OFL0000001");
-    QString pno = QStringLiteral("P/0001");
+    QString consultID = "001OFL0000001";
+    QString pno = "P/0001";
     QDate date = QDate(2026, 3, 14);
-    QString name = QStringLiteral("PARACETAMOL 500MG");
-    QString billType = QStringLiteral("DRUG");
-    QString revType = QStringLiteral("DRUGS");
-    QString client = QStringLiteral("0001");
+    QString name = "PARACETAMOL 500MG";
+    QString billType = "DRUG";
+    QString revType = "DRUGS";
+    QString client = "0001";
     double price = 50; ///< naira
     double qty = 1;
-    QString capitated = QStringLiteral("NO");
+    QString capitated = "NO";
 };
 qlonglong makeItem(Connection& billing, const TestItem& item = {});
 

@@ -31,7 +31,7 @@ const QList<QString>& hostileTexts() {
         u"=1+1"_qs, u"+1"_qs, u"-2"_qs, u"@SUM(A1)"_qs,
         // blanks, lines and control characters
         u"TRAILING   "_qs, u"   "_qs, u"TAB\tTAB"_qs, u"LINE\nLINE"_qs, u"LONE\rCR"_qs, u"\x01\x1b[31m\x7f"_qs,
-        QStringLiteral("NUL\0NUL"),
+        "NUL\0NUL",
         // letters
         u"\u202e\u05d0\u05d1\u05d2 \u0627\u0644\u0641"_qs, u"e\u0301\u0323\u0308 \ufeff\u200b"_qs,
         u"\U0001f469\u200d\U0001f469\u200d\U0001f467"_qs, u"\U0001d4b3\U00010348"_qs, u"\u0130\u0131\u00df\ufb00"_qs,

@@ -2,24 +2,24 @@
 
 namespace orvane {
 
-SampleForm::SampleForm(Ui& ui, const QString& name) : Form(ui, name, QStringLiteral("Sample")) {
+SampleForm::SampleForm(Ui& ui, const QString& name) : Form(ui, name, "Sample") {
     txtCode.upperCase().setMaxLength(5);
     txtDigits.onKeyPress = [](QChar key) { return key.isDigit(); };
-    txtLocked.setText(QStringLiteral("fixed"));
+    txtLocked.setText("fixed");
     txtLocked.setLocked(true);
     txtNote.multiline();
-    cboTown.addItems({QStringLiteral("ABA"), QStringLiteral("IBADAN"), QStringLiteral("IBADAN NORTH")});
-    cboColor.addItems({QStringLiteral("RED"), QStringLiteral("GREEN")});
+    cboTown.addItems({"ABA", "IBADAN", "IBADAN NORTH"});
+    cboColor.addItems({"RED", "GREEN"});
     fraInner.holds({&radCash, &radBank});
     fraOuter.holds({&fraInner});
     radOne.setChecked(true);
     radCash.setChecked(true);
     for (const char* item : {"ONE", "TWO", "THREE"})
         lstItems.addItem(QString::fromLatin1(item));
-    tree.addNode({QStringLiteral("root"), QStringLiteral("Root"), {}, true});
-    tree.addNode({QStringLiteral("leaf"), QStringLiteral("Leaf"), QStringLiteral("root"), false});
-    grdEntry.setHead(QStringLiteral("----Item----|--Price--"));
-    status.setPanel(1, QStringLiteral("ready"));
+    tree.addNode({"root", "Root", {}, true});
+    tree.addNode({"leaf", "Leaf", "root", false});
+    grdEntry.setHead("----Item----|--Price--");
+    status.setPanel(1, "ready");
     mnuHidden.setVisible(false);
     for (Control* control : controls())
         noteEvents(*control);
@@ -51,14 +51,14 @@ void SampleForm::noteEvents(Control& control) {
 
 Layout SampleForm::layout() const {
     using namespace layout;
-    return column({cell(lblTitle),
-                   row({field(QStringLiteral("Name"), txtName), field(QStringLiteral("Code"), txtCode),
-                        field(QStringLiteral("Town"), cboTown), field(QStringLiteral("Color"), cboColor)}),
-                   row({cell(chkCard), cell(radOne), cell(radTwo), field(QStringLiteral("Date"), dtDate)}),
-                   group(QStringLiteral("Payment"), {cell(radCash), cell(radBank)}, &fraInner),
-                   tabs(strip, {layout::page(QStringLiteral("Rows"), {growing(cell(grdRows))}),
-                                layout::page(QStringLiteral("Entries"), {growing(cell(grdEntry))})}),
-                   buttons({}, {&cmdClose, &cmdSave})});
+    return column(
+        {cell(lblTitle),
+         row({field("Name", txtName), field("Code", txtCode), field("Town", cboTown), field("Color", cboColor)}),
+         row({cell(chkCard), cell(radOne), cell(radTwo), field("Date", dtDate)}),
+         group("Payment", {cell(radCash), cell(radBank)}, &fraInner),
+         tabs(strip,
+              {layout::page("Rows", {growing(cell(grdRows))}), layout::page("Entries", {growing(cell(grdEntry))})}),
+         buttons({}, {&cmdClose, &cmdSave})});
 }
 
 bool SampleForm::Form_Unload() {

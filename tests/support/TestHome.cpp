@@ -1,7 +1,7 @@
 #include "support/TestHome.h"
 
-#include "data/Recordset.h"
-#include "data/Schema.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/Schema.h"
 
 #include <QCoreApplication>
 #include <QSqlDatabase>
@@ -14,66 +14,60 @@ namespace orvane {
 
 namespace {
 
-const QString kServer = QStringLiteral("SERVER");
+const QString kServer = "SERVER";
 
 void writeFile(const QString& path, const QString& text) {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0)
         throw std::runtime_error("cannot write " + path.toStdString());
-    }
 }
 
 QString clusterValue(const QString& key) {
-    for (const QString& part : qEnvironmentVariable("ORVANE_TEST_PG").split(u' ', Qt::SkipEmptyParts)) {
-        if (part.section(u'=', 0, 0) == key) {
+    for (const QString& part : qEnvironmentVariable("ORVANE_TEST_PG").split(u' ', Qt::SkipEmptyParts))
+        if (part.section(u'=', 0, 0) == key)
             return part.section(u'=', 1);
-        }
-    }
     return {};
 }
 
 QString iniText(Engine engine, const QString& prefix) {
-    if (engine == Engine::Sqlite) {
+    if (engine == Engine::Sqlite)
         return QStringLiteral("[server %1]\nengine = sqlite\nfolder = data\n").arg(kServer);
-    }
     return QStringLiteral("[server %1]\nengine = postgresql\nhost = %2\nport = %3\nprefix = %4\n")
-        .arg(kServer, clusterValue(QStringLiteral("host")), clusterValue(QStringLiteral("port")), prefix);
+        .arg(kServer, clusterValue("host"), clusterValue("port"), prefix);
 }
 
 void writeHome(const QString& folder, Engine engine, const QString& prefix) {
-    writeFile(folder + QStringLiteral("/made.sys"), QStringLiteral("SVR=%1\nHNO=001\n").arg(kServer));
-    writeFile(folder + QStringLiteral("/sysdoc.sys"), QStringLiteral("amina.b\n"));
-    writeFile(folder + QStringLiteral("/orvane.ini"), iniText(engine, prefix));
+    writeFile(folder + "/made.sys", QStringLiteral("SVR=%1\nHNO=001\n").arg(kServer));
+    writeFile(folder + "/sysdoc.sys", "amina.b\n");
+    writeFile(folder + "/orvane.ini", iniText(engine, prefix));
 }
 
 /// Runs statements on a database of the cluster, by default the one for maintenance.
-void onCluster(const QStringList& statements, const QString& onDatabase = QStringLiteral("postgres")) {
-    const QString name = QStringLiteral("tests-maintenance");
+void onCluster(const QStringList& statements, const QString& onDatabase = "postgres") {
+    const QString name = "tests-maintenance";
     {
-        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), name);
-        database.setHostName(clusterValue(QStringLiteral("host")));
-        database.setPort(clusterValue(QStringLiteral("port")).toInt());
-        database.setUserName(QStringLiteral("zorva"));
+        QSqlDatabase database = QSqlDatabase::addDatabase("QPSQL", name);
+        database.setHostName(clusterValue("host"));
+        database.setPort(clusterValue("port").toInt());
+        database.setUserName("zorva");
         database.setDatabaseName(onDatabase);
-        if (!database.open()) {
+        if (!database.open())
             throw std::runtime_error(database.lastError().text().toStdString());
-        }
         for (const QString& statement : statements) {
             QSqlQuery query(database);
-            if (!query.exec(statement)) {
+            if (!query.exec(statement))
                 throw std::runtime_error(query.lastError().text().toStdString());
-            }
         }
     }
     QSqlDatabase::removeDatabase(name);
 }
 
 QStringList forBothDatabases(const QString& statement, const QString& prefix) {
-    return {statement.arg(prefix + QStringLiteral("dunmarch")), statement.arg(prefix + QStringLiteral("accounting"))};
+    return {statement.arg(prefix + "dunmarch"), statement.arg(prefix + "accounting")};
 }
 
 void dropDatabases(const QString& prefix) {
-    onCluster(forBothDatabases(QStringLiteral("drop database if exists \"%1\" with (force)"), prefix));
+    onCluster(forBothDatabases("drop database if exists \"%1\" with (force)", prefix));
 }
 
 /// Databases with the schema, made once a process and copied for each test.
@@ -86,9 +80,8 @@ public:
         createDatabases(source, TestHome::billing(), TestHome::accounting());
     }
     ~Original() {
-        if (m_engine == Engine::Postgresql) {
+        if (m_engine == Engine::Postgresql)
             dropDatabases(m_prefix);
-        }
     }
 
     QString folder() const { return m_folder.path(); }
@@ -110,12 +103,11 @@ const Original& original(Engine engine) {
 }
 
 void copyFiles(const QString& from, const QString& to) {
-    QDir().mkpath(to + QStringLiteral("/data"));
+    QDir().mkpath(to + "/data");
     for (const char* name : {"Dunmarch.db", "Accounting.db", "Audit.db"}) {
-        const QString file = QStringLiteral("/data/") + QLatin1StringView(name);
-        if (!QFile::copy(from + file, to + file)) {
+        const QString file = "/data/" + QLatin1StringView(name);
+        if (!QFile::copy(from + file, to + file))
             throw std::runtime_error("cannot copy " + file.toStdString());
-        }
     }
 }
 
@@ -137,9 +129,8 @@ QString connectionString(const char* database) {
 
 QList<Engine> testEngines() {
     QList<Engine> engines = {Engine::Sqlite};
-    if (qEnvironmentVariableIsSet("ORVANE_TEST_PG")) {
+    if (qEnvironmentVariableIsSet("ORVANE_TEST_PG"))
         engines += Engine::Postgresql;
-    }
     return engines;
 }
 
@@ -156,18 +147,16 @@ TestHome::TestHome(const TestHome& laid) : m_engine(laid.m_engine) {
 }
 
 void TestHome::copy(const QString& fromFolder, const QString& fromPrefix) {
-    if (m_engine == Engine::Sqlite) {
+    if (m_engine == Engine::Sqlite)
         copyFiles(fromFolder, folder());
-    } else {
+    else
         m_prefix = cloneDatabases(fromPrefix);
-    }
     writeHome(folder(), m_engine, m_prefix);
 }
 
 TestHome::~TestHome() {
-    if (m_engine == Engine::Postgresql) {
+    if (m_engine == Engine::Postgresql)
         dropDatabases(m_prefix);
-    }
 }
 
 void TestHome::onServer(const QString& database, const QStringList& statements) const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/Connection.h"
+#include "data/rows/Connection.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "support/TestUi.h"
 
-#include "data/Recordset.h"
+#include "data/rows/Recordset.h"
 #include "forms/Form.h"
 
 #include <gtest/gtest.h>

@@ -32,7 +32,7 @@ Workstation::Workstation(const QString& homeFolder) : program(homeFolder, ui) {
     registerScreens(program);
     program.data().setServerClock(ui.clock);
     if (!prepareServer(program))
-        fail(QStringLiteral("no made.sys in ") + homeFolder);
+        fail("no made.sys in " + homeFolder);
 }
 
 void Workstation::layHospital() {
@@ -50,7 +50,7 @@ void Workstation::close(const QString& name) {
 }
 
 void Workstation::menu(const QString& entry) {
-    driver().click(dynamic_cast<MenuItem&>(usable(QStringLiteral("MdiTolmek.") + entry)));
+    driver().click(dynamic_cast<MenuItem&>(usable("MdiTolmek." + entry)));
 }
 
 void Workstation::set(const QString& name, const QString& value) {
@@ -100,7 +100,7 @@ void Workstation::timer(const QString& name) {
 Form& Workstation::form(const QString& name) {
     Form* open = program.loadedForm(name);
     if (!open || !open->isLoaded())
-        fail(name + QStringLiteral(" is not open"));
+        fail(name + " is not open");
     return *open;
 }
 
@@ -108,7 +108,7 @@ Control& Workstation::control(const QString& name) {
     const qsizetype dot = name.indexOf(QLatin1Char('.'));
     Control* found = form(name.left(dot)).find(name.mid(dot + 1));
     if (!found)
-        fail(QStringLiteral("there is no control ") + name);
+        fail("there is no control " + name);
     return *found;
 }
 
@@ -139,7 +139,7 @@ QString Workstation::accountingScalar(const QString& tsql) {
 }
 
 int Workstation::tableCount(const QString& tableAndFilter) {
-    return scalar(QStringLiteral("select count(*) as n from ") + tableAndFilter).toInt();
+    return scalar("select count(*) as n from " + tableAndFilter).toInt();
 }
 
 SecondHome::SecondHome(const QString& firstFolder) {
@@ -147,7 +147,7 @@ SecondHome::SecondHome(const QString& firstFolder) {
         QFile source(firstFolder + QLatin1Char('/') + QLatin1String(name));
         QFile copy(folder() + QLatin1Char('/') + QLatin1String(name));
         if (!source.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly))
-            fail(QStringLiteral("cannot copy ") + source.fileName());
+            fail("cannot copy " + source.fileName());
         copy.write(source.readAll().replace("folder = data", "folder = " + firstFolder.toUtf8() + "/data"));
     }
 }

@@ -18,8 +18,8 @@ public:
     TestUi ui;
     Program program;
 
-    void layHospital();                                              ///< see Hospital.h
-    bool start(const QString& userName = QStringLiteral("amina.b")); ///< runs Main
+    void layHospital();                              ///< see Hospital.h
+    bool start(const QString& userName = "amina.b"); ///< runs Main
 
     void open(const QString& form) { program.open(form); }
     void close(const QString& form);

@@ -1,0 +1,119 @@
+#include "data/engine/Rights.h"
+
+#include "data/dialect/Catalog.h"
+
+#include <algorithm>
+#include <span>
+
+namespace orvane {
+
+namespace {
+
+struct TableRights {
+    const char* table;
+    const char* does; ///< beside select
+};
+
+// Each line is what the screens, the start, the stored procedures or the checks do to the table itself. A table that
+// only views read needs no right: a view reads with its owner's.
+constexpr TableRights billingTables[] = {
+    {"AccountMonth", ""},
+    {"AppDefaults", ""},
+    {"ApplicationUsers", "insert, update"},
+    {"appSettings", ""},
+    {"AuditTrail", "insert"},
+    {"BillAccum", "insert, update, delete"},
+    {"billDiscounts", "insert"},
+    {"Billing", "insert, update"},
+    {"BillingDetails", "insert, update, delete"},
+    {"BillingDetailsAdjust", "insert"},
+    {"billingPrice", ""},
+    {"clinicTypes", ""},
+    {"drugMaster", ""},
+    {"DrugNHIS", "update"},
+    {"drugs", "insert, update"},
+    {"drugsxxx", ""},
+    {"employees", ""},
+    {"hApprvCode", "insert, update, delete"},
+    {"hconsulting", ""},
+    {"hDebtReview", "insert"},
+    {"HospList", ""},
+    {"hPatients", "update"},
+    {"hPatientsPublic", ""},
+    {"hRecords", "insert, update, delete"},
+    {"hRecordsPublic", ""},
+    {"hreferal", "update"},
+    {"hRetainership", ""},
+    {"hRevenueType", ""},
+    {"hServiceNHIS", "update"},
+    {"hservices", ""},
+    {"IDgen", "update"},
+    {"LabServiceNHIS", "update"},
+    {"labservices", ""},
+    {"LagosBranches", ""},
+    {"LoginTrail", "insert"},
+    {"PaymentDetails", "insert"},
+    {"Payments", "insert"},
+    {"PaymentTypes", "insert"},
+    {"Roles", "insert, delete"},
+    {"TariffAdjust", "insert"},
+    {"Tranxaction", "insert"},
+    {"UserActivities", "insert, update"},
+    {"UserRoles", "insert"},
+    {"UsersForAccts", ""},
+};
+
+constexpr TableRights accountingTables[] = {
+    {"AccountMonth", ""},
+    {"Tranxaction", ""},
+    {"TranxactionTemp", ""},
+};
+
+/// Nothing: the program leaves the table alone. The checks read every table that holds an amount.
+std::optional<QString> rightsOn(const Table& table, bool billing) {
+    const std::span<const TableRights> all = billing ? std::span<const TableRights>(billingTables) : accountingTables;
+    for (const TableRights& rights : all) {
+        if (table.name == QLatin1StringView(rights.table)) {
+            const QString does = QLatin1StringView(rights.does);
+            return does.isEmpty() ? "select" : "select, " + does;
+        }
+    }
+    const bool hasAmount = std::any_of(table.columns.begin(), table.columns.end(),
+                                       [](const Column& column) { return column.kind == ColumnKind::Number; });
+    return hasAmount ? std::optional("select") : std::nullopt;
+}
+
+QString quotedLogin(QString login, Engine engine) {
+    return engine == Engine::SqlServer ? QStringLiteral("[%1]").arg(login.replace(u']', "]]"))
+                                       : QStringLiteral("\"%1\"").arg(login.replace(u'"', "\"\""));
+}
+
+} // namespace
+
+QStringList rightsStatements(Engine engine, const QString& database, const QString& login) {
+    const bool billing = database == "billing";
+    if (engine == Engine::Sqlite || (!billing && database != "accounting"))
+        return {};
+    const QString to = quotedLogin(login, engine);
+    QStringList statements = {"grant select on orvaneSchema to " + to};
+    QList<const Table*> tables = Catalog::instance().tables(database);
+    if (billing)
+        tables += Catalog::instance().tables("audit");
+    for (const Table* table : tables)
+        if (const std::optional<QString> rights = rightsOn(*table, billing))
+            statements += QStringLiteral("grant %1 on %2 to %3").arg(*rights, table->name, to);
+    for (const QString& view : Catalog::instance().views(database))
+        statements += QStringLiteral("grant select on %1 to %2").arg(view, to);
+    return statements;
+}
+
+QString rightsScript(Engine engine, const QString& database, const QString& login) {
+    const QStringList statements = rightsStatements(engine, database, login);
+    if (statements.isEmpty())
+        return {};
+    const QString end = engine == Engine::SqlServer ? "\ngo\n" : ";\n";
+    return "\n-- The least rights that the program's login needs; its user is made beforehand.\n" +
+           statements.join(end) + end;
+}
+
+} // namespace orvane

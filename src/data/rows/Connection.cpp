@@ -1,0 +1,139 @@
+#include "data/rows/Connection.h"
+
+#include "data/Assert.h"
+#include "data/engine/Physical.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/procedures/Procedures.h"
+
+namespace orvane {
+
+Connection::Connection(std::shared_ptr<PhysicalConnection> physical) : d(std::move(physical)) {}
+
+Connection::Connection(Connection&&) noexcept = default;
+
+Connection& Connection::operator=(Connection&& other) noexcept {
+    if (this != &other) {
+        giveBack();
+        d = std::move(other.d);
+    }
+    return *this;
+}
+
+Connection::~Connection() {
+    giveBack();
+}
+
+void Connection::giveBack() noexcept {
+    if (d) {
+        const std::shared_ptr<DataSource::Private> source = d->source;
+        source->giveBack(std::move(d));
+    }
+}
+
+Engine Connection::engine() const {
+    return d->engine;
+}
+
+bool Connection::inTransaction() const {
+    return d->inTransaction;
+}
+
+Connection Connection::beside(const QString& database) const {
+    return Connection(
+        d->source->take(database.isEmpty() ? d->connectionString : withDatabase(d->connectionString, database)));
+}
+
+void Connection::execute(const Sql& sql) {
+    d->change(sql.text());
+}
+
+Recordset Connection::call(const QString& procedure, const QVariantMap& parameters) {
+    const ProcedureEntry* entry = findProcedure(procedure);
+    if (!entry)
+        throw DataError(QStringLiteral("Could not find stored procedure '%1'.").arg(procedure));
+    const auto bare = [](QString name) { return name.remove(u'@').toLower(); };
+    QVariantMap byName;
+    for (auto parameter = parameters.begin(); parameter != parameters.end(); ++parameter)
+        byName.insert(bare(parameter.key()), parameter.value());
+    QVariantMap known;
+    for (const QString& name : entry->parameters) {
+        if (!byName.contains(bare(name))) {
+            throw DataError(
+                QStringLiteral("Procedure '%1' expects parameter '%2', which was not supplied.").arg(procedure, name));
+        }
+        known.insert(name, byName.take(bare(name)));
+    }
+    if (!byName.isEmpty())
+        throw DataError(QStringLiteral("%1 is not a parameter for procedure %2.").arg(byName.firstKey(), procedure));
+    return entry->body(*this, known);
+}
+
+Recordset Connection::run(const QString& tsql) {
+    Recordset rows;
+    rows.read(*this, tsql);
+    return rows;
+}
+
+void Connection::runNative(const QStringList& statements) {
+    d->sendNative(d->engine == Engine::SqlServer ? "begin transaction" : "begin");
+    try {
+        for (const QString& statement : statements)
+            d->sendNative(statement);
+        d->sendNative("commit");
+    } catch (...) {
+        QSqlQuery(d->database).exec("rollback");
+        throw;
+    }
+}
+
+DataSource::DataSource(QString homeFolder) : d(std::make_shared<Private>(homeFolder)) {}
+
+DataSource::~DataSource() = default;
+
+Connection DataSource::open(const QString& connectionString) {
+    return Connection(d->take(connectionString));
+}
+
+Connection DataSource::create(const QString& connectionString) {
+    return Connection(openPhysical(d, connectionString, true));
+}
+
+Engine DataSource::engineOf(const QString& connectionString) const {
+    return d->servers.entry(parseConnectionString(connectionString).server).engine;
+}
+
+void DataSource::setDisposable() {
+    d->disposable = true;
+}
+
+void DataSource::setServerClock(std::optional<QDateTime> at) {
+    d->setClock(std::move(at));
+}
+
+std::optional<QDateTime> DataSource::serverClock() const {
+    return d->clock();
+}
+
+int DataSource::openTransactions() const {
+    return d->openTransactions;
+}
+
+qint64 DataSource::statementsSent() const {
+    return d->statementsSent;
+}
+
+void DataSource::setWaits(int lockMilliseconds, int outcomePauseMilliseconds) {
+    d->lockWait = lockMilliseconds;
+    d->outcomePause = outcomePauseMilliseconds;
+    d->dropIdle();
+}
+
+void DataSource::setStatementHook(std::function<void(const QString&)> hook) {
+    d->setHook(std::move(hook));
+}
+
+QString DataSource::homeFolder() const {
+    return d->homeFolder;
+}
+
+} // namespace orvane

@@ -1,0 +1,57 @@
+#include "data/rows/RowReader.h"
+
+#include "data/engine/Physical.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr qsizetype mostRowsAPage = 5000; ///< what comes over the net at once
+
+} // namespace
+
+RowReader::RowReader(Connection connection, const QString& tsql) : m_connection(std::move(connection)) {
+    OpenQuery opened = m_connection.d->open(tsql);
+    m_query = std::move(opened.query);
+    m_facts = std::move(opened.facts);
+    m_columns = columnsOf(*m_query, m_connection.engine());
+}
+
+RowReader::~RowReader() {
+    end();
+}
+
+QStringList RowReader::heads() const {
+    return m_facts->heads(m_columns.names);
+}
+
+void RowReader::read(std::vector<QVariant>& values, qsizetype rows) {
+    try {
+        for (; rows > 0 && !atEnd(); rows -= mostRowsAPage)
+            readPage(values, std::min(rows, mostRowsAPage));
+    } catch (...) {
+        end();
+        throw;
+    }
+}
+
+void RowReader::readPage(std::vector<QVariant>& values, qsizetype rows) {
+    if (m_connection.engine() == Engine::Postgresql)
+        m_query = m_connection.d->fetch(rows);
+    QSqlError fault;
+    if (readValues(*m_query, m_columns, values, rows, fault) == rows)
+        return;
+    m_connection.d->requireAllRead(fault, m_query->lastQuery());
+    end();
+}
+
+void RowReader::end() noexcept {
+    if (atEnd())
+        return;
+    m_query.reset();
+    if (m_connection.engine() == Engine::Postgresql)
+        m_connection.d->closeCursor();
+    m_connection.giveBack();
+}
+
+} // namespace orvane

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "data/rows/Recordset.h"
+
+#include <QVariantMap>
+
+namespace orvane {
+
+/// SpAudiTrail: one row of AuditTrail over a connection of its own, so that it stays when the caller rolls back. The
+/// embedded engine keeps the trail in a file of its own: a second writer of one file would wait for the caller's
+/// transaction, which waits for it.
+Recordset storeAuditRow(Connection& connection, const QVariantMap& parameters);
+
+/// getIDNo: raises the counter DestName of IDgen by one and gives it in the column "getIDNo"; no row when there is no
+/// such counter.
+Recordset nextNumber(Connection& connection, const QVariantMap& parameters);
+
+/// updateRevType: gives the items of a visit and of its bill that bear no revenue type, or only "OTHERS", the type of
+/// the item master that knows the item: drugMaster, else labservices, else hservices. A processed bill stays as it is.
+Recordset fillRevenueTypes(Connection& connection, const QVariantMap& parameters);
+
+} // namespace orvane

@@ -1,0 +1,21 @@
+#include "data/rows/procedures/Procedures.h"
+
+#include "data/rows/procedures/Bodies.h"
+
+namespace orvane {
+
+const ProcedureEntry* findProcedure(const QString& name) {
+    static const QList<ProcedureEntry> entries = {
+        {"SpAudiTrail",
+         {"@userName", "@userAction", "@ActionDate", "@ActionTime", "@TranCode", "@Remarks", "@Src"},
+         storeAuditRow},
+        {"getIDNo", {"DestName"}, nextNumber},
+        {"updateRevType", {"@ConsultID"}, fillRevenueTypes},
+    };
+    for (const ProcedureEntry& entry : entries)
+        if (name.compare(QLatin1StringView(entry.name), Qt::CaseInsensitive) == 0)
+            return &entry;
+    return nullptr;
+}
+
+} // namespace orvane

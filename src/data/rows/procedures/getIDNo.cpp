@@ -1,0 +1,33 @@
+#include "data/rows/Transaction.h"
+#include "data/rows/procedures/Bodies.h"
+
+namespace orvane {
+
+namespace {
+
+Recordset raiseCounter(Connection& connection, const QString& counter) {
+    // The update comes first: its lock keeps every other caller out until this one has read and ended.
+    connection.execute(Sql("update IDgen set ID=ID+1 where DestName='") << counter << "'");
+    return Recordset(connection, Sql("select ID as getIDNo from IDgen where DestName='") << counter << "'");
+}
+
+} // namespace
+
+Recordset nextNumber(Connection& connection, const QVariantMap& parameters) {
+    const QString counter = parameters.value("DestName").toString();
+    if (connection.inTransaction())
+        return raiseCounter(connection, counter);
+    Transaction transaction(connection);
+    Recordset number = raiseCounter(connection, counter);
+    try {
+        transaction.commit();
+    } catch (const CommitUnknown& fault) {
+        // Nothing bears this number yet, so it does not matter whether the counter keeps the step.
+        throw DataError(QStringLiteral("The connection to the database server is lost. Nothing was saved. Please try "
+                                       "again."),
+                        fault.statement());
+    }
+    return number;
+}
+
+} // namespace orvane
