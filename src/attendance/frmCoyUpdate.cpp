@@ -62,10 +62,9 @@ void frmCoyUpdate::OkButton_Click() {
         tellProcessed();
         return;
     }
-    program.writeAuditTrail(session.gUsername, "Update Patients' Company Profile", txtBill.text(),
-                            "UpDate Patient Company Profile: " + session.sBillCoy + " Now: " + m_clientName + "/" +
-                                cboClient.text(),
-                            session.sComputerName);
+    program.writeAuditTrail(
+        {"Update Patients' Company Profile", txtBill.text(),
+         "UpDate Patient Company Profile: " + session.sBillCoy + " Now: " + m_clientName + "/" + cboClient.text()});
     unload();
 }
 

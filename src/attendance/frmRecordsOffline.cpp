@@ -82,7 +82,9 @@ void frmRecordsOffline::cmdOK_Click() {
     grdData.hide({"expired"});
     lblFound.setText(found.eof() ? "***" : found.has(manyFound) ? "200+" : QString::number(found.count()));
     cboVehNo.clear();
-    cboVehNo.fill(found, [](const Recordset& row) { return row.text("fullName") + " [" + row.text("PNo") + "]"; });
+    cboVehNo.fill(found, [](const Recordset& row) {
+        return ComboBox::Entry{row.text("fullName") + " [" + row.text("PNo") + "]"};
+    });
 }
 
 void frmRecordsOffline::cmdRefresh_Click() {

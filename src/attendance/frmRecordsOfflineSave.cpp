@@ -25,12 +25,12 @@ void frmRecordsOffline::afterSave(const QString& message) {
 }
 
 bool frmRecordsOffline::isComplete() {
-    struct Check {
+    struct FieldCheck {
         bool missing;
         const char* message;
         Control& control;
     };
-    const Check checks[] = {
+    const FieldCheck checks[] = {
         {lblBill.text().trimmed().isEmpty(),
          " Consultation ID is needed for this Patient, select Patient Name OR see the Administrator", cmdAdd},
         {dtDate.isEmpty(), " please specify Attendance date", dtDate},
@@ -43,7 +43,7 @@ bool frmRecordsOffline::isComplete() {
         {cboBilling.text().isEmpty(), "please specify Patient Billing Category", cboBilling},
         {bCardExpired, "Patient's Card has Expired", cboVehNo},
     };
-    for (const Check& check : checks) {
+    for (const FieldCheck& check : checks) {
         if (!check.missing)
             continue;
         program.box(check.message);

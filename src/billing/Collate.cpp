@@ -71,8 +71,8 @@ void billItem(Program& program, Connection& connection, const BillInHand& bill, 
     if (!isCarriedBalance(item.name))
         postPatientTran(program, connection, program.session.gServerDate, bill.pno, bill.consultID, -item.subTotal,
                         item.billTo, item.name);
-    program.writeAuditTrail(program.session.gUsername, "insert Bill Item for " + bill.patient, bill.consultID,
-                            item.name + ": " + formatTwoDecimals(item.subTotal), program.session.sComputerName);
+    program.writeAuditTrail(
+        {"insert Bill Item for " + bill.patient, bill.consultID, item.name + ": " + formatTwoDecimals(item.subTotal)});
 }
 
 void markBilled(Connection& connection, const BillInHand& bill, const Item& item) {

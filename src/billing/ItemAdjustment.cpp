@@ -22,10 +22,9 @@ void traceAdjustment(Program& program, Connection& connection, const ItemChange&
 
 void auditAdjustment(Program& program, const ItemChange& change, const QString& heading) {
     program.writeAuditTrail(
-        program.session.gUsername, heading + change.oldItem + " : => " + change.newItem, change.billNo,
-        " Qty from: " + QString::number(change.oldQty) + " : => " + QString::number(change.newQty) +
-            " price from: " + formatNumber(change.oldPrice, "0.00") + " : => " + formatNumber(change.newPrice, "0.00"),
-        program.session.sComputerName);
+        {heading + change.oldItem + " : => " + change.newItem, change.billNo,
+         " Qty from: " + QString::number(change.oldQty) + " : => " + QString::number(change.newQty) + " price from: " +
+             formatNumber(change.oldPrice, "0.00") + " : => " + formatNumber(change.newPrice, "0.00")});
 }
 
 void reviewCarriedBalance(Connection& connection, const QString& billNo, const QString& pno, QDate date, double debt) {

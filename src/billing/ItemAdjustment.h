@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/words/Money.h"
-#include "session/Program.h"
+#include "session/Screen.h"
 
 namespace orvane {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "billing/TariffEntry.h"
-#include "session/Program.h"
+#include "session/Screen.h"
 
 namespace orvane {
 

@@ -87,14 +87,14 @@ void ItemCapture::rememberChoice() {
 }
 
 bool ItemCapture::isLineComplete() {
-    struct Check {
+    struct FieldCheck {
         bool failed;
         const char* message;
         Control* control;
     };
     const bool needsRevenueType = cboRev && (cboRev->text() == "OTHERS" || cboRev->text().isEmpty());
     const bool lacksQuantity = numberIn(txtQty.text()) == 0;
-    const Check checks[] = {
+    const FieldCheck checks[] = {
         {cboDrug.text().isEmpty() || cboDrug.text() == " ", "Please specify a Drug/Service No ", &cboDrug},
         {cboFFS2.text().isEmpty(), "Please specify whether Item is Capitated or Not", &cboFFS2},
         {needsRevenueType, "Please specify Revenue Type! Others Not Allowed", cboRev ? &*cboRev : nullptr},
@@ -103,7 +103,7 @@ bool ItemCapture::isLineComplete() {
         {cboDrug.text().trimmed().isEmpty(), "Please specify Drug/Service used ", &cboDrug},
         {cboCat.text() == "DRUG" && lacksQuantity, "Please specify Quantity of Drug prescribed", &txtQty},
     };
-    for (const Check& check : checks) {
+    for (const FieldCheck& check : checks) {
         if (!check.failed)
             continue;
         program.box(check.message);

@@ -90,8 +90,8 @@ double ItemCapture::amountIn(int row, Column column) const {
 }
 
 void ItemCapture::audit(const QString& action, int row) {
-    program.writeAuditTrail(session.gUsername, action + session.sAuditCoy, lblBill.text(),
-                            cellText(row, Item) + ": " + cellText(row, SubTotal), name());
+    program.writeAuditTrail(
+        {action + session.sAuditCoy, lblBill.text(), cellText(row, Item) + ": " + cellText(row, SubTotal), name()});
 }
 
 void ItemCapture::refreshBill(Connection& connection) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "billing/ItemAdjustment.h"
+#include "session/Screen.h"
 
 namespace orvane {
 

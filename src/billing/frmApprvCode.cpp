@@ -106,8 +106,7 @@ void frmApprvCode::OKButton_Click() {
     }
     save();
     program.box("Record Succesfully saved");
-    program.writeAuditTrail(session.gUsername, "Add Apprv Code for " + m_patient, m_consultID, txtApprv.text(),
-                            session.sComputerName);
+    program.writeAuditTrail({"Add Apprv Code for " + m_patient, m_consultID, txtApprv.text()});
     fillGrid();
     clearCode();
 }

@@ -1,7 +1,7 @@
 #include "billing/frmBillingVerify.h"
 
+#include "books/Words.h"
 #include "data/words/Money.h"
-#include "session/Words.h"
 
 namespace orvane {
 

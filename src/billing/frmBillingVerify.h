@@ -2,7 +2,7 @@
 
 #include "billing/Collate.h"
 #include "receipts/ReceiptRows.h"
-#include "session/Program.h"
+#include "session/Screen.h"
 
 #include <array>
 
@@ -79,7 +79,7 @@ private:
     bool isBillOpen();
     bool areDatesGiven();
     void confirmProfFee();
-    QString writeBill(const Receipt* receipt);
+    QString writeBill(const ReceiptEntry* receipt);
     void afterSave(const QString& receiptNo);
     void saveVisit(Connection& connection);
     void saveBillRow(Connection& connection);
@@ -99,8 +99,8 @@ private:
     bool isReceiptComplete();
     bool refuseReceipt(const QString& text, Control& control, const QString& title = {});
     void genIDNo();
-    Receipt receiptOnScreen() const;
-    void saveReceipt(Connection& connection, const Receipt& receipt);
+    ReceiptEntry receiptOnScreen() const;
+    void saveReceipt(Connection& connection, const ReceiptEntry& receipt);
 
     // Further actions (frmBillingVerifyActions.cpp).
     bool hasPatient(const QString& refusal);

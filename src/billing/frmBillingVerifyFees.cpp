@@ -81,8 +81,8 @@ void frmBillingVerify::cmdBill_Click() {
     const QString text = "Prof Fee (" + percent + "%)";
     const auto steps = [&](Connection& connection) { addFeeItem(connection, text, fee, {}, false); };
     changeBill(cmdBill, steps, [=, this] {
-        program.writeAuditTrail(session.gUsername, "insert Prof Fee (" + percent + "%) for: " + m_bill.patient,
-                                m_bill.consultID, formatTwoDecimals(fee), session.sComputerName);
+        program.writeAuditTrail(
+            {"insert Prof Fee (" + percent + "%) for: " + m_bill.patient, m_bill.consultID, formatTwoDecimals(fee)});
         session.sAdjustItem = text;
         getAccumBill();
         program.box(percent + "% Prof fee of " + formatTwoDecimals(bill) +
@@ -117,9 +117,8 @@ void frmBillingVerify::cmdNHIS_Click() {
         return;
     const auto steps = [&](Connection& connection) { addServiceFee(connection, *text); };
     changeBill(cmdNHIS, steps, [this, percent, item = *text] {
-        program.writeAuditTrail(session.gUsername,
-                                "insert Service/NHIS  (" + percent + "%) fee for Drugs/Services for " + m_bill.patient,
-                                m_bill.consultID, item, session.sComputerName);
+        program.writeAuditTrail({"insert Service/NHIS  (" + percent + "%) fee for Drugs/Services for " + m_bill.patient,
+                                 m_bill.consultID, item});
         session.sAdjustItem = item;
         getAccumBill();
     });
@@ -208,10 +207,9 @@ void frmBillingVerify::capitateItem(Connection& connection, const Recordset& ite
     if (charge.amount != 0 && !isCarriedBalance(name))
         postPatientTran(program, connection, session.gServerDate, m_bill.pno, m_bill.consultID, charge.amount,
                         charge.clientCode, "Bill Item Capitated: " + name);
-    program.writeAuditTrail(session.gUsername, "Capitated  Bill Item for " + m_bill.patient, m_bill.consultID,
-                            "Item Capitated " + name + ": Qty:" + qty +
-                                " Amount: " + formatTwoDecimals(item.number("SubTotal")),
-                            session.sComputerName);
+    program.writeAuditTrail(
+        {"Capitated  Bill Item for " + m_bill.patient, m_bill.consultID,
+         "Item Capitated " + name + ": Qty:" + qty + " Amount: " + formatTwoDecimals(item.number("SubTotal"))});
 }
 
 } // namespace orvane

@@ -1,8 +1,8 @@
 #include "billing/frmBillingVerify.h"
 
+#include "books/Words.h"
 #include "data/words/Money.h"
 #include "receipts/PatientAccount.h"
-#include "session/Words.h"
 
 namespace orvane {
 
@@ -144,8 +144,8 @@ void frmBillingVerify::genIDNo() {
     lblRct.setText(session.gIDNo);
 }
 
-Receipt frmBillingVerify::receiptOnScreen() const {
-    Receipt receipt;
+ReceiptEntry frmBillingVerify::receiptOnScreen() const {
+    ReceiptEntry receipt;
     receipt.receiptDate = dtRctDate.date();
     receipt.receiptNo = lblRct.text();
     receipt.clinicID = m_receiptClinic;
@@ -164,7 +164,7 @@ Receipt frmBillingVerify::receiptOnScreen() const {
 }
 
 /// Everything that a receipt writes, inside the transaction of the save.
-void frmBillingVerify::saveReceipt(Connection& connection, const Receipt& receipt) {
+void frmBillingVerify::saveReceipt(Connection& connection, const ReceiptEntry& receipt) {
     session.dPostDate = today();
     addPayment(program, connection, receipt);
     connection.execute(Sql("update Billing set AmountPaid=isnull(AmountPaid,0)+")
@@ -176,10 +176,10 @@ void frmBillingVerify::saveReceipt(Connection& connection, const Receipt& receip
     distributePayment(program, connection, receipt);
     postPatientTran(program, connection, session.gServerDate, receipt.pno, receipt.billNo, receipt.amountPaid,
                     session.gBillTo, "Payment");
-    program.writeAuditTrail(session.gUsername, "insert Bill Summ for: " + cboVehNo.text(), receipt.billNo,
-                            formatTwoDecimals(receipt.amountBilled), session.sComputerName);
-    program.writeAuditTrail(session.gUsername, "insert Payment for: " + cboVehNo.text(), receipt.billNo,
-                            formatTwoDecimals(receipt.amountPaid), session.sComputerName);
+    program.writeAuditTrail(
+        {"insert Bill Summ for: " + cboVehNo.text(), receipt.billNo, formatTwoDecimals(receipt.amountBilled)});
+    program.writeAuditTrail(
+        {"insert Payment for: " + cboVehNo.text(), receipt.billNo, formatTwoDecimals(receipt.amountPaid)});
 }
 
 } // namespace orvane

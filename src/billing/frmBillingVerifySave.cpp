@@ -1,8 +1,8 @@
 #include "billing/BillDate.h"
 #include "billing/BillingRow.h"
 #include "billing/frmBillingVerify.h"
+#include "books/Words.h"
 #include "receipts/frmCashReceipt.h"
-#include "session/Words.h"
 
 #include <QLocale>
 
@@ -22,7 +22,7 @@ void frmBillingVerify::OKButton_Click() {
     if (!program.question("Are you sure to save?", "About to save"))
         return;
     session.dWorkDate = dtDate.date();
-    std::optional<Receipt> receipt;
+    std::optional<ReceiptEntry> receipt;
     if (chkRct.isChecked()) {
         genIDNo();
         if (lblRct.text().isEmpty()) {
@@ -105,7 +105,7 @@ void frmBillingVerify::confirmProfFee() {
 
 /// The bill, what it still lacks, its date and its receipt, all or nothing. Gives why nothing was saved; empty: all
 /// was. A batch may have taken the bill, or another user its visit, since it was loaded.
-QString frmBillingVerify::writeBill(const Receipt* receipt) {
+QString frmBillingVerify::writeBill(const ReceiptEntry* receipt) {
     Connection connection = program.openBilling();
     Transaction transaction(connection);
     if (isBillProcessed(connection, m_bill.consultID))
@@ -185,9 +185,8 @@ void frmBillingVerify::saveApprvCode() {
         }
         row.set("ApprvCode", code);
         row.update();
-        program.writeAuditTrail(session.gUsername,
-                                (isNew ? "insert Apprv Code for " : "Edit Apprv Code for ") + m_bill.patient,
-                                m_bill.consultID, code, session.sComputerName);
+        program.writeAuditTrail(
+            {(isNew ? "insert Apprv Code for " : "Edit Apprv Code for ") + m_bill.patient, m_bill.consultID, code});
     } catch (const DataError& fault) {
         program.box(fault.description());
     }

@@ -261,7 +261,7 @@ void frmPriceAdjustVerify::remove(Connection& connection) {
 }
 
 void frmPriceAdjustVerify::audit(const QString& action, const QString& detail) {
-    program.writeAuditTrail(session.gUsername, action, m_billNo, detail, session.sComputerName);
+    program.writeAuditTrail({action, m_billNo, detail});
 }
 
 } // namespace orvane

@@ -1,7 +1,7 @@
 #include "demo/BulkRows.h"
 
+#include "books/Words.h"
 #include "data/words/Money.h"
-#include "session/Words.h"
 
 #include <QLocale>
 

@@ -34,7 +34,9 @@ enum class ControlKind {
 };
 
 /// One named part of a form. It knows no widget: the desktop and the script player show and drive it.
-/// Its handlers are plain functions, set by the form; the user's and the code's actions raise them through Form::run,
+/// Its handlers are plain functions of the form; the one that a control is there for is given where it is declared:
+///     Button cmdAdd{*this, "cmdAdd", "&Add", &frmReceiptTemp::cmdAdd_Click}; the user's and the code's actions raise
+///     them through Form::run,
 /// where a fault of the database is caught and shown once.
 class Control : public QObject {
     Q_OBJECT
@@ -97,6 +99,12 @@ Q_SIGNALS:
     void focusWanted();
 
 protected:
+    /// A function of the form, as the declaration of a control names it.
+    template <typename FormClass, typename Class, typename Result>
+    static Handler handlerOf(FormClass& form, Result (Class::*handler)()) {
+        return [&form, handler] { (form.*handler)(); };
+    }
+
     void raise(const Handler& handler); ///< runs it at the form's edge, where faults are caught
     void touch();                       ///< something shown has changed
     void touchContent();                ///< as touch, for entries, nodes, rows and columns

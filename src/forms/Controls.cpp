@@ -54,9 +54,9 @@ void ComboBox::addItems(const QStringList& texts) {
     touchContent();
 }
 
-void ComboBox::fill(const Recordset& rows, const std::function<QString(const Recordset&)>& entry) {
+void ComboBox::fill(const Recordset& rows, const std::function<Entry(const Recordset&)>& entry) {
     m_feed.readAll();
-    m_feed = RowFeed(rows, [this, entry](const Recordset& row) { m_items.append({entry(row), {}}); });
+    m_feed = RowFeed(rows, [this, entry](const Recordset& row) { m_items.append(entry(row)); });
     m_feed.read(firstPage);
     touchContent();
 }
@@ -69,7 +69,7 @@ int ComboBox::count() const {
 QStringList ComboBox::items() const {
     m_feed.readAll();
     QStringList texts;
-    for (const Item& item : m_items)
+    for (const Entry& item : m_items)
         texts << item.text;
     return texts;
 }
@@ -88,7 +88,7 @@ void ComboBox::setText(const QString& text) {
     if (m_index >= 0 && value.compare(m_text, Qt::CaseInsensitive) == 0)
         return;
     m_feed.readAll();
-    const auto found = std::find_if(m_items.cbegin(), m_items.cend(), [&](const Item& item) {
+    const auto found = std::find_if(m_items.cbegin(), m_items.cend(), [&](const Entry& item) {
         return item.text.compare(value, Qt::CaseInsensitive) == 0;
     });
     if (found != m_items.cend()) {

@@ -14,6 +14,11 @@ public:
     Label(Form& form, const QString& name, const QString& caption = {}) : Control(form, ControlKind::Label, name) {
         setCaption(caption);
     }
+    template <typename FormClass, typename Class, typename Result>
+    Label(FormClass& form, const QString& name, const QString& caption, Result (Class::*handler)())
+        : Label(form, name, caption) {
+        onChange = handlerOf(form, handler);
+    }
     Handler onChange; ///< raised when code changes the caption, where a screen asks for it
     void setText(const QString& text);
     const QString& text() const { return caption(); }
@@ -23,6 +28,10 @@ public:
 class TextBox : public Control {
 public:
     TextBox(Form& form, const QString& name) : Control(form, ControlKind::TextBox, name) {}
+    template <typename FormClass, typename Class, typename Result>
+    TextBox(FormClass& form, const QString& name, Result (Class::*handler)()) : TextBox(form, name) {
+        onChange = handlerOf(form, handler);
+    }
     const QString& text() const { return m_text; }
     /// Raises onChange when the text differs, whoever sets it.
     void setText(const QString& text);
@@ -69,12 +78,22 @@ public:
     enum Style { FreeText, ListOnly };
     ComboBox(Form& form, const QString& name, Style style = FreeText)
         : Control(form, ControlKind::ComboBox, name), m_style(style) {}
+    template <typename FormClass, typename Class, typename Result>
+    ComboBox(FormClass& form, const QString& name, Style style, Result (Class::*handler)())
+        : ComboBox(form, name, style) {
+        onClick = handlerOf(form, handler);
+    }
     Style style() const { return m_style; }
     void clear(); ///< no entries, no text, index -1; raises nothing
     void addItem(const QString& text, const QVariant& data = {});
     void addItems(const QStringList& texts);
+    /// An entry's text and what it stands for.
+    struct Entry {
+        QString text;
+        QVariant data = {};
+    };
     /// Adds an entry for each row, made when it is first asked for.
-    void fill(const Recordset& rows, const std::function<QString(const Recordset&)>& entry);
+    void fill(const Recordset& rows, const std::function<Entry(const Recordset&)>& entry);
     bool hasMore() const override { return m_feed.hasMore(); }
     void readMore(int rows) override { m_feed.read(rows); }
     int entriesRead() const { return int(m_items.size()); }
@@ -83,7 +102,14 @@ public:
     QVariant itemData(int index) const { return m_items.at(index).data; }
     QStringList items() const;
     int listIndex() const { return m_index; } ///< -1: the text is not taken from the list
-    void setListIndex(int index);             ///< -1 clears the text; any index raises onClick
+    /// What the picked entry stands for: the data that it was added with, never its text. Nothing where no entry is
+    /// picked, or one without such data, as the blank one.
+    template <typename T>
+    std::optional<T> picked() const {
+        const QVariant data = m_index < 0 ? QVariant() : m_items.at(m_index).data;
+        return data.canConvert<T>() ? std::optional<T>(data.value<T>()) : std::nullopt;
+    }
+    void setListIndex(int index); ///< -1 clears the text; any index raises onClick
     const QString& text() const { return m_text; }
     /// The text of an entry (without regard to case) takes that entry's index and raises onClick; a free text sets
     /// index -1 and raises onChange.
@@ -100,11 +126,7 @@ public:
     Handler onChange; ///< the text was typed (not picked)
 
 private:
-    struct Item {
-        QString text;
-        QVariant data;
-    };
-    QVector<Item> m_items;
+    QVector<Entry> m_items;
     mutable RowFeed m_feed;
     QString m_text;
     int m_index = -1;
@@ -117,6 +139,11 @@ class CheckBox : public Control {
 public:
     CheckBox(Form& form, const QString& name, const QString& caption) : Control(form, ControlKind::CheckBox, name) {
         setCaption(caption);
+    }
+    template <typename FormClass, typename Class, typename Result>
+    CheckBox(FormClass& form, const QString& name, const QString& caption, Result (Class::*handler)())
+        : CheckBox(form, name, caption) {
+        onClick = handlerOf(form, handler);
     }
     bool isChecked() const { return m_checked; }
     void setChecked(bool checked);
@@ -133,6 +160,11 @@ public:
         : Control(form, ControlKind::OptionButton, name) {
         setCaption(caption);
     }
+    template <typename FormClass, typename Class, typename Result>
+    OptionButton(FormClass& form, const QString& name, const QString& caption, Result (Class::*handler)())
+        : OptionButton(form, name, caption) {
+        onClick = handlerOf(form, handler);
+    }
     bool isChecked() const { return m_checked; }
     void setChecked(bool checked);
     QString valueText() const override { return m_checked ? "yes" : "no"; }
@@ -145,6 +177,10 @@ private:
 class ListBox : public Control {
 public:
     ListBox(Form& form, const QString& name) : Control(form, ControlKind::ListBox, name) {}
+    template <typename FormClass, typename Class, typename Result>
+    ListBox(FormClass& form, const QString& name, Result (Class::*handler)()) : ListBox(form, name) {
+        onClick = handlerOf(form, handler);
+    }
     void clear();
     void addItem(const QString& text, const QVariant& data = {});
     int count() const { return int(m_items.size()); }
@@ -167,6 +203,10 @@ private:
 class DatePicker : public Control {
 public:
     DatePicker(Form& form, const QString& name) : Control(form, ControlKind::DatePicker, name) {}
+    template <typename FormClass, typename Class, typename Result>
+    DatePicker(FormClass& form, const QString& name, Result (Class::*handler)()) : DatePicker(form, name) {
+        onChange = handlerOf(form, handler);
+    }
     QDate date() const { return m_date; }
     void setDate(QDate date); ///< raises onChange when it differs
     void clear() { setDate({}); }
@@ -187,6 +227,11 @@ public:
     Button(Form& form, const QString& name, const QString& caption) : Control(form, ControlKind::Button, name) {
         setCaption(caption);
     }
+    template <typename FormClass, typename Class, typename Result>
+    Button(FormClass& form, const QString& name, const QString& caption, Result (Class::*handler)())
+        : Button(form, name, caption) {
+        onClick = handlerOf(form, handler);
+    }
 };
 
 /// A box around controls; its enabled and visible flags reach them. Controls join by Frame::holds.
@@ -202,6 +247,10 @@ public:
 class TabStrip : public Control {
 public:
     TabStrip(Form& form, const QString& name) : Control(form, ControlKind::TabStrip, name) {}
+    template <typename FormClass, typename Class, typename Result>
+    TabStrip(FormClass& form, const QString& name, Result (Class::*handler)()) : TabStrip(form, name) {
+        onClick = handlerOf(form, handler);
+    }
     int tab() const { return m_tab; }
     void setTab(int tab);
     QString valueText() const override { return QString::number(m_tab); }
@@ -220,6 +269,10 @@ public:
         bool expanded = false;
     };
     Tree(Form& form, const QString& name) : Control(form, ControlKind::Tree, name) {}
+    template <typename FormClass, typename Class, typename Result>
+    Tree(FormClass& form, const QString& name, Result (Class::*handler)()) : Tree(form, name) {
+        onClick = handlerOf(form, handler);
+    }
     void clear();
     void addNode(const Node& node);
     /// Adds a node for each row, made when it is first asked for.
@@ -282,6 +335,11 @@ public:
     Timer(Form& form, const QString& name, int milliseconds, bool startEnabled)
         : Control(form, ControlKind::Timer, name), m_interval(milliseconds) {
         setEnabled(startEnabled);
+    }
+    template <typename FormClass, typename Class, typename Result>
+    Timer(FormClass& form, const QString& name, int milliseconds, bool startEnabled, Result (Class::*handler)())
+        : Timer(form, name, milliseconds, startEnabled) {
+        onTimer = handlerOf(form, handler);
     }
     int interval() const { return m_interval; }
     void tick(); ///< does nothing while disabled

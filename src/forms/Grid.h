@@ -9,6 +9,10 @@ namespace orvane {
 class Grid : public Control {
 public:
     Grid(Form& form, const QString& name) : Control(form, ControlKind::Grid, name) {}
+    template <typename FormClass, typename Class, typename Result>
+    Grid(FormClass& form, const QString& name, Result (Class::*handler)()) : Grid(form, name) {
+        onDblClick = handlerOf(form, handler);
+    }
 
     /// Takes all rows and columns; hidden columns and formats that were set before by name go on to hold. The current
     /// row becomes the first, or -1.
@@ -60,6 +64,10 @@ private:
 class EntryGrid : public Control {
 public:
     EntryGrid(Form& form, const QString& name) : Control(form, ControlKind::EntryGrid, name) {}
+    template <typename FormClass, typename Class, typename Result>
+    EntryGrid(FormClass& form, const QString& name, Result (Class::*handler)()) : EntryGrid(form, name) {
+        onDblClick = handlerOf(form, handler);
+    }
     void setHead(const QString& head); ///< "----Item----|---Price---|...": one column each, dashes are padding only
     int columns() const { return int(m_heads.size()); }
     const QString& head(int column) const { return m_heads.at(column); } ///< without its dashes

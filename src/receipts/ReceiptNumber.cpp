@@ -40,8 +40,8 @@ qlonglong lastOfCode(Connection& connection, const QString& code, const QString&
                                       << code << " ')");
 }
 
-ReceiptNumber codedNumber(Program& program, Connection& connection, const CodedForm& form, const QString& consultID) {
-    ReceiptNumber receipt;
+FormedNumber codedNumber(Program& program, Connection& connection, const CodedForm& form, const QString& consultID) {
+    FormedNumber receipt;
     const Recordset visit(connection, Sql(form.lookup) << consultID << "'");
     const QString code = visit.eof() ? QString() : visit.text(QLatin1String(form.codeColumn));
     if (code.isEmpty()) {
@@ -56,8 +56,8 @@ ReceiptNumber codedNumber(Program& program, Connection& connection, const CodedF
     return receipt;
 }
 
-ReceiptNumber generatedNumber(Program& program, Connection& connection) {
-    ReceiptNumber receipt;
+FormedNumber generatedNumber(Program& program, Connection& connection) {
+    FormedNumber receipt;
     program.session.gIDNo.clear();
     program.fetchIDNo(connection, "RECEIPT2");
     receipt.number = program.session.gIDNo;
@@ -68,18 +68,13 @@ ReceiptNumber generatedNumber(Program& program, Connection& connection) {
 
 } // namespace
 
-QString nextDigits(qlonglong last, int width) {
-    const QString digits = QString::number(std::max<qlonglong>(last, 0) + 1);
-    return (QString(width, '0') + digits).right(width);
-}
-
-ReceiptNumber formReceiptNumber(Program& program, Connection& connection, ReceiptForm form, const QString& key) {
+FormedNumber formReceiptNumber(Program& program, Connection& connection, ReceiptForm form, const QString& key) {
     for (const CodedForm& coded : codedForms)
         if (coded.form == form)
             return codedNumber(program, connection, coded, key);
     if (form == ReceiptForm::Generated)
         return generatedNumber(program, connection);
-    ReceiptNumber receipt;
+    FormedNumber receipt;
     receipt.number =
         form == ReceiptForm::Paper
             ? "SN" + key.trimmed()

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "session/Program.h"
+#include "books/ReceiptNumber.h"
+#include "session/Screen.h"
 
 namespace orvane {
 
@@ -13,7 +14,7 @@ enum class ReceiptForm {
     Counter      ///< the next value of the counter "Receipt" of IDgen; storeReceiptCounter writes it back
 };
 
-struct ReceiptNumber {
+struct FormedNumber {
     QString number;     ///< empty: none could be formed, and `refusal` says why
     QString refusal;    ///< the message for the user
     QString clinicType; ///< coded forms: the clinic or outlet of the visit
@@ -22,13 +23,9 @@ struct ReceiptNumber {
 
 /// Forms the next number. Whoever saves under it does so in the transaction of `connection`, whose gate keeps two
 /// cashiers from forming the same one. Raises DataError.
-ReceiptNumber formReceiptNumber(Program& program, Connection& connection, ReceiptForm form, const QString& key = {});
+FormedNumber formReceiptNumber(Program& program, Connection& connection, ReceiptForm form, const QString& key = {});
 
 /// Writes the number of the form Counter back to IDgen. Raises DataError.
 void storeReceiptCounter(Connection& connection, const QString& number);
-
-/// The last `width` digits of the number behind `last`, zero-padded; null or below 1 counts as 0. High digits beyond
-/// the width are lost.
-QString nextDigits(qlonglong last, int width);
 
 } // namespace orvane

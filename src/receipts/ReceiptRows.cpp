@@ -17,7 +17,7 @@ struct Share {
     double paid = 0, toPay = 0; ///< naira
 };
 
-void addShare(Connection& connection, const Receipt& receipt, const Share& share) {
+void addShare(Connection& connection, const ReceiptEntry& receipt, const Share& share) {
     Recordset row(connection, Sql("select * from PaymentDetails where 1=2"));
     row.addNew();
     row.set("snoID", share.sno);
@@ -35,7 +35,7 @@ void addShare(Connection& connection, const Receipt& receipt, const Share& share
 }
 
 /// Money that no line takes goes to the suspense account.
-void addSummaryShare(Program& program, Connection& connection, const Receipt& receipt, const QString& item,
+void addSummaryShare(Program& program, Connection& connection, const ReceiptEntry& receipt, const QString& item,
                      double amount) {
     const Session& session = program.session;
     Share share;
@@ -48,7 +48,7 @@ void addSummaryShare(Program& program, Connection& connection, const Receipt& re
 
 } // namespace
 
-void addPayment(Program& program, Connection& connection, const Receipt& receipt) {
+void addPayment(Program& program, Connection& connection, const ReceiptEntry& receipt) {
     Recordset row(connection, Sql("select * from Payments where 1=2"));
     row.addNew();
     row.set("ReceiptDate", receipt.receiptDate);
@@ -69,7 +69,7 @@ void addPayment(Program& program, Connection& connection, const Receipt& receipt
     row.update();
 }
 
-void addPaymentTypes(Connection& connection, const Receipt& receipt, const QVector<PaymentWay>& ways) {
+void addPaymentTypes(Connection& connection, const ReceiptEntry& receipt, const QVector<PaymentWay>& ways) {
     Recordset row(connection, Sql("select * from PaymentTypes where 1=2"));
     for (const PaymentWay& way : ways) {
         if (way.amount <= 0)
@@ -85,7 +85,7 @@ void addPaymentTypes(Connection& connection, const Receipt& receipt, const QVect
     }
 }
 
-void distributePayment(Program& program, Connection& connection, const Receipt& receipt) {
+void distributePayment(Program& program, Connection& connection, const ReceiptEntry& receipt) {
     Recordset lines(
         connection,
         Sql("select SNo,billDate,BillItem,subtotal ,revtype,AccountNo from vwRctForAcctDetails where billno='")
@@ -119,10 +119,6 @@ void distributePayment(Program& program, Connection& connection, const Receipt& 
             return;
     }
     addSummaryShare(program, connection, receipt, "BALANCE_PAYMENT", left);
-}
-
-int isPaidFlag(double paid, double billed) {
-    return round2(paid) >= round2(billed) ? 1 : 0;
 }
 
 } // namespace orvane

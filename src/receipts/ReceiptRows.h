@@ -1,5 +1,6 @@
 #pragma once
 
+#include "books/Bill.h"
 #include "session/Program.h"
 
 namespace orvane {
@@ -12,7 +13,7 @@ struct PaymentWay {
 };
 
 /// One receipt as it is written to Payments.
-struct Receipt {
+struct ReceiptEntry {
     QDate receiptDate;
     QString receiptNo, clinicID, billNo, pno, paymentFor;
     double amountBilled = 0; ///< naira: what was due at the moment of the receipt, not the bill's total
@@ -25,17 +26,14 @@ struct Receipt {
 // All of these write on the caller's connection, inside the caller's transaction, and raise DataError.
 
 /// The row of Payments.
-void addPayment(Program& program, Connection& connection, const Receipt& receipt);
+void addPayment(Program& program, Connection& connection, const ReceiptEntry& receipt);
 
 /// One row of PaymentTypes for each way with an amount above zero.
-void addPaymentTypes(Connection& connection, const Receipt& receipt, const QVector<PaymentWay>& ways);
+void addPaymentTypes(Connection& connection, const ReceiptEntry& receipt, const QVector<PaymentWay>& ways);
 
 /// Spreads the receipt over the lines of its bill that no receipt covers yet, in their order, as rows of
 /// PaymentDetails, and marks the lines by their name as covered. A bill without such lines takes the whole as
 /// "DEPOSIT_PAYMENT"; what is left after the last line becomes "BALANCE_PAYMENT".
-void distributePayment(Program& program, Connection& connection, const Receipt& receipt);
-
-/// Billing.isPaid: 1 when what was paid covers what was billed, both in naira and compared to the kobo, else 0.
-int isPaidFlag(double paid, double billed);
+void distributePayment(Program& program, Connection& connection, const ReceiptEntry& receipt);
 
 } // namespace orvane

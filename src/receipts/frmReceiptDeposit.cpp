@@ -1,14 +1,12 @@
 #include "receipts/frmReceiptDeposit.h"
 
+#include "books/Bill.h"
+#include "books/Deposit.h"
 #include "data/words/Money.h"
 #include "receipts/AmountInWords.h"
-#include "receipts/ListEntry.h"
-#include "receipts/PatientAccount.h"
-#include "receipts/ReceiptRows.h"
 #include "receipts/VisitFacts.h"
 #include "receipts/frmCashReceipt.h"
-
-#include <QLocale>
+#include "session/ListedVisit.h"
 
 namespace orvane {
 
@@ -17,22 +15,11 @@ frmReceiptDeposit::frmReceiptDeposit(Program& owner) : Screen(owner, "frmReceipt
         box->numeric();
     txtDuty.setLocked(true);
     txtDuty.multiline();
-    cmdInv.onClick = [this] { cmdInv_Click(); };
-    cmdAdd.onClick = [this] { cmdAdd_Click(); };
-    cmdCancel.onClick = [this] { cmdCancel_Click(); };
-    cmdPrint.onClick = [this] { cmdInv_Click(); };
-    cboVehNo.onClick = [this] { cboVehNo_Click(); };
-    cboClinic.onClick = [this] { cboClinic_Click(); };
-    txtHt.onChange = [this] { showAmountInWords(txtHt, txtDuty); };
-    OKButton.onClick = [this] { OKButton_Click(); };
-    CancelButton.onClick = [this] { unload(); };
 }
 
 Layout frmReceiptDeposit::layout() const {
     using namespace orvane::layout;
-    return column({row({field("Attendance between", DTPicker1), field("and", DTPicker2), cell(cmdInv),
-                        field("Pay Type", cboPay, 12), stretch()}),
-                   field("Patient", cboVehNo),
+    return column({visits.layout({field("Pay Type", cboPay, 12)}),
                    facts({{"Patient", &Label5},
                           {"Receipt No", &lblRct},
                           {"Bill No", &lblBill},
@@ -48,8 +35,8 @@ Layout frmReceiptDeposit::layout() const {
 
 void frmReceiptDeposit::Form_Load() {
     const QDate today = program.getServerDateTime().date();
-    for (DatePicker* picker : {&dtDate, &DTPicker1, &DTPicker2})
-        picker->setDate(today);
+    dtDate.setDate(today);
+    visits.setDates(today);
     cboPay.addItems({"CASH", "CHEQUE"});
     cboPay.setText("CASH");
     cboClinic.addItem("DEPOSIT");
@@ -59,8 +46,8 @@ void frmReceiptDeposit::Form_Load() {
 }
 
 void frmReceiptDeposit::setEntry(bool entering) {
-    for (Control* control : std::initializer_list<Control*>{&cboVehNo, &cboClinic, &cboPayFor, &cboPay, &txtHt, &txtDue,
-                                                            &txtDiag, &dtDate, &OKButton, &cmdCancel})
+    for (Control* control : std::initializer_list<Control*>{&visits.cboVehNo, &cboClinic, &cboPayFor, &cboPay, &txtHt,
+                                                            &txtDue, &txtDiag, &dtDate, &OKButton, &cmdCancel})
         control->setEnabled(entering);
     cmdAdd.setEnabled(!entering);
     if (!entering)
@@ -68,14 +55,16 @@ void frmReceiptDeposit::setEntry(bool entering) {
 }
 
 void frmReceiptDeposit::cmdInv_Click() {
-    cboVehNo.clear();
+    visits.cboVehNo.clear();
     Connection connection = program.openBilling();
-    Recordset visits(
+    Recordset rows(
         connection,
         Sql("select distinct recID,pno,fullname,consultID as billno from qryhVisits where  recdate between '")
-            << DTPicker1.date() << "' and '" << DTPicker2.date() << " '");
-    for (; !visits.eof(); visits.moveNext())
-        cboVehNo.addItem(visits.text("fullname") + " [" + visits.text("pno") + "]#" + visits.text("billno"));
+            << visits.DTPicker1.date() << "' and '" << visits.DTPicker2.date() << " '");
+    for (; !rows.eof(); rows.moveNext()) {
+        const ListedVisit visit{rows.text("billno"), rows.text("pno"), rows.text("fullname")};
+        visits.cboVehNo.addItem(visit.patient + " [" + visit.pno + "]#" + visit.consultID, QVariant::fromValue(visit));
+    }
 }
 
 void frmReceiptDeposit::cmdAdd_Click() {
@@ -85,7 +74,7 @@ void frmReceiptDeposit::cmdAdd_Click() {
     cboClinic.setText("DEPOSIT");
     cboPayFor.setText("ADMISSION DEPOSIT");
     cmdInv_Click();
-    cboVehNo.setFocus();
+    visits.cboVehNo.setFocus();
 }
 
 void frmReceiptDeposit::cmdCancel_Click() {
@@ -94,7 +83,8 @@ void frmReceiptDeposit::cmdCancel_Click() {
 }
 
 void frmReceiptDeposit::cboVehNo_Click() {
-    if (cboVehNo.listIndex() < 0)
+    const auto visit = visits.cboVehNo.picked<ListedVisit>();
+    if (!visit)
         return;
     if (cboPay.text().isEmpty()) {
         // The patient before may not stay in hand under the name of this one.
@@ -104,26 +94,20 @@ void frmReceiptDeposit::cboVehNo_Click() {
         return;
     }
     clearPatient();
-    const ListEntry entry = readListEntry(cboVehNo.text());
-    session.gConsultID = entry.bill;
-    if (entry.bill.isEmpty()) {
+    session.gConsultID = visit->consultID;
+    if (visit->consultID.isEmpty()) {
         program.box("No Consultation No");
         return;
     }
-    lblBill.setText(entry.bill);
-    m_pno = entry.number;
-    Label5.setText(entry.name);
+    lblBill.setText(visit->consultID);
+    m_pno = visit->pno;
+    Label5.setText(visit->patient);
     Connection connection = program.openBilling();
-    if (billExists(connection)) {
+    if (hasBill(connection, visit->consultID)) {
         sendToReceiptEntry();
         return;
     }
-    const QString number = nextReceiptNumber(connection);
-    loadAccount(connection);
-    txtDiag.setText(diagnosisOfVisit(connection, lblBill.text()));
-    // Only now: a patient whom a fault left half read gets no receipt.
-    lblRct.setText(number);
-    showAdmission(connection);
+    loadPatient(connection);
 }
 
 void frmReceiptDeposit::clearPatient() {
@@ -133,28 +117,28 @@ void frmReceiptDeposit::clearPatient() {
         box->clear();
     m_pno.clear();
     m_clientID.clear();
-    m_clinicID.clear();
-}
-
-bool frmReceiptDeposit::billExists(Connection& connection) const {
-    return !Recordset(connection, Sql("select * from billing where billNo='") << lblBill.text() << "'").eof();
 }
 
 void frmReceiptDeposit::sendToReceiptEntry() {
-    program.box("This page is only for receipt of Advance/Deposit!!! Use Receipt Entry Form");
+    program.box(refusalText(Refusal::BillExists));
     program.open("frmReceiptTemp");
 }
 
-/// The number that comes next, empty when there is none; the save forms it again. Reads what goes with it.
-QString frmReceiptDeposit::nextReceiptNumber(Connection& connection) {
+/// What is known of the patient, and the receipt's number as it stands now; the save forms it again.
+void frmReceiptDeposit::loadPatient(Connection& connection) {
     const Recordset patient(connection, Sql("select coyname from qryhfullname where pno='") << m_pno << "'");
     m_clientID = patient.eof() ? QString() : patient.text("coyname");
-    const ReceiptNumber receipt = formReceiptNumber(program, connection, ReceiptForm::ClinicCoded, lblBill.text());
-    lblClinic2.setText(receipt.clinicType);
-    m_clinicID = receipt.clinicID;
-    if (receipt.number.isEmpty())
-        program.box(receipt.refusal);
-    return receipt.number;
+    const Given<ReceiptNumber> receipt = clinicReceiptNumber(connection, session.gHospIDName, lblBill.text());
+    if (receipt)
+        lblClinic2.setText(receipt->clinicType);
+    else
+        program.box(refusalText(receipt.refusal()));
+    loadAccount(connection);
+    txtDiag.setText(diagnosisOfVisit(connection, lblBill.text()));
+    // Only now: a patient whom a fault left half read gets no receipt.
+    if (receipt)
+        lblRct.setText(receipt->number);
+    showAdmission(connection);
 }
 
 void frmReceiptDeposit::loadAccount(Connection& connection) {
@@ -198,116 +182,68 @@ double frmReceiptDeposit::receiptAmount() const {
     return round2(parseAmount(txtHt.text()).value_or(0));
 }
 
-bool frmReceiptDeposit::checkFields() {
-    const auto refuse = [this](const char* text, Control& control) {
-        program.box(QLatin1String(text));
-        control.setFocus();
-        return false;
-    };
-    if (txtHt.text().trimmed().isEmpty())
-        return refuse("Please enter Receipt Amount", txtHt);
-    if (receiptAmount() <= 0)
-        return refuse("Receipt Amount Cannot be zero or less", txtHt);
-    if (txtDue.text().trimmed().isEmpty())
+bool frmReceiptDeposit::isComplete() {
+    const bool hasAmount = !txtHt.text().trimmed().isEmpty();
+    if (hasAmount && receiptAmount() > 0 && txtDue.text().trimmed().isEmpty())
         txtDue.setText("0");
-    if (cboVehNo.listIndex() < 0)
-        return refuse("Please enter Patient No", cboVehNo);
-    if (cboClinic.text().isEmpty())
-        return refuse("Please Specify payment type", cboClinic);
-    if (lblRct.text().isEmpty())
-        return refuse("Receipt No Required", cboVehNo);
-    if (cboPayFor.text().isEmpty())
-        return refuse("Please enter Payment Purpose", cboPayFor);
-    if (cboPay.text().isEmpty())
-        return refuse("Please enter Payment type", cboPay);
-    if (cboClinic.text().isEmpty())
-        return refuse("Please enter Clinic type", cboClinic);
-    if (parseAmount(txtDue.text()).value_or(-1) < 0)
-        return refuse("Please enter Amount Due", txtDue);
-    // A receipt without a date would be in no day's cash.
-    if (dtDate.isEmpty())
-        return refuse("Please enter Receipt Date", dtDate);
-    return true;
+    return passes({{!hasAmount, "Please enter Receipt Amount", &txtHt},
+                   {receiptAmount() <= 0, "Receipt Amount Cannot be zero or less", &txtHt},
+                   {visits.cboVehNo.listIndex() < 0, "Please enter Patient No", &visits.cboVehNo},
+                   {cboClinic.text().isEmpty(), "Please Specify payment type", &cboClinic},
+                   {lblRct.text().isEmpty(), "Receipt No Required", &visits.cboVehNo},
+                   {cboPayFor.text().isEmpty(), "Please enter Payment Purpose", &cboPayFor},
+                   {cboPay.text().isEmpty(), "Please enter Payment type", &cboPay},
+                   {cboClinic.text().isEmpty(), "Please enter Clinic type", &cboClinic},
+                   {parseAmount(txtDue.text()).value_or(-1) < 0, "Please enter Amount Due", &txtDue},
+                   // A receipt without a date would be in no day's cash.
+                   {dtDate.isEmpty(), "Please enter Receipt Date", &dtDate}});
 }
 
 void frmReceiptDeposit::OKButton_Click() {
-    if (settlesSave() || !checkFields())
-        return;
-    if (!program.question("Are you sure to save?", "About to save"))
-        return;
-    if (saveOnce(
-            OKButton, [this] { return save(); }, [this] { afterSave(); }))
-        return;
-    if (m_billExists)
+    save<QString>({.button = OKButton,
+                   .action = "DEPOSIT",
+                   .allowed = [this] { return isComplete(); },
+                   .question = "Are you sure to save?",
+                   .title = "About to save",
+                   .step =
+                       [this](Books& books) {
+                           session.gConsultID = lblBill.text();
+                           session.dWorkDate = dtDate.date();
+                           return takeDeposit(books, {.billNo = lblBill.text(),
+                                                      .pno = m_pno,
+                                                      .clientID = m_clientID,
+                                                      .customer = visits.cboVehNo.text(),
+                                                      .date = dtDate.date(),
+                                                      .amount = receiptAmount(),
+                                                      .due = round2(*parseAmount(txtDue.text())),
+                                                      .broughtForward = m_debtBF,
+                                                      .words = txtDuty.text(),
+                                                      .purpose = cboPayFor.text(),
+                                                      .payType = cboPay.text(),
+                                                      .diagnosis = txtDiag.text()});
+                       },
+                   .follow =
+                       [this](const QString& receiptNo) {
+                           resetFields();
+                           setEntry(false);
+                           showCashReceipt(program, receiptNo);
+                       },
+                   .refused = [this](Refusal refusal) { refuse(refusal); }});
+}
+
+void frmReceiptDeposit::refuse(Refusal refusal) {
+    if (refusal == Refusal::BillExists)
         sendToReceiptEntry();
     else
-        program.box(m_receipt.refusal);
+        program.box(refusalText(refusal));
 }
 
-void frmReceiptDeposit::afterSave() {
-    resetFields();
-    setEntry(false);
-    showCashReceipt(program, m_receipt.number);
-}
-
-bool frmReceiptDeposit::save() {
-    session.gConsultID = lblBill.text();
-    Connection connection = program.openBilling();
-    Transaction transaction(connection);
-    session.dWorkDate = dtDate.date();
-    m_billExists = billExists(connection);
-    if (m_billExists)
-        return false;
-    // Another cashier may have taken the number that was shown: it is formed again behind the gate.
-    m_receipt = formReceiptNumber(program, connection, ReceiptForm::ClinicCoded, lblBill.text());
-    if (m_receipt.number.isEmpty())
-        return false;
-    const double amount = receiptAmount();
-    writeBill(connection);
-    writePayment(connection, m_receipt.number);
-    postPatientTran(program, connection, session.dWorkDate, m_pno, lblBill.text(), amount, session.gBillTo, "Deposit");
-    program.writeAuditTrail(session.gUsername, "insert Payment for: " + cboVehNo.text(), session.gConsultID,
-                            QString::number(amount, 'f', 2), session.sComputerName);
-    transaction.commit();
-    return true;
-}
-
-void frmReceiptDeposit::writeBill(Connection& connection) {
-    Recordset bill(connection, Sql("select * from Billing where 1=2"));
-    bill.addNew();
-    bill.set("bdate", session.dWorkDate);
-    bill.set("billNo", lblBill.text());
-    bill.set("PNo", m_pno);
-    bill.set("clientID", m_clientID);
-    bill.set("Amountbilled", round2(*parseAmount(txtDue.text())));
-    bill.set("AmountPaid", receiptAmount());
-    bill.set("profFee", 0);
-    bill.set("AmtBF", m_debtBF);
-    bill.set("billingMonth", QLocale::c().monthName(session.dWorkDate.month()));
-    bill.set("billingYear", QString::number(session.dWorkDate.year()));
-    bill.set("diagnosis", txtDiag.text());
-    bill.update();
-}
-
-void frmReceiptDeposit::writePayment(Connection& connection, const QString& receiptNo) {
-    Receipt receipt;
-    receipt.receiptDate = session.dWorkDate;
-    receipt.receiptNo = receiptNo;
-    receipt.clinicID = m_clinicID;
-    receipt.billNo = lblBill.text();
-    receipt.pno = m_pno;
-    receipt.paymentFor = cboPayFor.text();
-    receipt.amountBilled = round2(*parseAmount(txtDue.text()));
-    receipt.amountPaid = receiptAmount();
-    receipt.amountInWord = txtDuty.text();
-    receipt.payType = cboPay.text();
-    receipt.time = ui().now().time();
-    receipt.remarks = "DEPOSIT/ADVANCE";
-    addPayment(program, connection, receipt);
+void frmReceiptDeposit::txtHt_Change() {
+    showAmountInWords(txtHt, txtDuty);
 }
 
 void frmReceiptDeposit::resetFields() {
-    cboVehNo.setListIndex(-1);
+    visits.cboVehNo.setListIndex(-1);
     clearPatient();
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "receipts/ReceiptNumber.h"
+#include "books/ReceiptNumber.h"
+#include "forms/RangePicker.h"
+#include "session/Screen.h"
 
 namespace orvane {
 
@@ -9,31 +11,6 @@ namespace orvane {
 class frmReceiptDeposit : public Screen {
 public:
     explicit frmReceiptDeposit(Program& program);
-
-    DatePicker DTPicker1{*this, "DTPicker1"};
-    DatePicker DTPicker2{*this, "DTPicker2"};
-    Button cmdInv{*this, "cmdInv", "&Get Patients"};
-    ComboBox cboPay{*this, "cboPay"};
-    ComboBox cboVehNo{*this, "cboVehNo"};
-    Label Label5{*this, "Label5"};
-    Label lblRct{*this, "lblRct"};
-    Label lblBill{*this, "lblBill"};
-    Label lblClinic2{*this, "lblClinic2"};
-    Label lblAdm{*this, "lblAdm"};
-    Label lblBF{*this, "lblBF"};
-    Label lblAmt{*this, "lblAmt"};
-    DatePicker dtDate{*this, "dtDate"};
-    ComboBox cboClinic{*this, "cboClinic"};
-    ComboBox cboPayFor{*this, "cboPayFor"};
-    TextBox txtDue{*this, "txtDue"};
-    TextBox txtHt{*this, "txtHt"};
-    TextBox txtDuty{*this, "txtDuty"};
-    TextBox txtDiag{*this, "txtDiag"};
-    Button cmdPrint{*this, "cmdPrint", "&Refresh"};
-    Button cmdAdd{*this, "cmdAdd", "&Add"};
-    Button cmdCancel{*this, "cmdCancel", "&Cancel"};
-    Button CancelButton{*this, "CancelButton", "E&xit"};
-    Button OKButton{*this, "OKButton", "&Save"};
 
     Layout layout() const override;
     void Form_Load() override;
@@ -46,28 +23,49 @@ private:
     void cmdCancel_Click();
     void cboVehNo_Click();
     void cboClinic_Click();
-    bool billExists(Connection& connection) const;
+    void txtHt_Change();
+    void OKButton_Click();
     void sendToReceiptEntry();
     void clearPatient();
-    QString nextReceiptNumber(Connection& connection);
+    void loadPatient(Connection& connection);
     void loadAccount(Connection& connection);
     void showAdmission(Connection& connection);
-    void OKButton_Click();
     double receiptAmount() const;
-    bool checkFields();
-    bool save(); ///< false: the bill exists or no number could be formed, and nothing was saved
-    void afterSave();
-    void writeBill(Connection& connection);
-    void writePayment(Connection& connection, const QString& receiptNo);
+    bool isComplete();
+    void refuse(Refusal refusal);
     void resetFields();
     void setEntry(bool entering);
 
+    using Me = frmReceiptDeposit;
+    RangePicker visits{*this,
+                       {"Attendance between", "cmdInv", "&Get Patients"},
+                       &Me::cmdInv_Click,
+                       ComboBox::FreeText,
+                       &Me::cboVehNo_Click};
+    ComboBox cboPay{*this, "cboPay"};
+    Label Label5{*this, "Label5"};
+    Label lblRct{*this, "lblRct"};
+    Label lblBill{*this, "lblBill"};
+    Label lblClinic2{*this, "lblClinic2"};
+    Label lblAdm{*this, "lblAdm"};
+    Label lblBF{*this, "lblBF"};
+    Label lblAmt{*this, "lblAmt"};
+    DatePicker dtDate{*this, "dtDate"};
+    ComboBox cboClinic{*this, "cboClinic", ComboBox::FreeText, &Me::cboClinic_Click};
+    ComboBox cboPayFor{*this, "cboPayFor"};
+    TextBox txtDue{*this, "txtDue"};
+    TextBox txtHt{*this, "txtHt", &Me::txtHt_Change};
+    TextBox txtDuty{*this, "txtDuty"};
+    TextBox txtDiag{*this, "txtDiag"};
+    Button cmdPrint{*this, "cmdPrint", "&Refresh", &Me::cmdInv_Click};
+    Button cmdAdd{*this, "cmdAdd", "&Add", &Me::cmdAdd_Click};
+    Button cmdCancel{*this, "cmdCancel", "&Cancel", &Me::cmdCancel_Click};
+    Button CancelButton{*this, "CancelButton", "E&xit", &Me::unload};
+    Button OKButton{*this, "OKButton", "&Save", &Me::OKButton_Click};
+
     QString m_pno;
     QString m_clientID;
-    QString m_clinicID;
-    double m_debtBF = 0;       ///< naira, minus is owed
-    bool m_billExists = false; ///< why the save under way was refused
-    ReceiptNumber m_receipt;   ///< of the save under way
+    double m_debtBF = 0; ///< naira, minus is owed
 };
 
 } // namespace orvane

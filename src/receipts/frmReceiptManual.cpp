@@ -228,8 +228,7 @@ bool frmReceiptManual::save() {
     Recordset total(connection, Sql("select * from Billing where billno='") << lblBill.text() << "'");
     total.set("isPaid", isPaidFlag(total.number("AmountPaid"), total.number("Amountbilled")));
     total.update();
-    program.writeAuditTrail(session.gUsername, "insert Payment for: " + cboVehNo.text(), lblBill.text(),
-                            QString::number(paid, 'f', 2), session.sComputerName);
+    program.writeAuditTrail({"insert Payment for: " + cboVehNo.text(), lblBill.text(), QString::number(paid, 'f', 2)});
     transaction.commit();
     return true;
 }
@@ -259,7 +258,7 @@ double frmReceiptManual::writeBill(Recordset& bill, double addedBill, double add
 
 // The remark of a manual receipt is always "CASH", whatever its pay type.
 void frmReceiptManual::writePayment(Connection& connection, double billed, double paid) {
-    Receipt receipt;
+    ReceiptEntry receipt;
     receipt.receiptDate = dtDate.date();
     receipt.receiptNo = formReceiptNumber(program, connection, ReceiptForm::Paper, txtRct.text()).number;
     receipt.clinicID = cboClinic.text();

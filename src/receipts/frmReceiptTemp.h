@@ -1,6 +1,7 @@
 #pragma once
 
 #include "receipts/ReceiptNumber.h"
+#include "session/Screen.h"
 
 namespace orvane {
 
@@ -74,7 +75,7 @@ private:
     QString m_pno;
     QString m_reversedNo; ///< the receipt under reversal
     bool m_reversal = false;
-    ReceiptNumber m_receipt; ///< of the save under way
+    FormedNumber m_receipt; ///< of the save under way
 };
 
 } // namespace orvane

@@ -22,7 +22,7 @@ void frmReceiptTemp::OKButton_Click() {
 }
 
 void frmReceiptTemp::afterSave() {
-    const ReceiptNumber receipt = m_receipt;
+    const FormedNumber receipt = m_receipt;
     const bool wasReversal = m_reversal;
     // At once, so that no fault in what follows leaves an entry that could be saved again.
     resetFields();
@@ -102,16 +102,15 @@ bool frmReceiptTemp::save() {
         return false;
     writePayment(connection, m_receipt.number, amount);
     postPatientTran(program, connection, dtDate.date(), m_pno, m_billNo, amount, session.gBillTo, "Payment");
-    program.writeAuditTrail(session.gUsername,
-                            (m_reversal ? "Reversal Entry (Payment) for: " : "insert Payment for: ") + cboVehNo.text(),
-                            session.gConsultID, QString::number(amount, 'f', 2), session.sComputerName);
+    program.writeAuditTrail({(m_reversal ? "Reversal Entry (Payment) for: " : "insert Payment for: ") + cboVehNo.text(),
+                             session.gConsultID, QString::number(amount, 'f', 2)});
     settleBill(connection, amount);
     transaction.commit();
     return true;
 }
 
 void frmReceiptTemp::writePayment(Connection& connection, const QString& receiptNo, double amount) {
-    Receipt receipt;
+    ReceiptEntry receipt;
     receipt.receiptDate = dtDate.date();
     receipt.receiptNo = receiptNo;
     receipt.clinicID = "SALES";

@@ -1,3 +1,4 @@
+#include "data/rows/Transaction.h"
 #include "session/Program.h"
 
 #include <QSysInfo>
@@ -21,18 +22,17 @@ void Program::readEnvironmentIdentity() {
         session.sEnvUserName = qEnvironmentVariable("USER");
 }
 
-void Program::writeAuditTrail(const QString& /*userName*/, const QString& action, const QString& tranCode,
-                              const QString& remarks, const QString& source) {
+void Program::writeAuditTrail(const AuditEntry& entry) {
     try {
-        // `source` is mostly session.sComputerName itself, which this refreshes.
         readEnvironmentIdentity();
         Connection connection = openBilling();
+        const QString source = entry.source.isEmpty() ? session.sComputerName : entry.source;
         connection.call("SpAudiTrail", {{"@userName", session.gUsername},
-                                        {"@userAction", action},
+                                        {"@userAction", entry.action},
                                         {"@ActionDate", session.gServerDate},
                                         {"@ActionTime", session.gServerTime.toString(shortTime)},
-                                        {"@TranCode", tranCode},
-                                        {"@Remarks", remarks},
+                                        {"@TranCode", entry.document},
+                                        {"@Remarks", entry.remarks},
                                         {"@Src", session.gModuleName + ": from " + source}});
     } catch (const DataError& fault) {
         boxAfterTransaction(fault.description());

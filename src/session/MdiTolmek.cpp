@@ -38,7 +38,7 @@ void MdiTolmek::Form_Load() {
     SbrTolmek.setPanel(2, session.gUsername);
     SbrTolmek.setPanel(3, session.gFullName);
     find("mnuEPE")->setCaption("Log Off " + session.gUsername);
-    program.writeAuditTrail(session.gUsername, "Login Billing", {}, {}, session.sComputerName);
+    program.writeAuditTrail({"Login Billing", {}, {}});
     {
         Connection connection = program.openBilling();
         const Recordset user(connection, Sql("select username from UsersForAccts where username ='")
@@ -61,7 +61,7 @@ bool MdiTolmek::Form_Unload() {
 
 void MdiTolmek::endSession(bool autoLogoff) {
     program.closeUserActivity(true, autoLogoff, session.gModuleName);
-    program.writeAuditTrail(session.gUsername, "Login Out", {}, {}, session.sComputerName);
+    program.writeAuditTrail({"Login Out", {}, {}});
     program.end();
 }
 

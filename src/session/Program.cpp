@@ -1,5 +1,6 @@
 #include "session/Program.h"
 
+#include "books/Words.h"
 #include "data/Assert.h"
 
 namespace orvane {
@@ -12,6 +13,21 @@ DataSource& Program::data() {
     if (!m_data)
         m_data = std::make_unique<DataSource>(m_homeFolder);
     return *m_data;
+}
+
+Desk Program::desk() {
+    readEnvironmentIdentity();
+    return Desk(data(), session.gConnStr,
+                {.actor = {.user = session.gUsername, .empID = session.gEmpID, .workstation = session.sComputerName},
+                 .settings = {.hospital = session.gHospIDName,
+                              .privateClient = session.gBillTo,
+                              .privateTariff = session.gPrivateTariff,
+                              .suspenseAccount = session.gAcctSusp,
+                              .suspenseRevenue = session.gAcctPostAuto ? session.gAcctSuspDesc : "OTHERS",
+                              .nhisFeeBase = session.gNHISFee},
+                 .today = session.gServerDate,
+                 .now = session.gServerTime,
+                 .audit = [this](const AuditEntry& entry) { writeAuditTrail(entry); }});
 }
 
 void Program::registerForm(const QString& name, FormFactory factory) {
@@ -96,6 +112,10 @@ void Program::end() {
 void Program::deleteClosedForms() {
     std::erase_if(
         m_closedForms, [](const std::unique_ptr<Form>& closed) { return !closed->isRunning(); });
+}
+
+void Program::amountToUpperWords() {
+    session.sAmountWords = getValInWord(session.dBillTotal);
 }
 
 void Program::box(const QString& text, Icon icon, const QString& title) {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "data/rows/Connection.h"
-#include "data/rows/Recordset.h"
+#include "books/Desk.h"
 #include "data/rows/Transaction.h"
 #include "forms/Form.h"
 #include "session/Session.h"
@@ -36,6 +35,9 @@ public:
     Connection openBilling() { return data().open(session.gConnStr); }
     Connection openAccounting() { return data().open(session.gAcctConnStr); }
 
+    /// Where this user saves, by the shell's clock as it stands now.
+    Desk desk();
+
     void registerForm(const QString& name, FormFactory factory);
     bool isRegistered(const QString& name) const;
     QStringList formNames() const; ///< every registered form, for tests that walk them
@@ -64,9 +66,9 @@ public:
     /// The server's date and time from qrySysDateTime; invalid when the view is empty. A fault is shown and gives the
     /// invalid date.
     QDateTime getServerDateTime();
-    /// One audit row over a connection of its own, stamped with the shell's clock. A fault is shown, never raised.
-    void writeAuditTrail(const QString& userName, const QString& action, const QString& tranCode,
-                         const QString& remarks, const QString& source);
+    /// One audit row of the user signed in over a connection of its own, stamped with the shell's clock. A fault is
+    /// shown, never raised.
+    void writeAuditTrail(const AuditEntry& entry);
     void openUserActivity(bool isLogout, bool autoLogoff, const QString& remarks);
     void closeUserActivity(bool isLogout, bool autoLogoff, const QString& remarks);
     void readEnvironmentIdentity();
@@ -91,41 +93,6 @@ private:
     std::vector<std::unique_ptr<Form>> m_closedForms;
     QList<Form*> m_shown; ///< open screens inside the shell, the active one last
     QStringList m_pendingBoxes;
-};
-
-/// A form of the program: knows the session and the data source.
-class Screen : public Form {
-public:
-    Screen(Program& owner, const QString& name, const QString& caption)
-        : Form(owner.ui(), name, caption), program(owner), session(owner.session) {}
-    void afterEvent() override { program.flushBoxes(); }
-    bool Form_Unload() override;
-
-protected:
-    /// Runs `save`, which commits one transaction and tells whether it did, and then `afterSave`; gives what `save`
-    /// told. When nobody can say whether the commit came through, CommitUnknown is raised, the entry stays on the
-    /// screen and is locked but for `button`, whose next press looks it up: see settlesSave. `afterSave` must therefore
-    /// live off what the screen keeps.
-    bool saveOnce(Button& button, const std::function<bool()>& save, std::function<void()> afterSave);
-    /// The first question of every handler that saves. True: the save before this one was open, and the user has been
-    /// told what became of it: it was saved, and what follows a save was done; or it was not, and can be saved again;
-    /// or nobody knows yet. Nothing else may be done then.
-    bool settlesSave();
-
-    Program& program;
-    Session& session;
-
-private:
-    /// A save of which nobody knows whether the database has it.
-    struct OpenSave {
-        CommitTicket ticket;
-        std::function<void()> afterSave;
-        QList<Control*> locked; ///< until it is known
-    };
-
-    QList<Control*> lockAllBut(const Control& button);
-
-    std::optional<OpenSave> m_openSave;
 };
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/Role.h"
+#include "session/Screen.h"
 
 namespace orvane {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/Screen.h"
 #include "session/UserRole.h"
 
 namespace orvane {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Program.h"
+#include "session/Screen.h"
 
 namespace orvane {
 

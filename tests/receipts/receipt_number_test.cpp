@@ -10,7 +10,7 @@ namespace {
 
 class ReceiptNumbers : public ReceiptTest {
 protected:
-    ReceiptNumber form(ReceiptForm kind, const QString& key = {}) {
+    FormedNumber form(ReceiptForm kind, const QString& key = {}) {
         Connection connection = ws.billing();
         return formReceiptNumber(ws.program, connection, kind, key);
     }
@@ -45,10 +45,10 @@ TEST_P(ReceiptNumbers, CodedFormsGoOnFromTheHighestOfTheirCode) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.issued.join(' ').toStdString());
         layPayments(c.issued);
-        const ReceiptNumber clinic = form(ReceiptForm::ClinicCoded, billNo);
+        const FormedNumber clinic = form(ReceiptForm::ClinicCoded, billNo);
         EXPECT_EQ(clinic.number, QString("001OP") + c.clinic);
         EXPECT_EQ(clinic.clinicType + '|' + clinic.clinicID, "OPD|OPD");
-        const ReceiptNumber outlet = form(ReceiptForm::OutletCoded, outletVisit);
+        const FormedNumber outlet = form(ReceiptForm::OutletCoded, outletVisit);
         EXPECT_EQ(outlet.number, QString("001LB") + c.outlet);
         EXPECT_EQ(outlet.clinicType, "LABORATORY");
     }
@@ -58,16 +58,16 @@ TEST_P(ReceiptNumbers, WithoutACodeThereIsNoNumber) {
     layVisit();
     ws.run("update clinicTypes set rctCode=null");
     for (const char* visit : {billNo, "unknown", ""}) {
-        const ReceiptNumber clinic = form(ReceiptForm::ClinicCoded, visit);
+        const FormedNumber clinic = form(ReceiptForm::ClinicCoded, visit);
         EXPECT_EQ(clinic.number, "");
         EXPECT_EQ(clinic.refusal, "ReceiptNo cannot be generated!!! No Consult ID for this transaction");
     }
-    const ReceiptNumber outlet = form(ReceiptForm::OutletCoded, billNo);
+    const FormedNumber outlet = form(ReceiptForm::OutletCoded, billNo);
     EXPECT_EQ(outlet.number, "");
     EXPECT_EQ(outlet.refusal, "ReceiptNo cannot be generated!!! No Tran ID for this transaction");
     ws.run("delete from IDgen where DestName='RECEIPT2'");
     ws.program.session.gIDNo = "4711";
-    const ReceiptNumber generated = form(ReceiptForm::Generated);
+    const FormedNumber generated = form(ReceiptForm::Generated);
     EXPECT_EQ(generated.number, "");
     EXPECT_EQ(generated.refusal, "Unable to generate No!!! Function getIDNo Failed! Receipt");
 }

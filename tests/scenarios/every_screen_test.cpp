@@ -2,6 +2,7 @@
 // answers with its own messages, never with a fault of the database.
 #include "ScreenWalk.h"
 #include "play/ControlActs.h"
+#include "session/Screen.h"
 #include "support/LeastRights.h"
 
 #include <QRandomGenerator>

@@ -3,6 +3,7 @@
 #include "ScreenWalk.h"
 #include "demo/Check.h"
 #include "play/ControlActs.h"
+#include "session/Screen.h"
 #include "support/Hospital.h"
 #include "support/HostileTexts.h"
 

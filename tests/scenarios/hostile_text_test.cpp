@@ -4,6 +4,7 @@
 #include "data/dialect/Catalog.h"
 #include "data/words/Money.h"
 #include "demo/Check.h"
+#include "session/Screen.h"
 #include "support/HostileTexts.h"
 
 namespace orvane {

@@ -1,5 +1,5 @@
+#include "books/Words.h"
 #include "session/Scramble.h"
-#include "session/Words.h"
 #include "support/TestHome.h"
 #include "support/Workstation.h"
 
@@ -55,7 +55,7 @@ TEST_P(Trail, auditBearsTheShellsClockAndTheUserOfTheSession) {
     ASSERT_TRUE(station.start());
     // The stamp is the clock of the shell's last tick.
     station.program.data().setServerClock(QDateTime(QDate(2026, 3, 15), QTime(11, 0)));
-    station.program.writeAuditTrail("someone", "Deleted O'NEILL's bill", "B1", "why", session.sComputerName);
+    station.program.writeAuditTrail({"Deleted O'NEILL's bill", "B1", "why"});
     qunsetenv("computername"); // the host's name stands in
     station.timer("MdiTolmek.Timer2");
     ui.answer(true);

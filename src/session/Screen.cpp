@@ -1,5 +1,4 @@
-// A save whose commit was not answered: nothing is entered twice, and the screen finds out whether it was saved.
-#include "session/Program.h"
+#include "session/Screen.h"
 
 namespace orvane {
 
@@ -18,9 +17,9 @@ const QString leftOpenText = QStringLiteral(
     "It is still not known whether the last entry was saved. Please look it up before you enter it again.");
 
 /// A fault in what follows a save must not look as if nothing had been saved.
-void follow(const std::function<void()>& afterSave) {
+void doAfterSave(const std::function<void()>& follow) {
     try {
-        afterSave();
+        follow();
     } catch (const DataError& fault) {
         throw DataError("The entry was saved. Only what follows it could not be done:\n" + fault.description(),
                         fault.statement(), fault.code());
@@ -28,6 +27,48 @@ void follow(const std::function<void()>& afterSave) {
 }
 
 } // namespace
+
+bool Screen::passes(std::initializer_list<Check> checks) {
+    for (const Check& check : checks) {
+        if (!check.failed)
+            continue;
+        program.box(check.text, Icon::None, check.title);
+        if (check.focus)
+            check.focus->setFocus();
+        return false;
+    }
+    return true;
+}
+
+bool Screen::saveErased(const AnySave& wanted) {
+    if (settlesSave() || (wanted.allowed && !wanted.allowed()))
+        return false;
+    if (!wanted.question.isEmpty() && !program.question(wanted.question, wanted.title))
+        return false;
+    if (wanted.prepare && !wanted.prepare())
+        return false;
+    if (const std::optional<Refusal> refusal = runStep(wanted)) {
+        if (wanted.refused)
+            wanted.refused(*refusal);
+        else
+            program.box(refusalText(*refusal));
+        return false;
+    }
+    doAfterSave(wanted.follow);
+    return true;
+}
+
+std::optional<Refusal> Screen::runStep(const AnySave& wanted) {
+    ui().setBusy(true);
+    try {
+        const std::optional<Refusal> refusal = wanted.step();
+        ui().setBusy(false);
+        return refusal;
+    } catch (const CommitUnknown& fault) {
+        m_openSave = {fault.ticket(), wanted.follow, lockAllBut(wanted.button)};
+        throw CommitUnknown(unknownText, fault.statement(), fault.ticket());
+    }
+}
 
 bool Screen::saveOnce(Button& button, const std::function<bool()>& save, std::function<void()> afterSave) {
     try {
@@ -37,7 +78,7 @@ bool Screen::saveOnce(Button& button, const std::function<bool()>& save, std::fu
         m_openSave = {fault.ticket(), std::move(afterSave), lockAllBut(button)};
         throw CommitUnknown(unknownText, fault.statement(), fault.ticket());
     }
-    follow(afterSave);
+    doAfterSave(afterSave);
     return true;
 }
 
@@ -54,7 +95,7 @@ bool Screen::settlesSave() {
         control->setEnabled(true);
     program.box(outcome == CommitOutcome::Saved ? savedText : notSavedText);
     if (outcome == CommitOutcome::Saved)
-        follow(settled.afterSave);
+        doAfterSave(settled.follow);
     return true;
 }
 

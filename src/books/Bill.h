@@ -1,0 +1,34 @@
+#pragma once
+
+#include "books/Books.h"
+
+namespace orvane {
+
+/// A row of Billing as it is added; what is not named starts at 0 or empty.
+struct Bill {
+    QDate date; ///< also gives the billing month and year
+    QString billNo, pno;
+    QString clientID;                                     ///< the client's retainID
+    double amountBilled = 0, amountPaid = 0, profFee = 0; ///< naira
+    QString words = {};                                   ///< the amount billed in upper-case words
+    std::optional<double> broughtForward = {};            ///< naira, the patient's balance; none: null
+    QString diagnosis = {};
+    std::optional<QString> billType = {};
+};
+
+/// Adds the row; the caller has seen, behind the gate, that the bill has none.
+void addBill(Books& books, const Bill& bill);
+
+bool hasBill(Connection& connection, const QString& billNo);
+
+/// Whether a monthly batch holds the bill, which freezes it. Asked inside the transaction it stays so.
+bool isBillProcessed(Connection& connection, const QString& billNo);
+
+/// Makes Billing.AmountPaid the sum of the bill's Payments and gives that sum in naira; without a payment it changes
+/// nothing and gives 0.
+double refreshBillAmountPaid(Books& books, const QString& billNo);
+
+/// Billing.isPaid: 1 when what was paid covers what was billed, both in naira and compared to the kobo, else 0.
+int isPaidFlag(double paid, double billed);
+
+} // namespace orvane

@@ -1,0 +1,10 @@
+#include "books/Books.h"
+
+namespace orvane {
+
+void Books::record(const QString& document, double amount) {
+    m_document = document;
+    m_amount = amount;
+}
+
+} // namespace orvane

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "books/Given.h"
+#include "data/rows/Connection.h"
+#include "data/rows/Recordset.h"
+
+#include <QDate>
+#include <functional>
+
+namespace orvane {
+
+/// Who acts and from where.
+struct Actor {
+    QString user;        ///< the name he signed in with
+    QString empID;       ///< his number among the employees
+    QString workstation; ///< the computer's name
+};
+
+/// The few settings that rules of money read, as the session holds them.
+struct BookSettings {
+    QString hospital;      ///< the three characters in front of its numbers
+    QString privateClient; ///< retainCode of the private account, whose charges stand in the patients' running accounts
+    QString privateTariff; ///< retainID of the private price template
+    QString suspenseAccount; ///< ledger account of money that no line takes
+    QString suspenseRevenue; ///< and its revenue type
+    QString nhisFeeBase;     ///< what the NHIS fee is a percentage of: "ALL", empty or "DRUG"
+};
+
+/// One row of the audit trail.
+struct AuditEntry {
+    QString action;
+    QString document; ///< the number of the bill or receipt
+    QString remarks;
+    QString source = {}; ///< where it was done; empty: the workstation
+};
+
+/// What the work is done with, the same for all that a user does at one moment.
+struct BookContext {
+    Actor actor;
+    BookSettings settings;
+    QDate today; ///< of the shell's clock, which follows the server's
+    QTime now;
+    std::function<void(const AuditEntry&)> audit; ///< on a connection of its own, so that it survives a rollback
+};
+
+/// The work in hand: a connection inside its transaction, the clock, who acts, and the settings that rules read.
+/// Every writer and rule of the books takes one; all of them raise DataError, which rolls the transaction back.
+class Books {
+public:
+    Books(Connection& open, const BookContext& context) : connection(open), m_context(context) {}
+
+    Connection& connection;
+    const Actor& actor() const { return m_context.actor; }
+    const BookSettings& settings() const { return m_context.settings; }
+    QDate today() const { return m_context.today; }
+    QTime now() const { return m_context.now; }
+
+    void audit(const AuditEntry& entry) const { m_context.audit(entry); }
+    /// What this save comes to, for its row in SavedActions: the number of its bill or receipt, and naira.
+    void record(const QString& document, double amount);
+
+    const QString& document() const { return m_document; }
+    double amount() const { return m_amount; }
+
+private:
+    const BookContext& m_context;
+    QString m_document;
+    double m_amount = 0;
+};
+
+} // namespace orvane

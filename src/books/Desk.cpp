@@ -1,0 +1,30 @@
+#include "books/Desk.h"
+
+#include "data/rows/Transaction.h"
+
+namespace orvane {
+
+Desk::Desk(DataSource& data, const QString& connectionString, BookContext context)
+    : m_data(data), m_connectionString(connectionString), m_context(std::move(context)) {}
+
+Connection Desk::open() const {
+    return m_data.open(m_connectionString);
+}
+
+void Desk::run(const QString& action, const std::function<bool(Books&)>& step) const {
+    Connection connection = open();
+    Transaction transaction(connection);
+    Books books(connection, m_context);
+    if (!step(books))
+        return;
+    if (books.document().isEmpty())
+        transaction.commit();
+    else
+        transaction.commit(SavedAction{.user = m_context.actor.user,
+                                       .workstation = m_context.actor.workstation,
+                                       .action = action,
+                                       .document = books.document(),
+                                       .amount = books.amount()});
+}
+
+} // namespace orvane

@@ -1,0 +1,31 @@
+#include "books/Refusal.h"
+
+#include "data/Assert.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr struct {
+    Refusal refusal;
+    const char* text;
+} words[] = {
+    {Refusal::BillProcessed, "This Bill is already processed! to Modify, unProcess the Batch"},
+    {Refusal::BillExists, "This page is only for receipt of Advance/Deposit!!! Use Receipt Entry Form"},
+    {Refusal::VisitChanged, "Please Re-Select Patient Name! Bill No (StrCon needed"},
+    {Refusal::NoConsultID, "ReceiptNo cannot be generated!!! No Consult ID for this transaction"},
+    {Refusal::NoTranID, "ReceiptNo cannot be generated!!! No Tran ID for this transaction"},
+    {Refusal::NoNumber, "Unable to generate No!!! Function getIDNo Failed! Receipt"},
+};
+
+} // namespace
+
+QString refusalText(Refusal refusal) {
+    for (const auto& entry : words)
+        if (entry.refusal == refusal)
+            return entry.text;
+    ORVANE_ASSERT(false);
+    return {};
+}
+
+} // namespace orvane

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace orvane {
+
+/// Why a rule of the books did not do what was asked. The row is untouched then and the transaction is rolled back.
+enum class Refusal {
+    BillProcessed, ///< a monthly batch holds the bill, which freezes it
+    BillExists,    ///< a deposit opens the bill, so there may be none
+    VisitChanged,  ///< the visit was deleted or moved to another patient or client since it was read
+    NoConsultID,   ///< no receipt number: the visit's clinic has no code
+    NoTranID,      ///< no receipt number: the outlet's item has no code
+    NoNumber       ///< no receipt number: the counter gave none
+};
+
+/// The words in which the user is told.
+QString refusalText(Refusal refusal);
+
+} // namespace orvane

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "forms/Controls.h"
+#include "forms/Layout.h"
+
+namespace orvane {
+
+/// The block by which most screens find whom they work on: two dates, a button that lists what lies between them, and
+/// the list.
+class RangePicker {
+public:
+    struct Words {
+        QString range; ///< label of the first date, such as "Attendance between"
+        QString buttonName;
+        QString buttonCaption;
+    };
+
+    template <typename FormClass, typename Class, typename ListResult, typename PickResult>
+    RangePicker(FormClass& form, const Words& words, ListResult (Class::*list)(), ComboBox::Style style,
+                PickResult (Class::*pick)())
+        : DTPicker1(form, "DTPicker1"), DTPicker2(form, "DTPicker2"),
+          get(form, words.buttonName, words.buttonCaption, list), cboVehNo(form, "cboVehNo", style, pick),
+          m_range(words.range) {}
+
+    DatePicker DTPicker1, DTPicker2;
+    Button get;
+    ComboBox cboVehNo;
+
+    void setDates(QDate day); ///< both of them
+    /// The list below the dates; `beside` stands behind the button.
+    Layout layout(std::initializer_list<Layout> beside = {}) const;
+
+private:
+    QString m_range;
+};
+
+} // namespace orvane
