@@ -169,10 +169,6 @@ bool isCarriedBalance(const QString& item) {
     return item == QLatin1String("PREVIOUS CREDIT") || item == QLatin1String("PREVIOUS DEBT");
 }
 
-bool isBillProcessed(Connection& connection, const QString& billNo) {
-    return !Recordset(connection, Sql("select * from billing where isprocess=1 and billNo='") << billNo << "'").eof();
-}
-
 QString billProcessedText() {
     return "This Bill is already processed! to Modify, unProcess the Batch";
 }

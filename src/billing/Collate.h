@@ -1,5 +1,6 @@
 #pragma once
 
+#include "books/Bill.h"
 #include "session/Program.h"
 
 namespace orvane {
@@ -23,8 +24,6 @@ bool isCapitatedCategory(const QString& category);
 /// already.
 bool isCarriedBalance(const QString& item);
 
-/// Whether a monthly batch holds the bill, which freezes it. Asked inside the transaction it stays so.
-bool isBillProcessed(Connection& connection, const QString& billNo);
 /// What every change to a frozen bill is answered with.
 QString billProcessedText();
 
