@@ -268,7 +268,7 @@ bool frmReceiptDeposit::save() {
     postPatientTran(program, connection, session.dWorkDate, m_pno, lblBill.text(), amount, session.gBillTo, "Deposit");
     program.writeAuditTrail(session.gUsername, "insert Payment for: " + cboVehNo.text(), session.gConsultID,
                             QString::number(amount, 'f', 2), session.sComputerName);
-    transaction.commit();
+    transaction.commit({.action = name()});
     return true;
 }
 

@@ -230,7 +230,7 @@ bool frmReceiptManual::save() {
     total.update();
     program.writeAuditTrail(session.gUsername, "insert Payment for: " + cboVehNo.text(), lblBill.text(),
                             QString::number(paid, 'f', 2), session.sComputerName);
-    transaction.commit();
+    transaction.commit({.action = name()});
     return true;
 }
 

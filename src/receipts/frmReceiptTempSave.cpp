@@ -106,7 +106,7 @@ bool frmReceiptTemp::save() {
                             (m_reversal ? "Reversal Entry (Payment) for: " : "insert Payment for: ") + cboVehNo.text(),
                             session.gConsultID, QString::number(amount, 'f', 2), session.sComputerName);
     settleBill(connection, amount);
-    transaction.commit();
+    transaction.commit({.action = name()});
     return true;
 }
 
