@@ -925,3 +925,14 @@ create table ChartOfAccounts (
     groupID varchar(50)
 )
 go
+-- What a save wrote of itself in its own transaction: a commit whose answer was lost is looked up by its token.
+create table SavedActions (
+    token varchar(36) not null primary key,
+    savedAt datetime not null default getdate(),
+    username nvarchar(50),
+    workstation nvarchar(50),
+    action nvarchar(50),
+    document nvarchar(50),
+    amount float
+)
+go

@@ -80,7 +80,7 @@ bool frmRecordsOffline::changeVisit() {
     setVisitColumns(visit);
     visit.set("exitDate", dtDate.date());
     visit.update();
-    transaction.commit();
+    transaction.commit({.action = name()});
     return true;
 }
 
@@ -103,7 +103,7 @@ bool frmRecordsOffline::enterVisit(const QDateTime& now) {
     addVisit(connection, now.time());
     postConsultationFee(connection, {cboType.text(), session.sClientName, lblNo.text(), lblBill.text(), now.date()});
     updatePatientAndAppointment(connection);
-    transaction.commit();
+    transaction.commit({.action = name()});
     return true;
 }
 

@@ -42,7 +42,7 @@ QString ItemCapture::saveLines() {
         if (cellText(row, Status) == "NEW")
             saveLine(connection, row);
     refreshBill(connection);
-    transaction.commit();
+    transaction.commit({.action = name()});
     return {};
 }
 

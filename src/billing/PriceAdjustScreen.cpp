@@ -110,7 +110,7 @@ void PriceAdjustScreen::changeBill(Button& button, const std::function<void(Conn
         if (isBillProcessed(connection, m_billNo))
             return false;
         steps(connection);
-        transaction.commit();
+        transaction.commit({.action = name()});
         return true;
     };
     if (!saveOnce(button, save, std::move(afterChange)))

@@ -126,7 +126,7 @@ bool frmBillDiscount::save(double amount) {
     if (isDiscount())
         addDiscount(connection, -amount);
     moveBill(connection, amount);
-    transaction.commit();
+    transaction.commit({.action = name()});
     return true;
 }
 

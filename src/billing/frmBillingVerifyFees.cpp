@@ -99,7 +99,7 @@ bool frmBillingVerify::changeBill(Button& button, const std::function<void(Conne
         if (isBillProcessed(connection, m_bill.consultID))
             return false;
         steps(connection);
-        transaction.commit();
+        transaction.commit({.action = name()});
         return true;
     };
     const bool changed = saveOnce(button, save, std::move(afterChange));

@@ -120,7 +120,7 @@ QString frmBillingVerify::writeBill(const ReceiptEntry* receipt) {
     if (receipt)
         saveReceipt(connection, *receipt);
     settleBillDate(connection, m_bill);
-    transaction.commit();
+    transaction.commit({.action = name()});
     return {};
 }
 

@@ -27,17 +27,17 @@ private:
     QByteArray m_what;
 };
 
-/// By which a database knows a transaction whose commit it has not answered.
+/// By which a transaction whose commit was not answered is looked up: the row of SavedActions that it wrote itself.
 struct CommitTicket {
     QString connectionString;
-    QString transaction; ///< the engine's own number of it; empty where the engine cannot be asked
+    QString token; ///< empty: it wrote none, and cannot be looked up
 };
 
 /// What became of such a transaction.
 enum class CommitOutcome {
     Saved,
     NotSaved,
-    Unknown ///< the database cannot be reached, or has not noticed yet that nobody waits for its answer
+    Unknown ///< the database cannot be reached, the transaction may still be under way there, or it has no token
 };
 
 /// The connection broke while a commit was under way, and the database could not be asked at once whether the rows were

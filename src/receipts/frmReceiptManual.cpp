@@ -229,7 +229,7 @@ bool frmReceiptManual::save() {
     total.set("isPaid", isPaidFlag(total.number("AmountPaid"), total.number("Amountbilled")));
     total.update();
     program.writeAuditTrail({"insert Payment for: " + cboVehNo.text(), lblBill.text(), QString::number(paid, 'f', 2)});
-    transaction.commit();
+    transaction.commit({.action = name()});
     return true;
 }
 

@@ -105,7 +105,7 @@ bool frmReceiptTemp::save() {
     program.writeAuditTrail({(m_reversal ? "Reversal Entry (Payment) for: " : "insert Payment for: ") + cboVehNo.text(),
                              session.gConsultID, QString::number(amount, 'f', 2)});
     settleBill(connection, amount);
-    transaction.commit();
+    transaction.commit({.action = name()});
     return true;
 }
 

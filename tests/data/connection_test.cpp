@@ -228,7 +228,7 @@ TEST_P(LostServer, ACommitThatBreaksIsAskedForOnANewConnection) {
         billing.run("insert into Payments (ReceiptNo) values ('R1')");
         cut();
         try {
-            transaction.commit();
+            transaction.commit(SavedAction());
             FAIL() << "it was not committed";
         } catch (const CommitUnknown&) {
             FAIL() << "the server knows";

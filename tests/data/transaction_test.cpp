@@ -122,6 +122,48 @@ TEST_P(TransactionTest, AFaultAtAnyStepSavesNothing) {
     EXPECT_EQ(payments(), "1");
 }
 
+TEST_P(TransactionTest, ACommitWithoutAnAnswerIsLookedUpByItsToken) {
+    data.setStatementHook([](const QString& tsql) {
+        if (tsql == "transaction committed")
+            throw DataError("broken here");
+    });
+    const auto ticketOf = [this](auto&&... action) {
+        try {
+            Transaction transaction(billing);
+            transaction.commit(action...);
+        } catch (const CommitUnknown& fault) {
+            return fault.ticket();
+        }
+        ADD_FAILURE() << "its answer came";
+        return CommitTicket();
+    };
+    const QString longText = QString(49, u'O') + QString::fromUtf8("\U0001F600");
+    const CommitTicket saved = ticketOf(SavedAction{"amina.b", longText, "frmReceiptTemp", "001OFL0000001", 1500.5});
+    EXPECT_EQ(data.outcomeOf(saved), CommitOutcome::Saved);
+    EXPECT_EQ(data.outcomeOf({saved.connectionString, "0"}), CommitOutcome::NotSaved);
+    EXPECT_EQ(data.outcomeOf(ticketOf()), CommitOutcome::Unknown) << "it left no token";
+
+    const Recordset rows(billing, Sql("select * from SavedActions"));
+    EXPECT_EQ(rows.count(), 1);
+    EXPECT_EQ(rows.text("workstation"), longText.left(49)) << "cut, no character in two";
+    EXPECT_EQ(rows.text("username") + rows.text("action") + rows.text("document"),
+              "amina.bfrmReceiptTemp001OFL0000001");
+    EXPECT_EQ(rows.number("amount"), 1500.5);
+    EXPECT_EQ(rows.date("savedAt"), QDate::currentDate());
+}
+
+/// A server may still be busy with the transaction that is looked up: what is in the gate may yet be committed.
+TEST_P(TransactionTest, ATokenIsNotMissedWhileItsTransactionMayRun) {
+    if (GetParam() == Engine::Sqlite)
+        GTEST_SKIP() << "the engine is in this process and has ended it";
+    DataSource asking(home.folder());
+    asking.setWaits(100, 10);
+    Transaction transaction(billing);
+    EXPECT_EQ(asking.outcomeOf({TestHome::billing(), "0"}), CommitOutcome::Unknown);
+    transaction.rollback();
+    EXPECT_EQ(asking.outcomeOf({TestHome::billing(), "0"}), CommitOutcome::NotSaved);
+}
+
 TEST_P(TransactionTest, NeverWaitsForItsOwnWorkstation) {
     Connection other = data.open(TestHome::billing());
     Transaction transaction(billing);

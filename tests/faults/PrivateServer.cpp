@@ -20,6 +20,11 @@ QString cluster(const QString& action) {
     return QString::fromUtf8(script.readAllStandardOutput()).trimmed();
 }
 
+void run(const QString& program, const QStringList& arguments) {
+    if (QProcess::execute(program, arguments) != 0)
+        throw std::runtime_error(program.toStdString() + " failed");
+}
+
 } // namespace
 
 PrivateServer::PrivateServer() {
@@ -38,6 +43,19 @@ void PrivateServer::halt() {
 
 void PrivateServer::start() {
     cluster("start");
+}
+
+void PrivateServer::keepCopy() {
+    halt();
+    run("cp", {"-a", folder, folder + "-copy"});
+    start();
+}
+
+void PrivateServer::becomeCopy() {
+    halt();
+    run("rm", {"-r", folder});
+    run("mv", {folder + "-copy", folder});
+    start();
 }
 
 } // namespace orvane

@@ -118,6 +118,7 @@ enum class Ending {
     Late,          ///< the commit comes through when nobody waits for it any more
     OnTheWay,      ///< as AnswerLost, and the server can be asked at once
     ServerStopped, ///< before the commit; another press saves it
+    ServerForgot,  ///< what was committed, and has given the transaction's number to another one
     Closed         ///< as AnswerLost, and the screen was closed before anybody could ask
 };
 
@@ -129,7 +130,8 @@ struct Case {
 };
 
 std::string caseName(const Case& one) {
-    const char* const endings[] = {"Press", "AnswerLost", "Late", "OnTheWay", "ServerStopped", "Closed"};
+    const char* const endings[] = {"Press",         "AnswerLost",   "Late",  "OnTheWay",
+                                   "ServerStopped", "ServerForgot", "Closed"};
     return engineName(one.engine) + one.action.name + endings[int(one.ending)];
 }
 
@@ -154,6 +156,7 @@ QList<Case> cases() {
         const std::pair<Ending, const char*> once[] = {{Ending::Late, "BillItems"},
                                                        {Ending::OnTheWay, "Adjustment"},
                                                        {Ending::ServerStopped, "ManualReceipt"},
+                                                       {Ending::ServerForgot, "Fee"},
                                                        {Ending::Closed, "Discount"}};
         for (const auto& [ending, name] : once)
             if (all || isNamed(name))
@@ -264,6 +267,22 @@ protected:
         expectSaved(scene.press());
     }
 
+    void forgetOnServer() {
+        PrivateServer::keepCopy();
+        pressAndLose(Proxy::Loss::Answer);
+        const QString lost = Beside(scene.folder()).run("select xmin from SavedActions order by savedAt desc limit 1");
+        PrivateServer::becomeCopy();
+        {
+            Beside others(scene.folder());
+            while (others.run("select txid_current()").toLongLong() < lost.toLongLong()) {
+            }
+            ASSERT_EQ(others.run("select txid_status(" + lost + ")"), "committed") << "another transaction";
+        }
+        scene.proxy->comeBack();
+        expectRefused(scene.press(), notSaved);
+        expectSaved(scene.press());
+    }
+
     void closeUnknown() {
         pressAndLose(Proxy::Loss::Answer);
         Form* form = scene.ws->program.activeForm();
@@ -313,6 +332,9 @@ TEST_P(Faults, SaveTheEntryOnceWhenTheyAreGone) {
     }
     case Ending::ServerStopped:
         stopServer();
+        return;
+    case Ending::ServerForgot:
+        forgetOnServer();
         return;
     case Ending::Closed:
         closeUnknown();

@@ -266,22 +266,23 @@ QSqlQuery PhysicalConnection::sendBegin(const QString& text) {
     return query;
 }
 
-/// Begins and takes the money gate. PostgreSQL gives the transaction its number here, by which outcomeOf asks for it.
-void PhysicalConnection::enterGate() {
+/// Begins and takes the money gate; waits as long as for any lock, or so many milliseconds.
+void PhysicalConnection::enterGate(std::optional<int> longestWait) {
     if (!hasEngineTransaction())
         return;
     if (engine == Engine::Sqlite) {
         sendBegin("begin immediate");
     } else if (engine == Engine::Postgresql) {
-        sendBegin("begin isolation level read committed");
-        QSqlQuery gateResult = sendBegin(takesGate ? "select pg_advisory_xact_lock(7461), txid_current() as number"
-                                                   : "select txid_current() as number");
-        transaction = gateResult.next() ? gateResult.value("number").toString() : QString();
-        requireAllRead(gateResult.lastError(), gateResult.lastQuery());
+        const QString begin = "begin isolation level read committed";
+        sendBegin(longestWait ? begin + QStringLiteral("; set local lock_timeout = %1").arg(*longestWait) : begin);
+        if (takesGate)
+            sendBegin("select pg_advisory_xact_lock(7461)");
     } else {
         sendBegin("begin transaction");
-        QSqlQuery gateResult = sendBegin(QStringLiteral(
-            "declare @r int; exec @r = sp_getapplock 'orvane', 'Exclusive', 'Transaction', 60000; select @r"));
+        QSqlQuery gateResult =
+            sendBegin(QStringLiteral(
+                          "declare @r int; exec @r = sp_getapplock 'orvane', 'Exclusive', 'Transaction', %1; select @r")
+                          .arg(longestWait.value_or(60000)));
         if (!gateResult.next() || gateResult.value(0).toInt() < 0)
             throw DataError("The database is in use by another workstation. Nothing was saved. Please try again.");
     }
@@ -290,7 +291,6 @@ void PhysicalConnection::enterGate() {
 void PhysicalConnection::begin() {
     ORVANE_ASSERT(!inTransaction);
     source->enterGate(gate);
-    transaction.clear();
     bool begun = false;
     try {
         source->callHook("begin transaction");

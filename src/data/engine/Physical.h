@@ -51,7 +51,6 @@ struct PhysicalConnection {
     bool inTransaction = false;
     bool poisoned = false; ///< a statement of the open transaction failed
     int clockVersion = 0;  ///< of the server clock that PostgreSQL was told
-    QString transaction;   ///< the engine's own number of the open transaction, where it has one
 
     /// Sends one T-SQL statement. Raises DataError; a failure poisons an open transaction.
     Answer ask(const QString& tsql);
@@ -69,7 +68,11 @@ struct PhysicalConnection {
     void requireAllRead(const QSqlError& fault, const QString& text);
 
     void begin();
-    void commit();
+    /// `token`: of the row of SavedActions that the transaction wrote; empty where it wrote none.
+    void commit(const QString& token);
+    /// Whether the transaction that was to write this token has come through. Raises DataError when that cannot be
+    /// told, because it may still be under way.
+    bool hasSaved(const QString& token);
     void rollback() noexcept;
 
 private:
@@ -82,10 +85,9 @@ private:
     void tellClock();
     [[noreturn]] void fail(const QSqlError& error, const QString& text, bool saving);
     QSqlQuery sendBegin(const QString& text);
-    void enterGate();
+    void enterGate(std::optional<int> longestWait = {});
     bool hasEngineTransaction() const;
-    void settleCommit(const QSqlError& error);
-    CommitTicket ticket() const;
+    void settleCommit(const QSqlError& error, const CommitTicket& ticket);
     void endTransaction();
 
     QCache<QString, CompiledStatement> m_compiled{100}; ///< by text

@@ -56,6 +56,7 @@ constexpr TableRights billingTables[] = {
     {"Payments", "insert"},
     {"PaymentTypes", "insert"},
     {"Roles", "insert, delete"},
+    {"SavedActions", "insert"},
     {"TariffAdjust", "insert"},
     {"Tranxaction", "insert"},
     {"UserActivities", "insert, update"},

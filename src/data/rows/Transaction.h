@@ -4,9 +4,9 @@
 
 namespace orvane {
 
-/// What a save leaves of itself in SavedActions, by which it is found when its commit was not answered.
+/// What a transaction saves, for the row of SavedActions by which its commit can be looked up.
 struct SavedAction {
-    QString user, workstation, action, document;
+    QString user = {}, workstation = {}, action = {}, document = {};
     double amount = 0; ///< naira
 };
 
@@ -21,13 +21,18 @@ public:
     Transaction& operator=(const Transaction&) = delete;
 
     /// Raises DataError when a statement of this transaction failed before (it is then rolled back), or when the commit
-    /// fails. When the connection breaks during the commit, a new one asks whether it came through: then this returns
-    /// as ever, else it raises DataError, and CommitUnknown when the database cannot be asked for some seconds.
+    /// fails. When the connection breaks during the commit it raises CommitUnknown, whose ticket nobody can look up:
+    /// for work that nobody has to look up.
     void commit();
-    void commit(const SavedAction&) { commit(); }
+    /// Writes the row of SavedActions under a fresh token, its texts cut to their columns, and commits. When the
+    /// connection breaks during the commit, a new one asks for the token: where it is found this returns as ever, where
+    /// it will never be there it raises DataError, and CommitUnknown when that cannot be learnt within some seconds.
+    void commit(const SavedAction& action);
     void rollback(); ///< does nothing after commit or rollback
 
 private:
+    void end(const QString& token);
+
     struct Private;
     std::unique_ptr<Private> d;
 };
