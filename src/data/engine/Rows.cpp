@@ -143,11 +143,14 @@ void Rows::readOn(qsizetype rows) const {
 bool Rows::has(qsizetype row) const {
     while (row >= read() && !isWhole())
         readOn(rowsAtOnce);
+    if (row >= read())
+        count();
     return row < read();
 }
 
 qsizetype Rows::count() const {
-    readOn(mostRows);
+    if (m_rest)
+        m_rest->read(*m_values, mostRows);
     m_rest.reset();
     return read();
 }

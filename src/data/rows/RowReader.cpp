@@ -26,10 +26,13 @@ QStringList RowReader::heads() const {
 }
 
 void RowReader::read(std::vector<QVariant>& values, qsizetype rows) {
+    if (m_fault)
+        std::rethrow_exception(m_fault);
     try {
         for (; rows > 0 && !atEnd(); rows -= mostRowsAPage)
             readPage(values, std::min(rows, mostRowsAPage));
     } catch (...) {
+        m_fault = std::current_exception();
         end();
         throw;
     }

@@ -22,6 +22,7 @@ public:
     QStringList heads() const;
     bool atEnd() const { return !m_query; }
     /// Appends the values of up to so many rows. Raises DataError, and is at its end, when the query fails half-way.
+    /// Asked again after that, it raises the same fault: what was read is never taken for all.
     void read(std::vector<QVariant>& values, qsizetype rows);
 
 private:
@@ -30,6 +31,7 @@ private:
 
     Connection m_connection;
     std::optional<QSqlQuery> m_query; ///< none at the end
+    std::exception_ptr m_fault;       ///< that ended it half-way
     std::shared_ptr<const RowFacts> m_facts;
     Columns m_columns;
 };
