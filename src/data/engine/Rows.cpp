@@ -1,7 +1,7 @@
 #include "data/engine/Rows.h"
 
 #include "data/dialect/Value.h"
-#include "data/rows/RowReader.h"
+#include "data/engine/RowReader.h"
 
 #include <QSqlRecord>
 #include <QSqlResult>

@@ -16,7 +16,8 @@ namespace orvane {
 class Recordset {
 public:
     Recordset(Connection& connection, const Sql& sql);
-    Recordset(); ///< no columns, no rows
+    Recordset(Connection& connection, const SqlParts& tsql); ///< for the data layer itself
+    Recordset();                                             ///< no columns, no rows
     ~Recordset();
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
@@ -62,9 +63,7 @@ public:
     void update();
 
 private:
-    friend class Connection;
     struct Private;
-    void read(Connection& connection, const QString& tsql);
     int columnIndex(const QString& column) const;
     std::shared_ptr<Private> d;
 };

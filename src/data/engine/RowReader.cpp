@@ -1,6 +1,4 @@
-#include "data/rows/RowReader.h"
-
-#include "data/engine/Physical.h"
+#include "data/engine/RowReader.h"
 
 namespace orvane {
 
@@ -10,11 +8,17 @@ constexpr qsizetype mostRowsAPage = 5000; ///< what comes over the net at once
 
 } // namespace
 
-RowReader::RowReader(Connection connection, const QString& tsql) : m_connection(std::move(connection)) {
-    OpenQuery opened = m_connection.d->open(tsql);
-    m_query = std::move(opened.query);
-    m_facts = std::move(opened.facts);
-    m_columns = columnsOf(*m_query, m_connection.engine());
+RowReader::RowReader(std::shared_ptr<PhysicalConnection> connection, const SqlParts& tsql)
+    : m_connection(std::move(connection)) {
+    try {
+        OpenQuery opened = m_connection->open(tsql);
+        m_query = std::move(opened.query);
+        m_facts = std::move(opened.facts);
+        m_columns = columnsOf(*m_query, m_connection->engine);
+    } catch (...) {
+        giveBack(std::move(m_connection));
+        throw;
+    }
 }
 
 RowReader::~RowReader() {
@@ -39,12 +43,12 @@ void RowReader::read(std::vector<QVariant>& values, qsizetype rows) {
 }
 
 void RowReader::readPage(std::vector<QVariant>& values, qsizetype rows) {
-    if (m_connection.engine() == Engine::Postgresql)
-        m_query = m_connection.d->fetch(rows);
+    if (m_connection->engine == Engine::Postgresql)
+        m_query = m_connection->fetch(rows);
     QSqlError fault;
     if (readValues(*m_query, m_columns, values, rows, fault) == rows)
         return;
-    m_connection.d->requireAllRead(fault, m_query->lastQuery());
+    m_connection->requireAllRead(fault, m_query->lastQuery());
     end();
 }
 
@@ -52,9 +56,9 @@ void RowReader::end() noexcept {
     if (atEnd())
         return;
     m_query.reset();
-    if (m_connection.engine() == Engine::Postgresql)
-        m_connection.d->closeCursor();
-    m_connection.giveBack();
+    if (m_connection->engine == Engine::Postgresql)
+        m_connection->closeCursor();
+    giveBack(std::move(m_connection));
 }
 
 } // namespace orvane
