@@ -20,7 +20,7 @@ Sql waitingItems() {
 
 void composeStatement(benchmark::State& state) {
     for (auto _ : state)
-        benchmark::DoNotOptimize(waitingItems().text());
+        benchmark::DoNotOptimize(waitingItems().parts().form());
 }
 BENCHMARK(composeStatement);
 
@@ -34,10 +34,10 @@ BENCHMARK(translateStatement)->Arg(0)->Arg(1);
 
 /// The same when a statement of its kind came before.
 void translateKeptStatement(benchmark::State& state) {
-    const QString tsql = waitingItems().text();
+    const Sql sql = waitingItems();
     const Engine engine = state.range(0) == 0 ? Engine::Sqlite : Engine::Postgresql;
     for (auto _ : state)
-        benchmark::DoNotOptimize(statementOf(tsql, engine));
+        benchmark::DoNotOptimize(statementOf(sql.parts(), engine));
 }
 BENCHMARK(translateKeptStatement)->Arg(0)->Arg(1);
 

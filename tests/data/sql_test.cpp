@@ -65,10 +65,15 @@ TEST_P(Values, ComeBackAsTheyWent) {
         billing.execute(Sql("delete from hPatients where psurname='") << text << "'");
         EXPECT_EQ(scalar("select count(*) from hPatients"), "0");
     }
-    for (const double amount : {0.1 + 0.2, 999999999999.99, -1234567.005, 1e308, 5e-324}) {
-        billing.execute(Sql("insert into hPatients (PNo, psurname, DebtBF) values ('1', 'A', ") << amount << ")");
-        EXPECT_EQ(Recordset(billing, Sql("select DebtBF from hPatients")).number("debtbf"), amount);
-        billing.execute(Sql("delete from hPatients"));
+    QList<double> amounts = {999999999999.99, -1234567.005, 1e308, 5e-324};
+    for (double amount = 0.1; amounts.size() < 100; amount = std::fmod(amount * 7.3 + 0.07, 9e7))
+        amounts << amount << -amount << std::round(amount * 100) / 100;
+    billing.execute(Sql("insert into hPatients (PNo, psurname) values ('1', 'A')"));
+    for (const double amount : amounts) {
+        billing.execute(Sql("update hPatients set DebtBF=") << amount << "where pno = '1'");
+        const Recordset row(billing, Sql("select DebtBF from hPatients where pno='1' and DebtBF=") << amount);
+        ASSERT_FALSE(row.eof()) << amount;
+        EXPECT_EQ(row.number("debtbf"), amount);
     }
 }
 

@@ -205,47 +205,6 @@ TEST(Translator, RefusesWhatEndsTooEarly) {
     EXPECT_EQ(translate("select 1 -- 'open\n, '--no comment'", Engine::Sqlite), "select 1 , '--no comment'");
 }
 
-// An engine must read a text as the text it is, whatever stands around it.
-TEST(Translator, LetsNoLiteralBreakOut) {
-    const QString nasty = "'x''; -- '";
-    const struct {
-        QString tsql;
-        Engine engine;
-        QString expected; ///< empty: refused
-    } cases[] = {
-        {"select top %1 a from T", Engine::Sqlite, {}},
-        {QStringLiteral("select top (1 + %1) a from T"), Engine::Postgresql, {}},
-        {QStringLiteral("select `%1"), Engine::Sqlite, {}},
-        {QStringLiteral("select $$%1$$"), Engine::Postgresql, {}},
-        {QStringLiteral("select %1") + QChar(u'\0'), Engine::SqlServer, {}},
-        {QStringLiteral("select U&%1"), Engine::Postgresql, QStringLiteral("select U& %1")},
-        {QStringLiteral("select x%1"), Engine::Sqlite, QStringLiteral("select x %1")},
-        {QStringLiteral("select a[%1]]\"]"), Engine::Sqlite, QStringLiteral("select a \"%1]\"\"\"")},
-        {"create table %1 (a int)", Engine::Sqlite, {}},
-        {"create index i(a on T (b))", Engine::Sqlite, {}},
-        {"create table T (%1 int)", Engine::Postgresql, {}},
-        {"create table T (a [%1])", Engine::Postgresql, {}},
-        {"create table T (a int default)", Engine::Postgresql, {}},
-        {"not like %1", Engine::Postgresql, "not like %1"},
-        {"in (%1)", Engine::Sqlite, "in (%1)"},
-        {"end", Engine::Sqlite, "end"},
-        {QString(100, u'(') + "%1" + QString(100, u')'), Engine::Sqlite,
-         QString(100, u'(') + "%1" + QString(100, u')')},
-        {QString(101, u'(') + QString(101, u')'), Engine::Sqlite, {}},
-        {QStringLiteral("select top 1 ").repeated(101), Engine::Sqlite, {}},
-        {"a" + QStringLiteral(" not in (select %1)").repeated(60), Engine::Postgresql, {}},
-        {QStringLiteral("datediff(month, 1, ").repeated(60) + "%1" + QString(60, u')'), Engine::Sqlite, {}},
-    };
-    for (const auto& one : cases) {
-        const QString tsql = QString(one.tsql).replace("%1", nasty);
-        const auto translated = [&] { return translate(tsql, one.engine).toStdString(); };
-        if (one.expected.isEmpty())
-            EXPECT_THROW(translated(), DataError) << tsql.toStdString();
-        else
-            EXPECT_EQ(translated(), QString(one.expected).replace("%1", nasty).toStdString());
-    }
-}
-
 TEST(Translator, SplitsScriptsAtGo) {
     EXPECT_EQ(splitScript("-- head\n\ngo\nselect 1\nGO \n select 'go\n'\n"),
               QStringList({"select 1", "select 'go\n'"}));

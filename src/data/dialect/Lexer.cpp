@@ -66,10 +66,6 @@ private:
             return {TokenKind::Number, number(), m_space};
         if (startsName(c))
             return {TokenKind::Word, takeWhile(continuesName), m_space};
-        if (c == u'?') {
-            ++m_at;
-            return {TokenKind::Parameter, "?", m_space};
-        }
         return {TokenKind::Symbol, symbol(), m_space};
     }
 

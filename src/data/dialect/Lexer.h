@@ -10,8 +10,7 @@ enum class TokenKind {
     Bracketed, ///< a name in brackets or double quotes; text is the bare name
     Text,      ///< a text literal; text is its content, quotes undoubled
     Number,
-    Symbol,    ///< an operator or a punctuation mark
-    Parameter, ///< ?
+    Symbol, ///< an operator or a punctuation mark
 };
 
 struct Token {

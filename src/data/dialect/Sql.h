@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/dialect/SqlParts.h"
+
 #include <QDate>
 #include <QDateTime>
 #include <QString>
@@ -31,35 +33,45 @@ public:
     Sql() = default;
     Sql(SqlLiteral fragment) { *this << fragment; } // NOLINT: implicit on purpose
 
-    Sql& operator<<(SqlLiteral fragment);
+    Sql& operator<<(SqlLiteral fragment) {
+        m_parts.addFragment(QString::fromUtf8(fragment.text().data(), static_cast<qsizetype>(fragment.text().size())));
+        return *this;
+    }
     /// Exactly a QString: a character array must not turn into a value on its way.
     template <std::same_as<QString> T>
     Sql& operator<<(const T& value) {
-        return appendText(value);
+        m_parts.addText(value);
+        return *this;
     }
-    Sql& operator<<(double value);
-    Sql& operator<<(QDate value);            ///< as yyyy-MM-dd, the short form on every engine
-    Sql& operator<<(const QDateTime& value); ///< as yyyy-MM-dd HH:mm:ss
-    Sql& operator<<(const Sql& other);       ///< a whole statement part; both must stand outside quotes
+    Sql& operator<<(double value) {
+        m_parts.addNumber(value);
+        return *this;
+    }
+    Sql& operator<<(QDate value) { ///< as yyyy-MM-dd, the short form on every engine
+        m_parts.addDate(value.isValid() ? value.toString(Qt::ISODate) : QString());
+        return *this;
+    }
+    Sql& operator<<(const QDateTime& value) { ///< as yyyy-MM-dd HH:mm:ss
+        m_parts.addDate(value.isValid() ? value.toString("yyyy-MM-dd HH:mm:ss") : QString());
+        return *this;
+    }
+    Sql& operator<<(const Sql& other) { ///< a whole statement part; both must stand outside quotes
+        m_parts.add(other.m_parts);
+        return *this;
+    }
     template <std::integral T>
     requires(!std::same_as<T, char> && !std::same_as<T, char16_t> && !std::same_as<T, wchar_t>) Sql&
     operator<<(T value) {
-        return appendInteger(static_cast<qlonglong>(value));
+        m_parts.addNumber(static_cast<qlonglong>(value));
+        return *this;
     }
 
-    /// The statement in T-SQL. The quotes must balance (asserted).
-    QString text() const;
+    /// The statement in T-SQL, for logs, faults and tests. The quotes must balance (asserted).
+    QString text() const { return m_parts.text(); }
+    const SqlParts& parts() const { return m_parts; } ///< as it goes to the engine
 
 private:
-    Sql& appendText(const QString& value);
-    Sql& appendDate(const QString& text);
-    Sql& appendNumber(const QString& text);
-    Sql& appendInteger(qlonglong value);
-    void appendFragment(QStringView fragment);
-
-    QString m_text;
-    bool m_insideQuotes = false;
-    bool m_swallowQuote = false; ///< an empty date took the opening quote; the closing one goes too
+    SqlParts m_parts;
 };
 
 /// A text as the inside of a single-quoted SQL literal. Refuses what no text column may hold, naming `what` in the

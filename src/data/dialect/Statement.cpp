@@ -3,7 +3,8 @@
 #include "data/DataError.h"
 #include "data/dialect/Lexer.h"
 #include "data/dialect/Rewrite.h"
-#include "data/dialect/Skeleton.h"
+#include "data/dialect/StandIn.h"
+#include "data/dialect/Template.h"
 #include "data/dialect/Translator.h"
 
 #include <QCache>
@@ -14,7 +15,7 @@ namespace {
 
 constexpr int keptStatements = 1000;
 
-/// What is made of all statements of one skeleton.
+/// What is made of all statements of one form.
 struct Kind {
     Template text;
     std::shared_ptr<const RowFacts> facts;
@@ -32,33 +33,43 @@ Kinds& kinds() {
     return kept;
 }
 
-/// What the pattern of a "like" is decides how it is searched, so such a statement is translated with its values.
-bool looksAtValues(const QString& tsql) {
-    const Tokens tokens = tokenize(tsql);
-    return std::any_of(tokens.begin(), tokens.end(), [](const Token& token) { return token.is("like"); });
+/// The pattern of a "like" decides how it is searched: one that stands apart must be back in the text.
+bool hasPatternApart(const QString& form) {
+    const Tokens tokens = tokenize(form);
+    for (qsizetype i = 0; i + 1 < tokens.size(); ++i)
+        if (tokens[i].is("like") && holdsStandIn(tokens[i + 1].text))
+            return true;
+    return false;
+}
+
+bool areBoundAsTheyStand(const QVariantList& values) {
+    return std::all_of(
+        values.begin(), values.end(),
+        [](const QVariant& value) {
+            return value.typeId() != QMetaType::QString || isBoundAsItStands(value.toString());
+        });
 }
 
 /// Null where the statement itself must be translated, be it only for the fault to name it.
-std::shared_ptr<const Kind> makeKind(const QString& skeleton, Engine engine) {
+std::shared_ptr<const Kind> makeKind(const QString& form, Engine engine) {
     try {
-        if (looksAtValues(skeleton))
+        if (hasPatternApart(form))
             return {};
-        std::optional<Template> text = Template::of(translate(skeleton, engine), engine == Engine::SqlServer);
-        return text ? std::make_shared<const Kind>(Kind{std::move(*text), std::make_shared<RowFacts>(skeleton)})
-                    : nullptr;
+        std::optional<Template> text = Template::of(translate(form, engine), engine == Engine::SqlServer);
+        return text ? std::make_shared<const Kind>(Kind{std::move(*text), std::make_shared<RowFacts>(form)}) : nullptr;
     } catch (const DataError&) {
         return {};
     }
 }
 
-std::shared_ptr<const Kind> kindOf(const QString& skeleton, Engine engine) {
-    const std::pair key(int(engine), skeleton);
+std::shared_ptr<const Kind> kindOf(const QString& form, Engine engine) {
+    const std::pair key(int(engine), form);
     {
         const QMutexLocker lock(&kindsMutex());
         if (const std::shared_ptr<const Kind>* known = kinds().object(key))
             return *known;
     }
-    const std::shared_ptr<const Kind> kind = makeKind(skeleton, engine);
+    const std::shared_ptr<const Kind> kind = makeKind(form, engine);
     if (!kind)
         return {};
     const QMutexLocker lock(&kindsMutex());
@@ -103,15 +114,22 @@ const Table* RowFacts::writableTable(const QString& database) const {
     return m_isSelect && m_sources.size() == 1 ? Catalog::instance().table(m_sources.first(), database) : nullptr;
 }
 
-Statement statementOf(const QString& tsql, Engine engine) {
-    const std::optional<Skeleton> skeleton = skeletonOf(tsql);
-    const std::shared_ptr<const Kind> kind = skeleton ? kindOf(skeleton->text, engine) : nullptr;
-    if (!kind)
-        return {translate(tsql, engine), std::make_shared<RowFacts>(tsql), {}, {}};
-    Statement statement{kind->text.filled(skeleton->values), kind->facts, {}, {}};
-    if (engine == Engine::Sqlite && !kind->text.marked().isNull()) {
+bool isBoundAsItStands(QStringView text) {
+    return !text.startsWith(QChar(QChar::ByteOrderMark)) && !text.startsWith(QChar(QChar::ByteOrderSwapped));
+}
+
+Statement statementOf(const SqlParts& tsql, Engine engine) {
+    const std::optional<QString> form = tsql.form();
+    const std::shared_ptr<const Kind> kind = form ? kindOf(*form, engine) : nullptr;
+    if (!kind) {
+        const QString text = tsql.text();
+        return {translate(text, engine), std::make_shared<RowFacts>(text), {}, {}};
+    }
+    const QVariantList values = tsql.values();
+    Statement statement{kind->text.filled(values), kind->facts, {}, {}};
+    if (engine == Engine::Sqlite && !kind->text.marked().isNull() && areBoundAsTheyStand(values)) {
         statement.marked = kind->text.marked();
-        statement.bound = kind->text.bound(skeleton->values);
+        statement.bound = kind->text.bound(values);
     }
     return statement;
 }

@@ -2,6 +2,7 @@
 
 #include "data/Engine.h"
 #include "data/dialect/Catalog.h"
+#include "data/dialect/SqlParts.h"
 
 #include <QMutex>
 #include <QString>
@@ -42,8 +43,12 @@ struct Statement {
     QVariantList bound;
 };
 
-/// The same as translate() gives. Statements that differ only in their values are translated once, and what was made of
-/// them is kept, some hundreds of them. For all threads. Raises DataError as translate() does.
-Statement statementOf(const QString& tsql, Engine engine);
+/// The same as translate() gives of its text. Statements that differ only in their values are translated once, and what
+/// was made of them is kept, some hundreds of them. For all threads. Raises DataError as translate() does.
+Statement statementOf(const SqlParts& tsql, Engine engine);
+
+/// Whether SQLite stores the text as it stands when it is bound: it takes U+FEFF and U+FFFE at the start for the byte
+/// order, drops them, and swaps the bytes of all that follows the latter.
+bool isBoundAsItStands(QStringView text);
 
 } // namespace orvane

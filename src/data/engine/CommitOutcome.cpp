@@ -1,6 +1,7 @@
 // The commit of a transaction, and what became of it when its answer was lost.
 #include "data/engine/Faults.h"
 #include "data/engine/Physical.h"
+#include "data/engine/Source.h"
 
 #include <QElapsedTimer>
 #include <QThread>
@@ -65,7 +66,7 @@ void PhysicalConnection::settleCommit(const QSqlError& error, const CommitTicket
     }
 }
 
-CommitOutcome DataSource::Private::outcomeSoon(const CommitTicket& ticket) {
+CommitOutcome Source::outcomeSoon(const CommitTicket& ticket) {
     QElapsedTimer time;
     time.start();
     for (int attempt = 1;; ++attempt) {
@@ -77,7 +78,7 @@ CommitOutcome DataSource::Private::outcomeSoon(const CommitTicket& ticket) {
     }
 }
 
-CommitOutcome DataSource::Private::outcomeOf(const CommitTicket& ticket) {
+CommitOutcome Source::outcomeOf(const CommitTicket& ticket) {
     if (ticket.token.isEmpty())
         return CommitOutcome::Unknown;
     try {
@@ -105,10 +106,6 @@ bool PhysicalConnection::hasSaved(const QString& token) {
     if (hasServer)
         sendNative("rollback");
     return saved;
-}
-
-CommitOutcome DataSource::outcomeOf(const CommitTicket& ticket) {
-    return d->outcomeOf(ticket);
 }
 
 } // namespace orvane

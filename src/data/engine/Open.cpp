@@ -1,6 +1,7 @@
 #include "data/engine/Faults.h"
 #include "data/engine/Physical.h"
-#include "data/rows/Schema.h"
+#include "data/engine/SchemaVersion.h"
+#include "data/engine/Source.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -45,7 +46,7 @@ void getDate(sqlite3_context* context, int, sqlite3_value**) {
     thread_local qint64 writtenFor = 0;
     thread_local QString written;
     static const QString form = "yyyy-MM-dd HH:mm:ss";
-    const auto* source = static_cast<const DataSource::Private*>(sqlite3_user_data(context));
+    const auto* source = static_cast<const Source*>(sqlite3_user_data(context));
     if (const std::optional<QDateTime> fixed = source->clock()) {
         giveText(context, fixed->toString(form));
         return;
@@ -66,7 +67,7 @@ void textOf(sqlite3_context* context, int, sqlite3_value** arguments) {
         sqlite3_result_value(context, arguments[0]);
 }
 
-void prepareSqlite(const Physical& physical, const std::shared_ptr<DataSource::Private>& source) {
+void prepareSqlite(const Physical& physical, const std::shared_ptr<Source>& source) {
     sqlite3* handle = handleOf(physical->database);
     // A misspelt name in double quotes is a fault, not a text.
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
@@ -218,8 +219,7 @@ void openServer(const Physical& physical, const ServerEntry& entry, const Connec
 
 } // namespace
 
-Physical openPhysical(const std::shared_ptr<DataSource::Private>& source, const QString& connectionString,
-                      bool create) {
+Physical openPhysical(const std::shared_ptr<Source>& source, const QString& connectionString, bool create) {
     const ConnectionTarget target = parseConnectionString(connectionString);
     const ServerEntry entry = source->servers.entry(target.server);
     const Physical physical = std::make_shared<PhysicalConnection>();

@@ -1,46 +1,16 @@
 #include "data/engine/Physical.h"
 
 #include "data/Assert.h"
-#include "data/dialect/Skeleton.h"
-#include "data/dialect/Value.h"
 #include "data/engine/Faults.h"
+#include "data/engine/Source.h"
 
-#include <QSqlDriver>
 #include <QSqlError>
-#include <QThread>
-#include <libpq-fe.h>
-#include <poll.h>
 
 namespace orvane {
 
 namespace {
 
 std::atomic<bool> takesGate = true;
-
-quintptr thisThread() {
-    return reinterpret_cast<quintptr>(QThread::currentThreadId());
-}
-
-/// Whether PostgreSQL has said nothing on an idle connection. It announces that it closes one, so the socket of a dead
-/// connection has something to read; asking the socket costs no message.
-bool isQuiet(const PhysicalConnection& physical) {
-    if (physical.engine != Engine::Postgresql || !physical.database.isOpen())
-        return false;
-    const QVariant handle = physical.database.driver()->handle();
-    if (qstrcmp(handle.typeName(), "pg_conn*") != 0) // libpq's own name of a PGconn
-        return false;
-    PGconn* const connection = *static_cast<PGconn* const*>(handle.constData());
-    pollfd socket = {PQsocket(connection), POLLIN, 0};
-    return PQstatus(connection) == CONNECTION_OK && poll(&socket, 1, 0) == 0;
-}
-
-bool areBoundAsTheyStand(const QVariantList& values) {
-    return std::all_of(
-        values.begin(), values.end(),
-        [](const QVariant& value) {
-            return value.typeId() != QMetaType::QString || isBoundAsItStands(value.toString());
-        });
-}
 
 bool changesRows(const QString& text) {
     const QString start = text.trimmed().left(6).toLower();
@@ -61,45 +31,21 @@ void setGateForTests(bool taken) {
     takesGate = taken;
 }
 
-QString withLiterals(const QString& text, const QVariantList& values) {
-    QString result;
-    qsizetype from = 0;
-    for (const QVariant& value : values) {
-        const qsizetype mark = text.indexOf(u'?', from);
-        result += QStringView(text).mid(from, mark - from);
-        result += valueLiteral(value);
-        from = mark + 1;
-    }
-    result += QStringView(text).mid(from);
-    return result;
-}
-
 /// What every statement goes through before it is sent: the rules of the transaction, the hook, the clock, and the
 /// engine's own words.
-Statement PhysicalConnection::admit(const QString& tsql, const QVariantList& bound) {
+Statement PhysicalConnection::admit(const SqlParts& tsql) {
     if (inTransaction && poisoned)
-        throw DataError("An earlier statement of this transaction failed. Nothing of it is saved.", tsql);
+        throw DataError("An earlier statement of this transaction failed. Nothing of it is saved.", tsql.text());
     Statement statement;
     try {
-        source->callHook(tsql, bound);
+        source->callHook(tsql);
         tellClock();
-        // SQL Server gets the values as literals: its driver would have to guess the type of a bound null.
-        statement = statementOf(engine == Engine::SqlServer ? withLiterals(tsql, bound) : tsql, engine);
+        statement = statementOf(tsql, engine);
     } catch (...) {
         poisoned = inTransaction;
         throw;
     }
     refuseSelfLock(statement.text);
-    if (bound.isEmpty() || engine == Engine::SqlServer)
-        return statement;
-    if (engine == Engine::Sqlite && areBoundAsTheyStand(bound)) {
-        statement.marked = statement.text;
-        statement.bound = bound;
-    } else {
-        // A prepared statement costs PostgreSQL three messages for one run; its literals are as exact as bound values.
-        statement.text = withLiterals(statement.text, bound);
-        statement.marked = QString();
-    }
     return statement;
 }
 
@@ -113,7 +59,7 @@ void PhysicalConnection::execute(QSqlQuery& query, const std::function<bool()>& 
     }
 }
 
-Answer PhysicalConnection::ask(const QString& tsql) {
+Answer PhysicalConnection::ask(const SqlParts& tsql) {
     const Statement statement = admit(tsql);
     Answer answer{{}, statement.facts};
     if (!statement.marked.isNull()) {
@@ -140,8 +86,8 @@ Answer PhysicalConnection::ask(const QString& tsql) {
     return answer;
 }
 
-int PhysicalConnection::change(const QString& tsql, const QVariantList& bound) {
-    const Statement statement = admit(tsql, bound);
+int PhysicalConnection::change(const SqlParts& tsql) {
+    const Statement statement = admit(tsql);
     int rows = 0;
     if (!statement.marked.isNull()) {
         runCompiled(
@@ -195,7 +141,19 @@ QSqlQuery PhysicalConnection::sendNative(const QString& text) {
     return query;
 }
 
-OpenQuery PhysicalConnection::open(const QString& tsql) {
+void PhysicalConnection::sendAllNative(const QStringList& statements) {
+    sendNative(engine == Engine::SqlServer ? "begin transaction" : "begin");
+    try {
+        for (const QString& statement : statements)
+            sendNative(statement);
+        sendNative("commit");
+    } catch (...) {
+        QSqlQuery(database).exec("rollback");
+        throw;
+    }
+}
+
+OpenQuery PhysicalConnection::open(const SqlParts& tsql) {
     const Statement statement = admit(tsql);
     OpenQuery opened{QSqlQuery(database), statement.facts};
     if (engine != Engine::Postgresql) {
@@ -326,93 +284,6 @@ void PhysicalConnection::endTransaction() {
     poisoned = false;
     --source->openTransactions;
     source->leaveGate(gate);
-}
-
-// The source's pool.
-
-std::shared_ptr<PhysicalConnection> DataSource::Private::take(const QString& connectionString) {
-    const QString key = QStringLiteral("%1\n%2").arg(thisThread()).arg(connectionString);
-    for (;;) {
-        std::shared_ptr<PhysicalConnection> physical;
-        {
-            const QMutexLocker lock(&m_mutex);
-            auto& idle = m_idle[key];
-            if (idle.isEmpty())
-                break;
-            physical = idle.takeLast();
-        }
-        // A server that was restarted has closed its idle connections.
-        const bool alive = physical->engine == Engine::Sqlite || isQuiet(*physical) ||
-                           (physical->database.isOpen() && QSqlQuery(physical->database).exec("select 1"));
-        if (alive) {
-            physical->source = shared_from_this();
-            ++physical->lease;
-            return physical;
-        }
-    }
-    std::shared_ptr<PhysicalConnection> physical = openPhysical(shared_from_this(), connectionString, false);
-    physical->poolKey = key;
-    return physical;
-}
-
-void DataSource::Private::giveBack(std::shared_ptr<PhysicalConnection> physical) noexcept {
-    if (physical->inTransaction)
-        physical->rollback();
-    ++physical->lease;
-    const std::shared_ptr<Private> self = std::move(physical->source);
-    if (!physical->broken && !physical->poolKey.isEmpty()) {
-        const QMutexLocker lock(&m_mutex);
-        m_idle[physical->poolKey].append(std::move(physical));
-    }
-}
-
-void DataSource::Private::dropIdle() {
-    const QMutexLocker lock(&m_mutex);
-    const QString thread = QStringLiteral("%1\n").arg(thisThread());
-    m_idle.removeIf([&](auto idle) { return idle.key().startsWith(thread); });
-}
-
-void DataSource::Private::callHook(const QString& tsql, const QVariantList& bound) {
-    std::function<void(const QString&)> hook;
-    {
-        const QMutexLocker lock(&m_mutex);
-        hook = m_hook;
-    }
-    if (hook)
-        hook(withLiterals(tsql, bound));
-}
-
-void DataSource::Private::setHook(std::function<void(const QString&)> hook) {
-    const QMutexLocker lock(&m_mutex);
-    m_hook = std::move(hook);
-}
-
-std::optional<QDateTime> DataSource::Private::clock() const {
-    const QMutexLocker lock(&m_mutex);
-    return m_clock;
-}
-
-void DataSource::Private::setClock(std::optional<QDateTime> at) {
-    const QMutexLocker lock(&m_mutex);
-    m_clock = std::move(at);
-    ++clockVersion;
-}
-
-void DataSource::Private::enterGate(const QString& gate) {
-    const QMutexLocker lock(&m_mutex);
-    if (m_gates.contains({gate, thisThread()}))
-        throw DataError("This workstation has a transaction open on another connection.");
-    m_gates.insert({gate, thisThread()});
-}
-
-void DataSource::Private::leaveGate(const QString& gate) {
-    const QMutexLocker lock(&m_mutex);
-    m_gates.remove({gate, thisThread()});
-}
-
-bool DataSource::Private::insideGate(const QString& gate) const {
-    const QMutexLocker lock(&m_mutex);
-    return m_gates.contains({gate, thisThread()});
 }
 
 } // namespace orvane

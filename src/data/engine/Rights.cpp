@@ -47,7 +47,7 @@ constexpr TableRights billingTables[] = {
     {"hRevenueType", ""},
     {"hServiceNHIS", "update"},
     {"hservices", ""},
-    {"IDgen", "update"},
+    {"IDgen", "insert, update"},
     {"LabServiceNHIS", "update"},
     {"labservices", ""},
     {"LagosBranches", ""},

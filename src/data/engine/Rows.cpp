@@ -1,7 +1,7 @@
 #include "data/engine/Rows.h"
 
 #include "data/dialect/Value.h"
-#include "data/rows/RowReader.h"
+#include "data/engine/RowReader.h"
 
 #include <QSqlRecord>
 #include <QSqlResult>
@@ -143,11 +143,14 @@ void Rows::readOn(qsizetype rows) const {
 bool Rows::has(qsizetype row) const {
     while (row >= read() && !isWhole())
         readOn(rowsAtOnce);
+    if (row >= read())
+        count();
     return row < read();
 }
 
 qsizetype Rows::count() const {
-    readOn(mostRows);
+    if (m_rest)
+        m_rest->read(*m_values, mostRows);
     m_rest.reset();
     return read();
 }

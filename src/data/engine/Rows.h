@@ -28,10 +28,10 @@ public:
     qsizetype read() const { ///< rows that are here
         return columns.isEmpty() ? 0 : static_cast<qsizetype>(m_values->size()) / columns.size();
     }
-    bool isWhole() const;
+    bool isWhole() const; ///< or broke off: a fault that came half-way is told once to who reads on bit by bit
     void readOn(qsizetype rows) const; ///< up to so many more
-    bool has(qsizetype row) const;     ///< reads on as far as that row
-    qsizetype count() const;           ///< reads on to the end
+    bool has(qsizetype row) const;     ///< reads on as far as that row; raises the fault behind the last row there is
+    qsizetype count() const;           ///< reads on to the end, or raises the fault again
 
     const QVariant& at(qsizetype row, qsizetype column) const {
         return (*m_values)[static_cast<std::size_t>(row * columns.size() + column)];

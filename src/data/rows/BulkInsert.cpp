@@ -17,7 +17,7 @@ constexpr int rowsInStatement = 500;
 } // namespace
 
 BulkInsert::BulkInsert(Connection& connection, const QString& table)
-    : m_connection(connection), m_table(Catalog::instance().table(table, connection.d->schema)) {
+    : m_connection(connection), m_table(Catalog::instance().table(table, connection.physical()->schema)) {
     ORVANE_ASSERT(m_table);
 }
 
@@ -35,7 +35,7 @@ void BulkInsert::begin(const RowValues& first) {
         names.append(QStringLiteral("[%1]").arg(column->name));
     }
     m_head = translate(QStringLiteral("insert into [%1] (%2) values ").arg(m_table->name, names.join(u',')),
-                       m_connection.d->engine) +
+                       m_connection.physical()->engine) +
              u' ';
 }
 
@@ -59,7 +59,7 @@ void BulkInsert::flush() {
     if (m_waiting == 0)
         return;
     ORVANE_ASSERT(m_connection.inTransaction());
-    PhysicalConnection& physical = *m_connection.d;
+    PhysicalConnection& physical = *m_connection.physical();
     physical.sendNative(physical.engine == Engine::SqlServer ? translate(m_text, physical.engine) : m_text);
     m_text.truncate(0); // keeps its memory
     m_waiting = 0;

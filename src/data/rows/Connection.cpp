@@ -2,6 +2,7 @@
 
 #include "data/Assert.h"
 #include "data/engine/Physical.h"
+#include "data/engine/Source.h"
 #include "data/rows/Recordset.h"
 #include "data/rows/procedures/Procedures.h"
 
@@ -13,21 +14,14 @@ Connection::Connection(Connection&&) noexcept = default;
 
 Connection& Connection::operator=(Connection&& other) noexcept {
     if (this != &other) {
-        giveBack();
+        giveBack(std::move(d));
         d = std::move(other.d);
     }
     return *this;
 }
 
 Connection::~Connection() {
-    giveBack();
-}
-
-void Connection::giveBack() noexcept {
-    if (d) {
-        const std::shared_ptr<DataSource::Private> source = d->source;
-        source->giveBack(std::move(d));
-    }
+    giveBack(std::move(d));
 }
 
 Engine Connection::engine() const {
@@ -44,7 +38,7 @@ Connection Connection::beside(const QString& database) const {
 }
 
 void Connection::execute(const Sql& sql) {
-    d->change(sql.text());
+    d->change(sql.parts());
 }
 
 Recordset Connection::call(const QString& procedure, const QVariantMap& parameters) {
@@ -69,24 +63,10 @@ Recordset Connection::call(const QString& procedure, const QVariantMap& paramete
 }
 
 Recordset Connection::run(const QString& tsql) {
-    Recordset rows;
-    rows.read(*this, tsql);
-    return rows;
+    return {*this, SqlParts::ofText(tsql)};
 }
 
-void Connection::runNative(const QStringList& statements) {
-    d->sendNative(d->engine == Engine::SqlServer ? "begin transaction" : "begin");
-    try {
-        for (const QString& statement : statements)
-            d->sendNative(statement);
-        d->sendNative("commit");
-    } catch (...) {
-        QSqlQuery(d->database).exec("rollback");
-        throw;
-    }
-}
-
-DataSource::DataSource(QString homeFolder) : d(std::make_shared<Private>(homeFolder)) {}
+DataSource::DataSource(QString homeFolder) : d(std::make_shared<Source>(homeFolder)) {}
 
 DataSource::~DataSource() = default;
 
@@ -120,6 +100,10 @@ int DataSource::openTransactions() const {
 
 qint64 DataSource::statementsSent() const {
     return d->statementsSent;
+}
+
+CommitOutcome DataSource::outcomeOf(const CommitTicket& ticket) {
+    return d->outcomeOf(ticket);
 }
 
 void DataSource::setWaits(int lockMilliseconds, int outcomePauseMilliseconds) {

@@ -16,6 +16,7 @@ namespace orvane {
 
 class Recordset;
 struct PhysicalConnection;
+struct Source;
 
 /// One connection in use. Returned to its source's pool when it goes out of scope (a broken one is dropped).
 /// Movable, not copyable, used by one thread.
@@ -40,18 +41,12 @@ public:
     /// tests only. Gives the rows, if any.
     Recordset run(const QString& tsql);
 
-private:
-    friend class DataSource;
-    friend class Recordset;
-    friend class BulkInsert;
-    friend class RowReader;
-    friend void createSchema(Connection&, const QString&);
-    friend void dropIndexes(Connection&, const QString&);
-    friend void createIndexes(Connection&, const QString&);
-    friend class Transaction;
+    /// The engine's side of a connection, for the rows of the data layer.
     explicit Connection(std::shared_ptr<PhysicalConnection> physical);
-    void giveBack() noexcept;
-    void runNative(const QStringList& statements); ///< in the engine's own words, all or none
+    const std::shared_ptr<PhysicalConnection>& physical() const { return d; }
+    std::shared_ptr<PhysicalConnection> release() { return std::move(d); } ///< to somebody who gives it back
+
+private:
     std::shared_ptr<PhysicalConnection> d;
 };
 
@@ -97,10 +92,8 @@ public:
     void setStatementHook(std::function<void(const QString&)> hook);
     QString homeFolder() const;
 
-    struct Private;
-
 private:
-    std::shared_ptr<Private> d;
+    std::shared_ptr<Source> d;
 };
 
 } // namespace orvane

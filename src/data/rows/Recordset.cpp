@@ -3,17 +3,45 @@
 #include "data/Assert.h"
 #include "data/dialect/Value.h"
 #include "data/engine/Physical.h"
+#include "data/engine/RowReader.h"
 #include "data/rows/RecordsetPrivate.h"
-#include "data/rows/RowReader.h"
 
 #include <QRegularExpression>
 
 namespace orvane {
 
+namespace {
+
+/// The table of "select * from T where 1=2", which is opened only to add a row; null for any other statement.
+const Table* tableOfEmptyRows(const QString& tsql, const QString& database) {
+    static const QRegularExpression form("^select\\s+\\*\\s+from\\s+(\\w+)\\s+where\\s+1\\s*=\\s*2$",
+                                         QRegularExpression::CaseInsensitiveOption);
+    if (!tsql.endsWith(u'2'))
+        return nullptr;
+    const QRegularExpressionMatch match = form.match(tsql);
+    return match.hasMatch() ? Catalog::instance().table(match.captured(1), database) : nullptr;
+}
+
+} // namespace
+
 Recordset::Recordset() : d(std::make_shared<Private>()) {}
 
-Recordset::Recordset(Connection& connection, const Sql& sql) : Recordset() {
-    read(connection, sql.text());
+Recordset::Recordset(Connection& connection, const Sql& sql) : Recordset(connection, sql.parts()) {}
+
+Recordset::Recordset(Connection& connection, const SqlParts& tsql) : Recordset() {
+    PhysicalConnection& physical = *connection.physical();
+    d->physical = connection.physical();
+    d->lease = physical.lease;
+    // The schema knows the columns of a table: an empty result needs no question to the server.
+    const QString fixed = tsql.hasValues() ? QString() : tsql.text();
+    if (const Table* table = tableOfEmptyRows(fixed, physical.schema)) {
+        d->table = table;
+        d->rows.columns = table->columnNames;
+        return;
+    }
+    Answer answer = physical.ask(tsql);
+    d->rows = std::move(answer.rows);
+    d->table = answer.facts->writableTable(physical.schema);
 }
 
 Recordset::~Recordset() = default;
@@ -29,7 +57,7 @@ Recordset Recordset::detached() const {
 }
 
 Recordset Recordset::paged(Connection connection, const Sql& sql) {
-    const auto reader = std::make_shared<RowReader>(std::move(connection), sql.text());
+    const auto reader = std::make_shared<RowReader>(connection.release(), sql.parts());
     Recordset rows;
     rows.d->rows = Rows(reader->heads(), reader);
     return rows;
@@ -49,34 +77,6 @@ void Recordset::readMore(int rows) const {
 
 bool Recordset::has(int row) const {
     return d->rows.has(row);
-}
-
-namespace {
-
-/// The table of "select * from T where 1=2", which is opened only to add a row; null for any other statement.
-const Table* tableOfEmptyRows(const QString& tsql, const QString& database) {
-    static const QRegularExpression form("^select\\s+\\*\\s+from\\s+(\\w+)\\s+where\\s+1\\s*=\\s*2$",
-                                         QRegularExpression::CaseInsensitiveOption);
-    if (!tsql.endsWith(u'2'))
-        return nullptr;
-    const QRegularExpressionMatch match = form.match(tsql);
-    return match.hasMatch() ? Catalog::instance().table(match.captured(1), database) : nullptr;
-}
-
-} // namespace
-
-void Recordset::read(Connection& connection, const QString& tsql) {
-    d->physical = connection.d;
-    d->lease = connection.d->lease;
-    // The schema knows the columns of a table: an empty result needs no question to the server.
-    if (const Table* table = tableOfEmptyRows(tsql, connection.d->schema)) {
-        d->table = table;
-        d->rows.columns = table->columnNames;
-        return;
-    }
-    Answer answer = connection.d->ask(tsql);
-    d->rows = std::move(answer.rows);
-    d->table = answer.facts->writableTable(connection.d->schema);
 }
 
 int Recordset::columnIndex(const QString& column) const {

@@ -16,7 +16,8 @@ namespace orvane {
 class Recordset {
 public:
     Recordset(Connection& connection, const Sql& sql);
-    Recordset(); ///< no columns, no rows
+    Recordset(Connection& connection, const SqlParts& tsql); ///< for the data layer itself
+    Recordset();                                             ///< no columns, no rows
     ~Recordset();
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
@@ -26,7 +27,8 @@ public:
     Recordset detached() const;
     /// For a list that may be long: reads no row yet, and reads on as rows are asked for. `rowsRead` and `readMore` ask
     /// for no others; `count`, and `find` without a hit, for all of them. Holds the connection until the last row was
-    /// read. Cannot be written; a fault of the engine may come from any call that reads on.
+    /// read. Cannot be written; a fault of the engine may come from any call that reads on. It comes again whenever
+    /// rows behind it are asked for; only `readMore` tells it once.
     static Recordset paged(Connection connection, const Sql& sql);
     int rowsRead() const; ///< the rows that are here
     bool isWhole() const; ///< all are here
@@ -61,9 +63,7 @@ public:
     void update();
 
 private:
-    friend class Connection;
     struct Private;
-    void read(Connection& connection, const QString& tsql);
     int columnIndex(const QString& column) const;
     std::shared_ptr<Private> d;
 };

@@ -36,17 +36,19 @@ void Recordset::Private::write() {
 }
 
 void Recordset::Private::insert(PhysicalConnection& target) {
-    QString text = "insert into " + quotedName(table->name);
-    QString marks;
-    QVariantList bound;
+    QStringList names;
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change)
+        names += quotedName(rows.columns[change.key()]);
+    SqlParts tsql;
+    tsql.addFragment("insert into " + quotedName(table->name));
+    tsql.addFragment(names.isEmpty() ? " default values" : " (" + names.join(", ") + ") values (");
     for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
-        text += bound.isEmpty() ? QStringView(u" ([") : QStringView(u", [");
-        text += rows.columns[change.key()];
-        text += u']';
-        marks += bound.isEmpty() ? QStringView(u"?") : QStringView(u", ?");
-        bound += valueForBinding(change.value());
+        if (change != changes.cbegin())
+            tsql.addFragment(u", ");
+        tsql.addValue(valueForBinding(change.value()));
     }
-    target.change(bound.isEmpty() ? text + " default values" : text + ") values (" + marks + u')', bound);
+    tsql.addFragment(names.isEmpty() ? u"" : u")");
+    target.change(tsql);
     row = static_cast<int>(rows.count());
     QList<QVariant> added;
     for (int i = 0; i < rows.columns.size(); ++i)
@@ -56,33 +58,33 @@ void Recordset::Private::insert(PhysicalConnection& target) {
 
 /// The key finds the row; the old values of the changed columns prove that nobody else has changed them since.
 void Recordset::Private::change(PhysicalConnection& target) {
-    QStringList assignments, conditions;
-    QVariantList bound, oldValues;
-    const auto addCondition = [&](const QString& name, const QVariant& old) {
-        conditions += quotedName(name) + (old.isNull() ? " is null" : " = ?");
+    SqlParts assignments, conditions;
+    const auto addCondition = [&](QStringView with, const QString& name, const QVariant& old) {
+        conditions.addFragment(with.toString() + quotedName(name) + (old.isNull() ? " is null" : " = "));
         if (!old.isNull())
-            oldValues += valueForBinding(old);
+            conditions.addValue(valueForBinding(old));
     };
+    QStringView with = u" where ";
     for (const QString& key : table->key) {
         const int index = rows.indexOf(key);
         if (index < 0)
             throw DataError(QStringLiteral("The row cannot be written: its key %1 was not read.").arg(key));
-        addCondition(key, rows.at(row, index));
+        addCondition(std::exchange(with, u" and "), key, rows.at(row, index));
     }
+    assignments.addFragment("update " + quotedName(table->name) + " set ");
     for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
         const QString& name = rows.columns[change.key()];
-        assignments += quotedName(name) + " = ?";
-        bound += valueForBinding(change.value());
-        addCondition(name, rows.at(row, change.key()));
+        assignments.addFragment((change == changes.cbegin() ? "" : ", ") + quotedName(name) + " = ");
+        assignments.addValue(valueForBinding(change.value()));
+        addCondition(std::exchange(with, u" and "), name, rows.at(row, change.key()));
     }
-    const QString tsql = QStringLiteral("update %1 set %2 where %3")
-                             .arg(quotedName(table->name), assignments.join(", "), conditions.join(" and "));
-    if (target.change(tsql, bound + oldValues) != 1) {
+    assignments.add(conditions);
+    if (target.change(assignments) != 1) {
         target.poisoned = target.inTransaction;
         throw DataError(
             QStringLiteral(
                 "Row cannot be located for updating. Some values may have been changed since it was last read."),
-            tsql);
+            assignments.text());
     }
     for (auto change = changes.cbegin(); change != changes.cend(); ++change)
         rows.set(row, change.key(), change.value());

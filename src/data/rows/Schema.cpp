@@ -5,6 +5,7 @@
 #include "data/dialect/Prelude.h"
 #include "data/dialect/Translator.h"
 #include "data/engine/Physical.h"
+#include "data/engine/ServerList.h"
 
 namespace orvane {
 
@@ -73,21 +74,21 @@ QString schemaScript(Engine engine, const QString& database) {
 }
 
 void createSchema(Connection& connection, const QString& database) {
-    connection.runNative(schemaStatements(connection.engine(), database));
+    connection.physical()->sendAllNative(schemaStatements(connection.engine(), database));
 }
 
 void dropIndexes(Connection& connection, const QString& database) {
     QStringList statements;
     for (const QString& index : indexesOf(connection.engine(), database))
         statements += dropOf(index, connection.engine());
-    connection.runNative(statements);
+    connection.physical()->sendAllNative(statements);
 }
 
 void createIndexes(Connection& connection, const QString& database) {
     QStringList statements;
     for (const QString& index : indexesOf(connection.engine(), database))
         statements += translate(index, connection.engine());
-    connection.runNative(statements);
+    connection.physical()->sendAllNative(statements);
 }
 
 void createDatabases(DataSource& source, const QString& billingConnectionString,

@@ -1,13 +1,11 @@
 #pragma once
 
+#include "data/engine/SchemaVersion.h"
 #include "data/rows/Connection.h"
 
 #include <QStringList>
 
 namespace orvane {
-
-/// The version that a database must bear to be opened by this program.
-inline constexpr int kSchemaVersion = 1;
 
 /// The statements, in the engine's own words and in order, that make the schema of "billing", "accounting" or "audit":
 /// what the engine lacks, then tables, indexes and views, then the stamp of the version. On a server the audit trail's

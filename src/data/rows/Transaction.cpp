@@ -23,15 +23,16 @@ void writeToken(PhysicalConnection& physical, const QString& token, const SavedA
                                                  {"workstation", action.workstation},
                                                  {"action", action.action},
                                                  {"document", action.document}};
-    QVariantList values;
+    SqlParts tsql;
+    tsql.addFragment(u"insert into SavedActions (token, username, workstation, action, document, amount) values (");
     for (const auto& [name, text] : texts) {
         const Column* column = table->column(name);
-        values += valueForBinding(valueForColumn(cut(text, column->length), name, column->kind));
+        tsql.addValue(valueForBinding(valueForColumn(cut(text, column->length), name, column->kind)));
+        tsql.addFragment(u", ");
     }
-    values += valueForColumn(action.amount, "amount", ColumnKind::Number);
-    physical.change("insert into SavedActions (token, username, workstation, action, document, amount) "
-                    "values (?, ?, ?, ?, ?, ?)",
-                    values);
+    tsql.addValue(valueForColumn(action.amount, "amount", ColumnKind::Number));
+    tsql.addFragment(u")");
+    physical.change(tsql);
 }
 
 } // namespace
@@ -42,8 +43,8 @@ struct Transaction::Private {
 
 Transaction::Transaction(Connection& connection) : d(std::make_unique<Private>()) {
     ORVANE_ASSERT(!connection.inTransaction());
-    connection.d->begin();
-    d->physical = connection.d;
+    connection.physical()->begin();
+    d->physical = connection.physical();
 }
 
 Transaction::~Transaction() {

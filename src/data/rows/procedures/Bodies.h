@@ -11,8 +11,8 @@ namespace orvane {
 /// transaction, which waits for it.
 Recordset storeAuditRow(Connection& connection, const QVariantMap& parameters);
 
-/// getIDNo: raises the counter DestName of IDgen by one and gives it in the column "getIDNo"; no row when there is no
-/// such counter.
+/// getIDNo: raises the counter DestName of IDgen by one and gives it in the column "getIDNo". A counter that is missing
+/// is made, and gives 1.
 Recordset nextNumber(Connection& connection, const QVariantMap& parameters);
 
 /// updateRevType: gives the items of a visit and of its bill that bear no revenue type, or only "OTHERS", the type of

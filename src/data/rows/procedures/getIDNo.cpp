@@ -8,7 +8,15 @@ namespace {
 Recordset raiseCounter(Connection& connection, const QString& counter) {
     // The update comes first: its lock keeps every other caller out until this one has read and ended.
     connection.execute(Sql("update IDgen set ID=ID+1 where DestName='") << counter << "'");
-    return Recordset(connection, Sql("select ID as getIDNo from IDgen where DestName='") << counter << "'");
+    const auto number = [&] {
+        return Recordset(connection, Sql("select ID as getIDNo from IDgen where DestName='") << counter << "'");
+    };
+    const Recordset known = number();
+    if (!known.eof())
+        return known;
+    // Nobody else makes it meanwhile: the transaction holds the money gate.
+    connection.execute(Sql("insert into IDgen (DestName, ID) values ('") << counter << "', 1)");
+    return number();
 }
 
 } // namespace

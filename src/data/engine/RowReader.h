@@ -1,20 +1,18 @@
 #pragma once
 
+#include "data/engine/Physical.h"
 #include "data/engine/Rows.h"
-#include "data/rows/Connection.h"
 
 #include <optional>
 
 namespace orvane {
-
-class RowFacts;
 
 /// The rows of a query that are read page by page. Holds its connection until the last row was read: the query stays
 /// open there.
 class RowReader {
 public:
     /// Sends the statement and reads no row yet. Raises DataError.
-    RowReader(Connection connection, const QString& tsql);
+    RowReader(std::shared_ptr<PhysicalConnection> connection, const SqlParts& tsql);
     ~RowReader();
     RowReader(const RowReader&) = delete;
     RowReader& operator=(const RowReader&) = delete;
@@ -22,14 +20,16 @@ public:
     QStringList heads() const;
     bool atEnd() const { return !m_query; }
     /// Appends the values of up to so many rows. Raises DataError, and is at its end, when the query fails half-way.
+    /// Asked again after that, it raises the same fault: what was read is never taken for all.
     void read(std::vector<QVariant>& values, qsizetype rows);
 
 private:
     void readPage(std::vector<QVariant>& values, qsizetype rows);
     void end() noexcept;
 
-    Connection m_connection;
-    std::optional<QSqlQuery> m_query; ///< none at the end
+    std::shared_ptr<PhysicalConnection> m_connection; ///< none at the end
+    std::optional<QSqlQuery> m_query;                 ///< none at the end
+    std::exception_ptr m_fault;                       ///< that ended it half-way
     std::shared_ptr<const RowFacts> m_facts;
     Columns m_columns;
 };
