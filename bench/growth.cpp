@@ -1,11 +1,11 @@
 // What the program asks for numbers, sums, lists and debts, in a small and in a large hospital: the questions are the
 // program's own, recorded and sent once more to the bare engine, which says how it found the answer.
-#include "attendance/ConsultID.h"
 #include "bench/BareEngine.h"
 #include "bench/Benches.h"
 #include "bench/Site.h"
 #include "billing/BillSummary.h"
 #include "billing/BillingRow.h"
+#include "books/Visit.h"
 #include "demo/Hand.h"
 #include "receipts/ReceiptNumber.h"
 

@@ -1,13 +1,13 @@
 #include "attendance/frmCoyUpdate.h"
 
+#include "books/Bill.h"
+#include "books/Client.h"
+
 namespace orvane {
 
 frmCoyUpdate::frmCoyUpdate(Program& owner) : Screen(owner, "frmCoyUpdate", "Company Profile") {
     txtNo.setLocked(true);
     txtBill.setLocked(true);
-    cboPat.onClick = [this] { cboPat_Click(); };
-    OkButton.onClick = [this] { OkButton_Click(); };
-    CancelButton.onClick = [this] { unload(); };
 }
 
 Layout frmCoyUpdate::layout() const {
@@ -22,23 +22,21 @@ void frmCoyUpdate::Form_Load() {
     Connection connection = program.openBilling();
     for (Recordset clients(connection,
                            Sql("select distinct RetainID,ClientName from vwhRetainerShip order by ClientName"));
-         !clients.eof(); clients.moveNext())
-        cboPat.addItem(clients.text("ClientName") + " [" + clients.text("RetainID") + "]");
+         !clients.eof(); clients.moveNext()) {
+        const ListedClient client{clients.text("RetainID"), clients.text("ClientName")};
+        cboPat.addItem(client.name + " [" + client.retainID + "]", QVariant::fromValue(client));
+    }
 }
 
 void frmCoyUpdate::cboPat_Click() {
-    if (cboPat.listIndex() < 0)
+    const auto picked = cboPat.picked<ListedClient>();
+    if (!picked)
         return;
-    const QString entry = cboPat.text();
-    // A client's name may hold a bracket of its own: the id stands in the last one.
-    const auto bracket = entry.lastIndexOf(QLatin1Char('['));
-    m_retainID = entry.mid(bracket + 1).chopped(1);
-    m_clientName = entry.left(bracket).trimmed();
     m_retainCode.clear();
     cboClient.clear();
     Connection connection = program.openBilling();
     const Recordset client(connection, Sql("select distinct ClientType,retainCode from hRetainerShip where retainID='")
-                                           << m_retainID << "'");
+                                           << picked->retainID << "'");
     if (client.eof())
         return;
     m_retainCode = client.text("retainCode");
@@ -51,77 +49,42 @@ void frmCoyUpdate::cboPat_Click() {
         cboClient.addItem(categories.text("clientCatID"));
 }
 
-void frmCoyUpdate::OkButton_Click() {
-    if (isProcessed()) {
-        tellProcessed();
-        return;
-    }
-    if (!checkFields())
-        return;
-    if (!moveToClient()) {
-        tellProcessed();
-        return;
-    }
-    program.writeAuditTrail(
-        {"Update Patients' Company Profile", txtBill.text(),
-         "UpDate Patient Company Profile: " + session.sBillCoy + " Now: " + m_clientName + "/" + cboClient.text()});
-    unload();
-}
-
-bool frmCoyUpdate::isProcessed() {
-    Connection connection = program.openBilling();
-    return isProcessed(connection);
-}
-
-bool frmCoyUpdate::isProcessed(Connection& connection) const {
-    return !Recordset(connection, Sql("select * from billing where isprocess=1 and billNo='") << txtBill.text() << "'")
-                .eof();
-}
-
-void frmCoyUpdate::tellProcessed() {
-    program.box("This Bill is already processed! to Modify, unProcess the Batch");
-}
-
-bool frmCoyUpdate::checkFields() {
-    if (txtNo.text().isEmpty()) {
-        program.box("Invalid Patient No");
-        unload();
-        return false;
-    }
-    if (txtBill.text().isEmpty()) {
-        program.box("Invalid Bill No");
-        unload();
-        return false;
-    }
-    for (ComboBox* box : {&cboPat, &cboClient}) {
-        if (box->listIndex() < 0) {
-            program.box("Specify Company Name");
-            box->setFocus();
+bool frmCoyUpdate::mayMove() {
+    {
+        Connection connection = program.openBilling();
+        if (!passes({{isBillProcessed(connection, txtBill.text()), refusalText(Refusal::BillProcessed)}}))
             return false;
-        }
     }
-    return true;
+    if (!passes({{txtNo.text().isEmpty(), "Invalid Patient No"}, {txtBill.text().isEmpty(), "Invalid Bill No"}})) {
+        unload();
+        return false;
+    }
+    return passes({{cboPat.listIndex() < 0, "Specify Company Name", &cboPat},
+                   {cboClient.listIndex() < 0, "Specify Company Name", &cboClient}});
 }
 
-// The prices of the items stay those of the tariff that they had. The columns that the screens call the client's name
-// hold its id. A batch of another workstation may have taken the bill since it was looked at.
-bool frmCoyUpdate::moveToClient() {
-    const QString patient = txtNo.text(), bill = txtBill.text(), client = m_retainID, category = cboClient.text();
-    Connection connection = program.openBilling();
-    Transaction transaction(connection);
-    if (isProcessed(connection))
-        return false;
-    connection.execute(Sql("update hPatients set coyname='")
-                       << client << "', clientCatID ='" << category << "'   where pno ='" << patient << "'");
-    connection.execute(Sql("update hRecords set coyname='")
-                       << client << "', clientCat ='" << category << "'   where consultID ='" << bill << "'");
-    connection.execute(Sql("update billingDetails set coyname='")
-                       << client << "', billto ='" << m_retainCode << "'   where billno ='" << bill << "'");
-    connection.execute(Sql("update billing set ClientID='") << client << "'  where billno ='" << bill << "'");
-    connection.execute(Sql("update billAccum set coyname='")
-                       << client << "', billto ='" << m_retainCode << "'   where consultID ='" << bill << "'");
-    transaction.commit();
-    return true;
+void frmCoyUpdate::OkButton_Click() {
+    save<AuditEntry>({.button = OkButton,
+                      .action = "CLIENT MOVE",
+                      .allowed = [this] { return mayMove(); },
+                      .step = [this](Books& books) -> Given<AuditEntry> {
+                          const ListedClient client = *cboPat.picked<ListedClient>();
+                          const Given<Saved> moved = moveToClient(books, {.pno = txtNo.text(),
+                                                                          .billNo = txtBill.text(),
+                                                                          .clientID = client.retainID,
+                                                                          .clientCode = m_retainCode,
+                                                                          .category = cboClient.text()});
+                          if (!moved)
+                              return moved.refusal();
+                          return AuditEntry{"Update Patients' Company Profile", txtBill.text(),
+                                            "UpDate Patient Company Profile: " + session.sBillCoy +
+                                                " Now: " + client.name + "/" + cboClient.text()};
+                      },
+                      .follow =
+                          [this](const AuditEntry& entry) {
+                              program.writeAuditTrail(entry);
+                              unload();
+                          }});
 }
 
 } // namespace orvane

@@ -7,14 +7,7 @@ namespace orvane {
 /// "Company Profile": moves the patient and the bill in hand (session sBillPno, gConsultID) to another client.
 class frmCoyUpdate : public Screen {
 public:
-    explicit frmCoyUpdate(Program& program);
-
-    TextBox txtNo{*this, "txtNo"};
-    TextBox txtBill{*this, "txtBill"};
-    ComboBox cboPat{*this, "cboPat"};
-    ComboBox cboClient{*this, "cboClient", ComboBox::ListOnly};
-    Button OkButton{*this, "OkButton", "&Update"};
-    Button CancelButton{*this, "CancelButton", "&Close"};
+    explicit frmCoyUpdate(Program& owner);
 
     Layout layout() const override;
     void Form_Load() override;
@@ -22,17 +15,24 @@ public:
     Button* cancelButton() override { return &CancelButton; }
 
 private:
+    /// What an entry of the list of clients stands for.
+    struct ListedClient {
+        QString retainID, name;
+    };
+
     void cboPat_Click();
     void OkButton_Click();
-    bool isProcessed();
-    bool isProcessed(Connection& connection) const;
-    void tellProcessed();
-    bool checkFields();
-    bool moveToClient(); ///< false: the bill is in a batch by now, and nothing has changed
+    bool mayMove();
 
-    QString m_retainID;
-    QString m_retainCode;
-    QString m_clientName;
+    using Me = frmCoyUpdate;
+    TextBox txtNo{*this, "txtNo"};
+    TextBox txtBill{*this, "txtBill"};
+    ComboBox cboPat{*this, "cboPat", ComboBox::FreeText, &Me::cboPat_Click};
+    ComboBox cboClient{*this, "cboClient", ComboBox::ListOnly};
+    Button OkButton{*this, "OkButton", "&Update", &Me::OkButton_Click};
+    Button CancelButton{*this, "CancelButton", "&Close", &Me::unload};
+
+    QString m_retainCode; ///< of the picked client
 };
 
 } // namespace orvane

@@ -7,12 +7,7 @@ namespace orvane {
 frmFind::frmFind(Program& owner) : Screen(owner, "frmFind", "Find a Record ") {
     txtName.setToolTip("enter the first few letters");
     TxtID.setToolTip("enter New File No and click OK");
-    txtName.onChange = [this] { searchByName(); };
     txtName.onEnter = [this] { searchByName(); };
-    cmdName.onClick = [this] { searchByName(); };
-    cmdID.onClick = [this] { cmdID_Click(); };
-    cmdRestore.onClick = [this] { cmdRestore_Click(); };
-    cmdClose.onClick = [this] { unload(); };
 }
 
 Layout frmFind::layout() const {

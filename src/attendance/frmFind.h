@@ -7,15 +7,7 @@ namespace orvane {
 /// "Find a Record ": searches the patient file by the head of a surname, as one types, or by a file number.
 class frmFind : public Screen {
 public:
-    explicit frmFind(Program& program);
-
-    TextBox txtName{*this, "txtName"};
-    Button cmdName{*this, "cmdName", "Search by &Surname"};
-    TextBox TxtID{*this, "TxtID"};
-    Button cmdID{*this, "cmdID", "&OK"};
-    Grid grdData{*this, "grdData"};
-    Button cmdRestore{*this, "cmdRestore", "&Restore"};
-    Button cmdClose{*this, "cmdClose", "&Close"};
+    explicit frmFind(Program& owner);
 
     Layout layout() const override;
     Button* defaultButton() override { return &cmdID; }
@@ -25,6 +17,15 @@ private:
     void searchByName();
     void cmdID_Click();
     void cmdRestore_Click();
+
+    using Me = frmFind;
+    TextBox txtName{*this, "txtName", &Me::searchByName};
+    Button cmdName{*this, "cmdName", "Search by &Surname", &Me::searchByName};
+    TextBox TxtID{*this, "TxtID"};
+    Button cmdID{*this, "cmdID", "&OK", &Me::cmdID_Click};
+    Grid grdData{*this, "grdData"};
+    Button cmdRestore{*this, "cmdRestore", "&Restore", &Me::cmdRestore_Click};
+    Button cmdClose{*this, "cmdClose", "&Close", &Me::unload};
 };
 
 } // namespace orvane

@@ -10,14 +10,7 @@ const QString noRows = "---";
 } // namespace
 
 frmFlash::frmFlash(Program& owner) : Screen(owner, "frmFlash", " Prompt") {
-    cmdPat.onClick = [this] { cmdPat_Click(); };
     dGexp.onDblClick = [this] { dGexp_DblClick(); };
-    SSTab1.onClick = [this] { SSTab1_Click(); };
-    cmdDoc.onClick = [this] { cmdExpected_Click(); };
-    cmdExpected.onClick = [this] { cmdExpected_Click(); };
-    cmdCPC.onClick = [this] { cmdCPC_Click(); };
-    cmdPrint.onClick = [this] { cmdPrint_Click(); };
-    cmdClose.onClick = [this] { unload(); };
 }
 
 Layout frmFlash::layout() const {

@@ -2,19 +2,7 @@
 
 namespace orvane {
 
-namespace {
-
-QString inLastBrackets(const QString& entry) {
-    return entry.mid(entry.lastIndexOf(QLatin1Char('[')) + 1).chopped(1);
-}
-
-} // namespace
-
-frmPatList::frmPatList(Program& owner) : Screen(owner, "frmPatList", "Patient List for Printing of Bills") {
-    cboVehNo.onClick = [this] { cboVehNo_Click(); };
-    OKButton.onClick = [this] { OKButton_Click(); };
-    CancelButton.onClick = [this] { unload(); };
-}
+frmPatList::frmPatList(Program& owner) : Screen(owner, "frmPatList", "Patient List for Printing of Bills") {}
 
 Layout frmPatList::layout() const {
     using namespace orvane::layout;
@@ -28,34 +16,34 @@ void frmPatList::Form_Load() {
         connection,
         Sql("SELECT distinct billno,clientID,fullname FROM qryBillingBalanceDueForPrivate order by fullname"));
     for (; !bills.eof(); bills.moveNext())
-        cboVehNo.addItem(bills.text("fullname") + " @ " + bills.text("clientID") + "  [" + bills.text("billNo") + "]");
+        cboVehNo.addItem(bills.text("fullname") + " @ " + bills.text("clientID") + "  [" + bills.text("billNo") + "]",
+                         bills.text("billNo"));
 }
 
 // The list names a bill; its patient's other bills with a balance are listed behind it.
 void frmPatList::cboVehNo_Click() {
     cboBill.clear();
-    if (cboVehNo.listIndex() < 0)
+    const auto billNo = cboVehNo.picked<QString>();
+    if (!billNo)
         return;
     Connection connection = program.openBilling();
     const Recordset patient(connection,
                             Sql("select bdate,pno,billno,clientID from qryBillingBalanceDueForPrivate where billno='")
-                                << inLastBrackets(cboVehNo.text()) << "'");
+                                << *billNo << "'");
     if (patient.eof())
         return;
     Recordset bills(connection, Sql("select bdate,pno,billno,clientID from qryBillingBalanceDueForPrivate where pno='")
-                                    << patient.text(QStringLiteral("pno")) << "'");
+                                    << patient.text("pno") << "'");
     for (; !bills.eof(); bills.moveNext())
         cboBill.addItem(bills.text("clientID") + " @ " + bills.date("bdate").toString("dd/MM/yyyy") + "  [" +
-                        bills.text("billNo") + "]");
+                            bills.text("billNo") + "]",
+                        bills.text("billNo"));
 }
 
 void frmPatList::OKButton_Click() {
-    if (cboBill.listIndex() < 0) {
-        program.box("Please select a row ");
-        cboBill.setFocus();
+    if (!passes({{cboBill.listIndex() < 0, "Please select a row ", &cboBill}}))
         return;
-    }
-    session.sWorkPno = inLastBrackets(cboBill.text());
+    session.sWorkPno = *cboBill.picked<QString>();
     Connection connection = program.openBilling();
     const Recordset bill(connection, Sql("select * from qryBillingBalanceDueForPrivate where billno='")
                                          << session.sWorkPno << "'");

@@ -7,12 +7,7 @@ namespace orvane {
 /// "Patient List for Printing of Bills": picks a private bill with a balance and displays it.
 class frmPatList : public Screen {
 public:
-    explicit frmPatList(Program& program);
-
-    ComboBox cboVehNo{*this, "cboVehNo"};
-    ComboBox cboBill{*this, "cboBill"};
-    Button OKButton{*this, "OKButton", "&Display Bill"};
-    Button CancelButton{*this, "CancelButton", "&Close"};
+    explicit frmPatList(Program& owner);
 
     Layout layout() const override;
     void Form_Load() override;
@@ -22,6 +17,13 @@ public:
 private:
     void cboVehNo_Click();
     void OKButton_Click();
+
+    // Both stand for a bill's number.
+    using Me = frmPatList;
+    ComboBox cboVehNo{*this, "cboVehNo", ComboBox::FreeText, &Me::cboVehNo_Click};
+    ComboBox cboBill{*this, "cboBill"};
+    Button OKButton{*this, "OKButton", "&Display Bill", &Me::OKButton_Click};
+    Button CancelButton{*this, "CancelButton", "&Close", &Me::unload};
 };
 
 } // namespace orvane

@@ -1,12 +1,14 @@
 #include "attendance/frmPatientInfo.h"
 
+#include "books/Client.h"
+
 #include <algorithm>
 
 namespace orvane {
 
 namespace {
 
-enum class Holds { Text, Date, LongText };
+enum class Holds { Text, TextOrStars, Date, LongText, Client };
 
 struct CardField {
     const char* column;
@@ -28,9 +30,9 @@ constexpr CardField cardFields[] = {
     {"DOB", "Date of Birth", Holds::Date},
     {"email", "E-mail"},
     {"sex", "Sex"},
-    {"pCatID", "Category"},
-    {"coyname", "Company"},
-    {"empNo", "Employee No"},
+    {"pCatID", "Category", Holds::TextOrStars},
+    {"coyname", "Company", Holds::Client},
+    {"empNo", "Employee No", Holds::TextOrStars},
     {"branch", "Branch"},
     {"status", "Status"},
     {"relationToStaff", "Relation to Staff"},
@@ -48,6 +50,22 @@ constexpr CardField cardFields[] = {
     {"FileDuration", "File Duration"},
 };
 
+QString shown(Connection& connection, const Recordset& patient, const CardField& field) {
+    const QString text = patient.text(field.column);
+    switch (field.holds) {
+    case Holds::Date:
+        return patient.date(field.column).toString("dd/MM/yyyy");
+    case Holds::TextOrStars:
+        return text.isEmpty() ? "**" : text;
+    case Holds::Client:
+        return clientName(connection, text);
+    case Holds::Text:
+    case Holds::LongText:
+        return text;
+    }
+    return text;
+}
+
 } // namespace
 
 frmPatientInfo::frmPatientInfo(Program& owner) : Screen(owner, "frmPatientInfo", "Patient Information") {
@@ -56,10 +74,6 @@ frmPatientInfo::frmPatientInfo(Program& owner) : Screen(owner, "frmPatientInfo",
         m_fields.back()->setLocked(true);
     }
     txtAge.setLocked(true);
-    TreeView1.onClick = [this] { TreeView1_NodeClick(); };
-    cmdREpairs.onClick = [this] { cmdREpairs_Click(); };
-    cmdTyres.onClick = [this] { cmdTyres_Click(); };
-    CancelButton.onClick = [this] { unload(); };
 }
 
 frmPatientInfo::~frmPatientInfo() = default;
@@ -92,11 +106,10 @@ void frmPatientInfo::Form_Load() {
     TreeView1.addNode({"qvr", "HALDEN HOSPITAL", {}, true});
     TreeView1.fill(Recordset::paged(program.openBilling(), Sql("SELECT * FROM qryhCardNotExpired order by psurname")),
                    [](const Recordset& patient) {
-                       const QString number = patient.text("pNo");
-                       return Tree::Node{"ijkl" + number,
-                                         patient.text("psurname") + " " + patient.text("pfirstname") + " [" + number +
-                                             "]",
-                                         "qvr", false};
+                       const ListedPatient listed{patient.text("pNo"),
+                                                  patient.text("psurname") + " " + patient.text("pfirstname")};
+                       return Tree::Node{"ijkl" + listed.pno, listed.name + " [" + listed.pno + "]", "qvr", false,
+                                         QVariant::fromValue(listed)};
                    });
     // The tree is still being read.
     Connection connection = program.openBilling();
@@ -105,29 +118,20 @@ void frmPatientInfo::Form_Load() {
 }
 
 void frmPatientInfo::TreeView1_NodeClick() {
-    const Tree::Node* node = TreeView1.selectedNode();
-    if (!node || node->parentKey.isEmpty())
+    const auto picked = TreeView1.picked<ListedPatient>();
+    if (!picked)
         return;
-    m_pno = node->key.mid(4);
-    m_name = node->text.left(node->text.lastIndexOf(QLatin1Char('['))).trimmed();
+    m_patient = *picked;
     Connection connection = program.openBilling();
-    const Recordset patient(connection, Sql("SELECT * FROM hPatients WHERE pNo ='") << m_pno << "'");
-    if (patient.eof())
-        return;
-    showCard(patient);
+    const Recordset patient(connection, Sql("SELECT * FROM hPatients WHERE pNo ='") << m_patient.pno << "'");
+    if (!patient.eof())
+        showCard(connection, patient);
 }
 
-void frmPatientInfo::showCard(const Recordset& patient) {
-    for (std::size_t i = 0; i < m_fields.size(); ++i) {
-        const QString name = QLatin1String(cardFields[i].column);
-        const bool starred = name == QLatin1String("pCatID") || name == QLatin1String("empNo");
-        QString text =
-            cardFields[i].holds == Holds::Date ? patient.date(name).toString("dd/MM/yyyy") : patient.text(name);
-        if (text.isEmpty() && starred)
-            text = "**";
-        m_fields[i]->setText(text);
-    }
-    lblHeading.setText("Patient Information  : " + m_name);
+void frmPatientInfo::showCard(Connection& connection, const Recordset& patient) {
+    for (std::size_t i = 0; i < m_fields.size(); ++i)
+        m_fields[i]->setText(shown(connection, patient, cardFields[i]));
+    lblHeading.setText("Patient Information  : " + m_patient.name);
     const QDate born = patient.date("DOB");
     txtAge.setText(born.isValid() ? QString::number(program.ui().now().date().year() - born.year()) + " yrs" : "--");
 }
@@ -138,14 +142,14 @@ void frmPatientInfo::cmdREpairs_Click() {
     grdData.load(Recordset(
         connection,
         Sql("select bDate,BalanceDate,billNo,pNo,Fullname,Balance from qryhBillingbalanceForPrivate where pNo='")
-            << m_pno << "'"));
-    lblDisplay.setText("Balance to be paid by " + m_name);
+            << m_patient.pno << "'"));
+    lblDisplay.setText("Balance to be paid by " + m_patient.name);
 }
 
 void frmPatientInfo::cmdTyres_Click() {
     Connection connection = program.openBilling();
-    grdData.load(Recordset(connection, Sql("select * from qryhVisits where pNo='") << m_pno << "'"));
-    lblDisplay.setText("Frequency of Hospital Visits by " + m_name);
+    grdData.load(Recordset(connection, Sql("select * from qryhVisits where pNo='") << m_patient.pno << "'"));
+    lblDisplay.setText("Frequency of Hospital Visits by " + m_patient.name);
 }
 
 } // namespace orvane

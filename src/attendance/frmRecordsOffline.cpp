@@ -1,7 +1,5 @@
 #include "attendance/frmRecordsOffline.h"
 
-#include "attendance/ConsultID.h"
-
 #include <QScopedValueRollback>
 
 namespace orvane {
@@ -13,20 +11,7 @@ constexpr int manyFound = 200; ///< a longer list is not counted: that would be 
 } // namespace
 
 frmRecordsOffline::frmRecordsOffline(Program& owner) : Screen(owner, "frmRecordsOffline", "OFFLINE ATTENDANCE :") {
-    cmdOK.onClick = [this] { cmdOK_Click(); };
     txtName.onEnter = [this] { cmdOK_Click(); };
-    cboVehNo.onClick = [this] { cboVehNo_Click(); };
-    cboClient.onClick = [this] { cboClient_Click(); };
-    cboRef.onClick = [this] { cboRef_Click(); };
-    cboAppr.onClick = [this] { cboAppr_Click(); };
-    tmrBill.onTimer = [this] { tmrBill_Timer(); };
-    cmdAdd.onClick = [this] { cmdAdd_Click(); };
-    cmdEdit.onClick = [this] { cmdEdit_Click(); };
-    cmdDel.onClick = [this] { cmdDel_Click(); };
-    cmdRefresh.onClick = [this] { cmdRefresh_Click(); };
-    cmdCancel.onClick = [this] { cmdCancel_Click(); };
-    CancelButton.onClick = [this] { unload(); };
-    OKButton.onClick = [this] { OKButton_Click(); };
 }
 
 Layout frmRecordsOffline::layout() const {
@@ -67,8 +52,8 @@ void frmRecordsOffline::fillLists() {
         cboBilling.addItem(row.text("clientcatID"));
     Recordset officer(connection, Sql("select distinct empID,lastname,firstname from employees "));
     for (; !officer.eof(); officer.moveNext())
-        cboAppr.addItem(officer.text("lastname") + " " + officer.text("firstname") + " [" + officer.text("empID") +
-                        "]");
+        cboAppr.addItem(officer.text("lastname") + " " + officer.text("firstname") + " [" + officer.text("empID") + "]",
+                        officer.text("empID"));
 }
 
 void frmRecordsOffline::cmdOK_Click() {
@@ -83,7 +68,7 @@ void frmRecordsOffline::cmdOK_Click() {
     lblFound.setText(found.eof() ? "***" : found.has(manyFound) ? "200+" : QString::number(found.count()));
     cboVehNo.clear();
     cboVehNo.fill(found, [](const Recordset& row) {
-        return ComboBox::Entry{row.text("fullName") + " [" + row.text("PNo") + "]"};
+        return ComboBox::Entry{row.text("fullName") + " [" + row.text("PNo") + "]", row.text("PNo")};
     });
 }
 
@@ -113,20 +98,15 @@ bool frmRecordsOffline::isSearchResult() const {
 }
 
 void frmRecordsOffline::cmdEdit_Click() {
-    if (grdData.currentRow() < 0) {
-        program.box("Select the attendance in the list first", Icon::Information);
+    if (!passes({{grdData.currentRow() < 0, "Select the attendance in the list first"},
+                 {isSearchResult(), "Search Result cannot be Edited, Only Attendance"}}))
         return;
-    }
-    if (isSearchResult()) {
-        program.box("Search Result cannot be Edited, Only Attendance");
-        return;
-    }
     clearForm();
     const QScopedValueRollback filling(bFilling, true);
     lRecID = grdData.text("recID").toLongLong();
     sPatientNo = sEditedPatientNo = grdData.text("patno");
     cboVehNo.clear();
-    cboVehNo.addItem(grdData.text("fullname") + " [" + sPatientNo + "]");
+    cboVehNo.addItem(grdData.text("fullname") + " [" + sPatientNo + "]", sPatientNo);
     cboVehNo.setListIndex(0);
     Connection connection = program.openBilling();
     showPatient(connection);
@@ -142,17 +122,24 @@ void frmRecordsOffline::cmdEdit_Click() {
 }
 
 void frmRecordsOffline::cmdDel_Click() {
-    if (grdData.currentRow() < 0 || isSearchResult()) {
-        program.box("Select the attendance in the list first", Icon::Information);
-        return;
-    }
-    const QString id = grdData.text("recID");
-    if (!program.question("Are you sure to Delete Record", "Delete"))
-        return;
-    Connection connection = program.openBilling();
-    connection.execute(Sql("delete from hrecords where recID = '") << id << "'");
-    program.box(" Record successfully deleted ");
-    cmdRefresh_Click();
+    save<Saved>({.button = cmdDel,
+                 .action = "DELETE VISIT",
+                 .allowed =
+                     [this] {
+                         return passes({{grdData.currentRow() < 0 || isSearchResult(),
+                                         "Select the attendance in the list first"}});
+                     },
+                 .question = "Are you sure to Delete Record",
+                 .title = "Delete",
+                 .step = [this](Books& books) -> Given<Saved> {
+                     deleteVisit(books, grdData.text("recID").toLongLong(), grdData.text("consultID"));
+                     return Saved{};
+                 },
+                 .follow =
+                     [this](const Saved&) {
+                         program.box(" Record successfully deleted ");
+                         cmdRefresh_Click();
+                     }});
 }
 
 void frmRecordsOffline::cmdCancel_Click() {

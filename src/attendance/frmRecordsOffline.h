@@ -1,5 +1,6 @@
 #pragma once
 
+#include "books/Visit.h"
 #include "session/Screen.h"
 
 namespace orvane {
@@ -34,7 +35,6 @@ private:
     void cboRef_Click();
     void cboAppr_Click();
     void tmrBill_Timer();
-    bool hasOpenVisit(Connection& connection) const;
     void refuseDuplicate();
     void clearPatient();
     QDate showPatient(Connection& connection);
@@ -44,27 +44,24 @@ private:
     // Saving (frmRecordsOfflineSave.cpp).
     void OKButton_Click();
     bool isComplete();
+    Visit visitInHand() const;
     void saveEdited();
     void saveNew();
-    bool changeVisit();
-    bool enterVisit(const QDateTime& now); ///< false: the patient has an open visit, and nothing was saved
     void afterSave(const QString& message);
-    void setVisitColumns(Recordset& visit) const;
-    void addVisit(Connection& connection, QTime at);
-    void updatePatientAndAppointment(Connection& connection);
 
+    using Me = frmRecordsOffline;
     TextBox txtName{*this, "txtName"};
-    Button cmdOK{*this, "cmdOK", "Search"};
+    Button cmdOK{*this, "cmdOK", "Search", &Me::cmdOK_Click};
     Label lblFound{*this, "lblFound"};
-    ComboBox cboVehNo{*this, "cboVehNo", ComboBox::ListOnly};
+    ComboBox cboVehNo{*this, "cboVehNo", ComboBox::ListOnly, &Me::cboVehNo_Click};
     DatePicker dtDate{*this, "dtDate"};
     DatePicker dtNext{*this, "dtNext"};
     ComboBox cboType{*this, "cboType", ComboBox::ListOnly};
-    ComboBox cboClient{*this, "cboClient", ComboBox::ListOnly};
-    ComboBox cboRef{*this, "cboRef", ComboBox::ListOnly};
+    ComboBox cboClient{*this, "cboClient", ComboBox::ListOnly, &Me::cboClient_Click};
+    ComboBox cboRef{*this, "cboRef", ComboBox::ListOnly, &Me::cboRef_Click};
     Label Label5{*this, "Label5", "Patient on referral"};
     ComboBox cboBilling{*this, "cboBilling", ComboBox::ListOnly};
-    ComboBox cboAppr{*this, "cboAppr", ComboBox::ListOnly};
+    ComboBox cboAppr{*this, "cboAppr", ComboBox::ListOnly, &Me::cboAppr_Click};
     TextBox txtRem{*this, "txtRem"};
     CheckBox chkCon{*this, "chkCon", "tick this box only if Attendee is getting a card without seeing the Doctor"};
     Label lblBill{*this, "lblBill"};
@@ -76,16 +73,17 @@ private:
     Label lblExpire{*this, "lblExpire"};
     Picture piX{*this, "piX"};
     Grid grdData{*this, "grdData"};
-    Timer tmrBill{*this, "tmrBill", 500, false};
-    Button cmdAdd{*this, "cmdAdd", "Add"};
-    Button cmdEdit{*this, "cmdEdit", "Edit"};
-    Button cmdDel{*this, "cmdDel", "Delete"};
-    Button cmdRefresh{*this, "cmdRefresh", "Refresh"};
-    Button cmdCancel{*this, "cmdCancel", "Cancel"};
-    Button CancelButton{*this, "CancelButton", "Close"};
-    Button OKButton{*this, "OKButton", "Save"};
+    Timer tmrBill{*this, "tmrBill", 500, false, &Me::tmrBill_Timer};
+    Button cmdAdd{*this, "cmdAdd", "Add", &Me::cmdAdd_Click};
+    Button cmdEdit{*this, "cmdEdit", "Edit", &Me::cmdEdit_Click};
+    Button cmdDel{*this, "cmdDel", "Delete", &Me::cmdDel_Click};
+    Button cmdRefresh{*this, "cmdRefresh", "Refresh", &Me::cmdRefresh_Click};
+    Button cmdCancel{*this, "cmdCancel", "Cancel", &Me::cmdCancel_Click};
+    Button CancelButton{*this, "CancelButton", "Close", &Me::unload};
+    Button OKButton{*this, "OKButton", "Save", &Me::OKButton_Click};
 
     QString sPatientNo;         ///< the number taken from the picker
+    QString sClientID;          ///< his client's retainID; the screen shows the client's name
     QString sReferralConsultID; ///< the consult id of a follow-up appointment, else empty
     QString sOfficerEmpID;
     bool bCardExpired = false; ///< of the patient picked last: he cannot be saved

@@ -1,4 +1,5 @@
 #include "attendance/frmRecordsOffline.h"
+#include "books/Client.h"
 
 namespace orvane {
 
@@ -10,11 +11,10 @@ constexpr qint64 ReviewHours = 12;
 } // namespace
 
 void frmRecordsOffline::cboVehNo_Click() {
-    if (bFilling || cboVehNo.listIndex() < 0)
+    const auto picked = cboVehNo.picked<QString>();
+    if (bFilling || !picked)
         return;
-    const QString picked = cboVehNo.text();
-    const qsizetype bracket = picked.lastIndexOf("[");
-    sPatientNo = picked.mid(bracket + 1, picked.lastIndexOf("]") - bracket - 1);
+    sPatientNo = *picked;
     clearPatient();
     if (dtDate.isEmpty()) {
         program.box("Specify Attendance Date");
@@ -25,7 +25,7 @@ void frmRecordsOffline::cboVehNo_Click() {
     }
     Connection connection = program.openBilling();
     const bool ownVisit = bEditing && sPatientNo == sEditedPatientNo;
-    if (!ownVisit && hasOpenVisit(connection)) {
+    if (!ownVisit && hasOpenVisit(connection, sPatientNo, dtDate.date())) {
         refuseDuplicate();
         return;
     }
@@ -40,15 +40,8 @@ void frmRecordsOffline::cboVehNo_Click() {
     checkReview(); // the purpose may have been chosen first, or for the patient before
 }
 
-/// A visit of this patient on this date that is still open.
-bool frmRecordsOffline::hasOpenVisit(Connection& connection) const {
-    return !Recordset(connection, Sql("select pno from qryhVisitsForToday where recdate='")
-                                      << dtDate.date() << "' and pno='" << sPatientNo << "' and attendedTo = 0")
-                .eof();
-}
-
 void frmRecordsOffline::refuseDuplicate() {
-    program.box("Patient Attendance already entered!!! Duplicate not allowed");
+    program.box(refusalText(Refusal::VisitOpen));
     setButtons(false);
     clearForm();
 }
@@ -59,6 +52,7 @@ void frmRecordsOffline::clearPatient() {
     piX.setFile({});
     bCardExpired = false;
     sReferralConsultID.clear();
+    sClientID.clear();
 }
 
 /// Gives the day on which the patient's card expires; empty: never.
@@ -72,7 +66,8 @@ QDate frmRecordsOffline::showPatient(Connection& connection) {
     // A category that is no longer offered must not leave the one of the patient before.
     cboBilling.setListIndex(-1);
     cboBilling.setText(patient.text("clientcatID"));
-    lblCoy.setText(patient.text("coyName"));
+    sClientID = patient.text("coyName");
+    lblCoy.setText(clientName(connection, sClientID));
     lblNo.setText(patient.text("PNo"));
     lblOld.setText(patient.text("OldPNo"));
     LblOccup.setText(patient.text("occupation"));
@@ -95,7 +90,6 @@ void frmRecordsOffline::checkAppointment(Connection& connection) {
 }
 
 void frmRecordsOffline::cboClient_Click() {
-    session.sClientName = cboClient.text();
     if (!bFilling)
         checkReview();
 }
@@ -126,7 +120,7 @@ void frmRecordsOffline::tmrBill_Timer() {
 }
 
 void frmRecordsOffline::cboAppr_Click() {
-    sOfficerEmpID = cboAppr.text().mid(cboAppr.text().lastIndexOf("[") + 1).remove("]");
+    sOfficerEmpID = cboAppr.picked<QString>().value_or(QString());
 }
 
 } // namespace orvane

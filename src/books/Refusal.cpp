@@ -16,6 +16,15 @@ constexpr struct {
     {Refusal::NoConsultID, "ReceiptNo cannot be generated!!! No Consult ID for this transaction"},
     {Refusal::NoTranID, "ReceiptNo cannot be generated!!! No Tran ID for this transaction"},
     {Refusal::NoNumber, "Unable to generate No!!! Function getIDNo Failed! Receipt"},
+    {Refusal::VisitOpen, "Patient Attendance already entered!!! Duplicate not allowed"},
+    {Refusal::VisitGone, "This attendance was deleted by another user."},
+    {Refusal::NoDrug, "There is no Drug or Service of this name"},
+    {Refusal::UserNameTaken, "Alert! Username already assigned to someone else."},
+    {Refusal::UnknownUser, "Alert! Indicated username not found in the list of accredited users."},
+    {Refusal::RoleExists, "Attempted creating a RoleID %1 that already exists."},
+    {Refusal::NoRole, "Attempted to delete a non existing Role "},
+    {Refusal::RoleIsHeld, "Attempted deleting the Role for %1 that would lead to orphan User Accounts."},
+    {Refusal::RoleAllotted, "Submission Failed! Matching Record Exists."},
 };
 
 } // namespace

@@ -11,10 +11,19 @@ enum class Refusal {
     VisitChanged,  ///< the visit was deleted or moved to another patient or client since it was read
     NoConsultID,   ///< no receipt number: the visit's clinic has no code
     NoTranID,      ///< no receipt number: the outlet's item has no code
-    NoNumber       ///< no receipt number: the counter gave none
+    NoNumber,      ///< no receipt number: the counter gave none
+    VisitOpen,     ///< the patient's visit of that day is still open
+    VisitGone,     ///< the visit under edit was deleted
+    NoDrug,        ///< no drug or service bears the name
+    UserNameTaken, ///< an account bears the name
+    UnknownUser,   ///< no account bears the name, or not with this password
+    RoleExists,    ///< a role has the id
+    NoRole,        ///< no role has the id
+    RoleIsHeld,    ///< users hold the role
+    RoleAllotted   ///< the user holds the role already
 };
 
-/// The words in which the user is told.
+/// The words in which the user, or the log of the roles, is told; "%1" in them stands for the role's id.
 QString refusalText(Refusal refusal);
 
 } // namespace orvane

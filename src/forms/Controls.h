@@ -267,6 +267,7 @@ public:
         QString text;
         QString parentKey;
         bool expanded = false;
+        QVariant data = {}; ///< what the node stands for
     };
     Tree(Form& form, const QString& name) : Control(form, ControlKind::Tree, name) {}
     template <typename FormClass, typename Class, typename Result>
@@ -283,6 +284,13 @@ public:
     const QVector<Node>& nodes() const;
     const QString& selectedKey() const { return m_selected; }
     const Node* selectedNode() const;
+    /// What the selected node stands for: its data, never its key or text. Nothing where none is selected, or one
+    /// without such data, as the root.
+    template <typename T>
+    std::optional<T> picked() const {
+        const Node* node = selectedNode();
+        return node && node->data.canConvert<T>() ? std::optional<T>(node->data.value<T>()) : std::nullopt;
+    }
     void select(const QString& key); ///< as the user's click
     QString valueText() const override;
 

@@ -1,19 +1,100 @@
 #include "screens/Screens.h"
 
-#include "attendance/Forms.h"
-#include "billing/Forms.h"
-#include "receipts/Forms.h"
-#include "session/Forms.h"
-#include "stock/Forms.h"
+#include "attendance/frmCoyUpdate.h"
+#include "attendance/frmFind.h"
+#include "attendance/frmFlash.h"
+#include "attendance/frmPatList.h"
+#include "attendance/frmPatientInfo.h"
+#include "attendance/frmRecordsOffline.h"
+#include "attendance/frmReminder.h"
+#include "billing/frmApprvCode.h"
+#include "billing/frmBillDiscount.h"
+#include "billing/frmBillPat.h"
+#include "billing/frmBillPatAdjust.h"
+#include "billing/frmBillingVerify.h"
+#include "billing/frmDecide.h"
+#include "billing/frmExistBill.h"
+#include "billing/frmPriceAdjust.h"
+#include "billing/frmPriceAdjustCustom.h"
+#include "billing/frmPriceAdjustSplit.h"
+#include "billing/frmPriceAdjustVerify.h"
+#include "billing/frmTreatment.h"
+#include "receipts/frmCashReceipt.h"
+#include "receipts/frmCashReceiptLab.h"
+#include "receipts/frmDebtInfo.h"
+#include "receipts/frmReceiptDeposit.h"
+#include "receipts/frmReceiptManual.h"
+#include "receipts/frmReceiptTemp.h"
+#include "receipts/rptPanelSummary.h"
+#include "session/MdiTolmek.h"
+#include "session/frmDialog.h"
+#include "session/frmLogin.h"
+#include "session/frmRole.h"
+#include "session/frmStart.h"
+#include "session/frmUserRole.h"
+#include "session/frmUsers.h"
+#include "session/frmWelcome.h"
+#include "stock/frmDrugPrice.h"
 
 namespace orvane {
 
+namespace {
+
+template <typename FormClass>
+std::unique_ptr<Form> make(Program& program) {
+    return std::make_unique<FormClass>(program);
+}
+
+constexpr struct {
+    const char* name;
+    std::unique_ptr<Form> (*make)(Program&);
+} screens[] = {
+    {"MdiTolmek", make<MdiTolmek>},
+    {"frmLogin", make<frmLogin>},
+    {"frmWelcome", make<frmWelcome>},
+    {"frmStart", make<frmStart>},
+    {"frmUsers", make<frmUsers>},
+    {"frmUserRole", make<frmUserRole>},
+    {"frmRole", make<frmRole>},
+    {"frmDialog", make<frmDialog>},
+
+    {"frmCoyUpdate", make<frmCoyUpdate>},
+    {"frmFind", make<frmFind>},
+    {"frmFlash", make<frmFlash>},
+    {"frmPatList", make<frmPatList>},
+    {"frmPatientInfo", make<frmPatientInfo>},
+    {"frmRecordsOffline", make<frmRecordsOffline>},
+    {"frmReminder", make<frmReminder>},
+
+    {"frmCashReceipt", make<frmCashReceipt>},
+    {"frmCashReceiptLab", make<frmCashReceiptLab>},
+    {"frmDebtInfo", make<frmDebtInfo>},
+    {"frmReceiptDeposit", make<frmReceiptDeposit>},
+    {"frmReceiptManual", make<frmReceiptManual>},
+    {"frmReceiptTemp", make<frmReceiptTemp>},
+    {"rptPanelSummary", make<rptPanelSummary>},
+
+    {"frmApprvCode", make<frmApprvCode>},
+    {"frmBillDiscount", make<frmBillDiscount>},
+    {"frmBillPat", make<frmBillPat>},
+    {"frmBillPatAdjust", make<frmBillPatAdjust>},
+    {"frmBillingVerify", make<frmBillingVerify>},
+    {"frmDecide", make<frmDecide>},
+    {"frmExistBill", make<frmExistBill>},
+    {"frmPriceAdjust", make<frmPriceAdjust>},
+    {"frmPriceAdjustCustom", make<frmPriceAdjustCustom>},
+    {"frmPriceAdjustSplit", make<frmPriceAdjustSplit>},
+    {"frmPriceAdjustVerify", make<frmPriceAdjustVerify>},
+    {"frmTreatment", make<frmTreatment>},
+
+    {"frmDrugPrice", make<frmDrugPrice>},
+};
+
+} // namespace
+
 void registerScreens(Program& program) {
-    registerSessionForms(program);
-    registerAttendanceForms(program);
-    registerReceiptForms(program);
-    registerBillingForms(program);
-    registerStockForms(program);
+    for (const auto& screen : screens)
+        program.registerForm(screen.name, screen.make);
 }
 
 } // namespace orvane

@@ -1,25 +1,15 @@
-#include "data/rows/Transaction.h"
+#include "books/Trail.h"
 #include "session/Program.h"
 
 #include <QSysInfo>
 
 namespace orvane {
 
-namespace {
-
-const QString shortTime = "HH:mm";
-
-} // namespace
-
-/// Where the environment does not name the workstation or its user, the host's name and the system's own user variable
-/// stand in.
+/// Where the environment does not name the workstation, the host's name stands in.
 void Program::readEnvironmentIdentity() {
     session.sComputerName = qEnvironmentVariable("computername");
     if (session.sComputerName.isEmpty())
         session.sComputerName = QSysInfo::machineHostName();
-    session.sEnvUserName = qEnvironmentVariable("username");
-    if (session.sEnvUserName.isEmpty())
-        session.sEnvUserName = qEnvironmentVariable("USER");
 }
 
 void Program::writeAuditTrail(const AuditEntry& entry) {
@@ -30,7 +20,7 @@ void Program::writeAuditTrail(const AuditEntry& entry) {
         connection.call("SpAudiTrail", {{"@userName", session.gUsername},
                                         {"@userAction", entry.action},
                                         {"@ActionDate", session.gServerDate},
-                                        {"@ActionTime", session.gServerTime.toString(shortTime)},
+                                        {"@ActionTime", session.gServerTime.toString("HH:mm")},
                                         {"@TranCode", entry.document},
                                         {"@Remarks", entry.remarks},
                                         {"@Src", session.gModuleName + ": from " + source}});
@@ -43,24 +33,11 @@ void Program::openUserActivity(bool isLogout, bool autoLogoff, const QString& re
     const QDateTime now = getServerDateTime();
     session.dWorkDate = now.date();
     try {
-        Connection connection = openBilling();
-        Transaction transaction(connection);
-        Recordset activity(connection, Sql("select * from UserActivities where 1=2"));
-        activity.addNew();
-        activity.set("username", session.gUsername);
-        activity.set("LoginDate", now.date());
-        activity.set("LoginTime", now.toString(shortTime));
-        activity.set("islogout", int(isLogout));
-        if (isLogout) {
-            activity.set("LogoutDate", now.date());
-            activity.set("LogoutTime", now.toString(shortTime));
-        }
-        activity.set(QStringLiteral("AutoLogoff"), int(autoLogoff));
-        activity.set("Remarks", remarks);
-        activity.update();
-        const Recordset last(connection, Sql("select top 1 SNO from UserActivities order by SNO desc"));
-        session.gActivitySNo = last.integer("SNo");
-        transaction.commit();
+        session.gActivitySNo = *desk().save<qlonglong>(
+            "LOG ON",
+            [&](Books& books) -> Given<qlonglong> {
+                return orvane::openUserActivity(books, {now, isLogout, autoLogoff, remarks});
+            });
     } catch (const DataError& fault) {
         boxAfterTransaction(fault.description());
     }
@@ -71,18 +48,12 @@ void Program::closeUserActivity(bool isLogout, bool autoLogoff, const QString& r
     const QDateTime now = getServerDateTime();
     session.dWorkDate = now.date();
     try {
-        Connection connection = openBilling();
-        Recordset activity(connection, Sql("select * from UserActivities where SNO=") << session.gActivitySNo);
-        if (activity.eof())
-            return;
-        activity.set("islogout", int(isLogout));
-        if (isLogout) {
-            activity.set("LogoutDate", now.date());
-            activity.set("LogoutTime", now.toString(shortTime));
-        }
-        activity.set(QStringLiteral("AutoLogoff"), int(autoLogoff));
-        activity.set("Remarks", remarks);
-        activity.update();
+        desk().save<Saved>(
+            "LOG OFF",
+            [&](Books& books) -> Given<Saved> {
+                orvane::closeUserActivity(books, session.gActivitySNo, {now, isLogout, autoLogoff, remarks});
+                return Saved{};
+            });
     } catch (const DataError& fault) {
         boxAfterTransaction(fault.description());
     }

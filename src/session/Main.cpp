@@ -67,11 +67,9 @@ bool showingFaults(Program& program, const std::function<bool()>& steps) {
 bool prepareServer(Program& program) {
     Session& session = program.session;
     session.dPostDate = session.gServerDate;
-    const std::optional<qint16> number = readMadeSys(program);
-    if (!number)
+    if (!readMadeSys(program))
         return false;
-    session.iHNO = *number;
-    session.sHospitalNoStr = QString::number(*number);
+    session.sHospitalNoStr = "0"; // made.sys gives no number of the hospital
     if (session.gServerName.isEmpty())
         session.gServerName = "SERVER";
     session.gConnStr = connectionString(session.gServerName, "Dunmarch");
@@ -81,8 +79,6 @@ bool prepareServer(Program& program) {
     session.bFirstShow = true;
     session.bAutoLogoff = false;
     session.gModuleName = "BILLING";
-    session.bAlertOn = false;
-    session.bBillSound = false;
     return true;
 }
 

@@ -15,11 +15,6 @@ MdiTolmek::MdiTolmek(Program& owner) : Screen(owner, "MdiTolmek", "Billing : Orv
     Frame1.holds({&lblServer, &lblDate, &lblTime});
     buildMenus();
     Picture1.onDblClick = [this] { Picture1_DblClick(); };
-    cmdView.onClick = [this] { program.open("frmFlash"); };
-    Timer2.onTimer = [this] { refreshServerClock(); };
-    Timer1.onTimer = [this] { checkWaitingVisits(); };
-    tmrMDI.onTimer = [this] { tmrMDI_Timer(); };
-    tmrSound.onTimer = [this] { tmrSound_Timer(); };
 }
 
 /// The hospital is named at the left; the clock stands in the middle of the strip, cmdView at its right edge.
@@ -86,14 +81,12 @@ void MdiTolmek::checkWaitingVisits() {
                                 Sql("SELECT Fullname,Date,Time,Client from vwhConsultingVisitsForBilling where date='")
                                     << session.gServerDate << "' order by fullname ");
         tmrMDI.setEnabled(!waiting.eof());
-        session.bBillSound = !waiting.eof();
+        tmrSound.setEnabled(!waiting.eof());
     }
-    tmrSound.setEnabled(session.bBillSound);
     program.ui().processEvents();
 }
 
 void MdiTolmek::tmrMDI_Timer() {
-    session.bAlertOn = false;
     Picture1.setColor(flashToggle ? alarmColor : restColor);
     flashToggle = !flashToggle;
 }

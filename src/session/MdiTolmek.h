@@ -25,8 +25,8 @@ public:
 
 private:
     enum class Look { Shown, Hidden, HiddenAndDisabled };
-    /// A menu (`inMenu` false), or an entry of the menu above it. An entry opens a screen or runs a handler, or has no
-    /// action.
+    /// A menu (`inMenu` false), or an entry of the menu above it. An entry runs its handler, then opens its screen; one
+    /// without either does nothing, and one whose screen is not part of the program is grey.
     struct MenuEntry {
         bool inMenu;
         const char* name;
@@ -39,6 +39,7 @@ private:
     void buildMenus();
     void act(const MenuEntry& entry);
 
+    void cmdView_Click() { program.open("frmFlash"); }
     void refreshServerClock();
     void checkWaitingVisits();
     void tmrMDI_Timer();
@@ -58,10 +59,10 @@ private:
     void mnuCR_Click();
     void mnuAcctEnable_Click();
     void mnuAcctDisable_Click();
-    void openTrialBalance(const QString& kind);
-    void openPanel(const QString& mode, const QString& label);
+    void preparePanel(const QString& mode, const QString& label);
     void viewToday(const Sql& sql, const QString& emptyMessage, const QString& report, const QString& title);
 
+    using Me = MdiTolmek;
     Picture Picture1{*this, "Picture1"};
     Picture Picture2{*this, "Picture2"};
     Label lblHospital{*this, "lblHospital"};
@@ -69,12 +70,12 @@ private:
     Label lblServer{*this, "lblServer", "Server Date && Time: "};
     Label lblDate{*this, "lblDate"};
     Label lblTime{*this, "lblTime"};
-    Button cmdView{*this, "cmdView", "Patients from Doctor"};
+    Button cmdView{*this, "cmdView", "Patients from Doctor", &Me::cmdView_Click};
     StatusBar SbrTolmek{*this, "SbrTolmek", 3};
-    Timer Timer2{*this, "Timer2", 60000, true};
-    Timer Timer1{*this, "Timer1", 60000, true};
-    Timer tmrMDI{*this, "tmrMDI", 500, false};
-    Timer tmrSound{*this, "tmrSound", 60000, false};
+    Timer Timer2{*this, "Timer2", 60000, true, &Me::refreshServerClock};
+    Timer Timer1{*this, "Timer1", 60000, true, &Me::checkWaitingVisits};
+    Timer tmrMDI{*this, "tmrMDI", 500, false, &Me::tmrMDI_Timer};
+    Timer tmrSound{*this, "tmrSound", 60000, false, &Me::tmrSound_Timer};
     Timer tmrIdle{*this, "tmrIdle", 10000, false}; ///< the hook of an idle rule; it does nothing
     std::vector<std::unique_ptr<MenuItem>> m_menus;
 

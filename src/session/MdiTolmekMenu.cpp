@@ -34,17 +34,17 @@ const QVector<MdiTolmek::MenuEntry>& MdiTolmek::menuTable() {
         {true, "mnuRct", " Receipt Entry", hidden, "frmReceiptTemp"},
         {true, "mnuDisc", "Discount", hidden, "frmBillDiscount"},
         {true, "mnuPrintB", "Print Patient Invoice", shown, "FrmRptBillsByPat"},
-        {true, "mnuRPtES", "Print Patient Receipt", shown, nullptr, &M::mnuRPtES_Click},
+        {true, "mnuRPtES", "Print Patient Receipt", shown, "rptPanelSummary", &M::mnuRPtES_Click},
         {true, "mnuOffline", "Offline Payment Entries", shown, "frmReceiptManual"},
         {true, "mnuPCR", "Clients' Payment Update ", hidden},
         {true, "mnuPSITC", "Prepare Manual  Bill", hidden, "frmExistBill"},
         {true, "mnuPCBILL", "Prepare Client Bill", hidden},
-        {true, "mnuPCB", "Generate Client Bill", hidden, nullptr, &M::mnuPCB_Click},
+        {true, "mnuPCB", "Generate Client Bill", hidden, "rptPanelSummary", &M::mnuPCB_Click},
 
         {false, "mnuAccts", "A&ccounts"},
-        {true, "mnuTB", "Trial Balance", shown, nullptr, &M::mnuTB_Click},
-        {true, "mnuTBBP", "Trial Balance by Period (Actual)", shown, nullptr, &M::mnuTBBP_Click},
-        {true, "mnuGL", "General ledger", shown, nullptr, &M::mnuGL_Click},
+        {true, "mnuTB", "Trial Balance", shown, "frmRptTB", &M::mnuTB_Click},
+        {true, "mnuTBBP", "Trial Balance by Period (Actual)", shown, "frmRptTB", &M::mnuTBBP_Click},
+        {true, "mnuGL", "General ledger", shown, "frmRptTB", &M::mnuGL_Click},
         {true, "mnuCTTA", "Cash Transfer to Accounts", shown, "frmRevCashAcct"},
         {true, "mnuCRD", "Cash Receipt Details/Distribution", shown, "frmRevCashAdjust"},
         {true, "mnuRHFCB", "View Revenue from Collated Bills", shown, "frmRevCatEdit"},
@@ -93,7 +93,7 @@ const QVector<MdiTolmek::MenuEntry>& MdiTolmek::menuTable() {
         {true, "mnuCreateRoles", "Create &Roles", shown, "frmRole"},
         {true, "mnuAcctEnable", "&Enable Account...", shown, nullptr, &M::mnuAcctEnable_Click},
         {true, "mnuAcctDisable", "&Disable Account...", shown, nullptr, &M::mnuAcctDisable_Click},
-        {true, "mnuDSP", "Drug/Service Pricing"},
+        {true, "mnuDSP", "Drug/Service Pricing", shown, "frmDrugPrice"},
         {true, "mnuLR", "Login Report", hidden},
         {true, "mnuAuto", "Auto ID Generator", hidden},
 
@@ -122,14 +122,18 @@ void MdiTolmek::buildMenus() {
         }
         if (entry.opens || entry.run)
             item->onClick = [this, &entry] { act(entry); };
+        if (entry.opens && !program.isRegistered(entry.opens)) {
+            item->setEnabled(false);
+            item->setToolTip("Not part of this version yet");
+        }
     }
 }
 
 void MdiTolmek::act(const MenuEntry& entry) {
-    if (entry.opens)
-        program.open(QString::fromLatin1(entry.opens));
-    else
+    if (entry.run)
         (this->*entry.run)();
+    if (entry.opens)
+        program.open(entry.opens);
 }
 
 void MdiTolmek::mnuPrint_Click() {
@@ -144,37 +148,31 @@ void MdiTolmek::mnuEPE_Click() {
 }
 
 void MdiTolmek::mnuRPtES_Click() {
-    openPanel("Receipt", "select a receipt No");
+    preparePanel("Receipt", "select a receipt No");
 }
 
 void MdiTolmek::mnuPCB_Click() {
-    openPanel("Coy", "select a Company Name");
+    preparePanel("Coy", "select a Company Name");
 }
 
-void MdiTolmek::openPanel(const QString& mode, const QString& label) {
+void MdiTolmek::preparePanel(const QString& mode, const QString& label) {
     session.sRptPanelMode = mode;
     session.sRptPanelLabel = label;
     // It takes its mode when it loads.
     if (Form* open = program.loadedForm("rptPanelSummary"))
         open->unload();
-    program.open("rptPanelSummary");
 }
 
 void MdiTolmek::mnuTB_Click() {
-    openTrialBalance("TB");
+    session.sRptKind = "TB";
 }
 
 void MdiTolmek::mnuTBBP_Click() {
-    openTrialBalance("TB2");
+    session.sRptKind = "TB2";
 }
 
 void MdiTolmek::mnuGL_Click() {
-    openTrialBalance("GL");
-}
-
-void MdiTolmek::openTrialBalance(const QString& kind) {
-    session.sRptKind = kind;
-    program.open("frmRptTB");
+    session.sRptKind = "GL";
 }
 
 void MdiTolmek::mnuBFT_Click() {

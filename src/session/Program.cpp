@@ -72,7 +72,7 @@ Form& Program::form(const QString& name) {
 
 void Program::open(const QString& name) {
     if (!isRegistered(name)) {
-        box(QStringLiteral("The screen %1 is not part of this version yet.").arg(name), Icon::Information);
+        box("This screen is not part of this version yet.", Icon::Information);
         return;
     }
     Form& opened = form(name);

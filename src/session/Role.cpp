@@ -1,5 +1,6 @@
 #include "session/Role.h"
 
+#include "books/User.h"
 #include "session/RoleLog.h"
 
 namespace orvane {
@@ -27,38 +28,24 @@ void Role::setRoleName(const QString& text) {
 }
 
 void Role::Submit() {
-    try {
-        Connection connection = m_program.openBilling();
-        const Recordset existing(connection, Sql("SELECT * FROM Roles WHERE RoleID = '") << m_roleID << "'");
-        if (!existing.eof()) {
-            log(QStringLiteral("Attempted creating a RoleID %1 that already exists.").arg(m_roleID));
-            return;
-        }
-        connection.execute(Sql("INSERT INTO Roles (RoleID, LoginRole) VALUES (")
-                           << m_roleID << ", '" << m_roleName << "')");
-        log(QStringLiteral("Successfully created a new Role  %1").arg(m_roleID));
-    } catch (const DataError& fault) {
-        logServerError(m_program, "Submit", fault);
-    }
+    const qlonglong id = m_roleID;
+    run("Submit", id, "Successfully created a new Role  %1",
+        [&](Books& books) { return addRole(books, id, m_roleName); });
 }
 
 void Role::Delete(qlonglong id) {
+    run(
+        "Delete", id, "Successfully deleted the Role for %1", [&](Books& books) { return deleteRole(books, id); });
+}
+
+void Role::run(const QString& operation, qlonglong id, const QString& done,
+               const std::function<Given<Saved>(Books&)>& step) {
     try {
-        Connection connection = m_program.openBilling();
-        const Recordset role(connection, Sql("SELECT * FROM Roles WHERE RoleID = ") << id);
-        if (role.eof()) {
-            log("Attempted to delete a non existing Role ");
-            return;
-        }
-        const Recordset holders(connection, Sql("SELECT * FROM UserRoles WHERE RoleID = ") << id);
-        if (!holders.eof()) {
-            log(QStringLiteral("Attempted deleting the Role for %1 that would lead to orphan User Accounts.").arg(id));
-            return;
-        }
-        connection.execute(Sql("DELETE FROM Roles WHERE RoleID = '") << id << "'");
-        log(QStringLiteral("Successfully deleted the Role for %1").arg(id));
+        const Given<Saved> given = m_program.desk().save<Saved>("ROLE " + operation, step);
+        QString message = given ? done : refusalText(given.refusal());
+        logUserActivity(m_program, message.replace("%1", QString::number(id)), m_program.session.gFullName);
     } catch (const DataError& fault) {
-        logServerError(m_program, "Delete", fault);
+        logServerError(m_program, operation, fault);
     }
 }
 
@@ -70,10 +57,6 @@ Recordset Role::DisplayData() {
         logServerError(m_program, "DisplayData", fault);
         return {};
     }
-}
-
-void Role::log(const QString& message) {
-    logUserActivity(m_program, message, m_program.session.gFullName);
 }
 
 } // namespace orvane

@@ -22,7 +22,9 @@ public:
     Recordset DisplayData(); ///< all roles
 
 private:
-    void log(const QString& message);
+    /// Saves and logs what came of it; "%1" in `done` stands for the id.
+    void run(const QString& operation, qlonglong id, const QString& done,
+             const std::function<Given<Saved>(Books&)>& step);
 
     Program& m_program;
     qlonglong m_roleID = 0;

@@ -10,7 +10,6 @@ namespace orvane {
 struct Session {
     // Who, where and with which servers.
     QString gServerName, gHospID, gHospIDName;
-    int iHNO = 0;
     QString sHospitalNoStr;
     QString gConnStr, gAcctConnStr, gPatientsFolder;
     QString gModuleName;
@@ -18,31 +17,22 @@ struct Session {
     QString gHospName, gHospName2;
 
     // Settings read once at the start.
-    QString billSetting1, billSetting2, billSetting3, billSetting4;
-    QString gRctPicture, gRctPictureLab, gRctPictureDen;
-    QString labSetting1, labSetting2, labSetting3, labSetting5;
-    QString gRctPictureLab2;
-    QString gPrivateTariff, gLockPrice, gRevTypeRpt, gNHISFee, gOldPNo, gBillTo, gCoyCode;
+    QString gPrivateTariff, gLockPrice, gRevTypeRpt, gNHISFee, gBillTo;
+    // Of these the posting engine and the journal bridge read what the receipts do not.
     bool gAcctPostOn = false, gAcctPostAuto = false;
     QString gAcctPostType = "AUTO", gAutoTranNo, gAcctCostCenter;
-    QString gAcctNoPOS, gAcctNoCheque, gAcctNoTransfer, gAcctNoCash, gAcctNoOthers;
-    QString gAcctNoSales, gAcctNoSalesInv, gAcctNoSales2, gAcctNoSalesInv2;
+    QString gAcctNoPOS, gAcctNoCheque, gAcctNoTransfer, gAcctNoCash, gAcctNoSales, gAcctNoSalesInv;
     qlonglong gCashAccountIndex = 0, gARAccountIndex = 0;
     QString gAcctSusp, gAcctSuspDesc;
     QString gCurrentPeriod, gPeriod;
 
     // The shell's state.
-    bool bFirstShow = false, bAutoLogoff = false, bAlertOn = false, bBillSound = false, bReceiptHeadLoaded = false;
+    bool bFirstShow = false, bAutoLogoff = false, bReceiptHeadLoaded = false;
     QDate dPostDate;
     QDate gServerDate; ///< the date of the shell's clock
     QTime gServerTime; ///< the time of the shell's clock
-    QString sComputerName, sEnvUserName;
+    QString sComputerName;
     qlonglong gActivitySNo = 0;
-
-    // The alternative entry with a password.
-    QString sLoginName, sLoginPassword, sUserPassword, sLoginBranch;
-    QString sLoginTrailAction, sLoginTrailTime;
-    QDate dLoginTrailDate;
 
     // Numbers and words.
     QString gIDNo;         ///< what fetchIDNo returned last; empty means failure
@@ -60,11 +50,10 @@ struct Session {
     QDate dWorkDate;
     QString sAdjustItem;
     QString sAuditCoy;
-    QString sClientName; ///< the purpose of a visit, on the attendance screen
     QString sDebtMode, sRptPanelMode, sRptKind;
     QString sRptPanelLabel; ///< what the label of rptPanelSummary asks for
     QString sRctLine1, sRctLine2, sRctLine3, sRctLine4, sRctLine5;
-    QString sBatchNo, sBatchMonth, sBatchYear;
+    QString sBatchNo, sBatchMonth, sBatchYear; ///< of the monthly batch
 };
 
 } // namespace orvane

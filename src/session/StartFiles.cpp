@@ -8,11 +8,11 @@
 
 namespace orvane {
 
-std::optional<qint16> readMadeSys(Program& program) {
+bool readMadeSys(Program& program) {
     const QString path = QDir(program.homeFolder()).filePath("made.sys");
     if (!QFile::exists(path)) {
         program.box("A System inifile bAccum required for this Application is MISSING");
-        return std::nullopt;
+        return false;
     }
     for (const QString& line : readTextLines(path)) {
         // The fourth character separates name and value and may be anything.
@@ -21,7 +21,7 @@ std::optional<qint16> readMadeSys(Program& program) {
         else if (line.startsWith(QLatin1String("HNO")))
             program.session.gHospID = line.mid(4);
     }
-    return qint16(0);
+    return true;
 }
 
 bool readSysDoc(Program& program) {

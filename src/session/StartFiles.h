@@ -3,14 +3,13 @@
 #include "session/Program.h"
 
 #include <QSet>
-#include <optional>
 
 namespace orvane {
 
 /// Reads made.sys: the last "SVR" line gives session.gServerName, the last "HNO" line session.gHospID; a value starts
-/// at the fifth character. Gives 0, which is what the session keeps as the hospital's number; nothing when the file is
-/// missing, which its box has said then. Raises DataError when the file cannot be read as text.
-std::optional<qint16> readMadeSys(Program& program);
+/// at the fifth character. False when the file is missing, which its box has said then. Raises DataError when the file
+/// cannot be read as text.
+bool readMadeSys(Program& program);
 
 /// Reads sysdoc.sys: its last line, taken as it stands, is session.gUsername. False when the file is missing, which its
 /// box has said then. Raises DataError when the file cannot be read as text.

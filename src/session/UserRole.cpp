@@ -1,5 +1,6 @@
 #include "session/UserRole.h"
 
+#include "books/User.h"
 #include "session/RoleLog.h"
 
 namespace orvane {
@@ -36,14 +37,9 @@ bool UserRole::setUsername(const QString& text) {
 
 void UserRole::Submit() {
     try {
-        Connection connection = m_program.openBilling();
-        const Recordset existing(connection, Sql("SELECT * FROM UserRoles WHERE RoleID = ")
-                                                 << m_roleID << " AND Username = '" << m_username << "'");
-        if (!existing.eof())
-            return RecordExists();
-        connection.execute(Sql("INSERT INTO UserRoles(RoleID, Username) VALUES (")
-                           << m_roleID << ", '" << m_username << "')");
-        AllocationComplete();
+        const Given<Saved> given = m_program.desk().save<Saved>(
+            "ROLE ALLOTMENT", [this](Books& books) { return allotRole(books, m_roleID, m_username); });
+        given ? AllocationComplete() : RecordExists();
     } catch (const DataError& fault) {
         logServerError(m_program, "Submit", fault);
     }

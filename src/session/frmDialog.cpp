@@ -1,6 +1,6 @@
 #include "session/frmDialog.h"
 
-#include "session/Accounts.h"
+#include "books/User.h"
 
 namespace orvane {
 
@@ -13,8 +13,6 @@ frmDialog::frmDialog(Program& owner) : Screen(owner, "frmDialog", "Change Passwo
         if (txtPassC_LostFocus())
             OKButton.click();
     };
-    OKButton.onClick = [this] { OKButton_Click(); };
-    CancelButton.onClick = [this] { unload(); };
 }
 
 Layout frmDialog::layout() const {
@@ -33,7 +31,28 @@ bool frmDialog::txtPassC_LostFocus() {
 }
 
 void frmDialog::OKButton_Click() {
-    changeUserPassword(program, txtUser.text(), txtPass.text(), txtPassN.text());
+    if (settlesSave())
+        return;
+    save<Saved>(
+        {.button = OKButton,
+         .action = "PASSWORD",
+         .allowed =
+             [this] {
+                 return passes({{txtUser.text().trimmed().isEmpty(), "Alert! Username can't be empty."},
+                                {txtPass.text().trimmed().isEmpty(), "Alert! Old Account password can't be empty."}});
+             },
+         .step =
+             [this](Books& books) { return changePassword(books, txtUser.text(), txtPass.text(), txtPassN.text()); },
+         .follow =
+             [this](const Saved&) {
+                 program.box("Congrats! User Account's Password changed.");
+                 clearFields();
+             }});
+    // Refused or saved, nothing that was typed here stays to be read.
+    clearFields();
+}
+
+void frmDialog::clearFields() {
     for (TextBox* box : {&txtUser, &txtPass, &txtPassN, &txtPassC})
         box->clear();
 }

@@ -7,14 +7,7 @@ namespace orvane {
 /// "Change Password".
 class frmDialog : public Screen {
 public:
-    explicit frmDialog(Program& program);
-
-    TextBox txtUser{*this, "txtUser"};
-    TextBox txtPass{*this, "txtPass"};
-    TextBox txtPassN{*this, "txtPassN"};
-    TextBox txtPassC{*this, "txtPassC"};
-    Button OKButton{*this, "OKButton", "&OK"};
-    Button CancelButton{*this, "CancelButton", "&Cancel"};
+    explicit frmDialog(Program& owner);
 
     Layout layout() const override;
     Button* defaultButton() override { return &OKButton; }
@@ -23,6 +16,15 @@ public:
 private:
     bool txtPassC_LostFocus(); ///< false: the passwords differ, and the user was told
     void OKButton_Click();
+    void clearFields();
+
+    using Me = frmDialog;
+    TextBox txtUser{*this, "txtUser"};
+    TextBox txtPass{*this, "txtPass"};
+    TextBox txtPassN{*this, "txtPassN"};
+    TextBox txtPassC{*this, "txtPassC"};
+    Button OKButton{*this, "OKButton", "&OK", &Me::OKButton_Click};
+    Button CancelButton{*this, "CancelButton", "&Cancel", &Me::unload};
 };
 
 } // namespace orvane

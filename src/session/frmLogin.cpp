@@ -1,6 +1,6 @@
 #include "session/frmLogin.h"
 
-#include "session/LoginTrail.h"
+#include "books/Trail.h"
 #include "session/Main.h"
 #include "session/Scramble.h"
 
@@ -8,8 +8,6 @@ namespace orvane {
 
 frmLogin::frmLogin(Program& owner) : Screen(owner, "frmLogin", "Login") {
     txtPassword.masked();
-    cmdOK.onClick = [this] { cmdOK_Click(); };
-    cmdCancel.onClick = [this] { program.end(); };
 }
 
 Layout frmLogin::layout() const {
@@ -22,31 +20,38 @@ void frmLogin::cmdOK_Click() {
         program.end();
         return;
     }
-    session.sLoginName = txtUserName.text().trimmed();
-    session.sLoginPassword = scramblePassword(program, txtPassword.text().trimmed());
-    Recordset user;
-    {
-        Connection connection = program.openBilling();
-        user = Recordset(
-            connection,
-            Sql("SELECT Username,Branchcode, Fullname,EmpID,loginRole, Password FROM vwUsers WHERE Username =  '")
-                << session.sLoginName << "'  And Password = '" << session.sLoginPassword
-                << "' AND AccountStatus = 'Enabled' and loginrole='" << session.gModuleName << "'");
-    }
+    const QString loginName = txtUserName.text().trimmed();
+    const QString scrambled = scramblePassword(program, txtPassword.text().trimmed());
+    const Recordset user = findUser(loginName, scrambled);
     if (user.eof()) {
-        refuse();
+        refuse(loginName);
         return;
     }
-    takeUser(user);
+    session.gEmpID = user.text("empID");
+    session.gUsername = user.text("username");
+    session.gFullName = user.text("fullName");
     // The server may compare without regard to case; a password does not.
-    if (session.sLoginPassword != session.sUserPassword)
+    if (scrambled != user.text("Password"))
         program.box("Invalid Login details");
     else
-        enter();
+        enter(loginName);
 }
 
-void frmLogin::refuse() {
-    trailLogonFailure(program, m_attempts);
+void frmLogin::cmdCancel_Click() {
+    program.end();
+}
+
+Recordset frmLogin::findUser(const QString& loginName, const QString& scrambled) {
+    Connection connection = program.openBilling();
+    return Recordset(
+        connection,
+        Sql("SELECT Username,Branchcode, Fullname,EmpID,loginRole, Password FROM vwUsers WHERE Username =  '")
+            << loginName << "'  And Password = '" << scrambled << "' AND AccountStatus = 'Enabled' and loginrole='"
+            << session.gModuleName << "'");
+}
+
+void frmLogin::refuse(const QString& loginName) {
+    writeTrail(trailLogonFailure, loginName);
     program.box("Alert! Invalid Login details.", Icon::Information);
     txtUserName.clear();
     txtPassword.clear();
@@ -54,18 +59,10 @@ void frmLogin::refuse() {
     ++m_attempts;
 }
 
-void frmLogin::takeUser(const Recordset& user) {
-    session.gEmpID = user.text("empID");
-    session.gUsername = user.text("username");
-    session.gFullName = user.text("fullName");
-    session.sUserPassword = user.text("Password");
-    session.sLoginBranch = user.text("branchcode");
-}
-
-void frmLogin::enter() {
+void frmLogin::enter(const QString& loginName) {
     program.box("You're welcome, " + session.gFullName + ".", Icon::Information);
     program.openUserActivity(false, false, session.gModuleName);
-    trailLogonSuccess(program, m_attempts);
+    writeTrail(trailLogonSuccess, loginName);
     // Nobody may work before the hospital and the settings are known; a start by the launcher has them already.
     if (session.gHospIDName.isEmpty() && !prepareSession(program)) {
         program.end();
@@ -75,6 +72,15 @@ void frmLogin::enter() {
     if (Form* welcome = program.loadedForm("frmWelcome"))
         welcome->unload();
     unload();
+}
+
+void frmLogin::writeTrail(TrailWriter trail, const QString& loginName) {
+    program.desk().save<Saved>(
+        "LOG ON",
+        [&](Books& books) -> Given<Saved> {
+            trail(books, loginName, ui().now());
+            return Saved{};
+        });
 }
 
 } // namespace orvane

@@ -14,15 +14,20 @@ public:
     Button* cancelButton() override { return &cmdCancel; }
 
 private:
-    void cmdOK_Click();
-    void refuse();
-    void takeUser(const Recordset& user);
-    void enter();
+    using TrailWriter = void (*)(Books&, const QString& loginName, const QDateTime& at);
 
+    void cmdOK_Click();
+    void cmdCancel_Click();
+    Recordset findUser(const QString& loginName, const QString& scrambled);
+    void refuse(const QString& loginName);
+    void enter(const QString& loginName);
+    void writeTrail(TrailWriter trail, const QString& loginName);
+
+    using Me = frmLogin;
     TextBox txtUserName{*this, "txtUserName"};
     TextBox txtPassword{*this, "txtPassword"};
-    Button cmdOK{*this, "cmdOK", "OK"};
-    Button cmdCancel{*this, "cmdCancel", "Exit"};
+    Button cmdOK{*this, "cmdOK", "OK", &Me::cmdOK_Click};
+    Button cmdCancel{*this, "cmdCancel", "Exit", &Me::cmdCancel_Click};
     int m_attempts = 0;
 };
 

@@ -5,18 +5,8 @@ namespace orvane {
 frmRole::frmRole(Program& owner) : Screen(owner, "frmRole", "Role Creation"), m_role(owner) {
     m_role.onRefused = [this] { narrate("The value is empty or too long and was not taken."); };
     txtRID.onKeyPress = [this](QChar key) { return txtRID_KeyPress(key); };
-    txtRID.onChange = [this] { narrate("Accepting RoleID from " + session.gFullName + "..."); };
-    txtRID.onLeave = [this] {
-        narrate("Waiting to Accept new Role Name from " + session.gFullName + "...");
-        m_role.setRoleID(txtRID.text());
-    };
-    txtRName.onChange = [this] { narrate("Accepting Role Name from " + session.gFullName + "..."); };
-    txtRName.onLeave = [this] {
-        narrate("Ready to Submit New Role Profile.");
-        m_role.setRoleName(txtRName.text());
-    };
-    cmdSubmit.onClick = [this] { cmdSubmit_Click(); };
-    cmdCancel.onClick = [this] { unload(); };
+    txtRID.onLeave = [this] { txtRID_LostFocus(); };
+    txtRName.onLeave = [this] { txtRName_LostFocus(); };
     cmdCancel.onFocus = [this] { narrate("Click here to unload the form."); };
 }
 
@@ -42,13 +32,20 @@ bool frmRole::txtRID_KeyPress(QChar key) {
     return false;
 }
 
+void frmRole::txtRID_LostFocus() {
+    narrate("Waiting to Accept new Role Name from " + session.gFullName + "...");
+    m_role.setRoleID(txtRID.text());
+}
+
+void frmRole::txtRName_LostFocus() {
+    narrate("Ready to Submit New Role Profile.");
+    m_role.setRoleName(txtRName.text());
+}
+
 void frmRole::cmdSubmit_Click() {
     // Pressed by Enter or its letter the button does not take the focus, so the last box was never left.
     m_role.setRoleID(txtRID.text());
     m_role.setRoleName(txtRName.text());
-    // Nothing was ever taken: there is no role to submit.
-    if (m_role.RoleID() == 0 || m_role.RoleName().isEmpty())
-        return;
     m_role.Submit();
     DataGrid1.load(m_role.DisplayData());
     txtRID.clear();

@@ -10,13 +10,6 @@ class frmRole : public Screen {
 public:
     explicit frmRole(Program& program);
 
-    TextBox txtRID{*this, "txtRID"};
-    TextBox txtRName{*this, "txtRName"};
-    Grid DataGrid1{*this, "DataGrid1"};
-    Button cmdSubmit{*this, "cmdSubmit", "&Save"};
-    Button cmdCancel{*this, "cmdCancel", "&Close"};
-    StatusBar StatusBar1{*this, "StatusBar1", 1};
-
     Layout layout() const override;
     void Form_Load() override;
     Button* defaultButton() override { return &cmdSubmit; }
@@ -24,9 +17,21 @@ public:
 
 private:
     bool txtRID_KeyPress(QChar key);
+    void txtRID_Change() { narrate("Accepting RoleID from " + session.gFullName + "..."); }
+    void txtRName_Change() { narrate("Accepting Role Name from " + session.gFullName + "..."); }
+    void txtRID_LostFocus();
+    void txtRName_LostFocus();
     void cmdSubmit_Click();
     void waitForRoleID();
     void narrate(const QString& text) { StatusBar1.setPanel(1, text); }
+
+    using Me = frmRole;
+    TextBox txtRID{*this, "txtRID", &Me::txtRID_Change};
+    TextBox txtRName{*this, "txtRName", &Me::txtRName_Change};
+    Grid DataGrid1{*this, "DataGrid1"};
+    Button cmdSubmit{*this, "cmdSubmit", "&Save", &Me::cmdSubmit_Click};
+    Button cmdCancel{*this, "cmdCancel", "&Close", &Me::unload};
+    StatusBar StatusBar1{*this, "StatusBar1", 1};
 
     Role m_role;
 };

@@ -2,9 +2,7 @@
 
 namespace orvane {
 
-frmStart::frmStart(Program& owner) : Screen(owner, "frmStart", "Billing : Orvane") {
-    Timer1.onTimer = [this] { Timer1_Timer(); };
-}
+frmStart::frmStart(Program& owner) : Screen(owner, "frmStart", "Billing : Orvane") {}
 
 Layout frmStart::layout() const {
     return layout::column({layout::stretch(), layout::cell(lblName), layout::cell(ProgressBar1), layout::stretch()});

@@ -16,7 +16,7 @@ private:
 
     Label lblName{*this, "lblName", "Billing : Orvane"};
     ProgressBar ProgressBar1{*this, "ProgressBar1"};
-    Timer Timer1{*this, "Timer1", 50, true};
+    Timer Timer1{*this, "Timer1", 50, true, &frmStart::Timer1_Timer};
 };
 
 } // namespace orvane

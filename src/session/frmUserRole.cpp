@@ -7,12 +7,7 @@ frmUserRole::frmUserRole(Program& owner)
     answerEvents();
     ListView1.hide({"RoleID", "LoginRole"});
     ListView1.setHead("AccountStatus", "Account Status");
-    cboRoleID.onClick = [this] { oNewUserRole.setRoleID(cboRoleID.text()); };
-    cboUsername.onClick = [this] { oNewUserRole.setUsername(cboUsername.text()); };
-    cboUsername.onLeave = [this] { oNewUserRole.setUsername(cboUsername.text()); };
-    TreeView1.onClick = [this] { TreeView1_NodeClick(); };
-    cmdSubmit.onClick = [this] { cmdSubmit_Click(); };
-    cmdCancel.onClick = [this] { unload(); };
+    cboUsername.onLeave = [this] { cboUsername_Click(); };
 }
 
 void frmUserRole::answerEvents() {

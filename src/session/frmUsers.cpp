@@ -1,22 +1,19 @@
 #include "session/frmUsers.h"
 
+#include "books/User.h"
+
 namespace orvane {
 
 frmUsers::frmUsers(Program& owner) : Screen(owner, "frmUsers", "Application Users") {
     txtPassword.masked();
     txtConfirmPWD.masked();
     cmdApply.setEnabled(false);
-    TreeView1.onClick = [this] { TreeView1_NodeClick(); };
-    txtUserName.onChange = [this] { cmdApply.setEnabled(!txtUserName.text().trimmed().isEmpty()); };
     txtConfirmPWD.onLeave = [this] { txtConfirmPWD_LostFocus(); };
     // Enter presses the button without leaving the box, so the passwords are compared first.
     txtConfirmPWD.onEnter = [this] {
         if (txtConfirmPWD_LostFocus() && cmdApply.isUsable())
             cmdApply.click();
     };
-    cmdApply.onClick = [this] { cmdApply_Click(); };
-    cmdRefresh.onClick = [this] { clearFields(); };
-    cmdCancel.onClick = [this] { unload(); };
 }
 
 Layout frmUsers::layout() const {
@@ -47,7 +44,8 @@ void frmUsers::buildTree() {
         connection,
         Sql("SELECT Distinct Username, Fullname, Password, AccountStatus, BranchCode FROM ApplicationUsers"));
     for (; !users.eof(); users.moveNext())
-        TreeView1.addNode({users.text("Username") + "ijkl", users.text("Fullname"), "zpt", false});
+        TreeView1.addNode(
+            {users.text("Username") + "ijkl", users.text("Fullname"), "zpt", false, users.text("Username")});
 }
 
 void frmUsers::clearFields() {
@@ -58,13 +56,14 @@ void frmUsers::clearFields() {
 }
 
 void frmUsers::TreeView1_NodeClick() {
-    const Tree::Node* node = TreeView1.selectedNode();
-    if (!node || node->parentKey.isEmpty())
+    const auto name = TreeView1.picked<QString>();
+    if (!name)
         return;
     Connection connection = program.openBilling();
+    // By the name of the account: two persons may have one full name.
     const Recordset user(connection, Sql("SELECT Username, Fullname, Password, AccountStatus, BranchCode FROM "
-                                         "ApplicationUsers WHERE FullName ='")
-                                         << node->text << "'");
+                                         "ApplicationUsers WHERE Username ='")
+                                         << *name << "'");
     if (user.eof())
         return;
     txtUserName.setText(user.text("Username"));
@@ -73,6 +72,10 @@ void frmUsers::TreeView1_NodeClick() {
     cboAcctStatus.setListIndex(-1); // a status that is not in its list leaves the box empty
     cboAcctStatus.setText(user.text("AccountStatus"));
     cboBranchCode.setText(user.text("BranchCode"));
+}
+
+void frmUsers::txtUserName_Change() {
+    cmdApply.setEnabled(!txtUserName.text().trimmed().isEmpty());
 }
 
 bool frmUsers::txtConfirmPWD_LostFocus() {
@@ -84,46 +87,31 @@ bool frmUsers::txtConfirmPWD_LostFocus() {
 }
 
 void frmUsers::cmdApply_Click() {
-    if (cboAcctStatus.text().isEmpty()) {
-        program.box("Alert! Account Status is required.");
-        cboAcctStatus.setFocus();
-        return;
-    }
-    if (cboBranchCode.text().isEmpty()) {
-        program.box("Alert! Branch Code is required.");
-        cboBranchCode.setFocus();
-        return;
-    }
-    if (!addAccount()) {
-        program.box("Alert! Username already assigned to someone else.", Icon::Critical);
-        return;
-    }
-    program.box("Account creation succeeded.");
-    buildTree();
-    clearFields();
-    cmdApply.setEnabled(false);
-    txtUserName.setFocus();
-}
-
-bool frmUsers::addAccount() {
-    Connection connection = program.openBilling();
-    Transaction transaction(connection);
-    Recordset account(
-        connection,
-        Sql("SELECT Username, Fullname, Password, AccountStatus, BranchCode FROM ApplicationUsers WHERE Username = '")
-            << txtUserName.text().trimmed() << "'");
-    if (!account.eof())
-        return false;
-    account.addNew();
-    account.set("Username", txtUserName.text().trimmed());
-    account.set("Fullname", txtFullName.text());
-    // Stored as typed: the way in by password compares the scrambled form, which is given by other means.
-    account.set("Password", txtPassword.text().trimmed());
-    account.set("AccountStatus", cboAcctStatus.text());
-    account.set("BranchCode", cboBranchCode.text());
-    account.update();
-    transaction.commit();
-    return true;
+    save<Saved>({.button = cmdApply,
+                 .action = "USER",
+                 .allowed =
+                     [this] {
+                         return passes(
+                             {{cboAcctStatus.text().isEmpty(), "Alert! Account Status is required.", &cboAcctStatus},
+                              {cboBranchCode.text().isEmpty(), "Alert! Branch Code is required.", &cboBranchCode}});
+                     },
+                 .step =
+                     [this](Books& books) {
+                         return addUser(books, {.name = txtUserName.text().trimmed(),
+                                                .fullName = txtFullName.text(),
+                                                .password = txtPassword.text().trimmed(),
+                                                .status = cboAcctStatus.text(),
+                                                .branch = cboBranchCode.text()});
+                     },
+                 .follow =
+                     [this](const Saved&) {
+                         program.box("Account creation succeeded.");
+                         buildTree();
+                         clearFields();
+                         cmdApply.setEnabled(false);
+                         txtUserName.setFocus();
+                     },
+                 .refused = [this](Refusal refusal) { program.box(refusalText(refusal), Icon::Critical); }});
 }
 
 } // namespace orvane

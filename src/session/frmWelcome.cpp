@@ -2,11 +2,7 @@
 
 namespace orvane {
 
-frmWelcome::frmWelcome(Program& owner) : Screen(owner, "frmWelcome", "Welcome") {
-    cmdEnter.onClick = [this] { program.open("frmLogin"); };
-    cmdExit.onClick = [this] { program.end(); };
-    Timer1.onTimer = [this] { Timer1_Timer(); };
-}
+frmWelcome::frmWelcome(Program& owner) : Screen(owner, "frmWelcome", "Welcome") {}
 
 Layout frmWelcome::layout() const {
     using namespace orvane::layout;

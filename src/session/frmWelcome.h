@@ -16,16 +16,19 @@ public:
 
 private:
     void Timer1_Timer();
+    void cmdEnter_Click() { program.open("frmLogin"); }
+    void cmdExit_Click() { program.end(); }
 
+    using Me = frmWelcome;
     Label Label1{*this, "Label1", "Welcome"};
     Label Label2{*this, "Label2", "Billing : Orvane"};
     Label Label3{*this, "Label3", "Bills, receipts and accounts of the hospital"};
     Label Label4{*this, "Label4", "Today"};
     Label Label5{*this, "Label5"};
     Label Label6{*this, "Label6"};
-    Button cmdEnter{*this, "cmdEnter", "&Enter"};
-    Button cmdExit{*this, "cmdExit", "E&xit"};
-    Timer Timer1{*this, "Timer1", 1000, true};
+    Button cmdEnter{*this, "cmdEnter", "&Enter", &Me::cmdEnter_Click};
+    Button cmdExit{*this, "cmdExit", "E&xit", &Me::cmdExit_Click};
+    Timer Timer1{*this, "Timer1", 1000, true, &Me::Timer1_Timer};
 };
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #include "stock/frmDrugPrice.h"
 
-#include "data/words/FigToWrd.h"
+#include "books/DrugPrice.h"
+#include "books/Words.h"
 #include "data/words/Money.h"
 
 namespace orvane {
@@ -11,28 +12,9 @@ frmDrugPrice::frmDrugPrice(Program& owner)
     cboClient.setToolTip("Select Private");
     txtDosage.numeric();
     txtCost.numeric();
-    txtSearch.onChange = [this] { loadGrid(); };
-    // A base cost that belongs to another cost or client type must not be saved.
-    txtCost.onChange = [this] { lblPrice.clear(); };
-    cboClient.onChange = [this] { lblPrice.clear(); };
-    cboClient.onClick = [this] {
-        lblPrice.clear();
-        if (!txtCost.text().isEmpty() && !cboClient.text().isEmpty())
-            txtCost_LostFocus();
-    };
+    cboClient.onChange = cboClient.onClick;
     txtCost.onLeave = [this] { txtCost_LostFocus(); };
-    lblPrice.onChange = [this] { lblPrice_Change(); };
     grdData.onDblClick = [this] { cmdEdit_Click(); };
-    cmdEdit.onClick = [this] { cmdEdit_Click(); };
-    cmdDel.onClick = [this] { cmdDel_Click(); };
-    cmdRefresh.onClick = [this] {
-        clearFields();
-        loadGrid();
-    };
-    cmdLab.onClick = [this] { cmdLab_Click(); };
-    cmdCancel.onClick = [this] { clearFields(); };
-    CancelButton.onClick = [this] { unload(); };
-    OKButton.onClick = [this] { OKButton_Click(); };
 }
 
 Layout frmDrugPrice::layout() const {
@@ -69,6 +51,11 @@ void frmDrugPrice::clearFields() {
     cboClient.setListIndex(-1);
 }
 
+void frmDrugPrice::cmdRefresh_Click() {
+    clearFields();
+    loadGrid();
+}
+
 void frmDrugPrice::cmdEdit_Click() {
     if (grdData.currentRow() < 0)
         return;
@@ -77,8 +64,9 @@ void frmDrugPrice::cmdEdit_Click() {
     txtCost.setText(grdData.text("cost"));
     txtDosage.setText(grdData.text("Unit"));
     cboClient.setText("PRIVATE");
-    if (lblPrice.text().isEmpty() && !txtCost.text().isEmpty())
-        txtCost_LostFocus();
+    // What is stored is a base cost already.
+    if (const std::optional<double> cost = parseAmount(txtCost.text()))
+        lblPrice.setText(formatTwoDecimals(*cost));
 }
 
 void frmDrugPrice::cmdDel_Click() {
@@ -86,104 +74,81 @@ void frmDrugPrice::cmdDel_Click() {
         program.box(" Sorry cannot delete record, see the store Officer ");
 }
 
-bool frmDrugPrice::txtCost_LostFocus() {
-    if (cboClient.text().isEmpty()) {
-        program.box("please select client type");
-        cboClient.setFocus();
-        return false;
-    }
+/// A price that is shown belongs to the cost and the client type as they stand, or they would have taken it away.
+void frmDrugPrice::txtCost_LostFocus() {
+    if (lblPrice.text().isEmpty())
+        workPrice();
+}
+
+bool frmDrugPrice::workPrice() {
     const std::optional<double> cost = parseAmount(txtCost.text());
-    if (!cost || *cost < 0) {
-        program.box("Cost field cannot be negative or a Character");
-        txtCost.setFocus();
+    if (!passes({{cboClient.text().isEmpty(), "please select client type", &cboClient},
+                 {cost.value_or(-1) < 0, "Cost field cannot be negative or a Character", &txtCost}}))
         return false;
-    }
     Connection connection = program.openBilling();
     const Recordset type(connection, Sql("select clientcatID,pcent from billingPrice where clientcatID='")
                                          << cboClient.text() << "'");
-    // Nothing is left of a price that a client type pays at -100 percent, so no base can be found.
-    if (!type.eof() && type.number("pcent") > -100)
-        lblPrice.setText(formatTwoDecimals(*cost * 100 / (type.number("pcent") + 100)));
+    const std::optional<double> base = type.eof() ? std::nullopt : baseCost(*cost, type.number("pcent"));
+    if (base)
+        lblPrice.setText(formatTwoDecimals(*base));
     return true;
 }
 
 void frmDrugPrice::lblPrice_Change() {
     const std::optional<double> price = parseAmount(lblPrice.text());
-    lblWord.setText(price ? figToWrd().amountToWords(*price).toUpper() : QString());
+    lblWord.setText(price ? getValInWord(*price) : QString());
+}
+
+bool frmDrugPrice::isComplete() {
+    if (!passes({{txtDrug.text().isEmpty(), "Drug name Field cannot be empty"},
+                 {txtCost.text().isEmpty(), "Price Field cannot be empty"},
+                 {txtCat.text().isEmpty(), "Category cannot be empty"},
+                 {txtDosage.text().isEmpty(), "Unit Dosage cannot be empty"},
+                 {parseAmount(txtCost.text()).value_or(-1) < 0, "Price field cannot be negative or contain a Character",
+                  &txtCost}}))
+        return false;
+    // Pressed by Enter or its letter the button does not take the focus, so the cost was never left.
+    return (!lblPrice.text().isEmpty() || workPrice()) &&
+           passes({{lblPrice.text().isEmpty(), "Price Field cannot be empty", &cboClient}});
 }
 
 void frmDrugPrice::OKButton_Click() {
-    if (!checkFields() || !program.question("Are you sure to update", "Check before updating"))
-        return;
-    if (!saveDrug()) {
-        program.box("There is no Drug or Service of this name");
-        txtDrug.setFocus();
-        return;
-    }
-    program.box("Record Succesfully updated");
-    clearFields();
-    loadGrid();
-}
-
-bool frmDrugPrice::checkFields() {
-    const struct {
-        const TextBox& box;
-        const char* refusal;
-    } required[] = {{txtDrug, "Drug name Field cannot be empty"},
-                    {txtCost, "Price Field cannot be empty"},
-                    {txtCat, "Category cannot be empty"},
-                    {txtDosage, "Unit Dosage cannot be empty"}};
-    for (const auto& [box, refusal] : required)
-        if (box.text().isEmpty()) {
-            program.box(refusal);
-            return false;
-        }
-    const std::optional<double> cost = parseAmount(txtCost.text());
-    if (!cost || *cost < 0) {
-        program.box("Price field cannot be negative or contain a Character");
-        txtCost.setFocus();
-        return false;
-    }
-    // Pressed by Enter or its letter the button does not take the focus, so the cost was never left.
-    if (lblPrice.text().isEmpty() && !txtCost_LostFocus())
-        return false;
-    if (lblPrice.text().isEmpty()) {
-        program.box("Price Field cannot be empty");
-        cboClient.setFocus();
-        return false;
-    }
-    return true;
-}
-
-bool frmDrugPrice::saveDrug() {
-    Connection connection = program.openBilling();
-    Transaction transaction(connection);
-    Recordset drug(connection, Sql("select * from Drugs where drgname ='") << txtDrug.text() << "'");
-    if (drug.eof())
-        return false;
-    drug.set("qtyPerUnit", txtDosage.text());
-    drug.set("Cost", parseAmount(lblPrice.text()).value());
-    drug.update();
-    transaction.commit();
-    return true;
+    save<Saved>({.button = OKButton,
+                 .action = "DRUG PRICE",
+                 .allowed = [this] { return isComplete(); },
+                 .question = "Are you sure to update",
+                 .title = "Check before updating",
+                 .step =
+                     [this](Books& books) {
+                         return changeDrugPrice(books, {.drug = txtDrug.text(),
+                                                        .unitDosage = txtDosage.text(),
+                                                        .cost = *parseAmount(lblPrice.text())});
+                     },
+                 .follow =
+                     [this](const Saved&) {
+                         program.box("Record Succesfully updated");
+                         cmdRefresh_Click();
+                     },
+                 .refused =
+                     [this](Refusal refusal) {
+                         program.box(refusalText(refusal));
+                         txtDrug.setFocus();
+                     }});
 }
 
 /// Takes a price load that was laid into the working table, all of it or nothing.
 void frmDrugPrice::cmdLab_Click() {
-    {
-        Connection connection = program.openBilling();
-        Transaction transaction(connection);
-        Recordset drugs(connection, Sql("select * from drugs where 1=2"));
-        for (Recordset load(connection, Sql("select * from drugsxxx")); !load.eof(); load.moveNext()) {
-            drugs.addNew();
-            for (const char* column : {"drgName", "drgCatName", "qtyPerUnit", "Cost"})
-                drugs.set(column, load.value(QString(column)));
-            drugs.update();
-        }
-        transaction.commit();
-    }
-    program.box("Record transfer successful");
-    loadGrid();
+    save<Saved>({.button = cmdLab,
+                 .action = "PRICE LOAD",
+                 .step = [](Books& books) -> Given<Saved> {
+                     takePriceLoad(books);
+                     return Saved{};
+                 },
+                 .follow =
+                     [this](const Saved&) {
+                         program.box("Record transfer successful");
+                         loadGrid();
+                     }});
 }
 
 } // namespace orvane

@@ -8,24 +8,7 @@ namespace orvane {
 /// manual states what a client type pays; the client type's mark-up is undone to find the base. It adds no drug.
 class frmDrugPrice : public Screen {
 public:
-    explicit frmDrugPrice(Program& program);
-
-    TextBox txtSearch{*this, "txtSearch"};
-    Grid grdData{*this, "grdData"};
-    TextBox txtDrug{*this, "txtDrug"};
-    TextBox txtCat{*this, "txtCat"};
-    TextBox txtDosage{*this, "txtDosage"};
-    ComboBox cboClient{*this, "cboClient"};
-    TextBox txtCost{*this, "txtCost"};
-    Label lblPrice{*this, "lblPrice"};
-    Label lblWord{*this, "lblWord"};
-    Button cmdEdit{*this, "cmdEdit", "&Edit"};
-    Button cmdDel{*this, "cmdDel", "&Delete"};
-    Button cmdRefresh{*this, "cmdRefresh", "&Refresh"};
-    Button cmdLab{*this, "cmdLab", "For &Lab info"};
-    Button cmdCancel{*this, "cmdCancel", "C&lear"};
-    Button CancelButton{*this, "CancelButton", "&Close"};
-    Button OKButton{*this, "OKButton", "&Save"};
+    explicit frmDrugPrice(Program& owner);
 
     Layout layout() const override;
     void Form_Load() override;
@@ -37,12 +20,32 @@ private:
     void clearFields();
     void cmdEdit_Click();
     void cmdDel_Click();
+    void cmdRefresh_Click();
     void cmdLab_Click();
     void OKButton_Click();
-    bool txtCost_LostFocus(); ///< shows the base cost; false: the user was told why there is none
+    void forgetPrice() { lblPrice.clear(); }
+    void txtCost_LostFocus();
+    bool workPrice(); ///< shows the base cost; false: the user was told why there is none
     void lblPrice_Change();
-    bool checkFields();
-    bool saveDrug(); ///< false: there is no drug of this name
+    bool isComplete();
+
+    using Me = frmDrugPrice;
+    TextBox txtSearch{*this, "txtSearch", &Me::loadGrid};
+    Grid grdData{*this, "grdData"};
+    TextBox txtDrug{*this, "txtDrug"};
+    TextBox txtCat{*this, "txtCat"};
+    TextBox txtDosage{*this, "txtDosage"};
+    ComboBox cboClient{*this, "cboClient", ComboBox::FreeText, &Me::forgetPrice};
+    TextBox txtCost{*this, "txtCost", &Me::forgetPrice};
+    Label lblPrice{*this, "lblPrice", {}, &Me::lblPrice_Change};
+    Label lblWord{*this, "lblWord"};
+    Button cmdEdit{*this, "cmdEdit", "&Edit", &Me::cmdEdit_Click};
+    Button cmdDel{*this, "cmdDel", "&Delete", &Me::cmdDel_Click};
+    Button cmdRefresh{*this, "cmdRefresh", "&Refresh", &Me::cmdRefresh_Click};
+    Button cmdLab{*this, "cmdLab", "For &Lab info", &Me::cmdLab_Click};
+    Button cmdCancel{*this, "cmdCancel", "C&lear", &Me::clearFields};
+    Button CancelButton{*this, "CancelButton", "&Close", &Me::unload};
+    Button OKButton{*this, "OKButton", "&Save", &Me::OKButton_Click};
 };
 
 } // namespace orvane

@@ -80,6 +80,7 @@ TEST_P(LookupTest, PatientInfoShowsACardAndTwoHistories) {
                                                              {"txt_regdate", "01/02/2020"},
                                                              {"txt_pCatID", "STAFF"},
                                                              {"txt_empNo", "**"},
+                                                             {"txt_coyname", "PRIVATE PATIENTS"},
                                                              {"txt_email", ""},
                                                              {"txtAge", "40 yrs"}};
     for (const auto& [label, text] : card)

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "data/rows/Connection.h"
-
-#include <QDate>
+#include "books/Books.h"
 
 namespace orvane {
 
@@ -19,8 +17,8 @@ struct ConsultationCharge {
 /// else the full fee.
 double consultationFee(double fullFee, const QString& purpose);
 
-/// Adds the "CONSULTATION" row of a visit to BillAccum, also for a fee of 0; a clinic without a fee row charges
-/// nothing. Runs in the caller's transaction. Raises DataError.
-void postConsultationFee(Connection& connection, const ConsultationCharge& charge);
+/// Charges a visit with its consultation, also with a fee of 0, and gives the fee in naira; a clinic without a row of
+/// its own charges nothing.
+double postConsultationFee(Books& books, const ConsultationCharge& charge);
 
 } // namespace orvane

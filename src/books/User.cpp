@@ -1,0 +1,74 @@
+#include "books/User.h"
+
+namespace orvane {
+
+Given<Saved> addUser(Books& books, const User& user) {
+    Recordset account(
+        books.connection,
+        Sql("SELECT Username, Fullname, Password, AccountStatus, BranchCode FROM ApplicationUsers WHERE Username = '")
+            << user.name << "'");
+    if (!account.eof())
+        return Refusal::UserNameTaken;
+    account.addNew();
+    account.set("Username", user.name);
+    account.set("Fullname", user.fullName);
+    account.set("Password", user.password);
+    account.set("AccountStatus", user.status);
+    account.set("BranchCode", user.branch);
+    account.update();
+    books.record(user.name, 0);
+    return Saved{};
+}
+
+Given<Saved> changeAccountStatus(Books& books, const QString& name, const QString& status) {
+    Recordset account(books.connection, Sql("SELECT Username, AccountStatus FROM ApplicationUsers WHERE Username = '")
+                                            << name << "' ");
+    if (account.eof())
+        return Refusal::UnknownUser;
+    account.set("AccountStatus", status);
+    account.update();
+    books.record(name, 0);
+    return Saved{};
+}
+
+Given<Saved> changePassword(Books& books, const QString& name, const QString& oldPassword, const QString& newPassword) {
+    const Recordset account(books.connection, Sql("SELECT Username, Password FROM ApplicationUsers WHERE Username = '")
+                                                  << name << "' AND Password = '" << oldPassword << "' ");
+    if (account.eof())
+        return Refusal::UnknownUser;
+    books.connection.execute(Sql("UPDATE ApplicationUsers SET Password = '")
+                             << newPassword << "' where Username = '" << name << "'");
+    books.record(name, 0);
+    return Saved{};
+}
+
+Given<Saved> addRole(Books& books, qlonglong id, const QString& name) {
+    if (!Recordset(books.connection, Sql("SELECT * FROM Roles WHERE RoleID = '") << id << "'").eof())
+        return Refusal::RoleExists;
+    books.connection.execute(Sql("INSERT INTO Roles (RoleID, LoginRole) VALUES (") << id << ", '" << name << "')");
+    books.record(QString::number(id), 0);
+    return Saved{};
+}
+
+Given<Saved> deleteRole(Books& books, qlonglong id) {
+    if (Recordset(books.connection, Sql("SELECT * FROM Roles WHERE RoleID = ") << id).eof())
+        return Refusal::NoRole;
+    if (!Recordset(books.connection, Sql("SELECT * FROM UserRoles WHERE RoleID = ") << id).eof())
+        return Refusal::RoleIsHeld;
+    books.connection.execute(Sql("DELETE FROM Roles WHERE RoleID = '") << id << "'");
+    books.record(QString::number(id), 0);
+    return Saved{};
+}
+
+Given<Saved> allotRole(Books& books, qlonglong id, const QString& userName) {
+    const Recordset held(books.connection, Sql("SELECT * FROM UserRoles WHERE RoleID = ")
+                                               << id << " AND Username = '" << userName << "'");
+    if (!held.eof())
+        return Refusal::RoleAllotted;
+    books.connection.execute(Sql("INSERT INTO UserRoles(RoleID, Username) VALUES (")
+                             << id << ", '" << userName << "')");
+    books.record(userName, 0);
+    return Saved{};
+}
+
+} // namespace orvane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "books/Books.h"
+#include "books/Given.h"
+
+namespace orvane {
+
+/// An account of the application.
+struct User {
+    QString name, fullName;
+    QString password; ///< as it was typed: the log-on compares the scrambled form, which is given by other means
+    QString status;   ///< "Enabled" or "Disabled"
+    QString branch;
+};
+
+/// Refuses a name that somebody bears: no account is ever changed by this.
+Given<Saved> addUser(Books& books, const User& user);
+/// `status`: "Enabled" or "Disabled". Refuses a name that nobody bears.
+Given<Saved> changeAccountStatus(Books& books, const QString& name, const QString& status);
+/// Stores the new password as it was typed. Refuses a name that does not go with the old one.
+Given<Saved> changePassword(Books& books, const QString& name, const QString& oldPassword, const QString& newPassword);
+
+/// Refuses an id that is in use.
+Given<Saved> addRole(Books& books, qlonglong id, const QString& name);
+/// Refuses a role that does not exist, and one that users hold.
+Given<Saved> deleteRole(Books& books, qlonglong id);
+/// Refuses a user who holds the role already.
+Given<Saved> allotRole(Books& books, qlonglong id, const QString& userName);
+
+} // namespace orvane

@@ -1,0 +1,101 @@
+#include "books/Visit.h"
+
+#include "books/Consultation.h"
+
+namespace orvane {
+
+namespace {
+
+qlonglong highestSerial(Connection& connection, const Sql& sql) {
+    const Recordset highest(connection, sql);
+    return highest.eof() ? 0 : highest.integer("ID");
+}
+
+bool isInUse(Connection& connection, const QString& id) {
+    return !Recordset(connection, Sql("select SNo from BillAccum where consultID='") << id << "'").eof() ||
+           !Recordset(connection, Sql("select billNo from Billing where billNo='") << id << "'").eof();
+}
+
+void setColumns(Recordset& row, const Visit& visit) {
+    row.set("recDate", visit.date);
+    row.set("clientCat", visit.category);
+    row.set("clinicType", visit.clinic);
+    row.set("Remarks", visit.purpose);
+    row.set("referal", visit.referral);
+    row.set("PNo", visit.pno);
+    row.set("empID", visit.officer);
+    row.set("coyName", visit.clientID.isEmpty() ? QVariant() : visit.clientID);
+}
+
+void addVisit(Books& books, const Visit& visit, const QString& consultID, QTime at) {
+    Recordset row(books.connection, Sql("select  * from hRecords where 1=2"));
+    row.addNew();
+    setColumns(row, visit);
+    row.set("consultID", consultID);
+    row.set("htime", at.toString("HH:mm"));
+    row.set("attendedto", 0);
+    row.update();
+}
+
+void joinWhatWaited(Books& books, const Visit& visit, const QString& consultID, const QString& followUpOf) {
+    Connection& connection = books.connection;
+    connection.execute(Sql("update billaccum set consultID='")
+                       << consultID << "' where pno = '" << visit.pno << "' and consultID = ''");
+    if (!followUpOf.isEmpty())
+        connection.execute(Sql("Update hreferal set attendedTo = 1 where ConsultID = '") << followUpOf << "'");
+    connection.execute(Sql("Update hpatients set ") << "clientCatID='" << visit.category << "',"
+                                                    << "ref='" << visit.referral << "' "
+                                                    << "where pno = '" << visit.pno << "'");
+}
+
+} // namespace
+
+QString genConsultID(Connection& connection, const QString& hospital) {
+    qlonglong serial = highestSerial(
+        connection, Sql("select MAX(cast(SUBSTRING(consultID, 7, 7)as bigint))  as ID from hRecords WHERE   "
+                        "(SUBSTRING(consultID, 4, 3) = 'OFL') and (SUBSTRING(consultID, 1, 3)='")
+                        << hospital << " ')");
+    if (serial < 1)
+        serial = highestSerial(connection, Sql("select MAX(SUBSTRING(consultID, 4, 7)) AS ID From hRecords WHERE     "
+                                               "(SUBSTRING(consultID, 1, 3) = 'OFL')"));
+    QString id;
+    do
+        id = hospital + "OFL" + ("0000000" + QString::number(++serial)).right(7);
+    while (isInUse(connection, id));
+    return id;
+}
+
+bool hasOpenVisit(Connection& connection, const QString& pno, QDate day) {
+    return !Recordset(connection, Sql("select pno from qryhVisitsForToday where recdate='")
+                                      << day << "' and pno='" << pno << "' and attendedTo = 0")
+                .eof();
+}
+
+Given<QString> enterVisit(Books& books, const Visit& visit, const QDateTime& at, const QString& followUpOf) {
+    if (hasOpenVisit(books.connection, visit.pno, visit.date))
+        return Refusal::VisitOpen;
+    const QString consultID = genConsultID(books.connection, books.settings().hospital);
+    addVisit(books, visit, consultID, at.time());
+    const double fee = postConsultationFee(books, {visit.clinic, visit.purpose, visit.pno, consultID, at.date()});
+    joinWhatWaited(books, visit, consultID, followUpOf);
+    books.record(consultID, fee);
+    return consultID;
+}
+
+Given<Saved> changeVisit(Books& books, qlonglong recID, const Visit& visit) {
+    Recordset row(books.connection, Sql("select * from hRecords where recID=") << recID);
+    if (row.eof())
+        return Refusal::VisitGone;
+    setColumns(row, visit);
+    row.set("exitDate", visit.date);
+    row.update();
+    books.record(row.text("consultID"), 0);
+    return Saved{};
+}
+
+void deleteVisit(Books& books, qlonglong recID, const QString& consultID) {
+    books.connection.execute(Sql("delete from hrecords where recID = '") << recID << "'");
+    books.record(consultID, 0);
+}
+
+} // namespace orvane
