@@ -12,9 +12,8 @@ namespace {
 
 class DebtInfo : public ReceiptTest {
 protected:
-    void set(const QString& control, const QString& value) { ws.set("frmDebtInfo." + control, value); }
-    void click(const QString& control) { ws.click("frmDebtInfo." + control); }
-    QString value(const QString& control) { return ws.value("frmDebtInfo." + control); }
+    DebtInfo() : ReceiptTest("frmDebtInfo") {}
+
     /// The rows of the grid without their head.
     QStringList shown() { return ws.rows("frmDebtInfo.grdData").mid(1); }
     QStringList names() {
@@ -37,24 +36,16 @@ protected:
         Connection connection = ws.billing();
         makeVisit(connection, {.consultID = "001OFL0000002", .pno = "00012/001"});
         ws.run("update hPatients set OldPNo='H77'");
-        const struct {
-            const char *date, *bill;
-            double amount, total;
-            const char* remarks;
-        } events[] = {{"2026-03-10", billNo, -3000, -3000, "=cmd|' /C calc'!A0"},
-                      {"2026-03-10", billNo, 1000, -2000, "10/03/2026"},
-                      {"2026-03-14", "001OFL0000002", -500.5, -2500.5, "MALARIA \U0001F600"}};
-        for (const auto& event : events) {
-            Recordset row(connection, Sql("select * from Tranxaction where 1=2"));
-            row.addNew();
-            row.set("entryDate", QString(event.date));
-            row.set("PNo", "00012/001");
-            row.set("billNo", QString(event.bill));
-            row.set("Amount", event.amount);
-            row.set("RunningTotal", event.total);
-            row.set("Remarks", QString(event.remarks));
-            row.update();
-        }
+        layEvent("00012/001", billNo, -3000, -3000, "=cmd|'' /C calc''!A0");
+        layEvent("00012/001", billNo, 1000, -2000, "10/03/2026");
+        layEvent("00012/001", "001OFL0000002", -500.5, -2500.5, "MALARIA \U0001F600");
+    }
+    void layEvent(const QString& pno, const QString& bill, double amount, double total, const QString& remarks) {
+        ws.run(QString("insert into Tranxaction (entryDate, PNo, billNo, Amount, RunningTotal, Remarks) values "
+                       "('2026-03-14','%1','%2',%4,%5,'%3')")
+                   .arg(pno, bill, remarks)
+                   .arg(amount)
+                   .arg(total));
     }
     const QStringList account = {
         "1\t10/03/2026\t\tO'NEILL ADA\t00012/001\t=cmd|' /C calc'!A0\t3,000.00\t.00\t(3,000)\t001OFL0000001\tPRIVATE "
@@ -62,8 +53,6 @@ protected:
         "2\t10/03/2026\t\tO'NEILL ADA\t00012/001\t10/03/2026\t.00\t1,000.00\t(2,000)\t001OFL0000001\tPRIVATE PATIENTS",
         "3\t14/03/2026\t\tO'NEILL ADA\t00012/001\tMALARIA \U0001F600\t500.50\t.00\t(2,501)\t001OFL0000002\tPRIVATE "
         "PATIENTS"};
-
-private:
 };
 
 ORVANE_ON_EACH_ENGINE(DebtInfo);
@@ -71,24 +60,21 @@ ORVANE_ON_EACH_ENGINE(DebtInfo);
 TEST_P(DebtInfo, FindsPatientsAndShowsTheWholeAccount) {
     layAccount();
     layVisit({.pno = "00013/001", .surname = "ONEX"}, {.consultID = "001OFL0000003", .pno = "00013/001"});
-    ws.open("frmDebtInfo");
-    EXPECT_EQ(ws.program.session.sDebtMode, "SEARCH");
+    openScreen();
     EXPECT_EQ(value("Label5"), "Debt Information");
     click("cmdList");
     EXPECT_BOXES(ui, {"Double Click a row to Get the Debt Info of a Patient"});
     const struct {
         const char *kind, *text;
         QStringList found;
-    } searches[] = {
-        {"Name", "O", {"O'NEILL ADA", "ONEX BOLA"}},
-        {"Name", "o'neill", {"O'NEILL ADA"}},
-        {"Name", "O\"NEILL", {"O'NEILL ADA"}},
-        {"Name", "' or 1=1 --", {}},
-        {"SysNo", "12", {"O'NEILL ADA"}},
-        {"SysNo", "00013/001", {"ONEX BOLA"}},
-        {"CardNo", "H77", {"O'NEILL ADA"}},
-        {"CardNo", "12", {}},
-    };
+    } searches[] = {{"Name", "O", {"O'NEILL ADA", "ONEX BOLA"}},
+                    {"Name", "o'neill", {"O'NEILL ADA"}},
+                    {"Name", "O\"NEILL", {"O'NEILL ADA"}},
+                    {"Name", "' or 1=1 --", {}},
+                    {"SysNo", "12", {"O'NEILL ADA"}},
+                    {"SysNo", "00013/001", {"ONEX BOLA"}},
+                    {"CardNo", "H77", {"O'NEILL ADA"}},
+                    {"CardNo", "12", {}}};
     for (const auto& c : searches) {
         search(c.kind, c.text);
         EXPECT_EQ(names(), c.found) << c.kind << ' ' << c.text;
@@ -110,8 +96,8 @@ TEST_P(DebtInfo, ThePatientInHandIsShownSinceTheFirstVisit) {
     layAccount();
     ws.program.session.sBillPno = "00012/001";
     ws.program.session.sBillPatName = "O'NEILL ADA";
-    ws.open("frmDebtInfo");
-    EXPECT_EQ(ws.program.session.sDebtMode, "AUTO");
+    ws.program.session.sDebtMode = "AUTO";
+    openScreen();
     EXPECT_EQ(value("DTPicker1"), "2026-03-10");
     EXPECT_EQ(shown().size(), 3);
     set("DTPicker1", "2026-03-11");
@@ -123,12 +109,37 @@ TEST_P(DebtInfo, ThePatientInHandIsShownSinceTheFirstVisit) {
     EXPECT_EQ(shown(), account);
 }
 
+/// The collation screen asks for the account of one patient after the other; the menu for nobody's.
+TEST_P(DebtInfo, OpensForThePatientInHandOnlyWhenHisAccountIsAskedFor) {
+    layVisit();
+    layVisit({.pno = "P/0002", .surname = "OTHER"}, {.consultID = "001OFL0000002", .pno = "P/0002"});
+    layEvent("P/0001", billNo, -5, -5, "ITEM");
+    layEvent("P/0002", "001OFL0000002", -5, -5, "ITEM");
+    ws.open("frmBillingVerify");
+    for (const auto& [bill, name, pno] :
+         {std::tuple(billNo, "ADEYEMI BOLA", "P/0001"), std::tuple("001OFL0000002", "OTHER BOLA", "P/0002")}) {
+        ws.set("frmBillingVerify.txtSearch", bill);
+        ws.click("frmBillingVerify.cmdOK");
+        ws.click("frmBillingVerify.cmdAcct");
+        EXPECT_EQ(value("Label5"), name);
+        EXPECT_TRUE(shown().value(0).endsWith(pno)) << shown().value(0).toStdString();
+    }
+    for (const char* how : {"still open", "opened anew"}) {
+        SCOPED_TRACE(how);
+        ws.menu("mnuPDI");
+        EXPECT_EQ(value("Label5"), "Debt Information");
+        EXPECT_EQ(shown(), QStringList());
+        ws.close("frmDebtInfo");
+    }
+    EXPECT_BOXES(ui, {});
+}
+
 TEST_P(DebtInfo, SummariesGiveWhatIsOwedAsPlus) {
     for (const auto& [pno, debt] : {std::pair("P/1", -100.0), {"P/2", 50.0}, {"P/3", 0.0}, {"P/4", -700.0}}) {
         Connection connection = ws.billing();
         makePatient(connection, {.pno = pno, .debt = debt});
     }
-    ws.open("frmDebtInfo");
+    openScreen();
     click("cmdRpt");
     click("cmdDebtOnly");
     set("chkDebt", "yes");
@@ -149,7 +160,7 @@ QString workbookPart(const QString& file, const QString& part) {
 
 TEST_P(DebtInfo, ExportsWhatTheGridShows) {
     layAccount();
-    ws.open("frmDebtInfo");
+    openScreen();
     click("cmdExport");
     EXPECT_BOXES(ui, {"No record is displayed for printing"});
     search("Name", "O");
@@ -210,25 +221,6 @@ TEST_P(DebtInfo, NoTextOfAWorkbookBecomesAFormulaOrANumber) {
     EXPECT_EQ(sheet.count(QRegularExpression("<c r=\"A\\d+\"><v>5\\d{3}</v>")), texts.size());
     EXPECT_EQ(sheet.count(QRegularExpression("<c r=\"B\\d+\" (s=\"\\d+\" )?t=\"s\">")), texts.size() + 1)
         << "and the head";
-}
-
-/// The collation screen asks for the account of one patient after the other.
-TEST_P(DebtInfo, ShowsThePatientInHandAlsoWhenItIsStillOpen) {
-    layVisit();
-    layVisit({.pno = "P/0002", .surname = "OTHER"}, {.consultID = "001OFL0000002", .pno = "P/0002"});
-    ws.open("frmBillingVerify");
-    for (const auto& [bill, name, pno] :
-         {std::tuple(billNo, "ADEYEMI BOLA", "P/0001"), std::tuple("001OFL0000002", "OTHER BOLA", "P/0002")}) {
-        ws.run(QString("insert into Tranxaction (entryDate, PNo, billNo, Amount, RunningTotal, Remarks) values "
-                       "('2026-03-14','%1','%2',-5,-5,'ITEM')")
-                   .arg(pno, bill));
-        ws.set("frmBillingVerify.txtSearch", bill);
-        ws.click("frmBillingVerify.cmdOK");
-        ws.click("frmBillingVerify.cmdAcct");
-        EXPECT_EQ(value("Label5"), name);
-        EXPECT_TRUE(shown().value(0).endsWith(pno)) << shown().value(0).toStdString();
-    }
-    EXPECT_BOXES(ui, {});
 }
 
 } // namespace
