@@ -18,7 +18,26 @@ protected:
     QString value(const QString& control) { return ws.value(m_screen + control); }
     QString state(const QString& control) { return ws.state(m_screen + control); }
     void openScreen() { ws.open(m_screen.chopped(1)); }
-    bool isEntering() { return state("cmdAdd") != "visible enabled"; }
+    /// Saves, with the answer Yes.
+    void save(const char* question = "Are you sure to save?") {
+        ui.answer(true);
+        click("OKButton");
+        EXPECT_QUESTIONS(ui, {question});
+    }
+    /// The values of these controls, apart by "|".
+    QString shown(const QString& controls) {
+        QStringList values;
+        for (const QString& control : controls.split(' '))
+            values << value(control);
+        return values.join('|');
+    }
+    /// On the screen, entering something for this bill.
+    void begin(const QString& bill = billNo) {
+        openScreen();
+        if (state("cmdAdd") == "visible enabled")
+            click("cmdAdd");
+        pick("cboVehNo", bill);
+    }
 
     void layVisit(const TestPatient& patient = {}, const TestVisit& visit = {}) {
         Connection connection = ws.billing();
@@ -28,9 +47,7 @@ protected:
     void layBill(double billed, double paid = 0, const QString& bill = billNo, const QString& pno = "P/0001") {
         ws.run(QString("insert into Billing (billNo, bdate, PNo, clientID, Amountbilled, AmountPaid) values "
                        "('%1','2026-03-14','%2','0001',%3,%4)")
-                   .arg(bill, pno)
-                   .arg(billed)
-                   .arg(paid));
+                   .arg(bill, pno, QString::number(billed), QString::number(paid)));
     }
     QString rows(const QString& tsql) {
         Connection connection = ws.billing();

@@ -13,10 +13,7 @@ protected:
         ws.run(QString("insert into Payments (ReceiptDate, ReceiptNo, billNo, PNo, PaymentFor, Amountbilled, "
                        "AmountPaid, AmountInWord, ReceivedBy, PayType) values ('%4','%1','001OFL0000001','P/0001',"
                        "'DRUGS',%2,%3,'THE WORDS','E001','CASH')")
-                   .arg(number)
-                   .arg(billed)
-                   .arg(paid)
-                   .arg(date));
+                   .arg(number, QString::number(billed), QString::number(paid), date));
     }
 };
 
@@ -28,13 +25,12 @@ TEST_P(CashReceipt, ShowsBothCopiesAndPrintsWithoutItsButton) {
     QFile picture(home.folder() + "/RctPix.JPG");
     ASSERT_TRUE(picture.open(QIODevice::WriteOnly));
     showCashReceipt(ws.program, "12");
-    const QMap<QString, QString> expected{{"txtReceiptNo", "12"},         {"txtDate", "14/03/2026"},
-                                          {"txtRecFrom", "ADEYEMI BOLA"}, {"txtSumOf", "THE WORDS"},
-                                          {"txtBeingPayFor", "DRUGS"},    {"txtAmount", "1,500.00"},
-                                          {"txtChequeNo", "CASH"},        {"txtBill", "4,000.50"},
-                                          {"txtBal", "2,500.50"},         {"lblName", "E001"}};
-    for (auto field = expected.begin(); field != expected.end(); ++field)
-        EXPECT_EQ(value(field.key()) + value(field.key() + '2'), field.value() + field.value());
+    const QString fields =
+        "txtReceiptNo%1 txtDate%1 txtRecFrom%1 txtSumOf%1 txtBeingPayFor%1 txtAmount%1 txtChequeNo%1 "
+        "txtBill%1 txtBal%1 lblName%1";
+    for (const QString copy : {"", "2"})
+        EXPECT_EQ(shown(fields.arg(copy)),
+                  "12|14/03/2026|ADEYEMI BOLA|THE WORDS|DRUGS|1,500.00|CASH|4,000.50|2,500.50|E001");
     for (const QString copy : {"", "Copy"}) {
         EXPECT_EQ(value("lblHead" + copy), "HALDEN HOSPITAL");
         EXPECT_EQ(value("lblHead4" + copy), "TEL 01-0000000");
@@ -112,7 +108,7 @@ TEST_P(CashReceipt, AnOldReceiptIsFoundByItsDate) {
     ws.set("rptPanelSummary.DTPicker1", "2026-03-10");
     ws.set("rptPanelSummary.DTPicker2", "2026-03-10");
     ws.click("rptPanelSummary.cmdInv");
-    QStringList amounts;
+    QSet<QString> amounts;
     for (int entry = 0; entry < 2; ++entry) {
         ws.pick("rptPanelSummary.cboVehNo", entry);
         EXPECT_EQ(ws.program.session.sWorkPno, "SN13");
@@ -121,8 +117,7 @@ TEST_P(CashReceipt, AnOldReceiptIsFoundByItsDate) {
         EXPECT_EQ(value("txtReceiptNo"), "SN13");
         amounts << value("txtAmount");
     }
-    amounts.sort();
-    EXPECT_EQ(amounts, (QStringList{"100.00", "50.00"}));
+    EXPECT_EQ(amounts, (QSet<QString>{"100.00", "50.00"}));
     showCashReceipt(ws.program, "SN13");
     EXPECT_EQ(value("txtAmount"), "50.00") << "the newest where none was picked";
 

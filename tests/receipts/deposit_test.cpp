@@ -8,35 +8,10 @@ class Deposit : public ReceiptTest {
 protected:
     Deposit() : ReceiptTest("frmReceiptDeposit") {}
 
-    void begin() {
-        openScreen();
-        if (!isEntering())
-            click("cmdAdd");
-        pick("cboVehNo", billNo);
-    }
-    void save() {
-        ui.answer(true);
-        click("OKButton");
-        EXPECT_QUESTIONS(ui, {"Are you sure to save?"});
-    }
     const QString sentAway = "This page is only for receipt of Advance/Deposit!!! Use Receipt Entry Form";
 };
 
 ORVANE_ON_EACH_ENGINE(Deposit);
-
-TEST_P(Deposit, AnAmountTooLargeToBeSummedIsRefusedWhole) {
-    layVisit();
-    begin();
-    set("txtDue", "5000");
-    set("txtHt", "99999999999999999999");
-    save();
-    EXPECT_EQ(ui.takeBoxes().size(), 1);
-    EXPECT_EQ(value("txtHt"), "99999999999999999999") << "to be corrected";
-    EXPECT_EQ(rows("select RunningTotal from Tranxaction") + rows("select AmountPaid from Payments") + bill(), "");
-    set("txtHt", "9,000,000,000,000.01");
-    save();
-    EXPECT_EQ(rows("select AmountPaid from Payments"), "9000000000000.01");
-}
 
 TEST_P(Deposit, ShowsThePatientAndSavesWhatIsShown) {
     layVisit({.client = "0001", .debt = -1500.5});
@@ -49,37 +24,31 @@ TEST_P(Deposit, ShowsThePatientAndSavesWhatIsShown) {
     makeConsultation(connection, {.diagnosis = "ULCER"});
     begin();
     EXPECT_BOXES(ui, {"This Patient is Currently on Admission!!! AdmDate:12/03/2026, Ward:MALE WARD"});
-    const QMap<QString, QString> shown{{"cboVehNo", "ADEYEMI BOLA [P/0001]#001OFL0000001"},
-                                       {"Label5", "ADEYEMI BOLA"},
-                                       {"lblRct", "001OP0000001"},
-                                       {"lblBill", billNo},
-                                       {"lblClinic2", "OPD"},
-                                       {"lblAdm", "ON ADMISSION"},
-                                       {"lblBF", "-1,500.50"},
-                                       {"lblAmt", "0.00"},
-                                       {"txtDue", "0.00"},
-                                       {"txtHt", ""},
-                                       {"txtDiag", "MALARIA ; ULCER"},
-                                       {"cboClinic", "DEPOSIT"},
-                                       {"cboPayFor", "ADMISSION DEPOSIT"}};
-    for (auto field = shown.begin(); field != shown.end(); ++field)
-        EXPECT_EQ(value(field.key()), field.value()) << field.key().toStdString();
+    EXPECT_EQ(
+        shown("cboVehNo Label5 lblRct lblBill lblClinic2 lblAdm lblBF lblAmt txtDue txtHt txtDiag cboClinic cboPayFor"),
+        "ADEYEMI BOLA [P/0001]#001OFL0000001|ADEYEMI BOLA|001OP0000001|001OFL0000001|OPD|ON "
+        "ADMISSION|-1,500.50|0.00|0.00||MALARIA ; ULCER|DEPOSIT|ADMISSION DEPOSIT");
     set("txtDue", "20,000");
     set("txtHt", "5,000.50");
     set("dtDate", "2026-02-28");
-    // Another screen looks at another patient in between.
+    // Another screen looks at another patient in between, and another cashier takes the number that is shown.
     ws.program.session.gConsultID = "001OFL0000099";
     ws.program.session.dDebtBF = 99;
+    ws.run("insert into Payments (ReceiptNo) values ('001OP0000001')");
     save();
-
     EXPECT_BOXES(ui, {});
-    EXPECT_EQ(rows("select bdate, billNo, PNo, clientID, Amountbilled, AmountPaid, AmtBF, diagnosis from Billing"),
-              "2026-02-28|001OFL0000001|P/0001|0001|20000|5000.5|-1500.5|MALARIA ; ULCER");
-    EXPECT_EQ(rows("select ReceiptDate, ReceiptNo, PaymentFor, AmountInWord, PayType from Payments"),
-              "2026-02-28|001OP0000001|ADMISSION DEPOSIT|FIVE THOUSAND,  NAIRA AND FIFTY KOBO ONLY|CASH");
+    EXPECT_EQ(rows("select bdate, billNo, PNo, clientID, Amountbilled, AmountPaid, profFee, AmtBF, billingMonth, "
+                   "billingYear, diagnosis, billType from Billing"),
+              "2026-02-28|001OFL0000001|P/0001|0001|20000|5000.5|0|-1500.5|February|2026|MALARIA ; ULCER|");
+    EXPECT_EQ(rows("select ReceiptDate, ReceiptNo, ClinicID, billNo, PNo, PaymentFor, Amountbilled, AmountPaid, "
+                   "AmountInWord, ReceivedBy, PayType, rTime, Remarks from Payments where SNo>1"),
+              "2026-02-28|001OP0000002|OPD|001OFL0000001|P/0001|ADMISSION DEPOSIT|20000|5000.5|FIVE THOUSAND,  NAIRA "
+              "AND FIFTY KOBO ONLY|E001|CASH|09:30|DEPOSIT/ADVANCE");
+    EXPECT_EQ(rows("select billNo, Amount, RunningTotal, Remarks from Tranxaction where SNo>1"),
+              "001OFL0000001|5000.5|3500|Deposit");
     EXPECT_EQ(ws.scalar("select DebtBF from hPatients"), "3500");
     EXPECT_EQ(ui.opened.last(), "frmCashReceipt");
-    EXPECT_EQ(ws.value("frmCashReceipt.txtReceiptNo"), "001OP0000001");
+    EXPECT_EQ(ws.value("frmCashReceipt.txtReceiptNo"), "001OP0000002");
     EXPECT_EQ(value("txtHt"), "");
     EXPECT_EQ(state("OKButton"), "visible disabled");
 }
@@ -110,7 +79,6 @@ TEST_P(Deposit, ChecksInOrder) {
     click("cmdAdd");
     expectRefusals({{"txtHt", "", "Please enter Receipt Amount", "txtHt"},
                     {"txtHt", "0", "Receipt Amount Cannot be zero or less", "txtHt"},
-                    {"txtHt", "-5", "Receipt Amount Cannot be zero or less"},
                     {"txtHt", "abc", "Receipt Amount Cannot be zero or less"},
                     {"txtHt", "0.004", "Receipt Amount Cannot be zero or less"},
                     {"txtHt", "500", "Please enter Patient No", "cboVehNo"}});
@@ -137,47 +105,20 @@ TEST_P(Deposit, ChecksInOrder) {
     EXPECT_EQ(ws.tableCount("Payments"), 0);
 }
 
-TEST_P(Deposit, TwoCashiersGetDifferentNumbers) {
-    layVisit();
-    layVisit({.pno = "P/0002", .surname = "OTHER"}, {.consultID = "001OFL0000002", .pno = "P/0002"});
-    begin();
-    set("txtHt", "100");
-    const SecondHome secondHome(home);
-    Workstation other(secondHome.folder());
-    ASSERT_TRUE(other.start());
-    other.open("frmReceiptDeposit");
-    other.click("frmReceiptDeposit.cmdAdd");
-    other.pick("frmReceiptDeposit.cboVehNo", "OTHER");
-    EXPECT_EQ(other.value("frmReceiptDeposit.lblRct"), value("lblRct")) << "both are shown the same number";
-    other.set("frmReceiptDeposit.txtHt", "200");
-    save();
-    other.ui.answer(true);
-    other.click("frmReceiptDeposit.OKButton");
-    EXPECT_EQ(rows("select ReceiptNo, PNo, AmountPaid from Payments order by SNo"),
-              "001OP0000001|P/0001|100\n001OP0000002|P/0002|200");
-    EXPECT_EQ(other.value("frmCashReceipt.txtReceiptNo"), "001OP0000002");
-}
-
 TEST_P(Deposit, PaymentItems) {
     layVisit();
     begin();
-    const struct {
-        const char *item, *state, *due, *amount;
-    } cases[] = {{"DEPOSIT", "visible enabled", "70", "30"},
-                 {"REFUND", "visible disabled", "70", "0"},
-                 {"SPLIT-BILL", "visible enabled", "70", "30"},
-                 {"CARD", "visible enabled", "", "30"}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.item);
-        auto& items = ws.control<ComboBox>("frmReceiptDeposit.cboClinic");
-        items.clear();
-        items.addItem(c.item);
+    auto& items = ws.control<ComboBox>("frmReceiptDeposit.cboClinic");
+    items.addItems({"REFUND", "SPLIT-BILL", "CARD"});
+    for (const QStringList& c : {QStringList{"DEPOSIT", "visible enabled", "70", "30"},
+                                 {"REFUND", "visible disabled", "70", "0"},
+                                 {"SPLIT-BILL", "visible enabled", "70", "30"},
+                                 {"CARD", "visible enabled", "", "30"}}) {
         ws.control("frmReceiptDeposit.txtDue").setEnabled(true);
         set("txtDue", "70");
         set("txtHt", "30");
-        pick("cboClinic", c.item);
-        EXPECT_EQ(state("txtDue") + '|' + value("txtDue") + '|' + value("txtHt"),
-                  QStringList({c.state, c.due, c.amount}).join('|'));
+        pick("cboClinic", c.first());
+        EXPECT_EQ(QStringList({c.first(), state("txtDue"), value("txtDue"), value("txtHt")}), c);
     }
 }
 

@@ -9,19 +9,15 @@ protected:
     Manual() : ReceiptTest("frmReceiptManual") {}
 
     void fill(const QString& number, const QString& billed, const QString& paid) {
-        openScreen();
-        if (!isEntering())
-            click("cmdAdd");
-        pick("cboVehNo", billNo);
+        begin();
         pick("cboReceived", "BELLO");
         set("txtRct", number);
         set("txtBill", billed);
         set("txtHt", paid);
     }
     void save() {
-        ui.answer(true);
-        click("OKButton");
-        EXPECT_QUESTIONS(ui, {"Are you sure to save? Please Confirm Receipt Date before Saving"});
+        ReceiptTest::save("Are you sure to save? Please Confirm Receipt Date before Saving");
+        EXPECT_BOXES(ui, {"Record Succesfully saved"});
     }
 };
 
@@ -30,20 +26,13 @@ ORVANE_ON_EACH_ENGINE(Manual);
 TEST_P(Manual, SavesWhatIsShownAndPrintsThePickedReceipt) {
     layVisit({.debt = -200});
     fill(" 0047 ", "1,500.504", "1000");
-    const QMap<QString, QString> shown{{"cboVehNo", "ADEYEMI BOLA @ 14/03/2026 [P/0001]#001OFL0000001"},
-                                       {"lblBill", billNo},
-                                       {"lblCoy", "PRIVATE"},
-                                       {"lblDate", "14/03/2026"},
-                                       {"txtDebt", "-200.00"},
-                                       {"txtEmp", "1,300.50"},
-                                       {"txtDuty", "ONE THOUSAND NAIRA"}};
-    for (auto field = shown.begin(); field != shown.end(); ++field)
-        EXPECT_EQ(value(field.key()), field.value()) << field.key().toStdString();
+    EXPECT_EQ(shown("cboVehNo lblBill lblCoy lblDate txtDebt txtEmp txtDuty"),
+              "ADEYEMI BOLA @ 14/03/2026 [P/0001]#001OFL0000001|001OFL0000001|PRIVATE|14/03/2026|-200.00|1,300.50|ONE "
+              "THOUSAND NAIRA");
     set("cboPay", "CHEQUE");
     set("cboClinic", "OPD");
     set("dtDate", "2026-03-10");
     save();
-    EXPECT_BOXES(ui, {"Record Succesfully saved"});
     EXPECT_EQ(rows("select bdate, billNo, PNo, clientID from Billing"), "2026-03-10|001OFL0000001|P/0001|PRIVATE");
     EXPECT_TRUE(ws.rows("frmReceiptManual.grdData")
                     .value(1)
@@ -52,15 +41,14 @@ TEST_P(Manual, SavesWhatIsShownAndPrintsThePickedReceipt) {
 
     fill("0047", "99.5", "600");
     save();
-    EXPECT_BOXES(ui, {"Record Succesfully saved"});
     EXPECT_EQ(bill(), "1600|1600|1");
     EXPECT_EQ(value("lblTotal"), "1,600.00");
     // Two paper receipts of one number: each prints as itself.
-    for (const auto& [paid, amount] : {std::pair("600.00", "600.00"), {"1,000.00", "1,000.00"}}) {
+    for (const char* paid : {"600.00", "1,000.00"}) {
         ws.row("frmReceiptManual.grdData", paid);
         click("cmdPrint");
-        EXPECT_EQ(ws.value("frmCashReceipt.txtReceiptNo"), "SN0047");
-        EXPECT_EQ(ws.value("frmCashReceipt.txtAmount"), amount);
+        EXPECT_EQ(ws.value("frmCashReceipt.txtReceiptNo") + ' ' + ws.value("frmCashReceipt.txtAmount"),
+                  QString("SN0047 ") + paid);
     }
 }
 
@@ -102,14 +90,12 @@ TEST_P(Manual, ChecksInOrder) {
 
 TEST_P(Manual, APatientWhoWasReadInPartGetsNoBill) {
     layVisit();
-    openScreen();
     breakAt("qryhfullname");
     fill("1", "500", "500");
     EXPECT_BOXES(ui, {"disk full"});
     expectRefusals({{"", "", "Please Select Patient Name"}});
     fill("1", "500", "500");
     save();
-    EXPECT_BOXES(ui, {"Record Succesfully saved"});
     EXPECT_EQ(rows("select clientID from Billing"), "PRIVATE");
 }
 
