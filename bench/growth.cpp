@@ -6,8 +6,8 @@
 #include "billing/BillSummary.h"
 #include "billing/BillingRow.h"
 #include "books/Visit.h"
+#include "books/ReceiptNumber.h"
 #include "demo/Hand.h"
-#include "receipts/ReceiptNumber.h"
 
 #include <cstdio>
 
@@ -32,14 +32,17 @@ Form& opened(Site& site, const char* name) {
     return site.program.form(name);
 }
 
-ReceiptNumber receiptNumber(Site& site, ReceiptForm form, const QString& key = {}) {
-    Connection billing = site.program.openBilling();
-    return formReceiptNumber(site.program, billing, form, key);
-}
-
 /// frmDebtInfo as its menu entry opens it.
 Form& debtInfo(Site& site) {
-    site.program.session.sBillPatName.clear();
+    site.program.session.sDebtMode.clear();
+    return opened(site, "frmDebtInfo");
+}
+
+/// frmDebtInfo as the collation screen opens it.
+Form& debtOf(Site& site, const Subject& subject) {
+    site.program.session.sBillPatName = subject.name;
+    site.program.session.sBillPno = subject.pno;
+    site.program.session.sDebtMode = "AUTO";
     return opened(site, "frmDebtInfo");
 }
 
@@ -64,10 +67,16 @@ const Question questions[] = {
      },
      nullptr},
     {"number of the next receipt, of a counter",
-     [](Site& site, const Subject&) { receiptNumber(site, ReceiptForm::Generated); }, nullptr},
+     [](Site& site, const Subject&) {
+         Connection billing = site.program.openBilling();
+         generatedReceiptNumber(billing);
+     },
+     nullptr},
     {"number of the next receipt, of a clinic",
-     [](Site& site, const Subject& subject) { receiptNumber(site, ReceiptForm::ClinicCoded, subject.visit); }, nullptr},
-    {"number of the next manual receipt", [](Site& site, const Subject&) { receiptNumber(site, ReceiptForm::Counter); },
+     [](Site& site, const Subject& subject) {
+         Connection billing = site.program.openBilling();
+         clinicReceiptNumber(billing, site.program.session.gHospIDName, subject.visit);
+     },
      nullptr},
     {"number of the session", [](Site& site, const Subject&) { site.program.openUserActivity(false, false, {}); },
      nullptr},
@@ -90,19 +99,8 @@ const Question questions[] = {
     {"worklist: the shell's look every minute",
      [](Site& site, const Subject&) { Hand(site.program.form("MdiTolmek")).ring("Timer1"); }, nullptr},
     {"worklist: frmFlash opened", [](Site& site, const Subject&) { opened(site, "frmFlash"); }, nullptr},
-    {"frmDebtInfo opened on a patient",
-     [](Site& site, const Subject& subject) {
-         site.program.session.sBillPatName = subject.name;
-         site.program.session.sBillPno = subject.pno;
-         opened(site, "frmDebtInfo");
-     },
-     nullptr},
-    {"frmDebtInfo refreshed",
-     [](Site& site, const Subject& subject) {
-         site.program.session.sBillPatName = subject.name;
-         site.program.session.sBillPno = subject.pno;
-         Hand(opened(site, "frmDebtInfo")).click("cmdList");
-     },
+    {"frmDebtInfo opened on a patient", [](Site& site, const Subject& subject) { debtOf(site, subject); }, nullptr},
+    {"frmDebtInfo refreshed", [](Site& site, const Subject& subject) { Hand(debtOf(site, subject)).click("cmdList"); },
      "vwTranxaction"},
     {"frmDebtInfo search by number",
      [](Site& site, const Subject& subject) { searchDebts(site, "SysNo", subject.pno); }, "vwhpatients"},

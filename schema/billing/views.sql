@@ -452,7 +452,7 @@ left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
 go
 -- A receipt as it is printed.
 create view qryhBillingReceipt as
-select y.ReceiptDate, y.rTime, y.ReceiptNo,
+select y.SNo, y.ReceiptDate, y.rTime, y.ReceiptNo,
     isnull(p.fullname, (select max(q.fullname) from hPatientsPublic q where q.PNo = y.PNo)) as Fullname, y.PNo,
     y.billNo as BillNO, y.Amountbilled as AmountBilled, y.AmountPaid, y.AmountInWord, y.PaymentFor, y.PayType,
     y.ChequeNo, y.ClinicID as clinicID, y.ReceivedBy as Receivedby, y.Remarks, r.retainName as CoyName
@@ -463,7 +463,7 @@ left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
 go
 -- An outlet's receipt as it is printed.
 create view qryhBillingReceiptPublic as
-select y.ReceiptDate, y.rTime, y.ReceiptNo as receiptNo,
+select y.SNo, y.ReceiptDate, y.rTime, y.ReceiptNo as receiptNo,
     (select max(q.fullname) from hPatientsPublic q where q.PNo = h.PNo) as Fullname, y.PNo, y.billNo as BillNO,
     y.Amountbilled as AmountBilled, y.AmountPaid, y.AmountInWord, y.PaymentFor, y.PayType, y.ChequeNo,
     y.ClinicID as clinicID, y.ReceivedBy as Receivedby, y.Remarks, r.retainName as CoyName

@@ -6,9 +6,9 @@
 
 namespace orvane {
 
-void addBill(Books& books, const Bill& bill) {
-    Recordset row(books.connection, Sql("select * from Billing where 1=2"));
-    row.addNew();
+namespace {
+
+void setColumns(Recordset& row, const Bill& bill) {
     row.set("bdate", bill.date);
     row.set("billNo", bill.billNo);
     row.set("PNo", bill.pno);
@@ -23,7 +23,42 @@ void addBill(Books& books, const Bill& bill) {
     row.set("billingYear", QString::number(bill.date.year()));
     row.set("diagnosis", bill.diagnosis);
     row.set("billType", bill.billType ? QVariant(*bill.billType) : QVariant());
+}
+
+} // namespace
+
+void addBill(Books& books, const Bill& bill) {
+    Recordset row(books.connection, Sql("select * from Billing where 1=2"));
+    row.addNew();
+    setColumns(row, bill);
     row.update();
+}
+
+Given<double> enlargeBill(Books& books, const Bill& stated) {
+    Recordset row(books.connection, Sql("select * from billing where billNo='") << stated.billNo << "'");
+    if (!row.eof() && row.integer("isProcess") != 0)
+        return Refusal::BillProcessed;
+    Bill bill = stated;
+    if (row.eof()) {
+        row.addNew();
+    } else {
+        bill.amountBilled = round2(row.number("Amountbilled") + stated.amountBilled);
+        bill.amountPaid = round2(row.number("AmountPaid") + stated.amountPaid);
+    }
+    setColumns(row, bill);
+    row.set("isPaid", isPaidFlag(bill.amountPaid, bill.amountBilled));
+    row.update();
+    return bill.amountBilled;
+}
+
+void payBill(Books& books, const QString& billNo, double amount) {
+    Recordset bill(books.connection, Sql("select * from Billing where billno='") << billNo << "'");
+    if (bill.eof())
+        return;
+    const double paid = round2(bill.number("AmountPaid") + amount);
+    bill.set("AmountPaid", paid);
+    bill.set("isPaid", isPaidFlag(paid, bill.number("Amountbilled")));
+    bill.update();
 }
 
 bool hasBill(Connection& connection, const QString& billNo) {

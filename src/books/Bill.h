@@ -19,6 +19,14 @@ struct Bill {
 /// Adds the row; the caller has seen, behind the gate, that the bill has none.
 void addBill(Books& books, const Bill& bill);
 
+/// Adds what `stated` bills and says was paid to the bill's row, in naira, writes its other columns over it, and works
+/// out isPaid; a bill without its row gets it. Gives the new total. Refuses a processed bill.
+Given<double> enlargeBill(Books& books, const Bill& stated);
+
+/// Adds to what was paid on the bill, in naira, minus for a reversal, and works out isPaid afresh. A bill without its
+/// row is left so.
+void payBill(Books& books, const QString& billNo, double amount);
+
 bool hasBill(Connection& connection, const QString& billNo);
 
 /// Whether a monthly batch holds the bill, which freezes it. Asked inside the transaction it stays so.

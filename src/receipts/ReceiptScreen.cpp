@@ -72,9 +72,7 @@ ReceiptText ReceiptScreen::Copy::text(const QString& copyName) const {
     return text;
 }
 
-ReceiptScreen::ReceiptScreen(Program& owner, const QString& formName) : Screen(owner, formName, "Cash Receipt") {
-    cmdPrint.onClick = [this] { cmdPrint_Click(); };
-}
+ReceiptScreen::ReceiptScreen(Program& owner, const QString& formName) : Screen(owner, formName, "Cash Receipt") {}
 
 void ReceiptScreen::Form_Load() {
     Connection connection = program.openBilling();
@@ -94,6 +92,16 @@ void ReceiptScreen::Form_Load() {
         copy->fillHeading(session);
     }
     session.sPrintBillNo.clear();
+    session.lWorkSNo = 0;
+}
+
+/// The receipt that was picked; of several with its number the newest where no key was given.
+Recordset ReceiptScreen::readReceipt(Connection& connection) const {
+    Sql sql = receiptsByNumber();
+    sql << session.sPrintBillNo << "'";
+    if (session.lWorkSNo != 0)
+        sql << " and SNo=" << session.lWorkSNo;
+    return Recordset(connection, sql << " order by SNo desc");
 }
 
 void ReceiptScreen::refuse(const QString& reason) {
@@ -131,10 +139,11 @@ void ReceiptScreen::cmdPrint_Click() {
     cmdPrint.setVisible(true);
 }
 
-void showReceipt(Program& program, const QString& form, const QString& receiptNo) {
+void showReceipt(Program& program, const QString& form, const QString& receiptNo, qlonglong sno) {
     if (Form* shown = program.loadedForm(form))
         shown->unload();
     program.session.sPrintBillNo = receiptNo;
+    program.session.lWorkSNo = sno;
     program.open(form);
 }
 

@@ -5,7 +5,8 @@
 
 namespace orvane {
 
-/// "Cash Receipt": the receipt of session.sPrintBillNo, twice on one page. What the screen shows is what is printed.
+/// "Cash Receipt": the receipt of session.sPrintBillNo, twice on one page. Two paper receipts may bear one number:
+/// session.lWorkSNo is then the key of the one that was picked. What the screen shows is what is printed.
 /// The two receipt screens differ in where they find the receipt and in whose heading it bears.
 class ReceiptScreen : public Screen {
 public:
@@ -17,8 +18,8 @@ public:
     Button* defaultButton() override { return &cmdPrint; }
 
 protected:
-    virtual Recordset readReceipt(Connection& connection) const = 0;
-    virtual QString missingText() const = 0; ///< what to say when there is no such receipt
+    virtual Sql receiptsByNumber() const = 0; ///< up to the number, which comes behind it
+    virtual QString missingText() const = 0;  ///< what to say when there is no such receipt
     /// The row of appSettings with the heading; empty: the receipt names none.
     virtual QString headingCode(const Recordset& receipt) const = 0;
 
@@ -38,16 +39,18 @@ private:
         ReceiptText text(const QString& copyName) const;
     };
 
+    Recordset readReceipt(Connection& connection) const;
     void refuse(const QString& reason);
     void loadHeading(Connection& connection, const QString& code);
     void cmdPrint_Click();
 
     Copy customer{*this, {}, {}};
     Copy office{*this, "2", "Copy"};
-    Button cmdPrint{*this, "cmdPrint", "&Print"};
+    Button cmdPrint{*this, "cmdPrint", "&Print", &ReceiptScreen::cmdPrint_Click};
 };
 
-/// Shows the receipt of this number on the receipt screen `form`, in place of one that is still on the screen.
-void showReceipt(Program& program, const QString& form, const QString& receiptNo);
+/// Shows the receipt of this number on the receipt screen `form`, in place of one that is still on the screen. `sno`:
+/// its key, where several bear the number; 0: the newest.
+void showReceipt(Program& program, const QString& form, const QString& receiptNo, qlonglong sno = 0);
 
 } // namespace orvane

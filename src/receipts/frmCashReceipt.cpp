@@ -4,13 +4,8 @@ namespace orvane {
 
 frmCashReceipt::frmCashReceipt(Program& owner) : ReceiptScreen(owner, "frmCashReceipt") {}
 
-Recordset frmCashReceipt::readReceipt(Connection& connection) const {
-    return Recordset(connection, Sql("select * from qryhBillingReceipt where receiptNo='")
-                                     << session.sPrintBillNo << "'");
-}
-
-void showCashReceipt(Program& program, const QString& receiptNo) {
-    showReceipt(program, "frmCashReceipt", receiptNo);
+void showCashReceipt(Program& program, const QString& receiptNo, qlonglong sno) {
+    showReceipt(program, "frmCashReceipt", receiptNo, sno);
 }
 
 } // namespace orvane

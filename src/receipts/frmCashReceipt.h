@@ -10,12 +10,13 @@ public:
     explicit frmCashReceipt(Program& program);
 
 protected:
-    Recordset readReceipt(Connection& connection) const override;
+    Sql receiptsByNumber() const override { return Sql("select * from qryhBillingReceipt where receiptNo='"); }
     QString missingText() const override { return "No Receipt to Generate!"; }
     QString headingCode(const Recordset&) const override { return "00"; }
 };
 
-/// Shows the hospital receipt of this number, in place of one that is still on the screen.
-void showCashReceipt(Program& program, const QString& receiptNo);
+/// Shows the hospital receipt of this number, in place of one that is still on the screen. `sno`: its key, where
+/// several bear the number; 0: the newest.
+void showCashReceipt(Program& program, const QString& receiptNo, qlonglong sno = 0);
 
 } // namespace orvane

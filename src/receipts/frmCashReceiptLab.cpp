@@ -4,14 +4,10 @@ namespace orvane {
 
 frmCashReceiptLab::frmCashReceiptLab(Program& owner) : ReceiptScreen(owner, "frmCashReceiptLab") {}
 
-Recordset frmCashReceiptLab::readReceipt(Connection& connection) const {
-    Sql sql;
+Sql frmCashReceiptLab::receiptsByNumber() const {
     if (session.bReceiptHeadLoaded)
-        sql << "select * from qryhBillingReceipt where receiptNo='";
-    else
-        sql << "select * from qryhBillingReceiptPublic where receiptNo='";
-    sql << session.sPrintBillNo << "'";
-    return Recordset(connection, sql);
+        return Sql("select * from qryhBillingReceipt where receiptNo='");
+    return Sql("select * from qryhBillingReceiptPublic where receiptNo='");
 }
 
 /// The outlet's two characters stand behind the hospital's three; a number of the older form begins with them.

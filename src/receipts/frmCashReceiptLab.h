@@ -10,7 +10,7 @@ public:
     explicit frmCashReceiptLab(Program& program);
 
 protected:
-    Recordset readReceipt(Connection& connection) const override;
+    Sql receiptsByNumber() const override;
     QString missingText() const override { return "No Receipt to Display"; }
     QString headingCode(const Recordset& receipt) const override;
 };

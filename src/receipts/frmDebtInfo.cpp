@@ -13,15 +13,11 @@ const QString modeSearch = "SEARCH";
 
 frmDebtInfo::frmDebtInfo(Program& owner) : Screen(owner, "frmDebtInfo", "Debt Info") {
     cboGroup.addItems({"Name", "CardNo", "SysNo"});
-    OKButton.onClick = [this] { search(); };
     txtName.onEnter = [this] { search(); };
-    grdData.onDblClick = [this] { grdData_DblClick(); };
     grdData.setToolTip("Double Click a row to Get the Debt Info of a Patient");
-    cmdList.onClick = [this] { cmdList_Click(); };
-    cmdRpt.onClick = [this] { cmdRpt_Click(); };
-    cmdDebtOnly.onClick = [this] { cmdDebtOnly_Click(); };
-    cmdExport.onClick = [this] { cmdExport_Click(); };
-    CancelButton.onClick = [this] { unload(); };
+    grdData.setFormat("Debt", "#,##;(#,##0)");
+    for (const char* column : {"Bill", "AmountPaid"})
+        grdData.setFormat(column, "#,###.00");
 }
 
 Layout frmDebtInfo::layout() const {
@@ -36,18 +32,25 @@ void frmDebtInfo::Form_Load() {
     const QDate today = program.getServerDateTime().date();
     DTPicker1.setDate(today);
     DTPicker2.setDate(today);
-    grdData.setFormat("Debt", "#,##;(#,##0)");
-    grdData.setFormat("Bill", "#,###.00");
-    grdData.setFormat("AmountPaid", "#,###.00");
     cboGroup.setText("Name");
-    if (session.sBillPatName.isEmpty()) {
-        session.sDebtMode = modeSearch;
-        txtName.setFocus();
-        return;
-    }
-    session.sDebtMode = modeAuto;
+    txtName.setFocus();
+}
+
+/// The menu opens it too, whatever patient was in hand before: only who asks for his account gets it, and once.
+void frmDebtInfo::Form_Activate() {
+    const bool wasAuto = m_isAuto;
+    m_isAuto = std::exchange(session.sDebtMode, modeSearch) == modeAuto && !session.sBillPatName.isEmpty();
+    if (m_isAuto)
+        showPatientInHand();
+    else if (wasAuto)
+        beginSearch();
+}
+
+/// His account since his first attendance.
+void frmDebtInfo::showPatientInHand() {
     m_pno = session.sBillPno;
     Label5.setText(session.sBillPatName);
+    grdData.clear();
     {
         Connection connection = program.openBilling();
         const Recordset first(connection, Sql("select top 1 recDate from hrecords where pno = '")
@@ -55,7 +58,14 @@ void frmDebtInfo::Form_Load() {
         if (!first.eof())
             DTPicker1.setDate(first.date("recDate"));
     }
-    cmdList_Click();
+    loadStatement();
+}
+
+void frmDebtInfo::beginSearch() {
+    m_isAuto = false;
+    m_pno.clear();
+    Label5.setText("Debt Information");
+    grdData.clear();
 }
 
 void frmDebtInfo::search() {
@@ -72,9 +82,7 @@ void frmDebtInfo::search() {
     } else {
         sql << "select  * from vwhpatients where fullname like '" << text << "%'  order by fullname";
     }
-    session.sDebtMode = modeSearch;
-    m_pno.clear();
-    Label5.setText("Debt Information");
+    beginSearch();
     grdData.load(Recordset::paged(program.openBilling(), sql));
 }
 
@@ -105,7 +113,7 @@ void frmDebtInfo::loadStatement() {
         program.box("Please specify Attendance Date Range");
         return;
     }
-    const bool whole = session.sDebtMode == modeSearch || chkAll.isChecked();
+    const bool whole = !m_isAuto || chkAll.isChecked();
     Connection connection = program.openBilling();
     grdData.load(Recordset(connection, whole ? searchStatement() : autoStatement()));
 }
@@ -127,17 +135,13 @@ Sql frmDebtInfo::autoStatement() const {
 }
 
 void frmDebtInfo::cmdRpt_Click() {
-    if (chkDebt.isChecked())
-        showSummary(Sql("SELECT * FROM qryhFullnameHosp where debtBF <> 0 order by abs(debtBF) desc"));
-    else
-        showSummary(Sql("SELECT * FROM qryhFullnameHosp where debtBF <> 0 order by FullName"));
+    showSummary(chkDebt.isChecked() ? Sql("SELECT * FROM qryhFullnameHosp where debtBF <> 0 order by abs(debtBF) desc")
+                                    : Sql("SELECT * FROM qryhFullnameHosp where debtBF <> 0 order by FullName"));
 }
 
 void frmDebtInfo::cmdDebtOnly_Click() {
-    if (chkDebt.isChecked())
-        showSummary(Sql("SELECT * FROM qryhFullnameHosp where debtBF > 0 order by abs(debtBF) desc"));
-    else
-        showSummary(Sql("SELECT * FROM qryhFullnameHosp where debtBF > 0 order by FullName"));
+    showSummary(chkDebt.isChecked() ? Sql("SELECT * FROM qryhFullnameHosp where debtBF > 0 order by abs(debtBF) desc")
+                                    : Sql("SELECT * FROM qryhFullnameHosp where debtBF > 0 order by FullName"));
 }
 
 void frmDebtInfo::showSummary(const Sql& sql) {

@@ -2,9 +2,9 @@
 
 #include "books/Bill.h"
 #include "books/Deposit.h"
+#include "books/VisitFacts.h"
 #include "data/words/Money.h"
-#include "receipts/AmountInWords.h"
-#include "receipts/VisitFacts.h"
+#include "receipts/MoneyFields.h"
 #include "receipts/frmCashReceipt.h"
 #include "session/ListedVisit.h"
 
@@ -177,24 +177,19 @@ void frmReceiptDeposit::cboClinic_Click() {
     }
 }
 
-/// Naira in whole kobo, as it is printed; 0 where the field holds no number.
-double frmReceiptDeposit::receiptAmount() const {
-    return round2(parseAmount(txtHt.text()).value_or(0));
-}
-
 bool frmReceiptDeposit::isComplete() {
     const bool hasAmount = !txtHt.text().trimmed().isEmpty();
-    if (hasAmount && receiptAmount() > 0 && txtDue.text().trimmed().isEmpty())
+    if (hasAmount && nairaIn(txtHt) > 0 && txtDue.text().trimmed().isEmpty())
         txtDue.setText("0");
     return passes({{!hasAmount, "Please enter Receipt Amount", &txtHt},
-                   {receiptAmount() <= 0, "Receipt Amount Cannot be zero or less", &txtHt},
+                   {nairaIn(txtHt) <= 0, "Receipt Amount Cannot be zero or less", &txtHt},
                    {visits.cboVehNo.listIndex() < 0, "Please enter Patient No", &visits.cboVehNo},
                    {cboClinic.text().isEmpty(), "Please Specify payment type", &cboClinic},
                    {lblRct.text().isEmpty(), "Receipt No Required", &visits.cboVehNo},
                    {cboPayFor.text().isEmpty(), "Please enter Payment Purpose", &cboPayFor},
                    {cboPay.text().isEmpty(), "Please enter Payment type", &cboPay},
                    {cboClinic.text().isEmpty(), "Please enter Clinic type", &cboClinic},
-                   {parseAmount(txtDue.text()).value_or(-1) < 0, "Please enter Amount Due", &txtDue},
+                   {!statesNaira(txtDue), "Please enter Amount Due", &txtDue},
                    // A receipt without a date would be in no day's cash.
                    {dtDate.isEmpty(), "Please enter Receipt Date", &dtDate}});
 }
@@ -205,30 +200,37 @@ void frmReceiptDeposit::OKButton_Click() {
                    .allowed = [this] { return isComplete(); },
                    .question = "Are you sure to save?",
                    .title = "About to save",
-                   .step =
-                       [this](Books& books) {
+                   .prepare =
+                       [this] {
                            session.gConsultID = lblBill.text();
                            session.dWorkDate = dtDate.date();
-                           return takeDeposit(books, {.billNo = lblBill.text(),
-                                                      .pno = m_pno,
-                                                      .clientID = m_clientID,
-                                                      .customer = visits.cboVehNo.text(),
-                                                      .date = dtDate.date(),
-                                                      .amount = receiptAmount(),
-                                                      .due = round2(*parseAmount(txtDue.text())),
-                                                      .broughtForward = m_debtBF,
-                                                      .words = txtDuty.text(),
-                                                      .purpose = cboPayFor.text(),
-                                                      .payType = cboPay.text(),
-                                                      .diagnosis = txtDiag.text()});
+                           return true;
                        },
-                   .follow =
-                       [this](const QString& receiptNo) {
-                           resetFields();
-                           setEntry(false);
-                           showCashReceipt(program, receiptNo);
-                       },
+                   .step = [this](Books& books) { return saveEntry(books); },
+                   .follow = [this](const QString& receiptNo) { showSaved(receiptNo); },
                    .refused = [this](Refusal refusal) { refuse(refusal); }});
+}
+
+Given<QString> frmReceiptDeposit::saveEntry(Books& books) const {
+    return takeDeposit(books, {.billNo = lblBill.text(),
+                               .pno = m_pno,
+                               .clientID = m_clientID,
+                               .customer = visits.cboVehNo.text(),
+                               .date = dtDate.date(),
+                               .amount = nairaIn(txtHt),
+                               .due = nairaIn(txtDue),
+                               .broughtForward = m_debtBF,
+                               .words = txtDuty.text(),
+                               .purpose = cboPayFor.text(),
+                               .payType = cboPay.text(),
+                               .diagnosis = txtDiag.text()});
+}
+
+void frmReceiptDeposit::showSaved(const QString& receiptNo) {
+    // At once, so that no fault in what follows leaves an entry that could be saved again.
+    resetFields();
+    setEntry(false);
+    showCashReceipt(program, receiptNo);
 }
 
 void frmReceiptDeposit::refuse(Refusal refusal) {

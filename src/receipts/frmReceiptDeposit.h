@@ -30,8 +30,9 @@ private:
     void loadPatient(Connection& connection);
     void loadAccount(Connection& connection);
     void showAdmission(Connection& connection);
-    double receiptAmount() const;
     bool isComplete();
+    Given<QString> saveEntry(Books& books) const;
+    void showSaved(const QString& receiptNo);
     void refuse(Refusal refusal);
     void resetFields();
     void setEntry(bool entering);

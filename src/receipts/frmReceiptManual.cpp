@@ -1,14 +1,11 @@
 #include "receipts/frmReceiptManual.h"
 
+#include "books/Bill.h"
+#include "books/ManualReceipt.h"
 #include "data/words/Money.h"
-#include "receipts/AmountInWords.h"
-#include "receipts/ListEntry.h"
-#include "receipts/PatientAccount.h"
-#include "receipts/ReceiptNumber.h"
-#include "receipts/ReceiptRows.h"
+#include "receipts/MoneyFields.h"
 #include "receipts/frmCashReceipt.h"
-
-#include <QLocale>
+#include "session/ListedVisit.h"
 
 namespace orvane {
 
@@ -18,27 +15,15 @@ frmReceiptManual::frmReceiptManual(Program& owner) : Screen(owner, "frmReceiptMa
     for (TextBox* box : {&txtEmp, &txtDuty})
         box->setLocked(true);
     txtDuty.multiline();
-    connectHandlers();
-}
-
-void frmReceiptManual::connectHandlers() {
-    cmdList.onClick = [this] { cmdList_Click(); };
-    cboVehNo.onClick = [this] { cboVehNo_Click(); };
-    txtBill.onChange = [this] { workOutDue(); };
-    txtDebt.onChange = [this] { workOutDue(); };
-    txtHt.onChange = [this] { showAmountInWords(txtHt, txtDuty); };
-    cmdRefresh.onClick = [this] { refreshGrid(); };
-    cmdPrint.onClick = [this] { cmdPrint_Click(); };
-    cmdAdd.onClick = [this] { cmdAdd_Click(); };
-    OKButton.onClick = [this] { OKButton_Click(); };
-    CancelButton.onClick = [this] { unload(); };
+    for (const char* column : {"AmountBilled", "AmountPaid", "Balance"})
+        grdData.setFormat(column, "#,###.00");
+    grdData.setWidth("AmountInWord", 30);
+    grdData.hide({"SNo"});
 }
 
 Layout frmReceiptManual::layout() const {
     using namespace orvane::layout;
-    return column({row({field("Attendance between", DTPicker1), field("and", DTPicker2), cell(cmdList), stretch()}),
-                   field("Patient", cboVehNo),
-                   facts({{"Bill No", &lblBill}, {"Client", &lblCoy}, {"Attendance", &lblDate}}),
+    return column({visits.layout(), facts({{"Bill No", &lblBill}, {"Client", &lblCoy}, {"Attendance", &lblDate}}),
                    row({column({row({field("Receipt No", txtRct, 18), field("Pay Type", cboPay, 14)}),
                                 row({field("Receipt Date", dtDate), field("Clinic Type", cboClinic, 24)}),
                                 field("Being Payment for", cboCat), field("Received By", cboReceived)}),
@@ -51,14 +36,10 @@ Layout frmReceiptManual::layout() const {
 void frmReceiptManual::Form_Load() {
     const QDate today = program.getServerDateTime().date();
     session.dWorkDate = today;
-    for (DatePicker* picker : {&dtDate, &DTPicker1, &DTPicker2})
-        picker->setDate(today);
+    dtDate.setDate(today);
+    visits.setDates(today);
     loadLists();
-    for (const char* column : {"AmountBilled", "AmountPaid", "Balance"})
-        grdData.setFormat(QLatin1String(column), "#,###.00");
-    grdData.setWidth("AmountInWord", 30);
-    listVisits(Sql("select distinct recdate,pno,fullname,consultID from qryhVisits where  recdate = '")
-               << session.dWorkDate << "'");
+    cmdList_Click();
     refreshGrid();
     setEntry(false);
 }
@@ -74,58 +55,60 @@ void frmReceiptManual::loadLists() {
     for (Recordset officers(connection, Sql("select empID,lastname,firstname from employees where deptID = 'ACC'"));
          !officers.eof(); officers.moveNext())
         cboReceived.addItem(officers.text("lastname") + " " + officers.text("firstname") + " [" +
-                            officers.text("empID") + "]");
+                                officers.text("empID") + "]",
+                            officers.text("empID"));
     for (Recordset clinics(connection, Sql("select ClinicID from clinicTypes")); !clinics.eof(); clinics.moveNext())
         cboClinic.addItem(clinics.text("ClinicID"));
     cboClinic.setText("OUT-PATIENT");
 }
 
 void frmReceiptManual::setEntry(bool entering) {
-    for (Control* control : std::initializer_list<Control*>{&cboVehNo, &txtRct, &dtDate, &cboCat, &cboReceived, &cboPay,
-                                                            &cboClinic, &txtBill, &txtDebt, &txtHt, &OKButton})
+    for (Control* control : std::initializer_list<Control*>{&visits.cboVehNo, &txtRct, &dtDate, &cboCat, &cboReceived,
+                                                            &cboPay, &cboClinic, &txtBill, &txtDebt, &txtHt, &OKButton})
         control->setEnabled(entering);
     cmdAdd.setEnabled(!entering);
     if (!entering)
         cmdAdd.setFocus();
 }
 
-void frmReceiptManual::listVisits(const Sql& sql) {
-    cboVehNo.clear();
-    Connection connection = program.openBilling();
-    for (Recordset visits(connection, sql); !visits.eof(); visits.moveNext())
-        cboVehNo.addItem(visits.text("fullname") + " @ " + visits.date("recdate").toString("dd/MM/yyyy") + " [" +
-                         visits.text("pno") + "]#" + visits.text("consultID"));
-}
-
 void frmReceiptManual::cmdList_Click() {
-    listVisits(Sql("select distinct recdate,pno,fullname,consultID from qryhVisits where  recdate between '")
-               << DTPicker1.date() << "' and '" << DTPicker2.date() << " '");
+    visits.cboVehNo.clear();
+    Connection connection = program.openBilling();
+    Recordset rows(connection,
+                   Sql("select distinct recdate,pno,fullname,consultID from qryhVisits where  recdate between '")
+                       << visits.DTPicker1.date() << "' and '" << visits.DTPicker2.date() << " '");
+    for (; !rows.eof(); rows.moveNext()) {
+        const ListedVisit visit{rows.text("consultID"), rows.text("pno"), rows.text("fullname"), rows.date("recdate")};
+        visits.cboVehNo.addItem(visit.patient + " @ " + visit.date.toString("dd/MM/yyyy") + " [" + visit.pno + "]#" +
+                                    visit.consultID,
+                                QVariant::fromValue(visit));
+    }
 }
 
 void frmReceiptManual::cmdAdd_Click() {
     resetFields();
     setEntry(true);
-    cboVehNo.setFocus();
+    visits.cboVehNo.setFocus();
 }
 
 void frmReceiptManual::cboVehNo_Click() {
-    if (cboVehNo.listIndex() < 0)
+    const auto visit = visits.cboVehNo.picked<ListedVisit>();
+    if (!visit)
         return;
     clearPatient();
-    const ListEntry entry = readListEntry(cboVehNo.text());
-    if (entry.bill.isEmpty()) {
+    if (visit->consultID.isEmpty()) {
         program.box("No Bill No");
         return;
     }
-    m_pno = entry.number;
-    lblDate.setText(entry.name.mid(entry.name.lastIndexOf(" @ ") + 3));
-    session.gConsultID = entry.bill;
+    m_pno = visit->pno;
+    lblDate.setText(visit->date.toString("dd/MM/yyyy"));
+    session.gConsultID = visit->consultID;
     Connection connection = program.openBilling();
     const Recordset patient(connection,
                             Sql("select fullname,coyname,pcatID,clientcatID,debt from qryhfullname where pno='")
                                 << m_pno << "'");
     // Only now: a patient whom a fault left half read gets no bill.
-    lblBill.setText(entry.bill);
+    lblBill.setText(visit->consultID);
     if (patient.eof())
         return;
     txtDebt.setText(formatTwoDecimals(patient.number("debt")));
@@ -139,12 +122,17 @@ void frmReceiptManual::workOutDue() {
         formatTwoDecimals(parseAmount(txtBill.text()).value_or(0) + parseAmount(txtDebt.text()).value_or(0)));
 }
 
+void frmReceiptManual::txtHt_Change() {
+    showAmountInWords(txtHt, txtDuty);
+}
+
+/// The receipts of the date; each with its key, for two paper receipts may bear one number.
 void frmReceiptManual::refreshGrid() {
     Connection connection = program.openBilling();
     grdData.load(Recordset(
         connection, Sql("SELECT     ReceiptDate AS Date, rTime as Time, ReceiptNo, Fullname, AmountBilled, "
                         "AmountPaid,(AmountBilled- AmountPaid) as Balance, PaymentFor, AmountInWord, PayType, clinicID "
-                        "AS Clinic, Receivedby, BillNO, CoyName FROM qryhBillingReceipt where receiptdate='")
+                        "AS Clinic, Receivedby, BillNO, CoyName, SNo FROM qryhBillingReceipt where receiptdate='")
                         << dtDate.date() << "'"));
     const Recordset total(connection,
                           Sql("SELECT sum(AmountPaid) as AmountPaid fROM qryhBillingReceipt where receiptdate='")
@@ -157,20 +145,70 @@ void frmReceiptManual::cmdPrint_Click() {
     if (number.isEmpty())
         program.box("Save Receipt Information before printing");
     else
-        showCashReceipt(program, number);
+        showCashReceipt(program, number, qlonglong(grdData.number("SNo")));
+}
+
+QString frmReceiptManual::receiver() const {
+    return cboReceived.picked<QString>().value_or(QString());
+}
+
+bool frmReceiptManual::isComplete() {
+    const bool statesBill = txtBill.text().trimmed().isEmpty() || statesNaira(txtBill);
+    return passes(
+        {{dtDate.isEmpty(), "Please enter Receipt Date", &dtDate},
+         {txtRct.text().trimmed().isEmpty(), "Please enter Receipt No", &txtRct},
+         {visits.cboVehNo.text().isEmpty(), "Please Select Patient Name", &visits.cboVehNo},
+         {txtHt.text().trimmed().isEmpty(), "Please enter Amount Paid", &txtHt},
+         {cboCat.text().isEmpty(), "Please enter Payment Purpose", &cboCat},
+         {cboReceived.text().isEmpty(), "Please enter Name of Receiver", &cboReceived},
+         {cboPay.text().isEmpty(), "Please enter Payment type", &cboPay},
+         {cboClinic.text().isEmpty(), "Please enter Clinic type", &cboClinic},
+         // Texts where a number belongs, a patient nobody picked and a receiver without his number are
+         // refused in the words of their own checks.
+         {!statesNaira(txtHt), "Please enter Amount Paid", &txtHt},
+         {!statesBill, "Please enter Amount Billed", &txtBill},
+         {visits.cboVehNo.listIndex() < 0 || lblBill.text().isEmpty(), "Please Select Patient Name", &visits.cboVehNo},
+         {receiver().isEmpty(), "Please enter Name of Receiver", &cboReceived}});
+}
+
+/// A bill on an invoice may not grow any more: said before anything is asked; the save sees to it again.
+bool frmReceiptManual::isBillOpen() {
+    Connection connection = program.openBilling();
+    return passes({{isBillProcessed(connection, lblBill.text()), refusalText(Refusal::BillProcessed)}});
 }
 
 void frmReceiptManual::OKButton_Click() {
-    if (settlesSave() || !checkFields())
-        return;
-    if (!program.question("Are you sure to save? Please Confirm Receipt Date before Saving", "About to save"))
-        return;
-    if (!saveOnce(
-            OKButton, [this] { return save(); }, [this] { afterSave(); }))
-        program.box("This Bill is already processed! to Modify, unProcess the Batch");
+    save<QString>({.button = OKButton,
+                   .action = "MANUAL RECEIPT",
+                   .allowed = [this] { return isComplete() && isBillOpen(); },
+                   .question = "Are you sure to save? Please Confirm Receipt Date before Saving",
+                   .title = "About to save",
+                   .prepare =
+                       [this] {
+                           session.gConsultID = lblBill.text();
+                           return true;
+                       },
+                   .step = [this](Books& books) { return saveEntry(books); },
+                   .follow = [this](const QString&) { showSaved(); }});
 }
 
-void frmReceiptManual::afterSave() {
+Given<QString> frmReceiptManual::saveEntry(Books& books) const {
+    return enterManualReceipt(books, {.paperNo = txtRct.text(),
+                                      .billNo = lblBill.text(),
+                                      .pno = m_pno,
+                                      .clientID = lblCoy.text(),
+                                      .customer = visits.cboVehNo.text(),
+                                      .date = dtDate.date(),
+                                      .billed = nairaIn(txtBill),
+                                      .paid = nairaIn(txtHt),
+                                      .words = txtDuty.text(),
+                                      .clinicID = cboClinic.text(),
+                                      .purpose = cboCat.text(),
+                                      .payType = cboPay.text(),
+                                      .receivedBy = receiver()});
+}
+
+void frmReceiptManual::showSaved() {
     // At once, so that no fault in what follows leaves an entry that could be saved again.
     resetFields();
     setEntry(false);
@@ -178,105 +216,8 @@ void frmReceiptManual::afterSave() {
     refreshGrid();
 }
 
-bool frmReceiptManual::checkFields() {
-    const struct {
-        bool missing;
-        const char* text;
-        Control& control;
-    } checks[] = {
-        {dtDate.isEmpty(), "Please enter Receipt Date", dtDate},
-        {txtRct.text().trimmed().isEmpty(), "Please enter Receipt No", txtRct},
-        {cboVehNo.text().isEmpty(), "Please Select Patient Name", cboVehNo},
-        {txtHt.text().trimmed().isEmpty(), "Please enter Amount Paid", txtHt},
-        {cboCat.text().isEmpty(), "Please enter Payment Purpose", cboCat},
-        {cboReceived.text().isEmpty(), "Please enter Name of Receiver", cboReceived},
-        {cboPay.text().isEmpty(), "Please enter Payment type", cboPay},
-        {cboClinic.text().isEmpty(), "Please enter Clinic type", cboClinic},
-        // Texts where a number belongs, a patient nobody picked and a receiver without his number are refused in the
-        // words of their own checks.
-        {!parseAmount(txtHt.text()) || *parseAmount(txtHt.text()) < 0, "Please enter Amount Paid", txtHt},
-        {!txtBill.text().trimmed().isEmpty() && parseAmount(txtBill.text()).value_or(-1) < 0,
-         "Please enter Amount Billed", txtBill},
-        {cboVehNo.listIndex() < 0 || lblBill.text().isEmpty(), "Please Select Patient Name", cboVehNo},
-        {readListEntry(cboReceived.text()).number.isEmpty(), "Please enter Name of Receiver", cboReceived},
-    };
-    for (const auto& check : checks) {
-        if (check.missing) {
-            program.box(QLatin1String(check.text));
-            check.control.setFocus();
-            return false;
-        }
-    }
-    return true;
-}
-
-/// False: the bill is on an invoice already and may not grow any more.
-bool frmReceiptManual::save() {
-    // In whole kobo, as they are printed.
-    const double billed = round2(parseAmount(txtBill.text()).value_or(0));
-    const double paid = round2(*parseAmount(txtHt.text()));
-    session.gConsultID = lblBill.text();
-    Connection connection = program.openBilling();
-    Transaction transaction(connection);
-    Recordset bill(connection, Sql("select * from billing where billNo='") << lblBill.text() << "'");
-    if (!bill.eof() && bill.integer("isProcess") != 0)
-        return false;
-    const double newTotal = writeBill(bill, billed, paid);
-    postPatientTran(program, connection, dtDate.date(), m_pno, lblBill.text(), 0 - billed, session.gBillTo, "Payment");
-    writePayment(connection, newTotal, paid);
-    postPatientTran(program, connection, dtDate.date(), m_pno, lblBill.text(), paid, session.gBillTo, "Payment");
-    Recordset total(connection, Sql("select * from Billing where billno='") << lblBill.text() << "'");
-    total.set("isPaid", isPaidFlag(total.number("AmountPaid"), total.number("Amountbilled")));
-    total.update();
-    program.writeAuditTrail({"insert Payment for: " + cboVehNo.text(), lblBill.text(), QString::number(paid, 'f', 2)});
-    transaction.commit({.action = name()});
-    return true;
-}
-
-double frmReceiptManual::writeBill(Recordset& bill, double addedBill, double addedPayment) {
-    const bool isNew = bill.eof();
-    const double billed = (isNew ? 0 : bill.number("Amountbilled")) + addedBill;
-    const double paid = (isNew ? 0 : bill.number("AmountPaid")) + addedPayment;
-    if (isNew)
-        bill.addNew();
-    bill.set("bdate", dtDate.date());
-    bill.set("billNo", lblBill.text());
-    bill.set("PNo", m_pno);
-    bill.set("clientID", lblCoy.text());
-    bill.set("Amountbilled", billed);
-    bill.set("AmountBIlledInWord", "XXX");
-    bill.set("AmountPaid", paid);
-    bill.set("profFee", 0);
-    bill.set("AmtBF", 0);
-    bill.set("billingMonth", QLocale::c().monthName(dtDate.date().month()));
-    bill.set("billingYear", QString::number(dtDate.date().year()));
-    bill.set("diagnosis", "XXX");
-    bill.set("billType", "CASH");
-    bill.update();
-    return billed;
-}
-
-// The remark of a manual receipt is always "CASH", whatever its pay type.
-void frmReceiptManual::writePayment(Connection& connection, double billed, double paid) {
-    ReceiptEntry receipt;
-    receipt.receiptDate = dtDate.date();
-    receipt.receiptNo = formReceiptNumber(program, connection, ReceiptForm::Paper, txtRct.text()).number;
-    receipt.clinicID = cboClinic.text();
-    receipt.billNo = lblBill.text();
-    receipt.pno = m_pno;
-    receipt.paymentFor = cboCat.text();
-    receipt.amountBilled = billed;
-    receipt.amountPaid = paid;
-    receipt.amountInWord = txtDuty.text();
-    receipt.receivedBy = readListEntry(cboReceived.text()).number;
-    receipt.payType = cboPay.text();
-    receipt.time = ui().now().time();
-    receipt.remarks = "CASH";
-    addPayment(program, connection, receipt);
-}
-
 void frmReceiptManual::resetFields() {
-    cboVehNo.setListIndex(-1);
+    visits.cboVehNo.setListIndex(-1);
     clearPatient();
     for (TextBox* box : {&txtRct, &txtBill, &txtHt, &txtDuty})
         box->clear();

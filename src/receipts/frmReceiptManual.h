@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/RangePicker.h"
 #include "session/Screen.h"
 
 namespace orvane {
@@ -10,10 +11,36 @@ class frmReceiptManual : public Screen {
 public:
     explicit frmReceiptManual(Program& program);
 
-    DatePicker DTPicker1{*this, "DTPicker1"};
-    DatePicker DTPicker2{*this, "DTPicker2"};
-    Button cmdList{*this, "cmdList", "Get Patient &List"};
-    ComboBox cboVehNo{*this, "cboVehNo"};
+    Layout layout() const override;
+    void Form_Load() override;
+    Button* defaultButton() override { return OKButton.isEnabled() ? &OKButton : nullptr; }
+    Button* cancelButton() override { return &CancelButton; }
+
+private:
+    void loadLists();
+    void cmdList_Click();
+    void cmdAdd_Click();
+    void cboVehNo_Click();
+    void workOutDue();
+    void txtHt_Change();
+    void refreshGrid();
+    void cmdPrint_Click();
+    QString receiver() const; ///< the picked officer's number
+    bool isComplete();
+    bool isBillOpen();
+    void OKButton_Click();
+    Given<QString> saveEntry(Books& books) const;
+    void showSaved();
+    void resetFields();
+    void clearPatient();
+    void setEntry(bool entering);
+
+    using Me = frmReceiptManual;
+    RangePicker visits{*this,
+                       {"Attendance between", "cmdList", "Get Patient &List"},
+                       &Me::cmdList_Click,
+                       ComboBox::FreeText,
+                       &Me::cboVehNo_Click};
     Label lblBill{*this, "lblBill"};
     Label lblCoy{*this, "lblCoy"};
     Label lblDate{*this, "lblDate"};
@@ -23,44 +50,18 @@ public:
     ComboBox cboReceived{*this, "cboReceived"};
     ComboBox cboPay{*this, "cboPay"};
     ComboBox cboClinic{*this, "cboClinic"};
-    TextBox txtBill{*this, "txtBill"};
-    TextBox txtDebt{*this, "txtDebt"};
+    TextBox txtBill{*this, "txtBill", &Me::workOutDue};
+    TextBox txtDebt{*this, "txtDebt", &Me::workOutDue};
     TextBox txtEmp{*this, "txtEmp"};
-    TextBox txtHt{*this, "txtHt"};
+    TextBox txtHt{*this, "txtHt", &Me::txtHt_Change};
     TextBox txtDuty{*this, "txtDuty"};
     Grid grdData{*this, "grdData"};
     Label lblTotal{*this, "lblTotal"};
-    Button cmdRefresh{*this, "cmdRefresh", "Refresh &Grid"};
-    Button cmdPrint{*this, "cmdPrint", "&Print Receipt"};
-    Button cmdAdd{*this, "cmdAdd", "&Add"};
-    Button CancelButton{*this, "CancelButton", "E&xit"};
-    Button OKButton{*this, "OKButton", "&Save"};
-
-    Layout layout() const override;
-    void Form_Load() override;
-    Button* defaultButton() override { return OKButton.isEnabled() ? &OKButton : nullptr; }
-    Button* cancelButton() override { return &CancelButton; }
-
-private:
-    void connectHandlers();
-    void loadLists();
-    void listVisits(const Sql& sql);
-    void cmdList_Click();
-    void cmdAdd_Click();
-    void cboVehNo_Click();
-    void workOutDue();
-    void refreshGrid();
-    void cmdPrint_Click();
-    void OKButton_Click();
-    bool checkFields();
-    bool save();
-    void afterSave();
-    /// Adds the bill or enlarges it; all in naira. Gives the bill's new total.
-    double writeBill(Recordset& bill, double addedBill, double addedPayment);
-    void writePayment(Connection& connection, double billed, double paid);
-    void resetFields();
-    void clearPatient();
-    void setEntry(bool entering);
+    Button cmdRefresh{*this, "cmdRefresh", "Refresh &Grid", &Me::refreshGrid};
+    Button cmdPrint{*this, "cmdPrint", "&Print Receipt", &Me::cmdPrint_Click};
+    Button cmdAdd{*this, "cmdAdd", "&Add", &Me::cmdAdd_Click};
+    Button CancelButton{*this, "CancelButton", "E&xit", &Me::unload};
+    Button OKButton{*this, "OKButton", "&Save", &Me::OKButton_Click};
 
     QString m_pno;
 };

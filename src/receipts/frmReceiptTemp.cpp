@@ -1,11 +1,12 @@
 #include "receipts/frmReceiptTemp.h"
 
+#include "books/Bill.h"
+#include "books/BillReceipt.h"
+#include "books/VisitFacts.h"
 #include "data/words/Money.h"
-#include "receipts/AmountInWords.h"
-#include "receipts/ListEntry.h"
-#include "receipts/PatientAccount.h"
-#include "receipts/VisitFacts.h"
+#include "receipts/MoneyFields.h"
 #include "receipts/frmCashReceipt.h"
+#include "session/ListedVisit.h"
 
 namespace orvane {
 
@@ -13,6 +14,7 @@ namespace {
 
 /// What stands for the number until a save forms it: it passes the first check and is never stored.
 const QString numberToCome = "XX";
+const QString noRecord = "No Record is selected in the Grid";
 
 } // namespace
 
@@ -22,26 +24,14 @@ frmReceiptTemp::frmReceiptTemp(Program& owner) : Screen(owner, "frmReceiptTemp",
     for (TextBox* box : {&txtBill, &txtEmp, &txtDuty, &txtDiag})
         box->setLocked(true);
     txtDuty.multiline();
-    connectHandlers();
-}
-
-void frmReceiptTemp::connectHandlers() {
-    cmdInv.onClick = [this] { cmdInv_Click(); };
-    cboVehNo.onClick = [this] { cboVehNo_Click(); };
-    txtHt.onChange = [this] { showAmountInWords(txtHt, txtDuty); };
-    chkRev.onClick = [this] { chkRev_Click(); };
-    cmdAdd.onClick = [this] { cmdAdd_Click(); };
-    cmdCancel.onClick = [this] { cmdCancel_Click(); };
-    cmdPrint.onClick = [this] { cmdPrint_Click(); };
-    cmdRev.onClick = [this] { cmdRev_Click(); };
-    OKButton.onClick = [this] { OKButton_Click(); };
-    CancelButton.onClick = [this] { unload(); };
+    for (const char* column : {"AmountBilled", "AmountPaid", "AmountDue"})
+        grdData.setFormat(column, "#,###.00");
+    grdData.hide({"SNo"});
 }
 
 Layout frmReceiptTemp::layout() const {
     using namespace orvane::layout;
-    return column({row({field("Attendance Date between", DTPicker1), field("and", DTPicker2), cell(cmdInv), stretch()}),
-                   field("Patient", cboVehNo),
+    return column({bills.layout(),
                    facts({{"Receipt for", &Label5},
                           {"Receipt No", &lblRct},
                           {"Bill date", &lblDate},
@@ -57,8 +47,8 @@ Layout frmReceiptTemp::layout() const {
 
 void frmReceiptTemp::Form_Load() {
     const QDate today = program.getServerDateTime().date();
-    for (DatePicker* picker : {&dtDate, &DTPicker1, &DTPicker2})
-        picker->setDate(today);
+    dtDate.setDate(today);
+    bills.setDates(today);
     cboCat.addItems({"REGISTRATION", "CONSULTATION ", "CONSULTATION  AND DRUGS", "DRUGS", "GP REVIEW",
                      "SPECIALIST REVIEW", "ANTE NATAL", "EXAMINATION", "ADMISSION", "GP FIRST VISIT",
                      "SPECIALIST FIRST VISIT", "CONSULTATION  AND INJECTION", "CONSULTATION  AND DRESSING",
@@ -67,78 +57,76 @@ void frmReceiptTemp::Form_Load() {
     cboCat.setText("CONSULTATION AND DRUGS");
     cboPay.addItems({"CASH", "CHEQUE"});
     cboPay.setText("CASH");
-    for (const char* column : {"AmountBilled", "AmountPaid", "AmountDue"})
-        grdData.setFormat(QLatin1String(column), "#,###.00");
-    chkRev.setEnabled(false);
     setEntry(false);
-    loadGrid(true);
+    loadToday();
 }
 
 void frmReceiptTemp::setEntry(bool entering) {
-    for (Control* control :
-         std::initializer_list<Control*>{&cboVehNo, &cboCat, &cboPay, &txtHt, &dtDate, &OKButton, &cmdCancel})
+    for (Control* control : std::initializer_list<Control*>{&bills.cboVehNo, &cboCat, &cboPay, &txtHt, &dtDate, &chkRev,
+                                                            &OKButton, &cmdCancel})
         control->setEnabled(entering);
     cmdAdd.setEnabled(!entering);
     if (!entering)
         cmdAdd.setFocus();
-    cmdInv.setEnabled(true);
+    bills.get.setEnabled(true);
     cmdPrint.setEnabled(true);
 }
 
 void frmReceiptTemp::cmdInv_Click() {
-    cboVehNo.clear();
-    cboVehNo.addItem({});
+    bills.cboVehNo.clear();
+    bills.cboVehNo.addItem({});
     Connection connection = program.openBilling();
-    Recordset bills(connection,
-                    Sql("select distinct billno,fullname from qryBillingBalanceDueForPrivate  where  date between '")
-                        << DTPicker1.date() << "' and '" << DTPicker2.date() << "' order by fullname");
-    for (; !bills.eof(); bills.moveNext())
-        cboVehNo.addItem(bills.text("fullname") + " [" + bills.text("billno") + "]");
+    Recordset due(connection,
+                  Sql("select distinct billno,fullname from qryBillingBalanceDueForPrivate  where  date between '")
+                      << bills.DTPicker1.date() << "' and '" << bills.DTPicker2.date() << "' order by fullname");
+    for (; !due.eof(); due.moveNext()) {
+        const ListedVisit visit{.consultID = due.text("billno"), .pno = {}, .patient = due.text("fullname")};
+        bills.cboVehNo.addItem(visit.patient + " [" + visit.consultID + "]", QVariant::fromValue(visit));
+    }
 }
 
 void frmReceiptTemp::cboVehNo_Click() {
-    if (m_reversal || cboVehNo.listIndex() < 0)
+    if (isReversal() || bills.cboVehNo.listIndex() < 0)
         return;
-    const ListEntry entry = readListEntry(cboVehNo.text());
-    if (entry.number.isEmpty()) {
+    const auto visit = bills.cboVehNo.picked<ListedVisit>();
+    if (!visit) {
         session.gConsultID.clear();
         clearBill();
         program.box("No Consultation No");
         return;
     }
-    session.gConsultID = entry.number;
-    Label5.setText(entry.name);
-    loadBillFigures();
-    loadGrid(false);
+    session.gConsultID = visit->consultID;
+    Label5.setText(visit->patient);
+    loadBill(visit->consultID);
+    loadGrid(Sql("where BillNo='") << visit->consultID << "' order by ReceiptNo desc");
 }
 
-/// The figures of the bill in session.gConsultID. One that is not due any more is no bill to receive money for.
-void frmReceiptTemp::loadBillFigures() {
+/// The figures of a bill. One that is not due any more is no bill to receive money for.
+void frmReceiptTemp::loadBill(const QString& billNo) {
     clearBill();
     txtBill.setText("0");
-    QString billNo, pno;
-    {
-        Connection connection = program.openBilling();
-        const Recordset bill(connection,
-                             Sql("select distinct Date,billno,pno,amountbilled,currentDebt,prevDebt,AmountPaid from "
-                                 "qryBillingBalanceDueForPrivate where billno='")
-                                 << session.gConsultID << "'");
-        if (!bill.eof()) {
-            billNo = bill.text("billno");
-            pno = bill.text("pno");
-            txtBill.setText(billNo);
-            lblDate.setText(bill.date("Date").toString("dd/MM/yyyy"));
-            lblCurr.setText(formatTwoDecimals(bill.number("amountbilled")));
-        }
-        txtDiag.setText(diagnosisOfVisit(connection, session.gConsultID));
-        lblClinic2.setText(clinicOfVisit(connection, session.gConsultID));
+    Connection connection = program.openBilling();
+    const Recordset bill(connection,
+                         Sql("select distinct Date,billno,pno,amountbilled,currentDebt,prevDebt,AmountPaid from "
+                             "qryBillingBalanceDueForPrivate where billno='")
+                             << billNo << "'");
+    if (!bill.eof()) {
+        txtBill.setText(bill.text("billno"));
+        lblDate.setText(bill.date("Date").toString("dd/MM/yyyy"));
+        lblCurr.setText(formatTwoDecimals(bill.number("amountbilled")));
     }
-    const double paid = refreshBillAmountPaid(program, session.gConsultID);
+    txtDiag.setText(diagnosisOfVisit(connection, billNo));
+    lblClinic2.setText(clinicOfVisit(connection, billNo));
+    // In the gate, or a receipt of another workstation could come between the sum and the bill.
+    const double paid = *program.desk().save<double>(
+        "REFRESH", [&](Books& books) -> Given<double> { return refreshBillAmountPaid(books, billNo); });
     lblDep.setText(formatTwoDecimals(paid));
-    txtEmp.setText(formatTwoDecimals(parseAmount(lblCurr.text()).value_or(0) - paid));
+    txtEmp.setText(formatTwoDecimals((bill.eof() ? 0 : bill.number("amountbilled")) - paid));
     // Only now: a bill that a fault left half read takes no money.
-    m_billNo = billNo;
-    m_pno = pno;
+    if (bill.eof())
+        return;
+    m_billNo = bill.text("billno");
+    m_pno = bill.text("pno");
 }
 
 void frmReceiptTemp::clearBill() {
@@ -152,21 +140,26 @@ void frmReceiptTemp::clearBill() {
         box->clear();
 }
 
-void frmReceiptTemp::loadGrid(bool all) {
-    Sql sql("SELECT ReceiptDate, Fullname,AmountBilled, AmountPaid,(AmountBilled-AmountPaid) as AmountDue, PaymentFor, "
-            "ReceiptNo, "
-            "BillNO,retainName as Company,pno as PatNo From qryPayments ");
-    if (all)
-        sql << "where ReceiptDate='" << session.gServerDate << "' order by fullname";
-    else
-        sql << "where BillNo='" << session.gConsultID << "' order by ReceiptNo desc";
+/// The receipts that the end of the statement names; each with its key, for two paper receipts may bear one number.
+void frmReceiptTemp::loadGrid(const Sql& which) {
     Connection connection = program.openBilling();
-    grdData.load(Recordset(connection, sql));
+    grdData.load(Recordset(
+        connection, Sql("SELECT ReceiptDate, Fullname,AmountBilled, AmountPaid,(AmountBilled-AmountPaid) as AmountDue, "
+                        "PaymentFor, ReceiptNo, BillNO,retainName as Company,pno as PatNo,SNo From qryPayments ")
+                        << which));
+}
+
+void frmReceiptTemp::loadToday() {
+    loadGrid(Sql("where ReceiptDate='") << session.gServerDate << "' order by fullname");
 }
 
 void frmReceiptTemp::chkRev_Click() {
-    if (chkRev.isChecked() && cboVehNo.text().isEmpty())
+    if (chkRev.isChecked() && bills.cboVehNo.text().isEmpty())
         program.box("No Patient is selected");
+}
+
+void frmReceiptTemp::txtHt_Change() {
+    showAmountInWords(txtHt, txtDuty);
 }
 
 void frmReceiptTemp::cmdAdd_Click() {
@@ -174,7 +167,7 @@ void frmReceiptTemp::cmdAdd_Click() {
     cmdInv_Click();
     chkRev.setChecked(false);
     lblRct.setText(numberToCome);
-    cboVehNo.setFocus();
+    bills.cboVehNo.setFocus();
 }
 
 void frmReceiptTemp::cmdCancel_Click() {
@@ -184,19 +177,17 @@ void frmReceiptTemp::cmdCancel_Click() {
 
 void frmReceiptTemp::resetFields() {
     // The date of a reversed receipt must not become that of the next one.
-    if (m_reversal)
+    if (isReversal())
         dtDate.setDate(session.gServerDate);
-    m_reversal = false;
     m_reversedNo.clear();
     clearBill();
-    cboVehNo.setListIndex(-1);
+    bills.cboVehNo.setListIndex(-1);
     cboPay.setListIndex(-1);
     cboCat.setText("GOODS PURCHASED");
     txtHt.clear();
     txtDuty.clear();
     lblRct.clear();
     chkRev.setChecked(false);
-    chkRev.setEnabled(false);
     Label5.setText("Receipt Information");
 }
 
@@ -207,29 +198,20 @@ void frmReceiptTemp::cmdPrint_Click() {
         program.box("Save Receipt Information before printing");
         return;
     }
-    showCashReceipt(program, number);
+    showCashReceipt(program, number, qlonglong(grdData.number("SNo")));
     cmdPrint.setEnabled(false);
 }
 
 void frmReceiptTemp::cmdRev_Click() {
-    if (!mayReverse()) {
-        program.box("You dont have Permission to Reverse a Receipt Entry");
+    if (!passes({{!mayReverse(), "You dont have Permission to Reverse a Receipt Entry"},
+                 {grdData.number("AmountPaid") < 0, "Cannot Reverse a Reversed Entry"},
+                 {grdData.text("receiptNo").isEmpty(), noRecord}}))
         return;
-    }
-    if (grdData.number("AmountPaid") < 0) {
-        program.box("Cannot Reverse a Reversed Entry");
-        return;
-    }
-    if (grdData.text("receiptNo").isEmpty()) {
-        program.box("No Record is selected in the Grid");
-        return;
-    }
     resetFields();
-    m_reversal = true;
+    m_reversedNo = grdData.text("receiptNo");
     setEntry(true);
-    chkRev.setEnabled(true);
     fillReversal();
-    for (Control* control : std::initializer_list<Control*>{&cboCat, &cboPay, &txtHt, &cboVehNo, &cmdInv})
+    for (Control* control : std::initializer_list<Control*>{&cboCat, &cboPay, &txtHt, &bills.cboVehNo, &bills.get})
         control->setEnabled(false);
 }
 
@@ -242,23 +224,97 @@ bool frmReceiptTemp::mayReverse() {
 
 /// The opposite of the receipt that is selected in the grid, always in cash.
 void frmReceiptTemp::fillReversal() {
-    session.gConsultID = grdData.text("billno");
-    loadBillFigures();
-    m_reversedNo = grdData.text("receiptNo");
-    m_billNo = session.gConsultID;
+    const QString billNo = grdData.text("billno");
+    session.gConsultID = billNo;
+    loadBill(billNo);
+    m_billNo = billNo;
     m_pno = grdData.text("patNo");
     // The number is formed inside the save; until then the same mark as on a new receipt stands for it.
     lblRct.setText(numberToCome);
-    txtBill.setText(m_billNo);
+    txtBill.setText(billNo);
     dtDate.setDate(grdData.date("receiptDate"));
     txtEmp.setText(formatTwoDecimals(0 - grdData.number("AmountBilled")));
     txtHt.setText(formatTwoDecimals(0 - grdData.number("AmountPaid")));
-    cboCat.setText("REVERSAL for RctNo: " + m_reversedNo);
+    cboCat.setText(reversalPurpose(m_reversedNo));
     cboPay.setText("CASH");
     const QString name = grdData.text("Fullname");
-    cboVehNo.addItem(name + " [" + m_billNo + ']');
-    cboVehNo.setListIndex(cboVehNo.count() - 1);
+    bills.cboVehNo.addItem(name + " [" + billNo + ']');
+    bills.cboVehNo.setListIndex(bills.cboVehNo.count() - 1);
     Label5.setText(name);
+}
+
+bool frmReceiptTemp::isComplete() {
+    const bool overpaid = parseAmount(txtEmp.text()).value_or(0) < 0;
+    // A name that was typed and not picked is no bill to credit.
+    const bool hasCustomer = bills.cboVehNo.listIndex() >= 0 && !m_billNo.isEmpty();
+    return passes({{lblRct.text().isEmpty(), "Receipt No Required"},
+                   {txtHt.text().trimmed().isEmpty(), "Please enter Amount Paid", &txtHt},
+                   {overpaid && !chkRev.isChecked(),
+                    "Receipt cannot be Issued!!! Tick Reversal Checkbox to Reverse OR Customer Qualifies for REFUND"},
+                   {!hasCustomer, "Please enter Customer Name", &bills.cboVehNo},
+                   {cboCat.text().isEmpty(), "Please enter Payment Purpose", &cboCat},
+                   {cboPay.text().isEmpty(), "Please enter Payment type", &cboPay},
+                   {isReversal() && !chkRev.isChecked(), "Please tick the reversal Checkbox"},
+                   // Money goes back only by the reversal of a receipt: neither the tick alone nor a minus is one.
+                   {!isReversal() && chkRev.isChecked(), noRecord, &grdData},
+                   {!isReversal() && !statesNaira(txtHt), "Please enter Amount Paid", &txtHt},
+                   // A receipt without a date would be in no day's cash.
+                   {dtDate.isEmpty(), "Please enter Receipt Date", &dtDate}});
+}
+
+void frmReceiptTemp::OKButton_Click() {
+    save<QString>({.button = OKButton,
+                   .action = isReversal() ? "REVERSAL" : "RECEIPT",
+                   .allowed = [this] { return isComplete(); },
+                   .question = "Are you sure to save?",
+                   .title = "About to save",
+                   .prepare =
+                       [this] {
+                           session.gConsultID = m_billNo;
+                           return true;
+                       },
+                   .step = [this](Books& books) { return saveEntry(books); },
+                   .follow = [this](const QString& receiptNo) { showSaved(receiptNo); },
+                   .refused = [this](Refusal refusal) { refuse(refusal); }});
+}
+
+Given<QString> frmReceiptTemp::saveEntry(Books& books) const {
+    if (isReversal())
+        return reverseReceipt(books, {.receiptNo = m_reversedNo,
+                                      .billNo = m_billNo,
+                                      .pno = m_pno,
+                                      .customer = bills.cboVehNo.text(),
+                                      .date = dtDate.date(),
+                                      .billed = 0 - nairaIn(txtEmp),
+                                      .paid = 0 - nairaIn(txtHt),
+                                      .words = txtDuty.text()});
+    return takeReceipt(books, {.billNo = m_billNo,
+                               .pno = m_pno,
+                               .customer = bills.cboVehNo.text(),
+                               .date = dtDate.date(),
+                               .amount = nairaIn(txtHt),
+                               .due = nairaIn(txtEmp),
+                               .words = txtDuty.text(),
+                               .purpose = cboCat.text(),
+                               .payType = cboPay.text()});
+}
+
+void frmReceiptTemp::showSaved(const QString& receiptNo) {
+    const bool wasReversal = isReversal();
+    // At once, so that no fault in what follows leaves an entry that could be saved again.
+    resetFields();
+    setEntry(false);
+    program.box("Record Succesfully saved");
+    if (!wasReversal)
+        showCashReceipt(program, receiptNo);
+    loadToday();
+    grdData.selectRow(grdData.findRow("ReceiptNo", receiptNo));
+}
+
+/// Only the number can be missing; the screen that asked for it closes.
+void frmReceiptTemp::refuse(Refusal refusal) {
+    program.box(refusalText(refusal));
+    unload();
 }
 
 } // namespace orvane

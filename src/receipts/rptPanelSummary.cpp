@@ -1,16 +1,10 @@
 #include "receipts/rptPanelSummary.h"
 
-#include "receipts/ListEntry.h"
 #include "receipts/frmCashReceipt.h"
 
 namespace orvane {
 
-rptPanelSummary::rptPanelSummary(Program& owner) : Screen(owner, "rptPanelSummary", "Print Receipt") {
-    cmdInv.onClick = [this] { cmdInv_Click(); };
-    cboVehNo.onClick = [this] { cboVehNo_Click(); };
-    OKButton.onClick = [this] { OKButton_Click(); };
-    CancelButton.onClick = [this] { unload(); };
-}
+rptPanelSummary::rptPanelSummary(Program& owner) : Screen(owner, "rptPanelSummary", "Print Receipt") {}
 
 Layout rptPanelSummary::layout() const {
     using namespace orvane::layout;
@@ -45,39 +39,43 @@ void rptPanelSummary::cmdInv_Click() {
     cboVehNo.setFocus();
 }
 
+/// With the key of each: two paper receipts may bear one number.
 void rptPanelSummary::listReceipts() {
     Connection connection = program.openBilling();
-    for (Recordset receipts(connection,
-                            Sql("select distinct receiptNo,fullname,retainName,receiptDate as date from qrypayments "
-                                "where receiptdate between '")
-                                << DTPicker1.date() << "' AND '" << DTPicker2.date() << "' order by fullname");
-         !receipts.eof(); receipts.moveNext())
+    const Sql sql =
+        Sql("select distinct receiptNo,fullname,retainName,receiptDate as date,SNo from qrypayments where receiptdate "
+            "between '")
+        << DTPicker1.date() << "' AND '" << DTPicker2.date() << "' order by fullname";
+    for (Recordset receipts(connection, sql); !receipts.eof(); receipts.moveNext()) {
+        const Entry receipt{receipts.text("receiptNo"), receipts.integer("SNo")};
         cboVehNo.addItem(receipts.text("fullname") + ' ' + receipts.text("retainName") + " @" +
-                         receipts.date("date").toString("dd/MM/yyyy") + " [" + receipts.text("receiptNo") + ']');
+                             receipts.date("date").toString("dd/MM/yyyy") + " [" + receipt.number + ']',
+                         QVariant::fromValue(receipt));
+    }
 }
 
 void rptPanelSummary::listClients() {
     Connection connection = program.openBilling();
-    for (Recordset clients(connection, Sql("select RetainCode,ClientName from vwhretainership order by ClientName"));
-         !clients.eof(); clients.moveNext())
-        cboVehNo.addItem(clients.text("ClientName") + " [" + clients.text("RetainCode") + ']');
+    const Sql sql("select RetainCode,ClientName from vwhretainership order by ClientName");
+    for (Recordset clients(connection, sql); !clients.eof(); clients.moveNext()) {
+        const Entry client{clients.text("RetainCode")};
+        cboVehNo.addItem(clients.text("ClientName") + " [" + client.number + ']', QVariant::fromValue(client));
+    }
 }
 
 void rptPanelSummary::cboVehNo_Click() {
-    session.sWorkPno = readListEntry(cboVehNo.text()).number;
+    session.sWorkPno = cboVehNo.picked<Entry>().value_or(Entry()).number;
 }
 
 void rptPanelSummary::OKButton_Click() {
-    if (cboVehNo.listIndex() < 0) {
-        program.box("Please " + lblPanel.text());
-        cboVehNo.setFocus();
+    const auto picked = cboVehNo.picked<Entry>();
+    if (!passes({{!picked, "Please " + lblPanel.text(), &cboVehNo}}))
         return;
-    }
-    cboVehNo_Click(); // another screen may have worked on another number meanwhile
+    session.sWorkPno = picked->number; // another screen may have worked on another number meanwhile
     if (showsClients())
         program.open("FrmProcessedBill");
     else
-        showCashReceipt(program, session.sWorkPno);
+        showCashReceipt(program, picked->number, picked->sno);
 }
 
 } // namespace orvane

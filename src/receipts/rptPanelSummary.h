@@ -10,14 +10,6 @@ class rptPanelSummary : public Screen {
 public:
     explicit rptPanelSummary(Program& program);
 
-    DatePicker DTPicker1{*this, "DTPicker1"};
-    DatePicker DTPicker2{*this, "DTPicker2"};
-    Button cmdInv{*this, "cmdInv", "&Get Rct No"};
-    Label lblPanel{*this, "lblPanel"}; ///< what the user is to pick
-    ComboBox cboVehNo{*this, "cboVehNo"};
-    Button CancelButton{*this, "CancelButton", "E&xit"};
-    Button OKButton{*this, "OKButton", "&Display Receipt"};
-
     Layout layout() const override;
     void Form_Load() override;
     Button* defaultButton() override { return &OKButton; }
@@ -30,6 +22,21 @@ private:
     void listClients();
     void cboVehNo_Click();
     void OKButton_Click();
+
+    /// What an entry stands for: the number of a receipt with its key, or the code of a client.
+    struct Entry {
+        QString number;
+        qlonglong sno = 0;
+    };
+
+    using Me = rptPanelSummary;
+    DatePicker DTPicker1{*this, "DTPicker1"};
+    DatePicker DTPicker2{*this, "DTPicker2"};
+    Button cmdInv{*this, "cmdInv", "&Get Rct No", &Me::cmdInv_Click};
+    Label lblPanel{*this, "lblPanel"}; ///< what the user is to pick
+    ComboBox cboVehNo{*this, "cboVehNo", ComboBox::FreeText, &Me::cboVehNo_Click};
+    Button CancelButton{*this, "CancelButton", "E&xit", &Me::unload};
+    Button OKButton{*this, "OKButton", "&Display Receipt", &Me::OKButton_Click};
 };
 
 } // namespace orvane

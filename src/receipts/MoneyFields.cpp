@@ -1,4 +1,4 @@
-#include "receipts/AmountInWords.h"
+#include "receipts/MoneyFields.h"
 
 #include "books/Words.h"
 #include "data/words/Money.h"
@@ -6,6 +6,14 @@
 #include <cmath>
 
 namespace orvane {
+
+double nairaIn(const TextBox& field) {
+    return round2(parseAmount(field.text()).value_or(0));
+}
+
+bool statesNaira(const TextBox& field) {
+    return parseAmount(field.text()).value_or(-1) >= 0;
+}
 
 void showAmountInWords(const TextBox& amount, TextBox& words) {
     if (amount.text().isEmpty())

@@ -1,4 +1,4 @@
-#include "receipts/VisitFacts.h"
+#include "books/VisitFacts.h"
 
 namespace orvane {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Program.h"
+#include "data/rows/Recordset.h"
 
 namespace orvane {
 

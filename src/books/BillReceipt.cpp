@@ -1,0 +1,73 @@
+#include "books/BillReceipt.h"
+
+#include "books/Bill.h"
+#include "books/PatientAccount.h"
+#include "books/Receipt.h"
+#include "books/ReceiptNumber.h"
+#include "data/words/Money.h"
+
+namespace orvane {
+
+namespace {
+
+const QString clinic = "SALES"; ///< of every receipt against a bill
+
+/// Writes the receipt under the next number. `audited`: the action in the audit trail.
+Given<QString> enter(Books& books, Receipt receipt, const QString& audited) {
+    const Given<ReceiptNumber> next = generatedReceiptNumber(books.connection);
+    if (!next)
+        return next.refusal();
+    receipt.receiptNo = next->number;
+    addReceipt(books, receipt);
+    postPatientTran(books, {.pno = receipt.pno,
+                            .billNo = receipt.billNo,
+                            .amount = receipt.amountPaid,
+                            .clientCode = books.settings().privateClient,
+                            .remarks = "Payment"});
+    books.audit({audited, receipt.billNo, formatTwoDecimals(receipt.amountPaid)});
+    payBill(books, receipt.billNo, receipt.amountPaid);
+    books.record(receipt.receiptNo, receipt.amountPaid);
+    return receipt.receiptNo;
+}
+
+} // namespace
+
+Given<QString> takeReceipt(Books& books, const BillReceipt& receipt) {
+    ORVANE_ASSERT(receipt.amount >= 0);
+    return enter(books,
+                 {.date = receipt.date,
+                  .receiptNo = {},
+                  .clinicID = clinic,
+                  .billNo = receipt.billNo,
+                  .pno = receipt.pno,
+                  .purpose = receipt.purpose,
+                  .amountBilled = receipt.due,
+                  .amountPaid = receipt.amount,
+                  .words = receipt.words,
+                  .payType = receipt.payType,
+                  .remarks = "PAYMENT"},
+                 "insert Payment for: " + receipt.customer);
+}
+
+Given<QString> reverseReceipt(Books& books, const Reversal& reversal) {
+    const QString purpose = reversalPurpose(reversal.receiptNo);
+    return enter(books,
+                 {.date = reversal.date,
+                  .receiptNo = {},
+                  .clinicID = clinic,
+                  .billNo = reversal.billNo,
+                  .pno = reversal.pno,
+                  .purpose = purpose,
+                  .amountBilled = 0 - reversal.billed,
+                  .amountPaid = 0 - reversal.paid,
+                  .words = reversal.words,
+                  .payType = "CASH",
+                  .remarks = purpose},
+                 "Reversal Entry (Payment) for: " + reversal.customer);
+}
+
+QString reversalPurpose(const QString& receiptNo) {
+    return "REVERSAL for RctNo: " + receiptNo;
+}
+
+} // namespace orvane
