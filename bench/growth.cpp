@@ -32,7 +32,7 @@ Form& opened(Site& site, const char* name) {
     return site.program.form(name);
 }
 
-ReceiptNumber receiptNumber(Site& site, ReceiptForm form, const QString& key = {}) {
+FormedNumber receiptNumber(Site& site, ReceiptForm form, const QString& key = {}) {
     Connection billing = site.program.openBilling();
     return formReceiptNumber(site.program, billing, form, key);
 }
