@@ -1,6 +1,5 @@
 #include "bench/Road.h"
 
-#include "demo/Hand.h"
 #include "support/Hospital.h"
 
 namespace orvane {
@@ -46,42 +45,32 @@ QVector<RoadPatient> Road::patients(int count) {
 }
 
 void Road::walk(const RoadPatient& patient) {
+    Program& program = m_site.program;
     const QString visit = attend(patient);
-    deposit(visit);
+    press("deposit", enterDeposit(program, visit, "500.50"), "OKButton");
+    takeReceipt(program);
     seeDoctor(patient, visit);
-    loadBill(visit);
-    saveBill();
-    receive(visit);
-    reverse();
+    Hand bill = findBill(program, visit);
+    press("load of the bill", bill, "cmdOK");
+    enterCash(bill, "CONSULTING AND DRUGS", "1000");
+    press("save of the bill", bill, "OKButton");
+    takeReceipt(program);
+    press("receipt", enterReceipt(program, visit, "300.50"), "OKButton", {saved});
+    takeReceipt(program);
+    // The screen leaves the saved receipt selected.
+    press("reversal", enterReversal(program), "OKButton", {saved});
     m_site.tidy();
 }
 
 QString Road::attend(const RoadPatient& patient) {
-    Hand hand(opened("frmRecordsOffline"));
-    hand.click("cmdAdd");
-    hand.type("txtName", patient.name);
-    hand.click("cmdOK");
-    hand.chooseContaining("cboVehNo", QStringLiteral("[%1]").arg(patient.number));
-    hand.choose("cboType", m_clinic);
-    hand.choose("cboClient", "CONSULTATION");
-    hand.chooseContaining("cboAppr", QStringLiteral("[%1]").arg(m_officer));
+    Hand hand = findPatient(m_site.program, patient.name, patient.number);
+    completeAttendance(hand, m_clinic, m_officer);
     m_site.ui.takeBoxes(); // an appointment of today may be announced
-    m_site.recorder.measure("attendance save", [&] { hand.click("OKButton"); });
-    expectBoxes("attendance", {saved});
+    press("attendance save", hand, "OKButton", {saved});
     Connection billing = m_site.program.openBilling();
     return firstColumn(billing, Sql("select top 1 consultID from hRecords where PNo='")
                                     << patient.number << "' order by recID desc")
         .value(0);
-}
-
-void Road::deposit(const QString& visit) {
-    Hand hand(opened("frmReceiptDeposit"));
-    hand.click("cmdAdd");
-    hand.chooseContaining("cboVehNo", visit);
-    hand.type("txtHt", "500.50");
-    m_site.recorder.measure("deposit", [&] { hand.click("OKButton"); });
-    expectBoxes("deposit", {});
-    closeReceipt();
 }
 
 /// The doctor's part and that of the outlets, which other programs of the hospital write.
@@ -95,58 +84,10 @@ void Road::seeDoctor(const RoadPatient& patient, const QString& visit) {
     transaction.commit();
 }
 
-void Road::loadBill(const QString& visit) {
-    Hand hand(opened("frmBillingVerify"));
-    hand.type("txtSearch", visit);
-    m_site.recorder.measure("load of the bill", [&] { hand.click("cmdOK"); });
-    expectBoxes("load of the bill", {});
-}
-
-void Road::saveBill() {
-    Hand hand(m_site.program.form("frmBillingVerify"));
-    hand.tick("chkRct");
-    hand.choose("cboPayFor", "CONSULTING AND DRUGS");
-    hand.type("txtAmt(0)", "1000");
-    m_site.recorder.measure("save of the bill", [&] { hand.click("OKButton"); });
-    expectBoxes("save of the bill", {});
-    closeReceipt();
-}
-
-void Road::receive(const QString& visit) {
-    Hand hand(opened("frmReceiptTemp"));
-    hand.click("cmdAdd");
-    hand.chooseContaining("cboVehNo", visit);
-    hand.choose("cboPay", "CASH");
-    hand.type("txtHt", "300.50");
-    m_site.recorder.measure("receipt", [&] { hand.click("OKButton"); });
-    expectBoxes("receipt", {saved});
-    closeReceipt();
-}
-
-/// The screen leaves the saved receipt selected.
-void Road::reverse() {
-    Hand hand(m_site.program.form("frmReceiptTemp"));
-    hand.click("cmdRev");
-    hand.tick("chkRev");
-    m_site.recorder.measure("reversal", [&] { hand.click("OKButton"); });
-    expectBoxes("reversal", {saved});
-}
-
-Form& Road::opened(const QString& name) {
-    m_site.program.open(name);
-    return m_site.program.form(name);
-}
-
-void Road::closeReceipt() {
-    Form* receipt = m_site.program.loadedForm("frmCashReceipt");
-    if (!receipt)
-        throw DataError("No receipt came up.");
-    receipt->abandon();
-}
-
-void Road::expectBoxes(const QString& step, const QStringList& expected) {
-    if (const QStringList boxes = m_site.ui.takeBoxes(); boxes != expected)
-        throw DataError(QStringLiteral("%1: %2").arg(step, boxes.join(" / ")));
+void Road::press(const QString& action, Hand hand, const QString& button, const QStringList& boxes) {
+    m_site.recorder.measure(action, [&] { hand.click(button); });
+    if (const QStringList shown = m_site.ui.takeBoxes(); shown != boxes)
+        throw DataError(action + ": " + shown.join(" / "));
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bench/Site.h"
+#include "support/Entries.h"
 
 namespace orvane {
 
@@ -26,16 +27,9 @@ public:
 
 private:
     QString attend(const RoadPatient& patient);
-    void deposit(const QString& visit);
     void seeDoctor(const RoadPatient& patient, const QString& visit);
-    void loadBill(const QString& visit);
-    void saveBill();
-    void receive(const QString& visit);
-    void reverse();
-
-    Form& opened(const QString& name);
-    void closeReceipt();
-    void expectBoxes(const QString& step, const QStringList& expected);
+    /// Measures the press, which must show these boxes.
+    void press(const QString& action, Hand hand, const QString& button, const QStringList& boxes = {});
 
     Site& m_site;
     QStringList m_items; ///< names of drugs

@@ -14,35 +14,6 @@ namespace orvane {
 
 namespace {
 
-const char* const bill = "001OFL0000001";
-
-const MoneyAction& known(const char* name) {
-    for (const MoneyAction& action : moneyActions())
-        if (QLatin1String(action.name) == QLatin1String(name))
-            return action;
-    throw std::runtime_error(name);
-}
-
-void loadBill(Workstation& ws) {
-    ws.open("frmBillingVerify");
-    ws.set("frmBillingVerify.txtSearch", bill);
-    ws.click("frmBillingVerify.cmdOK");
-}
-
-/// The adjustment stands open, so that its Save can be pressed again.
-void openAdjustment(Workstation& ws) {
-    loadBill(ws);
-    ws.program.session.lWorkSNo = ws.scalar("select SNo from BillAccum where drgName='PARACETAMOL 500MG'").toLongLong();
-    ws.open("frmPriceAdjustVerify");
-    ws.set("frmPriceAdjustVerify.txtQty", "20");
-    ws.set("frmPriceAdjustVerify.txtPrice", "40.25");
-}
-
-void enterFee(Workstation& ws) {
-    loadBill(ws);
-    ws.set("frmBillingVerify.txtProf", "10");
-}
-
 const QHash<QString, QString> iniOf(const QString& folder) {
     QFile file(folder + "/orvane.ini");
     if (!file.open(QIODevice::ReadOnly))
@@ -66,21 +37,6 @@ void redirect(const QString& folder, int port) {
 }
 
 } // namespace
-
-QList<MoneyAction> pressedActions() {
-    QList<MoneyAction> actions;
-    for (const MoneyAction& action : moneyActions())
-        if (!action.byItem && !QStringList{"Adjustment", "SaveWithoutReceipt"}.contains(action.name))
-            actions << action;
-    void (*const layBill)(Workstation&) = known("Receipt").lay;
-    actions << MoneyAction{"Adjustment", layBill, openAdjustment,
-                           [](Workstation& ws) { ws.click("frmPriceAdjustVerify.cmdSave"); },
-                           "closed frmPriceAdjustVerify"};
-    actions << MoneyAction{"Fee", layBill, enterFee, [](Workstation& ws) { ws.click("frmBillingVerify.cmdBill"); },
-                           "box 10% Prof fee of 2,000.50 Added\nProf Fee is based on Current Bill\n"
-                           "Prof Fee Charged is 200.05"};
-    return actions;
-}
 
 Beside::Beside(const QString& homeFolder) {
     static int last = 0;
@@ -152,15 +108,7 @@ Scene::Scene(Engine tested, const MoneyAction& played) : engine(tested), action(
     if (engine == Engine::Sqlite)
         disk = std::make_unique<SmallDisk>(m_home.folder() + "/data");
     m_watcherHome = std::make_unique<SecondHome>(m_home);
-    {
-        Workstation before(folder());
-        before.layHospital();
-        if (!before.start())
-            throw std::runtime_error("the program does not start");
-        action.lay(before);
-        before.ui.forgetBoxes();
-        before.ui.takeQuestions();
-    }
+    layAction(folder(), action);
     if (engine == Engine::Postgresql) {
         proxy = std::make_unique<Proxy>(iniOf(folder()).value("port").toInt());
         redirect(m_home.folder(), proxy->port());
@@ -169,7 +117,7 @@ Scene::Scene(Engine tested, const MoneyAction& played) : engine(tested), action(
     if (!ws->start())
         throw std::runtime_error("the program does not start");
     action.enter(*ws);
-    ws->ui.forgetBoxes();
+    takeShown(ws->ui);
 }
 
 Scene::~Scene() {
@@ -178,22 +126,9 @@ Scene::~Scene() {
 }
 
 Scene::Told Scene::press() {
-    ws->ui.opened.clear();
-    ws->ui.closedForms.clear();
-    action.act(*ws);
-    ws->ui.forgetAnswers(); // a fault or an open save comes before the question
-    ws->ui.takeQuestions();
-    Told told;
-    told.boxes = ws->ui.takeBoxes();
-    QStringList shown;
-    for (const QString& text : told.boxes)
-        shown << "box " + text;
-    for (const QString& form : ws->ui.opened)
-        shown << "opened " + form;
-    for (const QString& form : ws->ui.closedForms)
-        shown << "closed " + form;
-    told.reported = shown.contains(QLatin1String(action.report));
-    return told;
+    action.press(*ws);
+    const QStringList shown = takeShown(ws->ui);
+    return {shown.filter("box ").replaceInStrings(QRegularExpression("^box "), QString()), action.isReportedBy(shown)};
 }
 
 QString Scene::figures() {

@@ -7,9 +7,6 @@
 
 namespace orvane {
 
-/// The actions of the tests: those that move money, each as one press that can be repeated.
-QList<MoneyAction> pressedActions();
-
 /// A session on a test's billing database beside the program, in the engine's own words.
 class Beside {
 public:

@@ -3,6 +3,7 @@
 #include "PrivateServer.h"
 #include "Scene.h"
 
+#include <QRegularExpression>
 #include <csignal>
 #include <sys/resource.h>
 
@@ -139,28 +140,43 @@ void PrintTo(const Case& one, std::ostream* out) {
     *out << caseName(one);
 }
 
-/// On a server every database costs seconds, so five actions meet all faults there and each ending is seen on one;
+/// Their saves do not go through Screen::save yet.
+const QStringList untilMerged = {"ClientMove",       "Approval", "DrugPrice", "FeeForService",
+                                 "AttendanceDelete", "User",     "Role",      "RoleOfUser"};
+
+/// They add no row yet, so the proxy does not know their commit from one that takes a number.
+const QStringList untilMergedOnServer = {"SaveWithoutReceipt", "Split", "AttendanceEdit"};
+
+/// All but the collation, which saves item by item.
+QList<MoneyAction> pressedActions() {
+    QList<MoneyAction> actions;
+    for (const MoneyAction& action : moneyActions())
+        if (QLatin1String(action.name) != QLatin1String("Collation") && !untilMerged.contains(action.name))
+            actions << action;
+    return actions;
+}
+
+/// On a server every database costs seconds, so five actions meet all faults there and the others one ending in turn;
 /// ORVANE_PROOF_ALL=1 takes the time for all of them.
 QList<Case> cases() {
     QList<Case> list;
     const bool all = qEnvironmentVariableIsSet("ORVANE_PROOF_ALL");
     const bool server = testEngines().contains(Engine::Postgresql);
+    const QStringList inFull = {"Attendance", "SaveWithReceipt", "Receipt", "Reversal", "Deposit"};
+    const Ending endings[] = {Ending::Late, Ending::OnTheWay, Ending::ServerStopped, Ending::ServerForgot,
+                              Ending::Closed, Ending::AnswerLost};
+    qsizetype turn = 0;
     for (const MoneyAction& action : pressedActions()) {
-        const auto isNamed = [&](const char* name) { return QLatin1String(action.name) == QLatin1String(name); };
         list << Case{Engine::Sqlite, action, Ending::Press, true};
-        if (!server)
+        if (!server || untilMergedOnServer.contains(action.name))
             continue;
-        const QStringList inShort = {"Attendance", "SaveWithReceipt", "Receipt", "Reversal", "Deposit"};
-        if (all || inShort.contains(action.name))
+        if (all || inFull.contains(action.name))
             list << Case{Engine::Postgresql, action, Ending::AnswerLost, true};
-        const std::pair<Ending, const char*> once[] = {{Ending::Late, "BillItems"},
-                                                       {Ending::OnTheWay, "Adjustment"},
-                                                       {Ending::ServerStopped, "ManualReceipt"},
-                                                       {Ending::ServerForgot, "Fee"},
-                                                       {Ending::Closed, "Discount"}};
-        for (const auto& [ending, name] : once)
-            if (all || isNamed(name))
+        if (all)
+            for (const Ending ending : endings)
                 list << Case{Engine::Postgresql, action, ending, false};
+        else if (!inFull.contains(action.name))
+            list << Case{Engine::Postgresql, action, endings[turn++ % std::size(endings)], false};
     }
     return list;
 }
@@ -344,6 +360,91 @@ TEST_P(Faults, SaveTheEntryOnceWhenTheyAreGone) {
 
 INSTANTIATE_TEST_SUITE_P(On, Faults, ::testing::ValuesIn(cases()),
                          [](const auto& instance) { return caseName(instance.param); });
+
+/// A save whose commit was not answered, seen on each action, however its user asks what became of it.
+class UnknownSave : public ::testing::TestWithParam<MoneyAction> {
+protected:
+    Scene scene{Engine::Sqlite, GetParam()};
+    Workstation& ws = *scene.ws;
+    const QString formName = QString(GetParam().button).section('.', 0, 0);
+    const QString before = scene.figures();
+    const QString after = figuresAfter(GetParam());
+
+    Form* form() { return ws.program.loadedForm(formName); }
+
+    /// The answer to the first commit of an entry is lost, and nobody can be asked, until the hook is taken away.
+    void loseAnswer() {
+        ws.program.data().setStatementHook([this](const QString& tsql) {
+            if (tsql == "begin transaction")
+                m_hasWritten = false;
+            m_hasWritten = m_hasWritten || isWrite(tsql);
+            if (tsql == "outcome of commit" || (tsql == "transaction committed" && m_hasWritten))
+                throw DataError("the cable was pulled");
+        });
+    }
+    static bool isWrite(const QString& tsql) {
+        static const QRegularExpression write("^\\s*(insert|update|delete)\\b(?!.*(IDgen|AuditTrail))",
+                                              QRegularExpression::CaseInsensitiveOption);
+        return tsql.contains(write);
+    }
+
+    /// What its user can reach: the names of the controls that are not locked.
+    QSet<QString> unlocked() {
+        QSet<QString> names;
+        for (const Control* control : form()->controls())
+            if (control->isEnabled() && control->kind() != ControlKind::Label &&
+                control->kind() != ControlKind::TabStrip)
+                names << control->name();
+        return names;
+    }
+    /// The press is not answered: all is saved, and the entry stays, locked but for the button and the way out.
+    void pressUnanswered() {
+        loseAnswer();
+        const Scene::Told told = scene.press();
+        EXPECT_TRUE(told.boxes.value(0).contains(unknown)) << told.boxes.join('\n').toStdString();
+        EXPECT_EQ(told.boxes.size(), 1);
+        EXPECT_FALSE(told.reported);
+        ASSERT_NE(form(), nullptr);
+        QSet<QString> open = {QString(GetParam().button).section('.', 1)};
+        if (const Button* cancel = form()->cancelButton(); cancel && cancel->isEnabled())
+            open << cancel->name();
+        EXPECT_EQ(unlocked(), open);
+        EXPECT_NE(scene.figures(), before);
+    }
+    void expectSavedOnce(const Scene::Told& told) {
+        EXPECT_EQ(told.boxes.value(0), wasSaved);
+        if (*GetParam().report)
+            EXPECT_TRUE(told.reported) << told.boxes.join('\n').toStdString();
+        else
+            EXPECT_EQ(told.boxes.size(), 1);
+        EXPECT_EQ(scene.figures(), after);
+        EXPECT_EQ(scene.findings(), QStringList());
+    }
+
+private:
+    bool m_hasWritten = false;
+};
+
+INSTANTIATE_TEST_SUITE_P(On, UnknownSave, ::testing::ValuesIn(pressedActions()),
+                         [](const auto& instance) { return instance.param.name; });
+
+TEST_P(UnknownSave, IsLookedUpByTheNextPress) {
+    ASSERT_NO_FATAL_FAILURE(pressUnanswered());
+    const QSet<QString> locked = unlocked();
+    EXPECT_TRUE(scene.press().boxes.join('\n').contains(stillUnknown));
+    EXPECT_EQ(unlocked(), locked);
+    ws.program.data().setStatementHook({});
+    expectSavedOnce(scene.press());
+    EXPECT_TRUE(!form() || unlocked().size() > locked.size()) << "the screen can be worked on again";
+}
+
+TEST_P(UnknownSave, IsToldToWhoeverClosesTheScreen) {
+    ASSERT_NO_FATAL_FAILURE(pressUnanswered());
+    ws.program.data().setStatementHook({});
+    ws.close(formName);
+    const QStringList shown = takeShown(ws.ui);
+    expectSavedOnce({shown.filter("box ").replaceInStrings("box ", ""), GetParam().isReportedBy(shown)});
+}
 
 } // namespace
 

@@ -1,10 +1,10 @@
 #include "Worker.h"
 
 #include "data/engine/Physical.h"
-#include "demo/Hand.h"
 #include "demo/QuietUi.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
+#include "support/Entries.h"
 #include "support/Hospital.h"
 
 #include <QTextStream>
@@ -17,6 +17,10 @@ namespace {
 
 const QString saved = "Record Succesfully saved";
 const QString attendedAlready = "Patient Attendance already entered!!! Duplicate not allowed";
+
+QString naira(double amount) {
+    return QString::number(amount, 'f', 2);
+}
 
 /// A box that no step allows: the save did not come to its end.
 struct Refusal {
@@ -128,7 +132,7 @@ private:
     }
 
     void tellReceipt(const char* kind, const QString& number, const QString& bill, double amount) {
-        tell({kind, number, bill, QString::number(amount, 'f', 2)});
+        tell({kind, number, bill, naira(amount)});
     }
 
     void expectBoxes(const QString& step, const QStringList& expected) {
@@ -136,31 +140,11 @@ private:
             throw Refusal{step, boxes.join(" / ")};
     }
 
-    Form& opened(const QString& name) {
-        m_program.open(name);
-        return m_program.form(name);
-    }
-
-    /// The number on the receipt that the screen has just shown.
-    QString shownReceipt(const QString& step) {
-        Form* receipt = m_program.loadedForm("frmCashReceipt");
-        if (!receipt)
-            throw Refusal{step, "no receipt came up"};
-        const QString number = Hand(*receipt).value("txtReceiptNo");
-        receipt->abandon();
-        return number;
-    }
-
     /// Enters the next patient who has no open visit: the other workers enter the same ones. Gives the visit.
     QString attend() {
-        Form& form = opened("frmRecordsOffline");
-        Hand hand(form);
         for (int attempts = 0; attempts < 200; ++attempts) {
             const QString pno = m_field.patients.at(m_next++ % m_field.patients.size());
-            hand.click("cmdAdd");
-            hand.type("txtName", "PROOF");
-            hand.click("cmdOK");
-            hand.chooseContaining("cboVehNo", QStringLiteral("[%1]").arg(pno));
+            Hand hand = findPatient(m_program, "PROOF", pno);
             QStringList boxes = m_ui.takeBoxes();
             if (boxes.isEmpty()) {
                 const QString visit = saveVisit(hand, boxes);
@@ -180,9 +164,7 @@ private:
     }
 
     QString saveVisit(Hand& hand, QStringList& boxes) {
-        hand.choose("cboType", "OPD");
-        hand.choose("cboClient", "CONSULTATION");
-        hand.chooseContaining("cboAppr", "[E001]");
+        completeAttendance(hand);
         QString visit;
         m_ui.onBox = [&](const QString&) { visit = hand.value("lblBill"); };
         hand.click("OKButton");
@@ -192,13 +174,9 @@ private:
     }
 
     void deposit(const QString& visit, double amount) {
-        Hand hand(opened("frmReceiptDeposit"));
-        hand.click("cmdAdd");
-        hand.chooseContaining("cboVehNo", visit);
-        hand.type("txtHt", QString::number(amount, 'f', 2));
-        hand.click("OKButton");
+        enterDeposit(m_program, visit, naira(amount)).click("OKButton");
         expectBoxes("deposit", {});
-        tellReceipt("deposit", shownReceipt("deposit"), visit, amount);
+        tellReceipt("deposit", takeReceipt(m_program), visit, amount);
     }
 
     /// What an outlet has given to the patient of a visit.
@@ -206,48 +184,34 @@ private:
         Connection connection = m_program.openBilling();
         makeItem(connection,
                  {.consultID = visit, .pno = pno, .name = QStringLiteral("ITEM OF %1").arg(m_number), .price = price});
-        tell({"item", visit, QString::number(price, 'f', 2)});
+        tell({"item", visit, naira(price)});
     }
 
     /// Collates and saves a visit, with a receipt where `cash` (naira) is above 0.
     void collate(const QString& visit, double cash) {
-        const QString step = "bill";
-        Hand hand(opened("frmBillingVerify"));
-        hand.type("txtSearch", visit);
-        hand.click("cmdOK");
-        expectBoxes(step, {});
-        if (cash > 0) {
-            hand.tick("chkRct");
-            hand.choose("cboPayFor", "CONSULTING AND DRUGS");
-            hand.type("txtAmt(0)", QString::number(cash, 'f', 2));
-        }
-        hand.click("OKButton");
-        expectBoxes(step, cash > 0 ? QStringList() : QStringList{saved});
+        Hand hand = loadBill(m_program, visit);
+        expectBoxes("bill", {});
         if (cash > 0)
-            tellReceipt("paidbill", shownReceipt(step), visit, cash);
+            enterCash(hand, "CONSULTING AND DRUGS", naira(cash));
+        hand.click("OKButton");
+        expectBoxes("bill", cash > 0 ? QStringList() : QStringList{saved});
+        if (cash > 0)
+            tellReceipt("paidbill", takeReceipt(m_program), visit, cash);
         else
             tell({"bill", visit});
     }
 
     void receiveAndReverse(const QString& bill, double amount) {
-        Form& form = opened("frmReceiptTemp");
-        Hand hand(form);
-        hand.click("cmdAdd");
-        hand.chooseContaining("cboVehNo", bill);
-        hand.choose("cboPay", "CASH");
-        hand.type("txtHt", QString::number(amount, 'f', 2));
-        hand.click("OKButton");
+        enterReceipt(m_program, bill, naira(amount)).click("OKButton");
         expectBoxes("receipt", {saved});
-        const QString number = shownReceipt("receipt");
+        const QString number = takeReceipt(m_program);
         tellReceipt("receipt", number, bill, amount);
 
         // The screen leaves the saved receipt selected.
-        const auto& grid = static_cast<const Grid&>(*form.find(QStringLiteral("grdData")));
+        const auto& grid = static_cast<const Grid&>(*m_program.form("frmReceiptTemp").find("grdData"));
         if (grid.text("ReceiptNo") != number)
             throw Refusal{"reversal", "another receipt is selected"};
-        hand.click("cmdRev");
-        hand.tick("chkRev");
-        hand.click("OKButton");
+        enterReversal(m_program).click("OKButton");
         expectBoxes("reversal", {saved});
         tellReceipt("reversal", grid.text("ReceiptNo"), bill, -amount);
     }

@@ -19,29 +19,16 @@ TEST_P(Rights, AreEnoughForEveryActionThatMovesMoney) {
     for (const MoneyAction& action : moneyActions()) {
         SCOPED_TRACE(action.name);
         const TestHome home(GetParam());
-        {
-            Workstation owner(home.folder());
-            owner.layHospital();
-            ASSERT_TRUE(owner.start());
-            action.lay(owner);
-            owner.ui.forgetBoxes();
-            owner.ui.takeQuestions();
-        }
+        layAction(home.folder(), action);
         const LeastRights login(home);
         Workstation ws(home.folder());
         ASSERT_TRUE(ws.start());
         action.enter(ws);
-        ws.ui.forgetBoxes();
+        takeShown(ws.ui);
         const QString before = moneyFigures(ws);
-        action.act(ws);
-        QStringList told;
-        for (const QString& box : ws.ui.takeBoxes())
-            told << "box " + box;
-        for (const QString& form : ws.ui.opened)
-            told << "opened " + form;
-        for (const QString& form : ws.ui.closedForms)
-            told << "closed " + form;
-        EXPECT_TRUE(action.byItem || told.contains(action.report)) << told.join(" / ").toStdString();
+        action.press(ws);
+        const QStringList shown = takeShown(ws.ui);
+        EXPECT_TRUE(action.isReportedBy(shown)) << shown.join(" / ").toStdString();
         EXPECT_NE(moneyFigures(ws), before);
         EXPECT_EQ(checkDatabases(ws.program).findings, QStringList());
     }

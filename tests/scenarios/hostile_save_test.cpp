@@ -4,6 +4,7 @@
 #include "demo/Check.h"
 #include "play/ControlActs.h"
 #include "session/Screen.h"
+#include "support/Entries.h"
 #include "support/Hospital.h"
 #include "support/HostileTexts.h"
 
@@ -35,6 +36,7 @@ struct Save {
 
 class HostileSave : public ScreenWalk {
 public:
+    using ScreenWalk::program;
     void set(const QString& control, const QString& value) { setValue(driver, find(control), value); }
     void pick(const QString& control, const QString& entry) { pickEntry(driver, find(control), entry, false); }
     QString value(const QString& control) { return find(control).valueText(); }
@@ -50,10 +52,6 @@ public:
         return number;
     }
     void run(const QString& tsql) { program.openBilling().run(tsql); }
-    void loadBill(const QString& bill) {
-        set("txtSearch", bill);
-        click("cmdOK");
-    }
     /// The row that an adjustment works on.
     void takeRow(const QString& bill) {
         program.session.gConsultID = bill;
@@ -202,12 +200,7 @@ const QVector<Save>& saves() {
           {"txtRem", "select top 1 Remarks from hApprvCode order by SNO desc"}},
          "OKButton"},
         {"frmBillDiscount",
-         [](HostileSave& at) {
-             at.click("cmdInv");
-             at.pick("cboVehNo", visit);
-             at.set("cboClinic", "DISCOUNT");
-             at.set("txtHt", "0.01");
-         },
+         [](HostileSave& at) { enterDiscount(at.program, visit, "0.01"); },
          {{"cboCat", "select top 1 Remarks from billDiscounts order by SNo desc"},
           {"cboCat", "select top 1 drgName from BillingDetails order by detID desc"}},
          "OKButton"},
@@ -239,11 +232,9 @@ const QVector<Save>& saves() {
          "cmdSave"},
         {"frmBillingVerify",
          [](HostileSave& at) {
-             at.loadBill(visit);
-             at.set("chkRct", "yes");
-             at.set("cboPayFor", "DRUGS");
-             at.set("chkDep", "yes");
-             at.set("txtAmt(0)", "0.01");
+             Hand hand = loadBill(at.program, visit);
+             hand.tick("chkDep");
+             enterCash(hand, "DRUGS", "0.01");
          },
          {{"txtDiag", "select diagnosis from hRecords where consultID='001OFL0000001'", true, true},
           {"txtDiag", "select diagnosis from Billing where billNo='001OFL0000001'"},
@@ -252,37 +243,20 @@ const QVector<Save>& saves() {
           {"cboPay", "select top 1 PayType from Payments order by SNo desc"}},
          "OKButton"},
         {"frmReceiptDeposit",
-         [](HostileSave& at) {
-             const QString number = at.newVisit();
-             at.click("cmdAdd");
-             at.pick("cboVehNo", number);
-             at.set("txtHt", "1.50");
-         },
+         [](HostileSave& at) { enterDeposit(at.program, at.newVisit(), "1.50"); },
          {{"cboPayFor", "select top 1 PaymentFor from Payments order by SNo desc"},
           {"cboPay", "select top 1 PayType from Payments order by SNo desc"},
           {"txtDiag", "select top 1 diagnosis from Billing order by ID desc"}},
          "OKButton"},
         {"frmReceiptManual",
-         [](HostileSave& at) {
-             at.click("cmdAdd");
-             at.pick("cboVehNo", visit);
-             at.pick("cboReceived", "BELLO");
-             at.set("txtRct", at.serial());
-             at.set("txtBill", "2");
-             at.set("txtHt", "1");
-         },
+         [](HostileSave& at) { enterManualReceipt(at.program, visit, at.serial(), "2", "1"); },
          {{"txtRct", "select top 1 ReceiptNo from Payments order by SNo desc", true, false, "SN"},
           {"cboCat", "select top 1 PaymentFor from Payments order by SNo desc"},
           {"cboPay", "select top 1 PayType from Payments order by SNo desc"},
           {"cboClinic", "select top 1 ClinicID from Payments order by SNo desc"}},
          "OKButton"},
         {"frmReceiptTemp",
-         [](HostileSave& at) {
-             at.click("cmdAdd");
-             at.pick("cboVehNo", visit);
-             at.set("cboPay", "CASH");
-             at.set("txtHt", "0.01");
-         },
+         [](HostileSave& at) { enterReceipt(at.program, visit, "0.01"); },
          {{"cboCat", "select top 1 PaymentFor from Payments order by SNo desc"},
           {"cboPay", "select top 1 PayType from Payments order by SNo desc"}},
          "OKButton"},
@@ -338,8 +312,7 @@ TEST_P(HostileSave, IsReadBackAsItWasTypedOrRefused) {
     m_form = "frmBillingVerify";
     for (const QString& bill : {visit, companyBill}) {
         ASSERT_TRUE(opened(m_form));
-        loadBill(bill);
-        click("OKButton");
+        loadBill(program, bill).click("OKButton");
         closeAll();
     }
     for (const Save& save : saves()) {

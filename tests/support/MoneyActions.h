@@ -3,28 +3,40 @@
 #include "support/Workstation.h"
 
 #include <ostream>
-#include <span>
 
 namespace orvane {
 
-/// What a user does that moves money, up to its last step, and that step.
+/// What a user does that moves money, or what decides over it: up to the last press, and that press, which can be
+/// repeated.
 struct MoneyAction {
     const char* name;
     void (*lay)(Workstation&);   ///< rows and earlier work, once
     void (*enter)(Workstation&); ///< in a fresh program, up to the last press
-    void (*act)(Workstation&);
-    /// By which the user knows that it is saved: "box TEXT", "opened FORM" or "closed FORM".
+    const char* button;          ///< "FORM.BUTTON" of the last press
+    const char* asks;            ///< "yes": a question that is answered so; a text for an input box; empty: nothing
+    /// By which the user knows that it is saved: "box TEXT", "opened FORM" or "closed FORM". Empty: that nothing is
+    /// said.
     const char* report;
-    bool byItem = false; ///< saves item by item and reports nothing: what is missing follows the next time
+    bool brief = false; ///< killed at every third moment only, and on a server seen with one fault only
+    /// It is saved in steps, each of which stands; this does what is missing, as its user does the next time.
+    void (*complete)(Workstation&) = nullptr;
+
+    void press(Workstation& ws) const;
+    /// What these signs say to the user: it is saved.
+    bool isReportedBy(const QStringList& shown) const;
 };
 
 void PrintTo(const MoneyAction& action, std::ostream* out);
 
-/// Attendance, collation, items, save with and without receipt, receipt, reversal, deposit, manual receipt, adjustment,
-/// discount.
-std::span<const MoneyAction> moneyActions();
+const QList<MoneyAction>& moneyActions();
 
-/// What they may change, in numbers: rows and sums of every table of money, a line each.
+/// What was shown since the last look, as MoneyAction::report names it.
+QStringList takeShown(TestUi& ui);
+
+/// What the actions may change, in numbers, a line each.
 QString moneyFigures(Workstation& ws);
+
+/// Databases on which the action can be done: the test hospital, with what the action is laid on.
+void layAction(const QString& homeFolder, const MoneyAction& action);
 
 } // namespace orvane
