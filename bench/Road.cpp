@@ -1,6 +1,6 @@
 #include "bench/Road.h"
 
-#include "demo/Hand.h"
+#include "play/Hand.h"
 #include "support/Hospital.h"
 
 namespace orvane {

@@ -6,7 +6,7 @@
 #include "bench/Site.h"
 #include "billing/BillSummary.h"
 #include "billing/BillingRow.h"
-#include "demo/Hand.h"
+#include "play/Hand.h"
 #include "receipts/ReceiptNumber.h"
 
 #include <cstdio>

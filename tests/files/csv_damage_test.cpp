@@ -1,9 +1,9 @@
 // A CSV file, cut off and with bits turned over: all of its rows are there, or none and one line that says why.
 #include "Damage.h"
 #include "data/rows/Recordset.h"
-#include "demo/CsvLoad.h"
-#include "demo/Tool.h"
 #include "support/TestHome.h"
+#include "tool/CsvLoad.h"
+#include "tool/Tool.h"
 
 #include <QFile>
 #include <QTextStream>

@@ -1,8 +1,8 @@
 #include "Worker.h"
 
 #include "data/engine/Physical.h"
-#include "demo/Hand.h"
-#include "demo/QuietUi.h"
+#include "play/Hand.h"
+#include "play/QuietUi.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
 #include "support/Hospital.h"

@@ -3,7 +3,7 @@
 #include "ScreenWalk.h"
 #include "data/dialect/Catalog.h"
 #include "data/words/Money.h"
-#include "demo/Check.h"
+#include "support/Check.h"
 #include "support/HostileTexts.h"
 
 namespace orvane {

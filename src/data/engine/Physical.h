@@ -100,6 +100,7 @@ struct DataSource::Private : std::enable_shared_from_this<DataSource::Private> {
     std::atomic<qint64> statementsSent = 0;
     std::atomic<int> clockVersion = 0;
     std::atomic<bool> disposable = false; ///< commits do not wait for the disk
+    std::atomic<bool> anySchema = false;  ///< databases are opened whatever the number of their schema
     std::atomic<int> lockWait = 60000;    ///< milliseconds, of new connections
     std::atomic<int> outcomePause = 700;  ///< milliseconds between two tries to learn what became of a commit
 
@@ -138,5 +139,9 @@ void setGateForTests(bool taken);
 /// Opens a new connection; `create` makes the database where it is missing, and no schema version is asked for.
 std::shared_ptr<PhysicalConnection> openPhysical(const std::shared_ptr<DataSource::Private>& source,
                                                  const QString& connectionString, bool create);
+
+/// See DataSource::copyDatabase.
+QString copyPhysical(const std::shared_ptr<DataSource::Private>& source, const QString& connectionString,
+                     const QString& suffix);
 
 } // namespace orvane

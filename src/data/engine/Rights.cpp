@@ -28,6 +28,7 @@ constexpr TableRights billingTables[] = {
     {"BillingDetails", "insert, update, delete"},
     {"BillingDetailsAdjust", "insert"},
     {"billingPrice", ""},
+    {"ChartOfAccounts", ""},
     {"clinicTypes", ""},
     {"drugMaster", ""},
     {"DrugNHIS", "update"},
@@ -56,6 +57,7 @@ constexpr TableRights billingTables[] = {
     {"Payments", "insert"},
     {"PaymentTypes", "insert"},
     {"Roles", "insert, delete"},
+    {"SavedActions", "insert"},
     {"TariffAdjust", "insert"},
     {"Tranxaction", "insert"},
     {"UserActivities", "insert, update"},
@@ -65,6 +67,7 @@ constexpr TableRights billingTables[] = {
 
 constexpr TableRights accountingTables[] = {
     {"AccountMonth", ""},
+    {"ChartOfAccounts", ""},
     {"Tranxaction", ""},
     {"TranxactionTemp", ""},
 };
