@@ -1,7 +1,7 @@
 #include "bench/HomeCopy.h"
 
 #include "bench/PgSession.h"
-#include "demo/QuietUi.h"
+#include "play/QuietUi.h"
 #include "session/Main.h"
 
 #include <QCoreApplication>

@@ -2,7 +2,7 @@
 
 #include "bench/HomeCopy.h"
 #include "bench/Recorder.h"
-#include "demo/QuietUi.h"
+#include "play/QuietUi.h"
 
 namespace orvane {
 

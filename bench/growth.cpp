@@ -5,9 +5,9 @@
 #include "bench/Site.h"
 #include "billing/BillSummary.h"
 #include "billing/BillingRow.h"
-#include "books/Visit.h"
 #include "books/ReceiptNumber.h"
-#include "demo/Hand.h"
+#include "books/Visit.h"
+#include "play/Hand.h"
 
 #include <cstdio>
 

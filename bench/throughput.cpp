@@ -5,7 +5,7 @@
 #include "bench/PgSession.h"
 #include "bench/Recorder.h"
 #include "data/dialect/Catalog.h"
-#include "demo/Check.h"
+#include "support/Check.h"
 #include "support/Workstation.h"
 #include "tests/proof/Worker.h"
 #include "tests/proof/WorkerProcess.h"

@@ -3,8 +3,8 @@
 #include "Demand.h"
 #include "data/rows/Recordset.h"
 #include "data/rows/Schema.h"
-#include "demo/Csv.h"
-#include "demo/CsvLoad.h"
+#include "data/words/Csv.h"
+#include "tool/CsvLoad.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

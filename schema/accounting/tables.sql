@@ -56,7 +56,8 @@ create table TranxactionTemp (
     TranCat varchar(50),
     EntryDate date,
     Period varchar(20),
-    userName nvarchar(50)
+    userName nvarchar(50),
+    invNo varchar(50)
 )
 go
 -- One posting made by this program.

@@ -1,6 +1,6 @@
--- Tables of the billing database. A flag is a smallint of 0 or 1, money and quantities are float, a time of day is
--- the
--- text that the screen wrote. Statements end at a line that holds only "go".
+-- Tables of the billing database. A flag is a smallint of 0 or 1, money and quantities are float, a time of day is the
+-- text that the screen wrote. Statements end at a line that holds only "go". Each change of the schema raises its number
+-- and brings a step that makes it in a database that is there (src/data/rows/SchemaSteps.cpp).
 
 -- A start-up setting by its name.
 create table AppDefaults (
@@ -397,9 +397,9 @@ create table Billing (
     isPaid smallint not null default 0
 )
 go
--- One item on a bill. SNo is the SNo of its BillAccum row; a line that has none (a discount) takes minus its own
--- detID,
--- which no BillAccum row can bear. detID is this table's own key.
+-- One item on a bill. SNo is the SNo of its BillAccum row; a line that has none (a discount) takes minus its own detID,
+-- which no BillAccum row can bear. detID is this table's own key. Charged is what the patient's running account bears for
+-- the line, in naira; null where nobody noted it: then it is the SubTotal of a line of the private client, else nothing.
 create table BillingDetails (
     detID int identity(1,1) not null primary key,
     SNo int,
@@ -421,7 +421,8 @@ create table BillingDetails (
     treatedBy varchar(50),
     Capitated varchar(10),
     isRct smallint not null default 0,
-    isPost smallint not null default 0
+    isPost smallint not null default 0,
+    Charged float
 )
 go
 -- One change of a billed item, old and new.
@@ -477,12 +478,13 @@ create table hDebtReview (
     attendedto smallint not null default 0
 )
 go
--- A category of clients with its mark-up.
+-- A category of clients with its mark-up in percent and as a factor; it may stand for clients of several types.
 create table billingPrice (
-    clientCatID varchar(50) not null primary key,
-    clientType varchar(50),
+    clientCatID varchar(50) not null,
+    clientType varchar(50) not null default '',
     pcent float,
-    pvalue float
+    pvalue float,
+    primary key (clientCatID, clientType)
 )
 go
 -- A type of client.
@@ -741,7 +743,11 @@ create table StockItemsRetail (
     QuantityPerUnit varchar(50),
     UnitPrice float,
     UnitsInStock float,
-    Reorderlevel float
+    Reorderlevel float,
+    drgName nvarchar(200),
+    drgCatName nvarchar(100),
+    qtyPerUnit float,
+    Cost float
 )
 go
 -- One receipt of goods into the retail store.
@@ -911,13 +917,14 @@ create table hExpensePayDetails (
     isPost smallint not null default 0
 )
 go
--- The current period of the accounting database, repeated here because the start-up reads it over the billing
--- connection.
+-- The current period. Its home is the accounting database; it is repeated here (SharedTables.h) because the start-up
+-- reads it over the billing connection.
 create table AccountMonth (
     Period varchar(20) not null primary key
 )
 go
--- The chart of the accounting database, repeated here for the pick lists that read it over the billing connection.
+-- The chart of accounts. Its home is the accounting database; it is repeated here (SharedTables.h) for the pick lists,
+-- which read it over the billing connection.
 create table ChartOfAccounts (
     SNo int identity(1,1) not null primary key,
     AccountNo varchar(50) not null,
@@ -934,5 +941,26 @@ create table SavedActions (
     action nvarchar(50),
     document nvarchar(50),
     amount float
+)
+go
+-- Working tables of job lists and reports that other programs fill; this one reads them whole, if at all.
+create table Patient (
+    PNo varchar(50) not null primary key,
+    fullname nvarchar(200)
+)
+go
+create table Patients (
+    PNo varchar(50) not null primary key,
+    fullname nvarchar(200)
+)
+go
+create table billoflading (
+    BLNo varchar(50) not null primary key,
+    jobcode varchar(50)
+)
+go
+create table debitnote (
+    SNo int identity(1,1) not null primary key,
+    jobcode varchar(50)
 )
 go

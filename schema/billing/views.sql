@@ -1,6 +1,7 @@
 -- Views of the billing database. A view that is asked by a key has the table that bears the key in front and fetches
 -- sums by subqueries over an indexed column: a filter is not pushed into a grouped view on every engine.
--- "coyName" in the tables is a client's retainID; a visit that names no client is its patient's client's.
+-- "coyName" in the tables is a client's retainID; a visit that names no client is its patient's client's. A balance or
+-- debt of less than half a kobo is nothing.
 
 -- The server's clock, one row.
 create view qrySysDateTime as
@@ -33,27 +34,34 @@ go
 -- Every registered patient, for the searches by name and by number.
 create view vwhpatients as
 select p.PNo, p.OldPNo as oldPno, p.fullname as fullName, p.psurname as Surname, p.pfirstname as Firstname,
-    p.clientcatID, p.coyName as coyname, r.retainName as Company, p.DebtBF as Debt, p.sex, p.pPhoneNo, p.expirydate,
+    p.clientcatID, p.coyName as coyname, r.retainName as Company,
+    case when abs(p.DebtBF) < 0.005 then 0 else p.DebtBF end as Debt, p.sex, p.pPhoneNo, p.expirydate,
     case when p.expirydate <= cast(getdate() as date) then 1 else 0 end as expired
 from hPatients p
 left join hRetainership r on r.retainID = p.coyName
 go
 -- A patient with the balance of the account: minus is owed.
 create view qryhfullname as
-select p.PNo as pno, p.fullname, p.coyName, p.pCatID as pcatID, p.clientcatID, p.DebtBF as Debt
+select p.PNo as pno, p.fullname, p.coyName, p.pCatID as pcatID, p.clientcatID,
+    case when abs(p.DebtBF) < 0.005 then 0 else p.DebtBF end as Debt
 from hPatients p
 go
 -- A patient with the debt as a debt report shows it: plus is owed, the opposite of hPatients.DebtBF. The name is no bare
 -- column, so that a report sorts its few debtors instead of walking every patient by name.
 create view qryhFullnameHosp as
 select p.PNo, isnull(p.fullname, '') as FullName, p.clientcatID, p.coyName, r.retainName as Company, p.pPhoneNo,
-    0 - isnull(p.DebtBF, 0) as debtBF
+    case when abs(isnull(p.DebtBF, 0)) < 0.005 then 0 else 0 - p.DebtBF end as debtBF
 from hPatients p
 left join hRetainership r on r.retainID = p.coyName
 go
 -- What a patient owes (minus) or has in credit (plus).
 create view vwDebtInfoForPatUnionGrouped as
-select p.PNo as pno, p.DebtBF as Debt
+select p.PNo as pno, case when abs(p.DebtBF) < 0.005 then 0 else p.DebtBF end as Debt
+from hPatients p
+go
+-- The same for statements that know it by this name.
+create view vwDebtInfo as
+select p.PNo as pno, case when abs(p.DebtBF) < 0.005 then 0 else p.DebtBF end as debt
 from hPatients p
 go
 -- The running account with charges and money received apart.
@@ -163,7 +171,8 @@ go
 -- One row a visit that a doctor has finished with and whose bill was not saved yet.
 create view vwhConsultingVisitsForBilling as
 select h.PNo as pno, p.fullname as Fullname, h.consultID as ConsultID, h.recDate as Date, h.htime as Time,
-    r.retainName as Client, p.DebtBF as Debt, h.clinicType as Clinic, h.clientCat as ClientCatID
+    r.retainName as Client, case when abs(p.DebtBF) < 0.005 then 0 else p.DebtBF end as Debt,
+    h.clinicType as Clinic, h.clientCat as ClientCatID
 from hRecords h
 left join hPatients p on p.PNo = h.PNo
 left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
@@ -178,14 +187,15 @@ from hRecords h
 left join hPatients p on p.PNo = h.PNo
 left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
 go
--- One row a visit of a patient who is in a ward, or who has left it and whose bill was not saved yet.
+-- One row a visit of a patient who was taken into a ward, until he has left it and his bill, saved, bears that day.
 create view vwhConsultingVisitsAdmission as
 select h.recDate as Date, h.Remarks, r.retainName as coyname, h.PNo as pno, p.fullname, h.consultID
 from hRecords h
 left join hPatients p on p.PNo = h.PNo
 left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
+left join Billing b on b.billNo = h.consultID
 where exists (select a.SNo from hAdmission a where a.consultID = h.consultID and
-    (a.DischDate is null or h.BillDate is null))
+    (a.DischDate is null or h.BillDate is null or b.DischDate is null))
 go
 -- One row a visit that may need an approval code; a private patient needs none.
 create view vwhConsultingVisits as
@@ -281,6 +291,11 @@ select d.drgName as Drgname, d.drgCatName, c.catremarks, d.qtyPerUnit, d.Cost
 from drugs d
 left join drugcategories c on c.drgCatname = d.drgCatName
 go
+-- The cost of a drug, or of a fee that stands among them.
+create view qryhdrugPrice as
+select d.drgName as drgname, d.Cost as cost
+from drugs d
+go
 -- Every service.
 create view qryhServices as
 select v.SNo, v.service, v.Category, v.revType
@@ -299,6 +314,16 @@ select b.SNo, b.dtDate, b.dtDate as Date, b.consultID as ConsultID, isnull(b.PNo
     isnull(h.clientCat, '') as ClientCatID, h.referal as Referal
 from BillAccum b
 left join hRecords h on h.consultID = b.consultID
+go
+-- The items of every visit, of an outlet too.
+create view qryBillAccumAll as
+select b.SNo, b.consultID as ConsultID, b.drgName as Service, b.Price as UnitPrice, b.Qty, b.SubTotal as Subtotal,
+    isnull(b.dosage, b.usage) as Dosage, b.billType as billtype, b.conID, b.Capitated, b.coyName as CoyName,
+    b.billTo as BillTo, b.revType as RevType, b.attendedto as AttendedTo,
+    isnull(h.clientCat, isnull(q.clientCat, '')) as ClientCatID, isnull(h.referal, q.referal) as Referal
+from BillAccum b
+left join hRecords h on h.consultID = b.consultID
+left join hRecordsPublic q on q.consultID = b.consultID
 go
 -- The items of a visit as the item screens list them.
 create view qrybillAccumHome as
@@ -342,8 +367,8 @@ go
 create view vwBillingProcessDetailsGroupedVerify as
 select b.billNo as billno, b.PNo, b.Amountbilled,
     (select sum(d.SubTotal) from BillingDetails d where d.billNo = b.billNo) as SubTotal,
-    isnull(b.Amountbilled, 0)
-        - isnull((select sum(d.SubTotal) from BillingDetails d where d.billNo = b.billNo), 0) as Diff
+    case when abs(isnull(b.Amountbilled, 0) - isnull((select sum(d.SubTotal) from BillingDetails d where d.billNo = b.billNo), 0)) < 0.005
+        then 0 else isnull(b.Amountbilled, 0) - isnull((select sum(d.SubTotal) from BillingDetails d where d.billNo = b.billNo), 0) end as Diff
 from Billing b
 where exists (select d.detID from BillingDetails d where d.billNo = b.billNo)
 go
@@ -355,13 +380,15 @@ go
 create view vwbillInfo as
 select h.consultID, (select sum(a.SubTotal) from BillAccum a where a.consultID = h.consultID) as amountGen,
     isnull(b.Amountbilled, 0) as Amountbilled, isnull(b.AmountPaid, 0) as AmountPaid,
-    isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) as AmountBal
+    case when abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) < 0.005 then 0
+        else isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) end as AmountBal
 from hRecords h
 left join Billing b on b.billNo = h.consultID
 union all
 select h.consultID, (select sum(a.SubTotal) from BillAccum a where a.consultID = h.consultID) as amountGen,
     isnull(b.Amountbilled, 0) as Amountbilled, isnull(b.AmountPaid, 0) as AmountPaid,
-    isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) as AmountBal
+    case when abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) < 0.005 then 0
+        else isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) end as AmountBal
 from hRecordsPublic h
 left join Billing b on b.billNo = h.consultID
 go
@@ -377,7 +404,8 @@ create view vwBilling as
 select b.bdate as Date, b.PNo as pno,
     isnull(p.fullname, (select max(q.fullname) from hPatientsPublic q where q.PNo = b.PNo)) as Fullname,
     b.billNo as BillNo, b.Amountbilled as AmountBilled, b.AmountPaid, isnull(b.AmtBF, 0) as AmtCF,
-    isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) as Balance, b.AmountBIlledInWord as AmountBilledInWord,
+    case when abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) < 0.005 then 0
+        else isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) end as Balance, b.AmountBIlledInWord as AmountBilledInWord,
     r.retainName as CoyName, h.clientCat as clientcatID
 from Billing b
 left join hPatients p on p.PNo = b.PNo
@@ -389,15 +417,16 @@ create view qryBillingBalanceForPrivate as
 select b.billNo, b.bdate, h.recDate as Date, b.PNo, p.fullname as fullName, p.empNo, b.clientID,
     r.retainName as clientName, b.diagnosis, b.Amountbilled as AmountBilled,
     b.AmountBIlledInWord as AmountBilledInWord, b.AmountPaid, b.AmtBF, b.profFee,
-    isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) as AmountDue
+    case when abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) < 0.005 then 0
+        else isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) end as AmountDue
 from Billing b
 inner join hRecords h on h.consultID = b.billNo
 left join hPatients p on p.PNo = b.PNo
 left join hRetainership r on r.retainID = b.clientID
 where h.clientCat = 'PRIVATE'
 go
--- The bills of private visits whose billed and paid amounts differ, in either direction; less than half a kobo is
--- none.
+-- The bills of private visits whose billed and paid amounts differ, in either direction. A bill of which only the lines
+-- are there yet is one too: a receipt may be the first to save it.
 create view qryBillingBalanceDueForPrivate as
 select b.billNo, b.bdate, h.recDate as Date, b.PNo, p.fullname as fullName, b.clientID, r.retainName as clientName,
     b.diagnosis, b.Amountbilled as amountbilled, b.AmountPaid, b.AmtBF, b.profFee,
@@ -408,8 +437,25 @@ inner join hRecords h on h.consultID = b.billNo
 left join hPatients p on p.PNo = b.PNo
 left join hRetainership r on r.retainID = b.clientID
 where h.clientCat = 'PRIVATE' and abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) >= 0.005
+union all
+select h.consultID as billNo, null as bdate, h.recDate as Date, h.PNo, p.fullname as fullName, h.coyName as clientID,
+    r.retainName as clientName, h.diagnosis,
+    isnull((select sum(d.SubTotal) from BillingDetails d where d.billNo = h.consultID), 0) as amountbilled,
+    isnull((select sum(y.AmountPaid) from Payments y where y.billNo = h.consultID), 0) as AmountPaid, 0 as AmtBF,
+    0 as profFee,
+    isnull((select sum(d.SubTotal) from BillingDetails d where d.billNo = h.consultID), 0)
+        - isnull((select sum(y.AmountPaid) from Payments y where y.billNo = h.consultID), 0) as AmountDue,
+    isnull((select sum(d.SubTotal) from BillingDetails d where d.billNo = h.consultID), 0)
+        - isnull((select sum(y.AmountPaid) from Payments y where y.billNo = h.consultID), 0) as currentDebt, 0 as prevDebt
+from hRecords h
+left join hPatients p on p.PNo = h.PNo
+left join hRetainership r on r.retainID = h.coyName
+where h.clientCat = 'PRIVATE' and not exists (select b.ID from Billing b where b.billNo = h.consultID)
+    and exists (select d.detID from BillingDetails d where d.billNo = h.consultID)
+    and abs(isnull((select sum(d.SubTotal) from BillingDetails d where d.billNo = h.consultID), 0)
+        - isnull((select sum(y.AmountPaid) from Payments y where y.billNo = h.consultID), 0)) >= 0.005
 go
--- The same bills for the printout of one patient's account.
+-- The saved ones of these bills for the printout of one patient's account.
 create view qryBillingBalanceDue as
 select b.bdate, b.billNo as billno, b.PNo as pno, p.fullname, b.Amountbilled as AmountBilled, b.AmountPaid,
     isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) as AmountDue
@@ -418,7 +464,7 @@ inner join hRecords h on h.consultID = b.billNo
 left join hPatients p on p.PNo = b.PNo
 where h.clientCat = 'PRIVATE' and abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) >= 0.005
 go
--- The same bills with the day since which the balance stands: the last receipt's, else the bill's.
+-- The saved ones of these bills with the day since which the balance stands: the last receipt's, else the bill's.
 create view qryhBillingbalanceForPrivate as
 select b.bdate as bDate,
     isnull((select max(y.ReceiptDate) from Payments y where y.billNo = b.billNo), b.bdate) as BalanceDate, b.billNo,
@@ -450,12 +496,13 @@ left join hPatients p on p.PNo = y.PNo
 left join hRecords h on h.consultID = y.billNo
 left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
 go
--- A receipt as it is printed.
+-- A receipt as it is printed; idval is the first line of the heading of its code.
 create view qryhBillingReceipt as
 select y.SNo, y.ReceiptDate, y.rTime, y.ReceiptNo,
     isnull(p.fullname, (select max(q.fullname) from hPatientsPublic q where q.PNo = y.PNo)) as Fullname, y.PNo,
     y.billNo as BillNO, y.Amountbilled as AmountBilled, y.AmountPaid, y.AmountInWord, y.PaymentFor, y.PayType,
-    y.ChequeNo, y.ClinicID as clinicID, y.ReceivedBy as Receivedby, y.Remarks, r.retainName as CoyName
+    y.ChequeNo, y.ClinicID as clinicID, y.ReceivedBy as Receivedby, y.Remarks, r.retainName as CoyName,
+    (select min(s.idval) from appSettings s where s.IDValCode = SUBSTRING(y.ReceiptNo, 4, 2)) as idval
 from Payments y
 left join hPatients p on p.PNo = y.PNo
 left join hRecords h on h.consultID = y.billNo

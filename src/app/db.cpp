@@ -1,4 +1,4 @@
-#include "demo/Tool.h"
+#include "tool/Tool.h"
 
 #include <QCoreApplication>
 

@@ -1,10 +1,10 @@
 #include "demo/Demo.h"
 
 #include "data/rows/Schema.h"
+#include "data/rows/SharedTables.h"
 #include "demo/BulkHospital.h"
 #include "demo/DemoParts.h"
-#include "demo/Home.h"
-#include "demo/QuietUi.h"
+#include "play/QuietUi.h"
 #include "session/Main.h"
 
 #include <QDir>
@@ -37,6 +37,7 @@ void makeMasterData(DemoHospital& hospital) {
     makeUsers(billing);
     Connection accounting = program.openAccounting();
     makeAccounts(accounting, hospital);
+    copySharedTables(billing, accounting);
     makeClients(billing, hospital);
     makePrices(billing, hospital);
     makeEmployees(billing, hospital);
@@ -88,7 +89,6 @@ void makeDemo(const DemoOptions& options, const std::function<void(const QString
                      .arg(hospital.clients.size()));
         makeHistoryOnScreens(hospital, progress);
     }
-    writeSysDoc(options.home, "amina.b");
 }
 
 } // namespace orvane

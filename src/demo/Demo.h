@@ -6,6 +6,9 @@
 
 namespace orvane {
 
+/// The user of the demonstration hospital as whom the program starts.
+inline constexpr const char* demoUser = "amina.b";
+
 /// The same options make the same hospital, row for row.
 struct DemoOptions {
     QString home;

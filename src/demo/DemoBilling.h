@@ -1,8 +1,8 @@
 #pragma once
 
 #include "demo/DemoVisits.h"
-#include "demo/Hand.h"
-#include "demo/QuietUi.h"
+#include "play/Hand.h"
+#include "play/QuietUi.h"
 #include "session/Program.h"
 
 namespace orvane {

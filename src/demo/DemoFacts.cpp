@@ -1,5 +1,5 @@
 #include "data/Assert.h"
-#include "demo/Csv.h"
+#include "data/words/Csv.h"
 #include "demo/DemoParts.h"
 
 #include <QFile>

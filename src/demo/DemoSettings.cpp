@@ -1,6 +1,6 @@
 #include "data/rows/Transaction.h"
 #include "demo/DemoParts.h"
-#include "demo/Users.h"
+#include "session/Users.h"
 
 namespace orvane {
 
@@ -130,8 +130,6 @@ void makeClinics(Connection& billing, const DemoHospital& hospital) {
         addRow(outletRows, {{"ItemName", latin(name)}, {"ItemCode", latin(outletCode)}});
 }
 
-/// The chart and the current period stand in both databases: the start-up and the pick lists read them in the billing
-/// one.
 void makeChart(Connection& connection, const DemoHospital& hospital) {
     Recordset accounts(connection, Sql("select * from ChartOfAccounts where 1=2"));
     for (const QStringList& account : demoFacts("accounts"))
@@ -150,9 +148,6 @@ void makeSettings(Connection& billing, const DemoHospital& hospital) {
     makeHeadings(billing);
     Recordset hospitals(billing, Sql("select * from HospList where 1=2"));
     addRow(hospitals, {{"hospID", "001"}, {"Hname", "HALDEN HOSPITAL"}, {"HName2", "Main Clinic"}});
-    Recordset counters(billing, Sql("select * from IDgen where 1=2"));
-    addRow(counters, {{"DestName", "Receipt"}, {"ID", 0}});
-    addRow(counters, {{"DestName", "RECEIPT2"}, {"ID", 0}});
     makeRevenueTypes(billing);
     Recordset prices(billing, Sql("select * from billingPrice where 1=2"));
     for (const Category& category : categories)
@@ -167,7 +162,6 @@ void makeSettings(Connection& billing, const DemoHospital& hospital) {
     for (const char* branch : branches)
         addRow(branchRows, {{"BranchCode", latin(branch)}});
     makeClinics(billing, hospital);
-    makeChart(billing, hospital);
     transaction.commit();
 }
 

@@ -2,7 +2,7 @@
 
 #include "data/rows/Transaction.h"
 #include "demo/DemoBilling.h"
-#include "demo/Hand.h"
+#include "play/Hand.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
 

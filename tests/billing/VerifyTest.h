@@ -1,6 +1,6 @@
 #pragma once
 
-#include "demo/Check.h"
+#include "support/Check.h"
 #include "support/TestHome.h"
 #include "support/Workstation.h"
 

@@ -37,6 +37,10 @@ TEST_P(SchemaRules, ANumberIsGivenOnce) {
         {"insert into Payments (ReceiptNo) values ('SN')", "insert into Payments (ReceiptNo) values ('SN')", true},
         {"insert into hRevenueType (revType) values ('DRUGS')", "insert into hRevenueType (revType) values ('Drugs')",
          false},
+        {"insert into billingPrice (clientCatID, clientType) values ('HMO', 'HMO')",
+         "insert into billingPrice (clientCatID, clientType) values ('hmo', 'NHIS')", true},
+        {"insert into billingPrice (clientCatID, clientType) values ('STAFF', 'HMO')",
+         "insert into billingPrice (clientCatID, clientType) values ('staff', 'hmo')", false},
         {"insert into UserRoles (RoleID, Username) values (1, 'a')",
          "insert into UserRoles (RoleID, Username) values (1, 'A')", false},
     };

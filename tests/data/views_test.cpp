@@ -182,6 +182,9 @@ TEST_P(Views, TheListsGiveOneRowAVisit) {
         << "finished by a doctor, not billed, also of a client that is gone";
     EXPECT_EQ(rows("select consultID, isbilled, coyname, retainID from vwhConsultingVisitsList order by consultID"),
               "A|0|PRIVATE PATIENTS|0001\nB|0||0201\nC|0|PRIVATE PATIENTS|0001\nD|1|PRIVATE PATIENTS|0001");
+    EXPECT_EQ(rows("select consultID from vwhConsultingVisitsAdmission order by consultID"), "A\nD")
+        << "a bill that a deposit made bears no discharge";
+    run({"insert into Billing (billNo, DischDate) values ('D', '2026-03-14')"});
     EXPECT_EQ(rows("select consultID from vwhConsultingVisitsAdmission"), "A") << "D was discharged and billed";
     EXPECT_EQ(rows("select admdate, DischDate from vwAdmissionAndDischargeInfo where consultID='A'"), "2026-03-12|")
         << "the last stay counts";
@@ -229,6 +232,43 @@ TEST_P(Views, DebtsStandAsTheScreensAskForThem) {
         << "a debt report shows what is owed as plus";
     EXPECT_EQ(scalar("select debt from qryhfullname where pno='P/0002'"), "-1500.5");
     EXPECT_EQ(scalar("select debt from vwDebtInfoForPatUnionGrouped where pno='P/0002'"), "-1500.5");
+}
+
+/// A sum of doubles may miss nothing by a hair; nobody owes a hair.
+TEST_P(Views, LessThanHalfAKoboIsNoDebt) {
+    visit("A");
+    run({"insert into hconsulting (consultID, attendedto) values ('A', 1)",
+         "insert into BillingDetails (billNo, SubTotal) values ('A', 100)",
+         "insert into Billing (billNo, PNo, AmountPaid) values ('A', 'P/0001', 100)"});
+    const struct {
+        const char* amount;
+        bool nothing;
+    } cases[] = {{"-0.0000000000018", true}, {"0.0049", true}, {"-0.0051", false}, {"0.01", false}};
+    for (const auto& test : cases) {
+        billing.run(QStringLiteral("update hPatients set DebtBF=%1").arg(QLatin1StringView(test.amount)));
+        billing.run(QStringLiteral("update Billing set Amountbilled=100 - (%1)").arg(QLatin1StringView(test.amount)));
+        for (const char* column :
+             {"Debt from vwhpatients", "Debt from qryhfullname", "debtBF from qryhFullnameHosp",
+              "Debt from vwDebtInfoForPatUnionGrouped", "debt from vwDebtInfo",
+              "Debt from vwhConsultingVisitsForBilling", "AmountBal from vwbillInfo", "Balance from vwBilling",
+              "AmountDue from qryBillingBalanceForPrivate", "Diff from vwBillingProcessDetailsGroupedVerify"})
+            EXPECT_EQ(scalar(QStringLiteral("select %1").arg(column)) == "0", test.nothing)
+                << column << " of " << test.amount;
+    }
+}
+
+/// A receipt may be what saves a bill: its lines are enough for Receipt Entry to offer it.
+TEST_P(Views, ABillOfWhichOnlyTheLinesAreThereIsDue) {
+    visit("A");
+    visit("B", "HMO", "0201");
+    run({"insert into BillingDetails (billNo, SubTotal) values ('A', 2000.5)",
+         "insert into BillingDetails (billNo, SubTotal) values ('B', 700)",
+         "insert into Payments (ReceiptNo, billNo, AmountPaid) values ('1', 'A', 500)"});
+    EXPECT_EQ(rows("select distinct Date,billno,pno,amountbilled,currentDebt,prevDebt,AmountPaid,bdate from "
+                   "qryBillingBalanceDueForPrivate"),
+              "2026-03-14|A|P/0001|2000.5|1500.5|0|500|");
+    run({"update Payments set AmountPaid=2000.5"});
+    EXPECT_EQ(rows("select billNo from qryBillingBalanceDueForPrivate"), "");
 }
 
 TEST_P(Views, TheAccountShowsChargesAndMoneyApart) {

@@ -1,7 +1,7 @@
-#include "demo/Hand.h"
-#include "demo/Home.h"
-#include "demo/QuietUi.h"
-#include "demo/Tool.h"
+#include "play/Hand.h"
+#include "play/QuietUi.h"
+#include "tool/Home.h"
+#include "tool/Tool.h"
 
 #include "data/dialect/Catalog.h"
 #include "data/engine/ServerList.h"

@@ -1,4 +1,4 @@
-#include "demo/CsvLoad.h"
+#include "tool/CsvLoad.h"
 
 #include "data/rows/Recordset.h"
 #include "support/TestHome.h"

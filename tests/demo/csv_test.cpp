@@ -1,4 +1,4 @@
-#include "demo/Csv.h"
+#include "data/words/Csv.h"
 
 #include <gtest/gtest.h>
 
@@ -70,24 +70,6 @@ TEST(Csv, namesTheLineAndTheColumnOfAFault) {
         ASSERT_TRUE(fault) << c.content.toStdString();
         EXPECT_EQ(fault->line, c.line) << c.content.toStdString();
         EXPECT_EQ(fault->column, c.column) << c.content.toStdString();
-    }
-}
-
-// Whatever the bytes, reading ends: with records or with a fault.
-TEST(Csv, survivesAnyBytes) {
-    const char bytes[] = {'a', ',', '"', '\n', '\r', '\0', '\xC3', '\xA9', '\xFF', ' '};
-    quint32 state = 1;
-    for (int round = 0; round < 20000; ++round) {
-        QByteArray content;
-        for (int i = 0; i < round % 24; ++i) {
-            state = state * 1664525u + 1013904223u;
-            content.append(bytes[(state >> 16) % sizeof bytes]);
-        }
-        CsvReader reader(content);
-        int records = 0;
-        while (reader.next())
-            ASSERT_LE(++records, content.size());
-        EXPECT_TRUE(reader.fault() || !(content.contains('\0') || content.contains('\xFF')));
     }
 }
 

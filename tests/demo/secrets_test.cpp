@@ -1,13 +1,13 @@
 // What the program makes is for its owner alone, and its passwords come into no text.
 #include "session/Secrets.h"
 
-#include "demo/Home.h"
 #include "reports/Workbook.h"
 #include "screens/Screens.h"
 #include "session/RoleLog.h"
 #include "support/SampleForm.h"
 #include "support/TestHome.h"
 #include "support/Workstation.h"
+#include "tool/Home.h"
 
 #include <QDirIterator>
 #include <sys/resource.h>

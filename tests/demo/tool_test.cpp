@@ -1,8 +1,8 @@
-#include "demo/Tool.h"
+#include "tool/Tool.h"
 
 #include "data/dialect/Catalog.h"
 #include "data/rows/Recordset.h"
-#include "demo/QuietUi.h"
+#include "play/QuietUi.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
 #include "support/TestHome.h"
@@ -134,6 +134,11 @@ TEST_F(Tool, loadsAndAddsAUserWhomTheProgramAdmits) {
     EXPECT_EQ(load("HospList", "hospID,Hname,HName2\n001,HALDEN HOSPITAL,Main Clinic\n").code, 0);
     EXPECT_EQ(load("appdefaults", "ID,idval\nPRIVATE,0001\nNHISFEE,10\n").out, "2 row(s) added to AppDefaults.\n");
     EXPECT_EQ(load("NoTable", "ID\n1\n").code, 1);
+    const QByteArray chart = "AccountNo,AccountName\n1210010,CASH\n";
+    EXPECT_TRUE(load("ChartOfAccounts", chart).errors.contains("has its home in the accounting database"));
+    EXPECT_EQ(
+        tool({"load", "ChartOfAccounts", written("chart", chart), "--database", "accounting", "--home", home}).code, 0);
+    EXPECT_EQ(scalar(home, "select AccountName from vwAccountsInfo"), "CASH") << "the billing database follows";
     EXPECT_EQ(tool({"load", "AppDefaults", folder.filePath("none.csv"), "--home", home}).code, 1);
 
     const QStringList add = {"user",    "add",        "ada.o",           "--home",

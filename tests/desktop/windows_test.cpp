@@ -1,5 +1,4 @@
 // The windows of the open forms: the main window, those inside it, dialogs, and a script that works on them.
-#include "demo/Tool.h"
 #include "desktop/DesktopUi.h"
 #include "desktop/FormWindow.h"
 #include "desktop/ShellWindow.h"
@@ -8,6 +7,7 @@
 #include "play/Play.h"
 #include "support/SourceTree.h"
 #include "support/Workstation.h"
+#include "tool/Tool.h"
 
 #include <QApplication>
 #include <QBuffer>

@@ -1,6 +1,6 @@
 #include "Scene.h"
 
-#include "demo/Check.h"
+#include "support/Check.h"
 
 #include <QDir>
 #include <QRegularExpression>

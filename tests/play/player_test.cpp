@@ -135,9 +135,9 @@ TEST_F(PlayerTest, CarriesOutEveryCommand) {
          "input \"Code?\" -> \"left\"\nbox none \"\" \"left\"\nopened frmModal\nbox information \"Save\" \"saved "
          "in\"\nclosed frmModal\n"
          "box none \"\" \"back\"\n"},
-        {"sql billing \"insert into IDgen (DestName, ID) values ('Receipt', 41)\"\n"
-         "sql billing \"select DestName, ID as Last from IDgen\"\nsql accounting \"select Period from AccountMonth\"\n"
-         "expect sql billing \"select ID from IDgen\" \"41\"\nsql billing \"delete from IDgen\"",
+        {"sql billing \"update IDgen set ID=41 where DestName='Receipt'\"\n"
+         "sql billing \"select DestName, ID as Last from IDgen where ID > 0\"\nsql accounting \"select Period from AccountMonth\"\n"
+         "expect sql billing \"select ID from IDgen where ID > 0\" \"41\"\nsql billing \"delete from IDgen\"",
          "DestName\tLast\nReceipt\t41\nPeriod\n"},
         {"sql billing \"insert into IDgen (DestName, ID) values ('A', 1)\"\nsql billing \"insert into IDgen (DestName, "
          "ID) values ('B\tC', 2)\"\n"
@@ -199,7 +199,7 @@ TEST_F(PlayerTest, FailsWhereALineCannotBeCarriedOut) {
         {"answer yes\nclick frmSample.radTwo", "the answer of line 2 does not fit input \"Code?\""},
         {"expect box \"x\"", "expected a box \"x\", but none has come up"},
         {"expect frmSample.txtLocked \"fixed \"", "expected \"fixed \", but frmSample.txtLocked is \"fixed\""},
-        {"expect sql billing \"select ID from IDgen\" \"1\"", "expected \"1\", but there is no row"},
+        {"expect sql billing \"select ID from IDgen where 1=2\" \"1\"", "expected \"1\", but there is no row"},
         {"expect sql billing \"select 2 as n\" \"1\"", "expected \"1\", but it is \"2\""},
         {"sql payroll \"select 1 as n\"", "the databases are billing and accounting"},
         {"clock server \"noon\"", "a clock takes \"yyyy-mm-dd hh:mm:ss\""},

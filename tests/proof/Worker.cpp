@@ -1,7 +1,7 @@
 #include "Worker.h"
 
 #include "data/engine/Physical.h"
-#include "demo/QuietUi.h"
+#include "play/QuietUi.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
 #include "support/Entries.h"

@@ -1,6 +1,6 @@
 // A workstation that dies at any moment of an action loses nothing that it reported saved, leaves no half of it, and
 // the action can be done again.
-#include "demo/Check.h"
+#include "support/Check.h"
 #include "support/MoneyActions.h"
 #include "support/TestHome.h"
 

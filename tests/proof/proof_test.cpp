@@ -1,7 +1,7 @@
 #include "Worker.h"
 #include "WorkerProcess.h"
 
-#include "demo/Check.h"
+#include "support/Check.h"
 #include "support/Workstation.h"
 
 #include <QMap>

@@ -1,5 +1,5 @@
 // The rights that are told to a server's owner are enough for the program's work and its checks, and for nothing else.
-#include "demo/Check.h"
+#include "support/Check.h"
 #include "support/LeastRights.h"
 #include "support/MoneyActions.h"
 

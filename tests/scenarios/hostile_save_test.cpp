@@ -1,9 +1,9 @@
 // Every text that a screen saves is read back from the database as it was typed, or it is refused in plain words and
 // nothing is saved.
 #include "ScreenWalk.h"
-#include "demo/Check.h"
 #include "play/ControlActs.h"
 #include "session/Screen.h"
+#include "support/Check.h"
 #include "support/Entries.h"
 #include "support/Hospital.h"
 #include "support/HostileTexts.h"

@@ -3,8 +3,8 @@
 #include "ScreenWalk.h"
 #include "data/dialect/Catalog.h"
 #include "data/words/Money.h"
-#include "demo/Check.h"
 #include "session/Screen.h"
+#include "support/Check.h"
 #include "support/HostileTexts.h"
 
 namespace orvane {

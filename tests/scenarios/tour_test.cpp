@@ -1,5 +1,5 @@
 // The tour that ./run.sh shows, without its windows: it must go through, and leave books that agree.
-#include "demo/Tool.h"
+#include "tool/Tool.h"
 
 #include "play/Play.h"
 #include "support/SourceTree.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "demo/Hand.h"
+#include "play/Hand.h"
 #include "session/Program.h"
 
 namespace orvane {

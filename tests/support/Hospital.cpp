@@ -22,8 +22,6 @@ const char* const settingRows[] = {
     "insert into employees (empID, LastName, firstname, deptID, designation) values ('D001', 'OKAFOR', 'CHIDI', 'MED', "
     "'DOCTOR')",
     "insert into AccountMonth (Period) values ('2026-03')",
-    "insert into IDgen (DestName, ID) values ('Receipt', 0)",
-    "insert into IDgen (DestName, ID) values ('RECEIPT2', 0)",
     "insert into appSettings (ID, IDValCode, idval, idval2, idval3, idval4, idval5, idvalPix) values "
     "('BILL', '00', 'HALDEN HOSPITAL', '12 CREEK ROAD', 'LAGOS', 'TEL 01-0000000', '', 'RctPix.JPG')",
     "insert into appSettings (ID, IDValCode, idval, idval2, idval3, idval4, idval5, idvalPix) values "

@@ -47,7 +47,7 @@ public:
     /// The column of that name in the tables among `sources`; where they do not settle it, the column of all tables, if
     /// all tables that have the name agree on its kind. Null when nothing settles it.
     const Column* findColumn(const QString& name, const QStringList& sources) const;
-    /// The schema's statements in T-SQL in order of execution: tables, indexes, views.
+    /// The schema's statements in T-SQL in order of execution: tables, indexes, views, first rows.
     QStringList statements(const QString& database) const;
 
 private:

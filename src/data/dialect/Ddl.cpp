@@ -27,6 +27,13 @@ class TableDefinition {
 public:
     TableDefinition(const Tokens& tokens, Engine engine) : m_tokens(tokens), m_engine(engine) {}
 
+    /// "alter table NAME add COLUMN TYPE ...".
+    QString addColumn() {
+        require(m_tokens.size() > 5 && m_tokens[2].isName() && m_tokens[3].is("add"));
+        return QStringLiteral("alter table %1 add %2")
+            .arg(renderName(m_tokens[2], m_engine), column(4, m_tokens.size()));
+    }
+
     QString run() {
         require(m_tokens[2].isName() && m_tokens[3].isSymbol("("));
         const qsizetype close = closingParenthesis(m_tokens, 3);
@@ -176,11 +183,15 @@ QString translateIndex(const Tokens& original, Engine engine) {
 } // namespace
 
 bool isDefinition(const Tokens& tokens) {
+    if (tokens.size() > 4 && tokens[0].is("alter"))
+        return tokens[1].is("table");
     return tokens.size() > 4 && tokens[0].is("create") &&
            (tokens[1].is("table") || tokens[1].is("index") || (tokens[1].is("unique") && tokens[2].is("index")));
 }
 
 QString translateDefinition(const Tokens& tokens, Engine engine) {
+    if (tokens[0].is("alter"))
+        return TableDefinition(tokens, engine).addColumn();
     return tokens[1].is("table") ? TableDefinition(tokens, engine).run() : translateIndex(tokens, engine);
 }
 

@@ -28,6 +28,24 @@ QString schemaOf(const QString& database) {
     return name == "accounting" || name == "audit" ? name : "billing";
 }
 
+/// The one line that an administrator needs. `database` names it and its place.
+void requirePresentSchema(const Physical& physical, const QString& database, int version) {
+    if (version == kSchemaVersion || physical->source->anySchema)
+        return;
+    if (version == 0)
+        throw DataError(QStringLiteral("The database %1 has no schema of this program.").arg(database));
+    const QString way =
+        version < kSchemaVersion
+            ? QStringLiteral("upgrade it with: orvane-db upgrade --home \"%1\"").arg(physical->source->homeFolder)
+            : QStringLiteral("it was upgraded (orvane-db upgrade) for a newer program, which must be "
+                             "installed here");
+    throw DataError(QStringLiteral("The database %1 has the schema %2; this program needs %3: %4.")
+                        .arg(database)
+                        .arg(version)
+                        .arg(kSchemaVersion)
+                        .arg(way));
+}
+
 // SQLite
 
 sqlite3* handleOf(const QSqlDatabase& database) {
@@ -77,8 +95,12 @@ void prepareSqlite(const Physical& physical, const std::shared_ptr<Source>& sour
                             nullptr);
 }
 
+QString databaseFile(const ServerEntry& entry, const QString& database) {
+    return QDir(entry.folder).filePath(database + ".db");
+}
+
 void openSqlite(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target, bool create) {
-    const QString path = QDir(entry.folder).filePath(target.database + ".db");
+    const QString path = databaseFile(entry, target.database);
     const bool exists = QFileInfo(path).size() > 0;
     if (create && exists)
         throw DataError(QStringLiteral("The database file %1 exists already.").arg(path));
@@ -107,12 +129,8 @@ void openSqlite(const Physical& physical, const ServerEntry& entry, const Connec
     }
     const int version = query.value(0).toInt();
     query.finish();
-    if (!create && version != kSchemaVersion) {
-        throw DataError(QStringLiteral("The database file %1 has the schema version %2; this program needs %3.")
-                            .arg(path)
-                            .arg(version)
-                            .arg(kSchemaVersion));
-    }
+    if (!create)
+        requirePresentSchema(physical, path, version);
     const char* waiting = physical->source->disposable ? "pragma synchronous=off" : "pragma synchronous=full";
     // 16 MB of pages: the engine's own 2 MB are too few for a list of some hundred patients of half a million.
     for (const char* pragma :
@@ -209,12 +227,7 @@ void openServer(const Physical& physical, const ServerEntry& entry, const Connec
     requirePlainCollation(physical, database, entry);
     QSqlQuery query(physical->database);
     const int version = query.exec("select version from orvaneSchema") && query.next() ? query.value(0).toInt() : 0;
-    if (version != kSchemaVersion) {
-        throw DataError(QStringLiteral("The database %1 on %2 has the schema version %3; this program needs %4.")
-                            .arg(database, entry.host)
-                            .arg(version)
-                            .arg(kSchemaVersion));
-    }
+    requirePresentSchema(physical, database + " on " + entry.host, version);
 }
 
 } // namespace
@@ -233,6 +246,38 @@ Physical openPhysical(const std::shared_ptr<Source>& source, const QString& conn
     else
         openServer(physical, entry, target, create);
     return physical;
+}
+
+QString copyPhysical(const std::shared_ptr<Source>& source, const QString& connectionString, const QString& suffix) {
+    const ConnectionTarget target = parseConnectionString(connectionString);
+    const ServerEntry entry = source->servers.entry(target.server);
+    if (entry.engine == Engine::Sqlite) {
+        QString copy = databaseFile(entry, target.database + suffix);
+        for (int number = 2; QFileInfo::exists(copy); ++number)
+            copy = databaseFile(entry, target.database + suffix + u'-' + QString::number(number));
+        openPhysical(source, connectionString, false)
+            ->sendNative(QStringLiteral("vacuum into '%1'").arg(QString(copy).replace(u'\'', "''")));
+        return copy;
+    }
+    if (entry.engine != Engine::Postgresql)
+        throw DataError("This server makes copies by its own tools.");
+    const Physical physical = std::make_shared<PhysicalConnection>();
+    physical->source = source;
+    physical->engine = entry.engine;
+    physical->name = uniqueName();
+    connectServer(physical, entry, target, "postgres");
+    const QString original = serverDatabase(entry, target);
+    QString copy = original + suffix;
+    const QString count = "select count(*) from pg_database where datname = '%1'";
+    for (int number = 2;; ++number) {
+        QSqlQuery taken = physical->sendNative(count.arg(copy));
+        if (taken.next() && taken.value(0).toInt() == 0)
+            break;
+        copy = original + suffix + u'_' + QString::number(number);
+    }
+    physical->sendNative(QStringLiteral("create database \"%1\" template \"%2\"").arg(copy, original));
+    disconnect(physical);
+    return copy;
 }
 
 } // namespace orvane

@@ -104,4 +104,7 @@ void giveBack(std::shared_ptr<PhysicalConnection> physical) noexcept;
 std::shared_ptr<PhysicalConnection> openPhysical(const std::shared_ptr<Source>& source, const QString& connectionString,
                                                  bool create);
 
+/// See DataSource::copyDatabase.
+QString copyPhysical(const std::shared_ptr<Source>& source, const QString& connectionString, const QString& suffix);
+
 } // namespace orvane

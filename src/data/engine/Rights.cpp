@@ -28,6 +28,7 @@ constexpr TableRights billingTables[] = {
     {"BillingDetails", "insert, update, delete"},
     {"BillingDetailsAdjust", "insert"},
     {"billingPrice", ""},
+    {"ChartOfAccounts", ""},
     {"clinicTypes", ""},
     {"drugMaster", ""},
     {"DrugNHIS", "update"},
@@ -66,6 +67,7 @@ constexpr TableRights billingTables[] = {
 
 constexpr TableRights accountingTables[] = {
     {"AccountMonth", ""},
+    {"ChartOfAccounts", ""},
     {"Tranxaction", ""},
     {"TranxactionTemp", ""},
 };

@@ -2,7 +2,8 @@
 
 namespace orvane {
 
-/// The version that a database must bear to be opened by this program.
-inline constexpr int kSchemaVersion = 1;
+/// The number that a database's schema must bear to be opened by this program. Each change of the schema raises it and
+/// brings its step (rows/SchemaSteps.h).
+inline constexpr int kSchemaVersion = 2;
 
 } // namespace orvane

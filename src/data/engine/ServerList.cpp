@@ -51,6 +51,7 @@ ServerList::ServerList(const QString& homeFolder) : m_homeFolder(homeFolder) {
     const QString path = QDir(homeFolder).filePath("orvane.ini");
     if (!QFile::exists(path))
         return;
+    m_file = path;
     ServerEntry* entry = nullptr;
     bool inMenu = false; // the section of the shell, which reads it by itself
     int number = 0;
@@ -67,6 +68,7 @@ ServerList::ServerList(const QString& homeFolder) : m_homeFolder(homeFolder) {
             if (!line.endsWith(u']') || !name.startsWith("server ", Qt::CaseInsensitive))
                 throw DataError(QStringLiteral("%1: a section is written [server NAME].").arg(place));
             entry = &m_entries[name.mid(7).trimmed().toLower()];
+            m_names += name.mid(7).trimmed();
         } else if (inMenu) {
             continue;
         } else if (!entry || !line.contains(u'=')) {
@@ -103,6 +105,11 @@ void ServerList::set(ServerEntry& entry, const QString& key, const QString& valu
 }
 
 ServerEntry ServerList::entry(const QString& server) const {
+    if (!m_file.isEmpty() && !m_entries.contains(server.toLower())) {
+        const QString known = m_names.isEmpty() ? "no [server ...]" : "[server " + m_names.join("], [server ") + ']';
+        throw DataError(QStringLiteral("The server \"%1\", which made.sys names, is not in %2, which has %3.")
+                            .arg(shownText(server), m_file, known));
+    }
     ServerEntry entry = m_entries.value(server.toLower());
     entry.folder = QDir::cleanPath(QDir(m_homeFolder).absoluteFilePath(entry.folder));
     return entry;

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 namespace orvane {
 
@@ -30,19 +31,22 @@ struct ServerEntry {
     QString driver = "ODBC Driver 18 for SQL Server";
 };
 
-/// The servers of orvane.ini in the home folder; a server that it does not name is the embedded engine with the folder
+/// The servers of orvane.ini in the home folder; without that file, every server is the embedded engine with the folder
 /// "data".
 class ServerList {
 public:
     /// Raises DataError naming file and line when the file is broken.
     explicit ServerList(const QString& homeFolder);
+    /// Raises DataError when orvane.ini is there and does not have the server.
     ServerEntry entry(const QString& server) const;
 
 private:
     void set(ServerEntry& entry, const QString& key, const QString& value, const QString& place) const;
 
     QString m_homeFolder;
+    QString m_file;                        ///< orvane.ini; empty where it is not there
     QHash<QString, ServerEntry> m_entries; ///< by lower-cased server name
+    QStringList m_names;                   ///< as the file writes them, in its order
 };
 
 } // namespace orvane

@@ -27,6 +27,7 @@ struct Source : std::enable_shared_from_this<Source> {
     std::atomic<qint64> statementsSent = 0;
     std::atomic<int> clockVersion = 0;
     std::atomic<bool> disposable = false; ///< commits do not wait for the disk
+    std::atomic<bool> anySchema = false;  ///< databases are opened whatever the number of their schema
     std::atomic<int> lockWait = 60000;    ///< milliseconds, of new connections
     std::atomic<int> outcomePause = 700;  ///< milliseconds between two tries to learn what became of a commit
 

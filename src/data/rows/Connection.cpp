@@ -78,12 +78,20 @@ Connection DataSource::create(const QString& connectionString) {
     return Connection(openPhysical(d, connectionString, true));
 }
 
+QString DataSource::copyDatabase(const QString& connectionString, const QString& suffix) {
+    return copyPhysical(d, connectionString, suffix);
+}
+
 Engine DataSource::engineOf(const QString& connectionString) const {
     return d->servers.entry(parseConnectionString(connectionString).server).engine;
 }
 
 void DataSource::setDisposable() {
     d->disposable = true;
+}
+
+void DataSource::acceptAnySchema() {
+    d->anySchema = true;
 }
 
 void DataSource::setServerClock(std::optional<QDateTime> at) {

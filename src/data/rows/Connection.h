@@ -69,9 +69,16 @@ public:
     /// Creates what `open` refuses to create: the embedded database file, or the server's database. For orvane-db and
     /// tests.
     Connection create(const QString& connectionString);
+    /// Makes a copy of a database beside it, its name lengthened by `suffix`, and gives the copy's name. Raises
+    /// DataError where the login may not, somebody is connected (PostgreSQL), or the engine makes copies in another
+    /// way.
+    QString copyDatabase(const QString& connectionString, const QString& suffix);
     /// From now on new connections of the embedded engine do not wait for the disk at a commit: a power cut may take
     /// the database with it. Only for databases that can be made again, such as the demonstration hospital.
     void setDisposable();
+    /// From now on databases of every schema's number are opened. For the upgrade, which alone knows what to do with
+    /// them.
+    void acceptAnySchema();
     /// Fixes what the server's clock shows to this workstation's connections; nothing frees it again. For scripts and
     /// tests. SQL Server's own clock cannot be fixed.
     void setServerClock(std::optional<QDateTime> at);

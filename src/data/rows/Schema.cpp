@@ -5,18 +5,27 @@
 #include "data/dialect/Prelude.h"
 #include "data/dialect/Translator.h"
 #include "data/engine/Physical.h"
+#include "data/engine/Rights.h"
 #include "data/engine/ServerList.h"
+#include "data/rows/Recordset.h"
+#include "data/rows/SchemaSteps.h"
+#include "data/rows/Transaction.h"
 
 namespace orvane {
 
 namespace {
 
+QString numberStatement(Engine engine) {
+    return QStringLiteral("%1 = %2")
+        .arg(engine == Engine::Sqlite ? "pragma user_version" : "update orvaneSchema set version")
+        .arg(kSchemaVersion);
+}
+
 QStringList stamp(Engine engine) {
-    const QString version = QString::number(kSchemaVersion);
     if (engine == Engine::Sqlite)
-        return {QStringLiteral("pragma user_version = %1").arg(version)};
+        return {numberStatement(engine)};
     return {"create table orvaneSchema (version integer not null)",
-            QStringLiteral("insert into orvaneSchema (version) values (%1)").arg(version)};
+            QStringLiteral("insert into orvaneSchema (version) values (%1)").arg(kSchemaVersion)};
 }
 
 /// The statement from the word "index" on, when it makes one: index NAME on TABLE (...).
@@ -46,6 +55,42 @@ QStringList indexesOf(Engine engine, const QString& database) {
     return indexes;
 }
 
+/// On a server the audit trail's table is part of the billing database.
+QStringList partsOf(Engine engine, const QString& database) {
+    return database == "billing" && engine != Engine::Sqlite ? QStringList{database, "audit"} : QStringList{database};
+}
+
+bool isView(const QString& statement) {
+    const Tokens tokens = tokenize(statement);
+    return tokens.value(0).is("create") && tokens.value(1).is("view");
+}
+
+/// All views of a database, whichever of them are there. A server drops them at once, whatever reads what.
+QStringList dropViews(Engine engine, const QString& database) {
+    const QStringList views = Catalog::instance().views(database);
+    if (views.isEmpty())
+        return {};
+    if (engine != Engine::Sqlite)
+        return {"drop view if exists " + views.join(", ")};
+    QStringList statements;
+    for (const QString& view : views)
+        statements += "drop view if exists " + view;
+    return statements;
+}
+
+/// The logins beside the owner that the program may use: a view that is made anew has lost their rights.
+QStringList loginsThatRead(Connection& connection) {
+    QStringList logins;
+    if (connection.engine() == Engine::Sqlite)
+        return logins;
+    for (Recordset row = connection.run("select distinct grantee from information_schema.table_privileges where "
+                                        "lower(table_name) = 'orvaneschema' and privilege_type = 'SELECT' "
+                                        "and grantee <> 'PUBLIC' and grantee <> current_user");
+         !row.eof(); row.moveNext())
+        logins += row.text(0);
+    return logins;
+}
+
 QString dropOf(const QString& index, Engine engine) {
     const Tokens clause = indexClause(index);
     const QString drop = "drop index " + clause.at(1).text;
@@ -56,10 +101,7 @@ QString dropOf(const QString& index, Engine engine) {
 
 QStringList schemaStatements(Engine engine, const QString& database) {
     QStringList statements = preludeStatements(engine);
-    QStringList parts = {database};
-    if (database == "billing" && engine != Engine::Sqlite)
-        parts += "audit";
-    for (const QString& part : parts) {
+    for (const QString& part : partsOf(engine, database)) {
         for (const QString& statement : Catalog::instance().statements(part))
             if (engineHas(engine, statement))
                 statements += translate(statement, engine);
@@ -75,6 +117,36 @@ QString schemaScript(Engine engine, const QString& database) {
 
 void createSchema(Connection& connection, const QString& database) {
     connection.physical()->sendAllNative(schemaStatements(connection.engine(), database));
+}
+
+int schemaVersion(Connection& connection) {
+    return connection.engine() == Engine::Sqlite
+               ? int(connection.run("pragma user_version").integer("user_version"))
+               : int(connection.run("select version from orvaneSchema").integer("version"));
+}
+
+void upgradeSchema(Connection& connection, const QString& database) {
+    const Engine engine = connection.engine();
+    const QStringList logins = loginsThatRead(connection);
+    Transaction transaction(connection);
+    // Another one may have come first while this one waited for the gate.
+    const int from = schemaVersion(connection);
+    QStringList statements = dropViews(engine, database) + preludeFunctions(engine);
+    for (const QString& part : partsOf(engine, database))
+        for (const SchemaStep& step : schemaSteps(part, from))
+            for (const QString& statement : splitScript(QString::fromUtf8(step.tsql)))
+                statements += translate(statement, engine);
+    for (const QString& view : Catalog::instance().statements(database))
+        if (isView(view))
+            statements += translate(view, engine);
+    statements += numberStatement(engine);
+    for (const QString& login : logins)
+        statements += rightsStatements(engine, database, login);
+    for (const QString& statement : statements) {
+        connection.physical()->source->callHook(statement);
+        connection.physical()->sendNative(statement);
+    }
+    transaction.commit();
 }
 
 void dropIndexes(Connection& connection, const QString& database) {

@@ -1,4 +1,4 @@
-#include "demo/Users.h"
+#include "session/Users.h"
 
 #include "data/rows/Recordset.h"
 #include "data/rows/Transaction.h"

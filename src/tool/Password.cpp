@@ -1,4 +1,4 @@
-#include "demo/Password.h"
+#include "tool/Password.h"
 
 #include "data/DataError.h"
 

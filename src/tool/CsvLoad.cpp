@@ -1,9 +1,9 @@
-#include "demo/CsvLoad.h"
+#include "tool/CsvLoad.h"
 
 #include "data/rows/Recordset.h"
 #include "data/rows/Transaction.h"
 #include "data/words/ShownText.h"
-#include "demo/Csv.h"
+#include "data/words/Csv.h"
 
 #include <cmath>
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "demo/Check.h"
+#include "data/rows/Recordset.h"
+#include "proof/Check.h"
 
 namespace orvane {
 

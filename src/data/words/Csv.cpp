@@ -1,4 +1,4 @@
-#include "demo/Csv.h"
+#include "data/words/Csv.h"
 
 #include <QStringDecoder>
 

@@ -1,4 +1,4 @@
-#include "demo/IntegrityCheck.h"
+#include "proof/IntegrityCheck.h"
 
 namespace orvane {
 

@@ -1,4 +1,4 @@
-#include "demo/Home.h"
+#include "tool/Home.h"
 
 #include "data/Assert.h"
 #include "data/engine/ServerList.h"

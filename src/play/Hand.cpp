@@ -1,4 +1,4 @@
-#include "demo/Hand.h"
+#include "play/Hand.h"
 
 #include "data/DataError.h"
 

@@ -1,4 +1,4 @@
-#include "demo/QuietUi.h"
+#include "play/QuietUi.h"
 
 #include "forms/Form.h"
 

@@ -1,0 +1,83 @@
+#include "data/rows/SchemaSteps.h"
+
+namespace orvane {
+
+namespace {
+
+// A step is never changed once a hospital has taken it: it makes what the schema files made at its number.
+constexpr SchemaStep allSteps[] = {
+    {2, "billing", "the table SavedActions, by which a save whose answer was lost is looked up", R"(
+create table SavedActions (
+    token varchar(36) not null primary key,
+    savedAt datetime not null default getdate(),
+    username nvarchar(50),
+    workstation nvarchar(50),
+    action nvarchar(50),
+    document nvarchar(50),
+    amount float
+)
+)"},
+    {2, "billing", "the column BillingDetails.Charged: what the patient's account bears for a line", R"(
+alter table BillingDetails add Charged float
+)"},
+    {2, "billing", "a category of clients may stand for several client types: key of billingPrice", R"(
+create table billingPriceKept (clientCatID varchar(50) not null, clientType varchar(50) not null, pcent float, pvalue float)
+go
+insert into billingPriceKept (clientCatID, clientType, pcent, pvalue)
+    select clientCatID, isnull(clientType, ''), pcent, pvalue from billingPrice
+go
+drop table billingPrice
+go
+create table billingPrice (
+    clientCatID varchar(50) not null,
+    clientType varchar(50) not null default '',
+    pcent float,
+    pvalue float,
+    primary key (clientCatID, clientType)
+)
+go
+insert into billingPrice (clientCatID, clientType, pcent, pvalue)
+    select clientCatID, clientType, pcent, pvalue from billingPriceKept
+go
+drop table billingPriceKept
+)"},
+    {2, "billing", "columns of StockItemsRetail and working tables that statements of other modules name", R"(
+alter table StockItemsRetail add drgName nvarchar(200)
+go
+alter table StockItemsRetail add drgCatName nvarchar(100)
+go
+alter table StockItemsRetail add qtyPerUnit float
+go
+alter table StockItemsRetail add Cost float
+go
+create table Patient (PNo varchar(50) not null primary key, fullname nvarchar(200))
+go
+create table Patients (PNo varchar(50) not null primary key, fullname nvarchar(200))
+go
+create table billoflading (BLNo varchar(50) not null primary key, jobcode varchar(50))
+go
+create table debitnote (SNo int identity(1,1) not null primary key, jobcode varchar(50))
+)"},
+    {2, "billing", "counters of receipts that nobody has started", R"(
+insert into IDgen (DestName, ID) select 'Receipt', 0 where not exists
+    (select ID from IDgen where DestName = 'Receipt')
+go
+insert into IDgen (DestName, ID) select 'RECEIPT2', 0 where not exists
+    (select ID from IDgen where DestName = 'RECEIPT2')
+)"},
+    {2, "accounting", "the column TranxactionTemp.invNo", R"(
+alter table TranxactionTemp add invNo varchar(50)
+)"},
+};
+
+} // namespace
+
+QList<SchemaStep> schemaSteps(const QString& database, int from) {
+    QList<SchemaStep> steps;
+    for (const SchemaStep& step : allSteps)
+        if (step.number > from && database == QLatin1StringView(step.database))
+            steps += step;
+    return steps;
+}
+
+} // namespace orvane

@@ -1,0 +1,51 @@
+#include "proof/Check.h"
+
+#include "data/rows/SharedTables.h"
+#include "proof/Checker.h"
+#include "proof/IntegrityCheck.h"
+
+namespace orvane {
+
+namespace {
+
+void checkIntegrity(Connection& billing, Connection& accounting, CheckReport& report) {
+    checkIntegrity(billing, "billing database", report);
+    checkIntegrity(accounting, "accounting database", report);
+    if (billing.engine() != Engine::Sqlite)
+        return; // the audit trail lies in the billing database
+    Connection audit = billing.beside("Audit");
+    checkIntegrity(audit, "audit database", report);
+}
+
+} // namespace
+
+CheckReport checkDatabases(Connection& billing, Connection& accounting) {
+    CheckReport report;
+    checkIntegrity(billing, accounting, report);
+    // The rows of a damaged database cannot be read, or say nothing.
+    if (!report.findings.isEmpty())
+        return report;
+    Checker ofBilling(billing, "billing");
+    for (const auto& checks : {numberChecks(), accountChecks(), billChecks(), receiptChecks()})
+        ofBilling.run(checks, report.findings, report.remarks);
+    ofBilling.runNumbers(report.findings);
+    ofBilling.runDemanded(report.findings);
+    ofBilling.run(noticeChecks(), report.notices, report.remarks);
+    Checker ofAccounting(accounting, "accounting");
+    ofAccounting.run(ledgerChecks(), report.findings, report.remarks);
+    ofAccounting.runNumbers(report.findings);
+    for (const QString& difference : sharedTableDifferences(billing, accounting))
+        report.findings.append("repeated table: " + difference);
+    return report;
+}
+
+QStringList checkNames() {
+    QStringList names = Checker::amountCheckNames() + QStringList{"repeated table"};
+    for (const auto& checks :
+         {numberChecks(), accountChecks(), billChecks(), receiptChecks(), noticeChecks(), ledgerChecks()})
+        for (const Check& check : checks)
+            names.append(QString::fromLatin1(check.name));
+    return names;
+}
+
+} // namespace orvane
