@@ -4,8 +4,8 @@
 #include "bench/BareEngine.h"
 #include "bench/Benches.h"
 #include "bench/Site.h"
-#include "billing/BillSummary.h"
-#include "billing/BillingRow.h"
+#include "billing/BillLook.h"
+#include "books/Bill.h"
 #include "demo/Hand.h"
 #include "receipts/ReceiptNumber.h"
 
@@ -79,12 +79,12 @@ const Question questions[] = {
      nullptr},
     {"figures of a bill: vwbillInfo",
      [](Site& site, const Subject& subject) {
-         saveBillSummary(site.program, site.program.form("MdiTolmek"), subject.visit);
+         lookAtBill(site.program, subject.visit);
      },
      "vwbillInfo"},
     {"figures of a bill: the whole look",
      [](Site& site, const Subject& subject) {
-         saveBillSummary(site.program, site.program.form("MdiTolmek"), subject.visit);
+         lookAtBill(site.program, subject.visit);
      },
      nullptr},
     {"worklist: the shell's look every minute",

@@ -397,9 +397,10 @@ create table Billing (
     isPaid smallint not null default 0
 )
 go
--- One item on a bill. SNo is the SNo of its BillAccum row; a line that has none (a discount) takes minus its own
--- detID,
--- which no BillAccum row can bear. detID is this table's own key.
+-- One item on a bill. SNo is the SNo of its BillAccum row; a line that has none (a discount) takes minus its own detID,
+-- which no BillAccum row can bear. detID is this table's own key. Charged is what the patient's running account bears
+-- for the line, in naira; null: not known, then its SubTotal where the private client pays it and it is no carried
+-- balance, else nothing.
 create table BillingDetails (
     detID int identity(1,1) not null primary key,
     SNo int,
@@ -421,6 +422,7 @@ create table BillingDetails (
     treatedBy varchar(50),
     Capitated varchar(10),
     isRct smallint not null default 0,
+    Charged float,
     isPost smallint not null default 0
 )
 go

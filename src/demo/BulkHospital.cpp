@@ -1,7 +1,7 @@
 #include "demo/BulkHospital.h"
 
 #include "attendance/ConsultationFee.h"
-#include "billing/BillDate.h"
+#include "books/BillDate.h"
 #include "data/rows/Transaction.h"
 #include "data/words/Money.h"
 #include "demo/BulkRows.h"

@@ -180,6 +180,7 @@ void layClients(Connection& billing) {
                 {"ClientType", text(client.type)},
                 {"clientcatID", text(client.category)},
                 {"Active", "YES"},
+                {"BillEndDate", 31},
                 {"Debt", 0}});
 }
 
