@@ -3,11 +3,11 @@
 #include "bench/BareEngine.h"
 #include "bench/Benches.h"
 #include "bench/Site.h"
-#include "billing/BillSummary.h"
-#include "billing/BillingRow.h"
 #include "books/ReceiptNumber.h"
 #include "books/Visit.h"
 #include "play/Hand.h"
+#include "billing/BillLook.h"
+#include "books/Bill.h"
 
 #include <cstdio>
 
@@ -88,12 +88,12 @@ const Question questions[] = {
      nullptr},
     {"figures of a bill: vwbillInfo",
      [](Site& site, const Subject& subject) {
-         saveBillSummary(site.program, site.program.form("MdiTolmek"), subject.visit);
+         lookAtBill(site.program, subject.visit);
      },
      "vwbillInfo"},
     {"figures of a bill: the whole look",
      [](Site& site, const Subject& subject) {
-         saveBillSummary(site.program, site.program.form("MdiTolmek"), subject.visit);
+         lookAtBill(site.program, subject.visit);
      },
      nullptr},
     {"worklist: the shell's look every minute",

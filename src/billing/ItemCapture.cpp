@@ -1,15 +1,14 @@
 #include "billing/ItemCapture.h"
 
-#include "billing/BillSummary.h"
-#include "billing/Collate.h"
+#include "billing/BillLook.h"
 #include "billing/TreatmentPlan.h"
+#include "books/Bill.h"
 #include "data/words/Money.h"
 
 namespace orvane {
 
-ItemCapture::ItemCapture(Program& owner, const QString& formName, const QString& formCaption,
-                         const TariffPolicy& tariff, const QString& dateRefusal)
-    : Screen(owner, formName, formCaption), m_tariff(tariff), m_dateRefusal(dateRefusal) {
+ItemCapture::ItemCapture(Program& owner, const QString& formName, const QString& formCaption, const Kind& kind)
+    : Screen(owner, formName, formCaption), m_kind(kind) {
     txtPresc.multiline().setLocked(true);
     cboDrug.upperCase();
     for (TextBox* box : {&txtPrice, &txtQty, &txtSub})
@@ -22,30 +21,12 @@ ItemCapture::ItemCapture(Program& owner, const QString& formName, const QString&
         "|-------EntryType----|--------Status-----------|----------BillTo---------"
         "|----------CoyName----------|----------RevenueType----------");
     OrderGridDrug.setMoney({Price, Units, SubTotal});
-    cmdUpd.onClick = [this] { cmdUpd_Click(); };
-    cboCat.onClick = [this] { cboCat_Click(); };
-    cboPat.onClick = [this] { cboPat_Click(); };
-    cboDrug.onClick = [this] { cboDrug_Click(); };
     // A typed item has no price of its own, and must not take the one of the item picked before.
-    cboDrug.onChange = [this] { resetTariffFields(tariffFields()); };
-    txtPrice.onChange = [this] { priceOrQuantity_Change(); };
-    txtQty.onChange = [this] { priceOrQuantity_Change(); };
-    txtSub.onChange = [this] { txtSub_Change(); };
-    lblTotal.onChange = [this] { calcTotal(); };
-    cmdAdd.onClick = [this] { cmdAdd_Click(); };
-    OrderGridDrug.onDblClick = [this] { OrderGridDrug_DblClick(); };
-    cmdRefresh.onClick = [this] { rereadEntries(); };
-    cmdCancel.onClick = [this] {
-        resetEntryLine();
-        rereadEntries();
-    };
-    CancelButton.onClick = [this] { unload(); };
-    OKButton.onClick = [this] { OKButton_Click(); };
-}
-
-void ItemCapture::addRevenueTypes() {
-    cboRev.emplace(*this, "cboRev", ComboBox::ListOnly);
-    fraDrug.holds({&*cboRev});
+    cboDrug.onChange = [this] { resetTariffFields(); };
+    if (kind.asksRevenueType) {
+        cboRev.emplace(*this, "cboRev", ComboBox::ListOnly);
+        fraDrug.holds({&*cboRev});
+    }
 }
 
 Layout ItemCapture::entryLayout() const {
@@ -86,11 +67,11 @@ void ItemCapture::Form_Load() {
     txtPrice.setLocked(session.gLockPrice == "YES");
     lblTotal.setText("0");
     fraDrug.setEnabled(true);
-    cboCat.addItems({"", "DRUG", "INVESTIGATION", "SERVICE"});
+    cboCat.addItems({"", "DRUG", m_kind.tariff.laboratory, "SERVICE"});
     cboFFS.addItems({"", "YES", "NO"});
     cboFFS2.addItems({"", "YES", "NO"});
     loadPatient();
-    saveBillSummary(program, *this, session.gConsultID);
+    showFigures();
     if (cboRev)
         fillRevenueTypes();
 }
@@ -122,7 +103,7 @@ void ItemCapture::loadPatient() {
     } else {
         showPatient(visit);
         fillBillTo(connection);
-        preProcessing(connection);
+        preProcessing();
         prevEntries(connection);
     }
     const Recordset markUp(connection, Sql("select  pcent,pvalue from billingprice where clientcatID ='")
@@ -155,27 +136,20 @@ void ItemCapture::fillBillTo(Connection& connection) {
         cboPat.addItem(client.text("retainName"), client.text("retainCode"));
 }
 
-/// Repairs the rows of the visit, each statement alone.
-void ItemCapture::preProcessing(Connection& connection) {
-    const QString& id = session.gConsultID;
-    connection.execute(Sql("update BillAccum set capitated='NO' where capitated='BIL' and consultID = '") << id << "'");
-    connection.execute(Sql("update BillAccum set CoyName='")
-                       << sRetainID << "' where coyName is null and consultID = '" << id << "'");
-    connection.execute(Sql("update BillAccum set BillTo='")
-                       << sRetainCode << "' where BillTo is null and consultID = '" << id << "'");
-    if (!isCapitatedCategory(lblClient.text()) || lblFFS.text() == "YES")
-        connection.execute(Sql("update BillAccum set capitated='NO' where consultID = '") << id << "'");
-    else
-        connection.execute(Sql("update BillAccum set capitated='NO' where capitated='' and consultID = '")
-                           << id << "'");
+void ItemCapture::preProcessing() {
+    program.desk().save<Saved>(
+        "ITEM REPAIR",
+        [this](Books& books) -> Given<Saved> {
+            prepareItems(books, entered(), sRetainCode);
+            return Saved{};
+        });
 }
 
 /// Shows the lines already in the database; lines not yet saved are lost.
 void ItemCapture::prevEntries(Connection& connection) {
     OrderGridDrug.clear();
     total = 0;
-    for (Label* label : {&lblGen, &lblBilled, &lblPaid})
-        label->setText(formatTwoDecimals(0));
+    showAmount({&lblGen, &lblBilled, &lblPaid}, 0);
     Recordset row(connection, Sql("select distinct * from qrybillAccumHome   where consultID='")
                                   << session.gConsultID << "'");
     for (; !row.eof(); row.moveNext()) {
@@ -199,35 +173,84 @@ void ItemCapture::prevEntries(Connection& connection) {
     }
 }
 
+void ItemCapture::showFigures() {
+    const BillFigures figures = lookAtBill(program, session.gConsultID);
+    showAmount({&lblGen}, figures.generated);
+    showAmount({&lblBilled, &lblTotal}, figures.billed);
+    showAmount({&lblPaid}, figures.paid);
+}
+
 void ItemCapture::rereadEntries() {
     Connection connection = program.openBilling();
     prevEntries(connection);
-    saveBillSummary(program, *this, session.gConsultID);
+    showFigures();
+}
+
+void ItemCapture::cmdCancel_Click() {
+    resetEntryLine();
+    rereadEntries();
+}
+
+bool ItemCapture::isBillOpen() {
+    Connection connection = program.openBilling();
+    return passes({{isBillProcessed(connection, lblBill.text()), refusalText(Refusal::BillProcessed)}});
 }
 
 /// Sets the visit to fee-for-service or back: all its items flip at once.
 void ItemCapture::cmdUpd_Click() {
-    if (cboFFS.text().isEmpty()) {
-        program.box("Specify FeeForService");
-        cboFFS.setFocus();
-        return;
-    }
-    Connection connection = program.openBilling();
-    Transaction transaction(connection);
-    if (isBillProcessed(connection, lblBill.text())) {
-        transaction.rollback();
-        program.box(billProcessedText());
-        return;
-    }
-    connection.execute(Sql("update hrecords set referal='")
-                       << cboFFS.text() << "' where consultID='" << lblBill.text() << "'");
-    connection.execute(Sql("update hPatients set ref='") << cboFFS.text() << "' where pno='" << lblNo.text() << "'");
-    if (cboFFS.text() == "NO")
-        connection.execute(Sql("update billAccum set capitated='YES' where consultID='") << lblBill.text() << "'");
-    else
-        connection.execute(Sql("update billAccum set capitated='NO' where consultID='") << lblBill.text() << "'");
-    transaction.commit();
-    rereadEntries();
+    save<Saved>(
+        {.button = cmdUpd,
+         .action = "FEE FOR SERVICE",
+         .allowed =
+             [this] {
+                 return passes({{cboFFS.text().isEmpty(), "Specify FeeForService", &cboFFS}}) && isBillOpen();
+             },
+         .step = [this](Books& books) { return setFeeForService(books, lblBill.text(), lblNo.text(), cboFFS.text()); },
+         .follow = [this](const Saved&) { rereadEntries(); }});
+}
+
+bool ItemCapture::areLinesReady() {
+    return passes({{dtDate.isEmpty(), m_kind.dateRefusal, &dtDate},
+                   {OrderGridDrug.rows() < 3, "No  Item is Processed!!! Please Verify", &cboDrug}});
+}
+
+void ItemCapture::OKButton_Click() {
+    save<Saved>({.button = OKButton,
+                 .action = m_kind.action,
+                 .allowed = [this] { return areLinesReady() && isBillOpen(); },
+                 .question = "Are you sure to save?",
+                 .title = "About to save",
+                 .step = [this](Books& books) { return m_kind.save(books, entered()); },
+                 .follow = [this](const Saved&) { unload(); }});
+}
+
+EnteredItems ItemCapture::entered() const {
+    EnteredItems all{.consultID = lblBill.text(),
+                     .pno = lblNo.text(),
+                     .retainID = sRetainID,
+                     .category = lblClient.text(),
+                     .feeForService = lblFFS.text(),
+                     .date = dtDate.date(),
+                     .company = session.sAuditCoy,
+                     .screen = name()};
+    for (int row = 1; row < OrderGridDrug.rows() - 1; ++row)
+        if (cellText(row, Status) == "NEW")
+            all.items.append({.name = cellText(row, Item),
+                              .category = cellText(row, Category),
+                              .price = amountIn(row, Price),
+                              .qty = amountIn(row, Units),
+                              .subTotal = amountIn(row, SubTotal),
+                              .usage = cellText(row, Usage),
+                              .capitated = cellText(row, Capitated),
+                              .billType = cellText(row, EntryType),
+                              .billTo = cellText(row, BillTo),
+                              .coyName = cellText(row, CoyName),
+                              .revType = cellText(row, RevenueType)});
+    return all;
+}
+
+double ItemCapture::amountIn(int row, Column column) const {
+    return parseAmount(cellText(row, column)).value_or(0);
 }
 
 TariffVisit ItemCapture::visit() const {

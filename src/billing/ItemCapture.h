@@ -1,12 +1,13 @@
 #pragma once
 
-#include "billing/TariffEntry.h"
+#include "books/ItemEntry.h"
+#include "books/Tariff.h"
 #include "session/Screen.h"
 
 namespace orvane {
 
 /// Captures the items of one visit (session.gConsultID) beside the doctor's treatment plan, prices them by the tariff
-/// and saves the new lines. The screens that derive from it say how a line is saved.
+/// and saves the new lines.
 class ItemCapture : public Screen {
 public:
     Layout layout() const override;
@@ -15,13 +16,18 @@ public:
     Button* cancelButton() override { return &CancelButton; }
 
 protected:
-    /// `dateRefusal`: what a save without a date is answered with.
-    ItemCapture(Program& owner, const QString& name, const QString& caption, const TariffPolicy& tariff,
-                const QString& dateRefusal);
+    /// What the screens that derive from it differ in.
+    struct Kind {
+        const TariffPolicy& tariff;
+        bool asksRevenueType; ///< and then an item is not priced before a patient is loaded, and the private tariff is
+                              ///< announced in a box too, not only in lblInfo
+        QString dateRefusal;  ///< what a save without a date is answered with
+        QString action;       ///< name of the save in SavedActions
+        Given<Saved> (*save)(Books&, const EnteredItems&);
+    };
+    ItemCapture(Program& owner, const QString& name, const QString& caption, const Kind& kind);
 
-    /// Writes one new line of the grid, inside the save's transaction.
-    virtual void saveLine(Connection& connection, int row) = 0;
-
+private:
     enum Column {
         Item,
         Category,
@@ -37,33 +43,33 @@ protected:
         RevenueType
     };
 
-    void addRevenueTypes(); ///< for the constructor of a screen that asks for them
-
-    // What saveLine is made of (ItemCaptureSave.cpp).
-    void setItemColumns(Recordset& item, int row) const;
-    void setVisitColumns(Recordset& item, int row) const;
-    void setLineColumns(Recordset& line, int row, qlonglong sno) const;
-    qlonglong addedItem(Connection& connection, int row) const;
-    void charge(Connection& connection, int row, const QString& remarks);
-    void audit(const QString& action, int row);
-    QString cellText(int row, Column column) const { return OrderGridDrug.cell(row, column); }
-
-private:
-    // The visit and its items so far (ItemCapture.cpp).
+    // The visit and its items so far, and the save (ItemCapture.cpp).
     Layout entryLayout() const;
     void fillRevenueTypes();
     void loadPatient();
     void showPatient(const Recordset& visit);
     void fillBillTo(Connection& connection);
-    void preProcessing(Connection& connection);
+    void preProcessing();
     void prevEntries(Connection& connection);
+    void showFigures();
     void rereadEntries();
+    void cmdCancel_Click();
     void cmdUpd_Click();
+    bool isBillOpen();
+    bool areLinesReady();
+    void OKButton_Click();
+    EnteredItems entered() const; ///< the visit with its new lines
+    QString cellText(int row, Column column) const { return OrderGridDrug.cell(row, column); }
+    double amountIn(int row, Column column) const; ///< naira, or a quantity
     TariffVisit visit() const;
 
     // The entry line and the grid (ItemCaptureEntry.cpp).
     void cboCat_Click();
-    void cboDrug_Click();
+    void onItemPicked();
+    void takeTariff();
+    void showTariff(const TariffAnswer& answer);
+    void showRevenueType(const QString& revType);
+    void resetTariffFields();
     void cboPat_Click();
     void priceOrQuantity_Change();
     void txtSub_Change();
@@ -74,13 +80,6 @@ private:
     void resetEntryLine();
     void OrderGridDrug_DblClick();
     void calcTotal();
-    TariffFields tariffFields();
-
-    // Saving (ItemCaptureSave.cpp).
-    void OKButton_Click();
-    QString saveLines();
-    void refreshBill(Connection& connection);
-    double amountIn(int row, Column column) const; ///< naira, or a quantity
 
 protected:
     Label lblClinic{*this, "lblClinic"};
@@ -92,36 +91,35 @@ protected:
     Label lblClient{*this, "lblClient"};
     Label lblFFS{*this, "lblFFS"};
     ComboBox cboFFS{*this, "cboFFS", ComboBox::ListOnly};
-    Button cmdUpd{*this, "cmdUpd", "OK"};
+    Button cmdUpd{*this, "cmdUpd", "OK", &ItemCapture::cmdUpd_Click};
     TextBox txtPresc{*this, "txtPresc"};
     Frame fraDrug{*this, "fraDrug"};
     DatePicker dtDate{*this, "dtDate"};
-    ComboBox cboCat{*this, "cboCat", ComboBox::ListOnly};
-    ComboBox cboPat{*this, "cboPat", ComboBox::ListOnly};
-    ComboBox cboDrug{*this, "cboDrug"};
+    ComboBox cboCat{*this, "cboCat", ComboBox::ListOnly, &ItemCapture::cboCat_Click};
+    ComboBox cboPat{*this, "cboPat", ComboBox::ListOnly, &ItemCapture::cboPat_Click};
+    ComboBox cboDrug{*this, "cboDrug", ComboBox::FreeText, &ItemCapture::onItemPicked};
     std::optional<ComboBox> cboRev; ///< none on a screen without revenue types
     ComboBox cboFFS2{*this, "cboFFS2", ComboBox::ListOnly};
-    TextBox txtPrice{*this, "txtPrice"};
-    TextBox txtQty{*this, "txtQty"};
-    TextBox txtSub{*this, "txtSub"};
+    TextBox txtPrice{*this, "txtPrice", &ItemCapture::priceOrQuantity_Change};
+    TextBox txtQty{*this, "txtQty", &ItemCapture::priceOrQuantity_Change};
+    TextBox txtSub{*this, "txtSub", &ItemCapture::txtSub_Change};
     Label lblStock{*this, "lblStock"};
     Label lblCat{*this, "lblCat"};
     Label lblInfo{*this, "lblInfo"};
-    Button cmdAdd{*this, "cmdAdd", "Add to Grid"};
-    EntryGrid OrderGridDrug{*this, "OrderGridDrug"};
+    Button cmdAdd{*this, "cmdAdd", "Add to Grid", &ItemCapture::cmdAdd_Click};
+    EntryGrid OrderGridDrug{*this, "OrderGridDrug", &ItemCapture::OrderGridDrug_DblClick};
     Label Label5{*this, "Label5"};
     Label lblGen{*this, "lblGen"};
     Label lblBilled{*this, "lblBilled"};
     Label lblPaid{*this, "lblPaid"};
-    Label lblTotal{*this, "lblTotal"};
-    Button cmdRefresh{*this, "cmdRefresh", "Refresh"};
-    Button cmdCancel{*this, "cmdCancel", "Cancel"};
-    Button CancelButton{*this, "CancelButton", "Close"};
-    Button OKButton{*this, "OKButton", "Save"};
+    Label lblTotal{*this, "lblTotal", {}, &ItemCapture::calcTotal};
+    Button cmdRefresh{*this, "cmdRefresh", "Refresh", &ItemCapture::rereadEntries};
+    Button cmdCancel{*this, "cmdCancel", "Cancel", &ItemCapture::cmdCancel_Click};
+    Button CancelButton{*this, "CancelButton", "Close", &ItemCapture::unload};
+    Button OKButton{*this, "OKButton", "Save", &ItemCapture::OKButton_Click};
 
 private:
-    const TariffPolicy& m_tariff;
-    QString m_dateRefusal;
+    Kind m_kind;
     QString sRetainID; ///< the visit's client
     QString sRetainCode;
     double total = 0;   ///< naira, of the lines not yet saved

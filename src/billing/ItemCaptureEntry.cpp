@@ -17,12 +17,66 @@ bool isNumeric(const TextBox& box) {
 
 } // namespace
 
-TariffFields ItemCapture::tariffFields() {
-    return {cboCat, cboDrug, txtPrice, txtQty, lblStock, lblCat, lblInfo, cboFFS2, cboRev ? &*cboRev : nullptr};
+void ItemCapture::onItemPicked() {
+    if (cboDrug.listIndex() <= 0)
+        return;
+    if (m_kind.asksRevenueType && lblClient.text().isEmpty()) {
+        program.box("Client Tariff Category cannot be empty please select Patient");
+        cboDrug.setText({});
+        return;
+    }
+    if (!passes({{cboCat.text().isEmpty(), "Please specify Category", &cboCat}}))
+        return;
+    resetTariffFields();
+    takeTariff();
 }
 
-void ItemCapture::cboDrug_Click() {
-    onItemPicked(program, m_tariff, tariffFields(), visit());
+void ItemCapture::takeTariff() {
+    TariffAnswer answer;
+    if (const TariffKind* kind = tariffKind(cboCat.text(), m_kind.tariff)) {
+        Connection connection = program.openBilling();
+        answer = resolveTariff(connection, m_kind.tariff, *kind, visit(), cboDrug.text(), session.gPrivateTariff);
+        showTariff(answer);
+    }
+    // Cleared first: a flag that is neither YES nor NO must not leave the one of the item before.
+    cboFFS2.setListIndex(-1);
+    cboFFS2.setText(answer.capitated.isEmpty() ? "NO" : answer.capitated);
+    if (cboRev)
+        showRevenueType(answer.revType);
+    cboFFS2.setText(verifiedCapitation(m_kind.tariff, visit(), cboFFS2.text()));
+}
+
+void ItemCapture::showTariff(const TariffAnswer& answer) {
+    if (!answer.fallback.isEmpty()) {
+        lblInfo.setText(answer.fallback);
+        if (m_kind.asksRevenueType)
+            program.box(answer.fallback);
+    }
+    lblStock.setText(answer.stock);
+    lblCat.setText(answer.category);
+    txtQty.setText(answer.quantity);
+    txtPrice.setText(answer.price);
+}
+
+/// A type that the list does not hold leaves the box as it is.
+void ItemCapture::showRevenueType(const QString& revType) {
+    if (!revType.isEmpty())
+        cboRev->setText(revType);
+    else if (session.gRevTypeRpt == "YES")
+        cboRev->setListIndex(-1);
+    else
+        cboRev->setText("OTHERS");
+}
+
+/// Takes back what the item before left.
+void ItemCapture::resetTariffFields() {
+    txtPrice.setText("0");
+    lblStock.setText("0");
+    lblCat.clear();
+    lblInfo.clear();
+    txtQty.setText("0");
+    if (cboRev)
+        cboRev->setListIndex(-1);
 }
 
 void ItemCapture::cboCat_Click() {
@@ -79,40 +133,28 @@ void ItemCapture::cmdAdd_Click() {
 
 /// Without a revenue type there is no whole choice to remember.
 void ItemCapture::rememberChoice() {
-    const TariffKind* kind = tariffKind(cboCat.text(), m_tariff);
+    const TariffKind* kind = tariffKind(cboCat.text(), m_kind.tariff);
     if (!cboRev || !kind)
         return;
-    Connection connection = program.openBilling();
-    rememberTemplateFlags(connection, *kind, visit(), cboDrug.text(), cboFFS2.text(), cboRev->text());
+    program.desk().save<Saved>("TARIFF FLAGS", [&](Books& books) -> Given<Saved> {
+        rememberTemplateFlags(books, *kind, visit(), cboDrug.text(), cboFFS2.text(), cboRev->text());
+        return Saved{};
+    });
 }
 
 bool ItemCapture::isLineComplete() {
-    struct FieldCheck {
-        bool failed;
-        const char* message;
-        Control* control;
-    };
-    const bool needsRevenueType = cboRev && (cboRev->text() == "OTHERS" || cboRev->text().isEmpty());
-    const bool lacksQuantity = numberIn(txtQty.text()) == 0;
-    const FieldCheck checks[] = {
-        {cboDrug.text().isEmpty() || cboDrug.text() == " ", "Please specify a Drug/Service No ", &cboDrug},
-        {cboFFS2.text().isEmpty(), "Please specify whether Item is Capitated or Not", &cboFFS2},
-        {needsRevenueType, "Please specify Revenue Type! Others Not Allowed", cboRev ? &*cboRev : nullptr},
-        {cboPat.text().isEmpty(), "BillTo/Sponsor field Cannot be Empty", &cboPat},
-        {numberIn(txtPrice.text()) <= 0, "Cannot add this line without a price to Grid !!!  ", &txtPrice},
-        {cboDrug.text().trimmed().isEmpty(), "Please specify Drug/Service used ", &cboDrug},
-        {cboCat.text() == "DRUG" && lacksQuantity, "Please specify Quantity of Drug prescribed", &txtQty},
-    };
-    for (const FieldCheck& check : checks) {
-        if (!check.failed)
-            continue;
-        program.box(check.message);
-        if (needsRevenueType && check.control == &*cboRev)
-            cboRev->setListIndex(-1);
-        check.control->setFocus();
+    const bool lacksRevenueType = cboRev && (cboRev->text() == "OTHERS" || cboRev->text().isEmpty());
+    const bool lacksQuantity = cboCat.text() == "DRUG" && numberIn(txtQty.text()) == 0;
+    if (!passes({{cboDrug.text().isEmpty() || cboDrug.text() == " ", "Please specify a Drug/Service No ", &cboDrug},
+                 {cboFFS2.text().isEmpty(), "Please specify whether Item is Capitated or Not", &cboFFS2}}))
         return false;
-    }
-    return true;
+    if (lacksRevenueType)
+        cboRev->setListIndex(-1);
+    return passes({{lacksRevenueType, "Please specify Revenue Type! Others Not Allowed", cboRev ? &*cboRev : nullptr},
+                   {cboPat.text().isEmpty(), "BillTo/Sponsor field Cannot be Empty", &cboPat},
+                   {numberIn(txtPrice.text()) <= 0, "Cannot add this line without a price to Grid !!!  ", &txtPrice},
+                   {cboDrug.text().trimmed().isEmpty(), "Please specify Drug/Service used ", &cboDrug},
+                   {lacksQuantity, "Please specify Quantity of Drug prescribed", &txtQty}});
 }
 
 void ItemCapture::writeLine() {

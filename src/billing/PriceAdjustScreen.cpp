@@ -1,6 +1,6 @@
 #include "billing/PriceAdjustScreen.h"
 
-#include "billing/Collate.h"
+#include "books/Bill.h"
 #include "data/words/Money.h"
 
 namespace orvane {
@@ -18,10 +18,6 @@ PriceAdjustScreen::PriceAdjustScreen(Program& owner, const QString& formName, co
     : Screen(owner, formName, formCaption) {
     txtQty.numeric();
     txtPrice.numeric();
-    txtQty.onChange = [this] { workOutSubTotal(); };
-    txtPrice.onChange = [this] { workOutSubTotal(); };
-    cmdSave.onClick = [this] { cmdSave_Click(); };
-    CancelButton.onClick = [this] { unload(); };
 }
 
 Layout PriceAdjustScreen::fieldsAbove(std::initializer_list<Layout> further) const {
@@ -38,14 +34,16 @@ bool PriceAdjustScreen::showRow(const Recordset& row, const QString& billColumn)
         cmdSave.setEnabled(false);
         return false;
     }
-    m_sno = session.lWorkSNo;
-    m_billNo = row.text(billColumn);
-    m_oldItem = row.text("drgName");
-    dPrice = row.number("Price");
-    dQty = row.number("Qty");
-    txtDrug.setText(m_oldItem);
-    txtQty.setText(QString::number(dQty, 'g', 15));
-    txtPrice.setText(priceText(dPrice));
+    m_row = {.sno = session.lWorkSNo,
+             .billNo = row.text(billColumn),
+             .pno = row.text("PNo"),
+             .oldItem = row.text("drgName"),
+             .newItem = {},
+             .oldQty = row.number("Qty"),
+             .oldPrice = row.number("Price")};
+    txtDrug.setText(m_row.oldItem);
+    txtQty.setText(QString::number(m_row.oldQty, 'g', 15));
+    txtPrice.setText(priceText(m_row.oldPrice));
     return true;
 }
 
@@ -58,22 +56,11 @@ bool PriceAdjustScreen::isPriceValid() const {
 }
 
 ItemChange PriceAdjustScreen::change() const {
-    ItemChange change;
-    change.billNo = m_billNo;
-    change.oldItem = m_oldItem;
+    ItemChange change = m_row;
     change.newItem = txtDrug.text().trimmed();
-    change.oldQty = dQty;
     change.newQty = parseAmount(txtQty.text()).value_or(0);
-    change.oldPrice = dPrice;
     change.newPrice = parseAmount(txtPrice.text()).value_or(0);
     return change;
-}
-
-void PriceAdjustScreen::setAmounts(Recordset& row, const ItemChange& change) {
-    row.set("Price", change.newPrice);
-    row.set("Qty", change.newQty);
-    row.set("SubTotal", change.newAmount());
-    row.set("drgName", change.newItem);
 }
 
 void PriceAdjustScreen::offerClients(ComboBox& box, Connection& connection, const Sql& clients, const QString& billTo) {
@@ -85,67 +72,26 @@ void PriceAdjustScreen::offerClients(ComboBox& box, Connection& connection, cons
     }
 }
 
-QString PriceAdjustScreen::chosenClient(const ComboBox& box) {
-    return box.listIndex() < 0 ? QString() : box.itemData(box.listIndex()).toString();
-}
-
 Sql PriceAdjustScreen::payers(const QString& billTo) const {
     return Sql("select retainCode,retainName from hretainership where retainCode in ('")
            << billTo << "','" << session.gBillTo << "') order by retainCode desc";
 }
 
-bool PriceAdjustScreen::isFrozen() {
+bool PriceAdjustScreen::isBillOpen() {
     Connection connection = program.openBilling();
-    if (!isBillProcessed(connection, m_billNo))
-        return false;
-    program.box(billProcessedText());
-    return true;
-}
-
-void PriceAdjustScreen::changeBill(Button& button, const std::function<void(Connection&)>& steps,
-                                   std::function<void()> afterChange) {
-    const auto save = [&] {
-        Connection connection = program.openBilling();
-        Transaction transaction(connection);
-        if (isBillProcessed(connection, m_billNo))
-            return false;
-        steps(connection);
-        transaction.commit({.action = name()});
-        return true;
-    };
-    if (!saveOnce(button, save, std::move(afterChange)))
-        program.box(billProcessedText());
-}
-
-void PriceAdjustScreen::requireUnchanged(const Recordset& row) const {
-    if (row.eof() || row.number("Price") != dPrice || row.number("Qty") != dQty || row.text("drgName") != m_oldItem)
-        throw DataError(
-            "Row cannot be located for updating. Some values may have been changed since it was last read.");
-}
-
-bool PriceAdjustScreen::checkFields() {
-    for (const Check& check : checks()) {
-        if (!check.failed)
-            continue;
-        program.box(check.text);
-        check.control.setFocus();
-        return false;
-    }
-    return true;
+    return passes({{isBillProcessed(connection, m_row.billNo), refusalText(Refusal::BillProcessed)}});
 }
 
 void PriceAdjustScreen::cmdSave_Click() {
-    if (settlesSave() || isFrozen() || !checkFields())
-        return;
-    const auto steps = [this](Connection& connection) {
-        Recordset row = openRow(connection);
-        requireUnchanged(row);
-        saveRow(connection, row);
-    };
-    changeBill(cmdSave, steps, [this] {
-        afterSave();
-        unload();
-    });
+    save<Saved>({.button = cmdSave,
+                 .action = action(),
+                 .allowed = [this] { return isBillOpen() && isComplete(); },
+                 .step = [this](Books& books) { return write(books); },
+                 .follow =
+                     [this](const Saved&) {
+                         afterSave();
+                         unload();
+                     }});
 }
 
 } // namespace orvane

@@ -2,20 +2,9 @@
 
 namespace orvane {
 
-frmApprvCode::frmApprvCode(Program& owner) : Screen(owner, "frmApprvCode", "HMO/NHIS") {
-    cmdInv.onClick = [this] { cmdInv_Click(); };
-    cboVehNo.onClick = [this] { cboVehNo_Click(); };
-    cmdEdit.onClick = [this] { cmdEdit_Click(); };
-    cmdDel.onClick = [this] { cmdDel_Click(); };
-    cmdCancel.onClick = [this] { resetFields(); };
-    OKButton.onClick = [this] { OKButton_Click(); };
-    CancelButton.onClick = [this] { unload(); };
-}
-
 Layout frmApprvCode::layout() const {
     using namespace orvane::layout;
-    return column({row({field("Attendance between", DTPicker1), field("and", DTPicker2), cell(cmdInv), stretch()}),
-                   field("Patient", cboVehNo),
+    return column({visits.layout(),
                    facts({{"Bill No", &lblBill},
                           {"File No", &lblNo},
                           {"Category", &lblDetails},
@@ -31,49 +20,53 @@ Layout frmApprvCode::layout() const {
 
 void frmApprvCode::Form_Load() {
     const QDate today = program.getServerDateTime().date();
-    for (DatePicker* picker : {&DTPicker1, &DTPicker2, &dtDate})
-        picker->setDate(today);
+    visits.setDates(today);
+    dtDate.setDate(today);
     cboBill.addItems({"FEE-FOR-SERVICE", "CLAIMS", "COMPANY"});
     grdData.hide({"SNO"});
 }
 
 void frmApprvCode::cmdInv_Click() {
     resetFields();
-    cboVehNo.clear();
+    visits.cboVehNo.clear();
     Connection connection = program.openBilling();
-    Recordset visits(connection, Sql("select distinct  CoyName,Fullname,Date,consultID as billNo from "
-                                     "vwhConsultingVisits where   Date between '")
-                                     << DTPicker1.date() << "' and '" << DTPicker2.date() << "' and  clientCatID <> '"
-                                     << session.gPrivateTariff << "' order by fullname ");
-    for (; !visits.eof(); visits.moveNext())
-        cboVehNo.addItem(visits.text("Fullname") + " @" + visits.date("Date").toString("dd/MM/yyyy") + " [" +
-                         visits.text("billNo") + "]");
+    Recordset rows(connection, Sql("select distinct  CoyName,Fullname,Date,consultID as billNo from "
+                                   "vwhConsultingVisits where   Date between '")
+                                   << visits.DTPicker1.date() << "' and '" << visits.DTPicker2.date()
+                                   << "' and  clientCatID <> '" << session.gPrivateTariff << "' order by fullname ");
+    for (; !rows.eof(); rows.moveNext()) {
+        const ListedVisit visit{rows.text("billNo"), {}, rows.text("Fullname")};
+        visits.cboVehNo.addItem(visit.patient + " @" + rows.date("Date").toString("dd/MM/yyyy") + " [" +
+                                    visit.consultID + "]",
+                                QVariant::fromValue(visit));
+    }
 }
 
 void frmApprvCode::cboVehNo_Click() {
-    if (cboVehNo.listIndex() < 0)
+    const auto picked = visits.cboVehNo.picked<ListedVisit>();
+    if (!picked)
         return;
-    const QString entry = cboVehNo.text();
-    const auto bracket = entry.lastIndexOf(QLatin1Char('['));
-    m_consultID = entry.mid(bracket + 1).chopped(1);
-    m_patient = entry.left(entry.lastIndexOf(QLatin1String(" @"), bracket));
+    m_visit = *picked;
     // The code of another visit that was being edited is none of this one.
     if (bEditing)
         clearCode();
     Connection connection = program.openBilling();
     const Recordset visit(connection, Sql("select * from qryhPreConsultForClinics where consultID='")
-                                          << m_consultID << "'");
-    if (visit.eof()) {
+                                          << m_visit.consultID << "'");
+    if (visit.eof())
         resetFields();
-        return;
-    }
+    else
+        showVisit(visit);
+}
+
+void frmApprvCode::showVisit(const Recordset& visit) {
     const struct {
         Label& label;
         const char* column;
     } facts[] = {{lblDetails, "clientCat"}, {lblBill, "consultID"}, {lblNo, "PNo"}, {lblSex, "sex"},
                  {lblAge, "Age"},           {lblCoy, "Company"},    {lblRef, "ref"}};
     for (const auto& fact : facts)
-        fact.label.setText(visit.text(QLatin1String(fact.column)));
+        fact.label.setText(visit.text(fact.column));
     dtDate.setDate(visit.date("recDate"));
     fillGrid();
 }
@@ -83,30 +76,40 @@ void frmApprvCode::fillGrid() {
     grdData.load(Recordset(
         connection,
         Sql("select  SNO,ApprvDate,ConsultID,ApprvCode,Pno,BillType,Remarks from hApprvCode where consultID='")
-            << m_consultID << "' ORDER BY Apprvdate asc"));
+            << m_visit.consultID << "' ORDER BY Apprvdate asc"));
 }
 
+bool frmApprvCode::isComplete() {
+    return passes({{dtDate.isEmpty(), "Specify Date of Approval", &dtDate},
+                   {m_visit.consultID.isEmpty(), "Select a Patient for this Approval"},
+                   {txtApprv.text().trimmed().isEmpty(), "Specify Approval Code for this Treatment"},
+                   {cboBill.text().isEmpty(), "Specify Billing Category for this Approval"}});
+}
+
+/// An edit finds its row by the visit: with several codes on one visit the first of them changes.
 void frmApprvCode::OKButton_Click() {
-    if (dtDate.isEmpty()) {
-        program.box("Specify Date of Approval");
-        dtDate.setFocus();
-        return;
-    }
-    if (m_consultID.isEmpty()) {
-        program.box("Select a Patient for this Approval");
-        return;
-    }
-    if (txtApprv.text().trimmed().isEmpty()) {
-        program.box("Specify Approval Code for this Treatment");
-        return;
-    }
-    if (cboBill.text().isEmpty()) {
-        program.box("Specify Billing Category for this Approval");
-        return;
-    }
-    save();
+    save<Saved>({.button = OKButton,
+                 .action = "APPROVAL CODE",
+                 .allowed = [this] { return isComplete(); },
+                 .step = [this](Books& books) -> Given<Saved> {
+                     const ApprovalCode code{.date = dtDate.date(),
+                                             .consultID = m_visit.consultID,
+                                             .pno = lblNo.text(),
+                                             .code = txtApprv.text(),
+                                             .billType = cboBill.text(),
+                                             .remarks = txtRem.text()};
+                     if (bEditing)
+                         changeFirstApprovalCode(books, code);
+                     else
+                         addApprovalCode(books, code);
+                     return Saved{};
+                 },
+                 .follow = [this](const Saved&) { afterSave(); }});
+}
+
+void frmApprvCode::afterSave() {
     program.box("Record Succesfully saved");
-    program.writeAuditTrail({"Add Apprv Code for " + m_patient, m_consultID, txtApprv.text()});
+    program.writeAuditTrail({"Add Apprv Code for " + m_visit.patient, m_visit.consultID, txtApprv.text()});
     fillGrid();
     clearCode();
 }
@@ -116,25 +119,6 @@ void frmApprvCode::clearCode() {
     txtRem.clear();
     cboBill.setListIndex(-1);
     bEditing = false;
-}
-
-// An edit finds its row by the visit: with several codes on one visit the first of them changes.
-void frmApprvCode::save() {
-    Connection connection = program.openBilling();
-    Recordset code(connection, bEditing ? Sql("select * from hApprvCode where consultID='")
-                                              << m_consultID << "' order by SNO"
-                                        : Sql("select * from hApprvCode where 1=2"));
-    if (bEditing && code.eof())
-        return;
-    if (!bEditing)
-        code.addNew();
-    code.set("ApprvDate", dtDate.date());
-    code.set("consultID", m_consultID);
-    code.set("ApprvCode", txtApprv.text());
-    code.set("Remarks", txtRem.text());
-    code.set("billType", cboBill.text());
-    code.set("PNo", lblNo.text());
-    code.update();
 }
 
 void frmApprvCode::cmdEdit_Click() {
@@ -152,25 +136,29 @@ void frmApprvCode::cmdEdit_Click() {
 void frmApprvCode::cmdDel_Click() {
     if (grdData.currentRow() < 0)
         return;
-    if (!program.question("Are you sure to Delete Record", "Delete"))
-        return;
-    {
-        Connection connection = program.openBilling();
-        connection.execute(Sql("delete from hApprvCode where sno = '") << grdData.text(QStringLiteral("SNO")) << "'");
-    }
-    program.box(" Record successfully deleted ");
-    bEditing = false;
-    fillGrid();
+    save<Saved>({.button = cmdDel,
+                 .action = "APPROVAL DELETE",
+                 .question = "Are you sure to Delete Record",
+                 .title = "Delete",
+                 .step = [this, sno = qlonglong(grdData.number("SNO"))](Books& books) -> Given<Saved> {
+                     deleteApprovalCode(books, m_visit.consultID, sno);
+                     return Saved{};
+                 },
+                 .follow =
+                     [this](const Saved&) {
+                         program.box(" Record successfully deleted ");
+                         bEditing = false;
+                         fillGrid();
+                     }});
 }
 
 void frmApprvCode::resetFields() {
     for (Label* label : {&lblDetails, &lblCoy, &lblBill, &lblNo, &lblSex, &lblAge, &lblRef})
         label->clear();
-    cboVehNo.setListIndex(-1);
+    visits.cboVehNo.setListIndex(-1);
     clearCode();
     grdData.clear();
-    m_consultID.clear();
-    m_patient.clear();
+    m_visit = {};
 }
 
 } // namespace orvane

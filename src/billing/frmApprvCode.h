@@ -1,5 +1,8 @@
 #pragma once
 
+#include "books/ApprovalCode.h"
+#include "forms/RangePicker.h"
+#include "session/ListedVisit.h"
 #include "session/Screen.h"
 
 namespace orvane {
@@ -7,12 +10,32 @@ namespace orvane {
 /// "HMO/NHIS": records the codes by which a scheme approves a treatment.
 class frmApprvCode : public Screen {
 public:
-    explicit frmApprvCode(Program& program);
+    explicit frmApprvCode(Program& owner) : Screen(owner, "frmApprvCode", "HMO/NHIS") {}
 
-    DatePicker DTPicker1{*this, "DTPicker1"};
-    DatePicker DTPicker2{*this, "DTPicker2"};
-    Button cmdInv{*this, "cmdInv", "&Get Patients"};
-    ComboBox cboVehNo{*this, "cboVehNo", ComboBox::ListOnly};
+    Layout layout() const override;
+    void Form_Load() override;
+    Button* defaultButton() override { return &OKButton; }
+    Button* cancelButton() override { return &CancelButton; }
+
+private:
+    void cmdInv_Click();
+    void cboVehNo_Click();
+    void showVisit(const Recordset& visit);
+    void fillGrid();
+    bool isComplete();
+    void OKButton_Click();
+    void afterSave();
+    void cmdEdit_Click();
+    void cmdDel_Click();
+    void clearCode();
+    void resetFields();
+
+    using Me = frmApprvCode;
+    RangePicker visits{*this,
+                       {"Attendance between", "cmdInv", "&Get Patients"},
+                       &Me::cmdInv_Click,
+                       ComboBox::ListOnly,
+                       &Me::cboVehNo_Click};
     Label lblDetails{*this, "lblDetails"};
     Label lblCoy{*this, "lblCoy"};
     Label lblBill{*this, "lblBill"};
@@ -25,30 +48,13 @@ public:
     ComboBox cboBill{*this, "cboBill", ComboBox::ListOnly};
     TextBox txtRem{*this, "txtRem"};
     Grid grdData{*this, "grdData"};
-    Button cmdEdit{*this, "cmdEdit", "&Edit"};
-    Button cmdDel{*this, "cmdDel", "&Delete"};
-    Button cmdCancel{*this, "cmdCancel", "C&lear"};
-    Button OKButton{*this, "OKButton", "&Save"};
-    Button CancelButton{*this, "CancelButton", "&Close"};
+    Button cmdEdit{*this, "cmdEdit", "&Edit", &Me::cmdEdit_Click};
+    Button cmdDel{*this, "cmdDel", "&Delete", &Me::cmdDel_Click};
+    Button cmdCancel{*this, "cmdCancel", "C&lear", &Me::resetFields};
+    Button OKButton{*this, "OKButton", "&Save", &Me::OKButton_Click};
+    Button CancelButton{*this, "CancelButton", "&Close", &Me::unload};
 
-    Layout layout() const override;
-    void Form_Load() override;
-    Button* defaultButton() override { return &OKButton; }
-    Button* cancelButton() override { return &CancelButton; }
-
-private:
-    void cmdInv_Click();
-    void cboVehNo_Click();
-    void fillGrid();
-    void OKButton_Click();
-    void save();
-    void cmdEdit_Click();
-    void cmdDel_Click();
-    void clearCode();
-    void resetFields();
-
-    QString m_consultID; ///< the visit in hand; empty without one
-    QString m_patient;
+    ListedVisit m_visit; ///< in hand; empty without one
     bool bEditing = false;
 };
 

@@ -1,31 +1,16 @@
 #pragma once
 
+#include "books/Discount.h"
+#include "forms/RangePicker.h"
+#include "session/ListedVisit.h"
 #include "session/Screen.h"
 
 namespace orvane {
 
-/// "Discounts": adds to a saved bill a single line, a further charge or a discount, and moves the Billing row with it.
-/// The patient's running account keeps the charge as it was.
+/// "Discounts": adds to a saved bill a single line, a further charge or a discount.
 class frmBillDiscount : public Screen {
 public:
-    explicit frmBillDiscount(Program& program);
-
-    DatePicker DTPicker1{*this, "DTPicker1"};
-    DatePicker DTPicker2{*this, "DTPicker2"};
-    Button cmdInv{*this, "cmdInv", "&Get Patients"};
-    ComboBox cboVehNo{*this, "cboVehNo", ComboBox::ListOnly};
-    Label Label5{*this, "Label5"};
-    Label lblBill{*this, "lblBill"};
-    Label lblAmt{*this, "lblAmt"};
-    TextBox txtDue{*this, "txtDue"};
-    DatePicker dtDate{*this, "dtDate"};
-    ComboBox cboClinic{*this, "cboClinic", ComboBox::ListOnly};
-    ComboBox cboCat{*this, "cboCat"};
-    TextBox txtHt{*this, "txtHt"};
-    ComboBox cboPay{*this, "cboPay", ComboBox::ListOnly};
-    Button cmdCancel{*this, "cmdCancel", "C&lear"};
-    Button OKButton{*this, "OKButton", "&Save"};
-    Button CancelButton{*this, "CancelButton", "&Close"};
+    explicit frmBillDiscount(Program& owner);
 
     Layout layout() const override;
     void Form_Load() override;
@@ -37,15 +22,32 @@ private:
     void cmdInv_Click();
     void cboVehNo_Click();
     void OKButton_Click();
-    bool checkFields();
-    bool save(double amount); ///< false: a batch holds the bill
-    void addLine(Connection& connection, double amount);
-    void addDiscount(Connection& connection, double amount);
-    void moveBill(Connection& connection, double amount);
+    bool isComplete();
+    bool isBillOpen();
+    BillDiscount entered() const;
+    double amount() const; ///< naira in whole kobo, 0 where the field holds no number
     void clearFields();
-    bool isDiscount() const { return cboClinic.text() == QLatin1String("DISCOUNT"); }
 
-    QString m_pno;
+    using Me = frmBillDiscount;
+    RangePicker bills{*this,
+                      {"Bills between", "cmdInv", "&Get Patients"},
+                      &Me::cmdInv_Click,
+                      ComboBox::ListOnly,
+                      &Me::cboVehNo_Click};
+    Label Label5{*this, "Label5"};
+    Label lblBill{*this, "lblBill"};
+    Label lblAmt{*this, "lblAmt"};
+    TextBox txtDue{*this, "txtDue"};
+    DatePicker dtDate{*this, "dtDate"};
+    ComboBox cboClinic{*this, "cboClinic", ComboBox::ListOnly, &Me::cboClinic_Click};
+    ComboBox cboCat{*this, "cboCat"};
+    TextBox txtHt{*this, "txtHt"};
+    ComboBox cboPay{*this, "cboPay", ComboBox::ListOnly};
+    Button cmdCancel{*this, "cmdCancel", "C&lear", &Me::clearFields};
+    Button OKButton{*this, "OKButton", "&Save", &Me::OKButton_Click};
+    Button CancelButton{*this, "CancelButton", "&Close", &Me::unload};
+
+    ListedVisit m_bill; ///< in hand; empty without one
 };
 
 } // namespace orvane

@@ -7,12 +7,9 @@ namespace orvane {
 /// "Bill Generation": adds items to the bill of the visit that the collation screen has in hand.
 class frmBillPat : public ItemCapture {
 public:
-    explicit frmBillPat(Program& owner);
-
-private:
-    void saveLine(Connection& connection, int row) override;
-    void putOnBill(Connection& connection, int row);
-    QString billMode() const;
+    explicit frmBillPat(Program& owner)
+        : ItemCapture(owner, "frmBillPat", "Bill Generation",
+                      {BillPatTariff, true, "Please specify Date", "BILL ITEMS", addToVisit}) {}
 };
 
 } // namespace orvane

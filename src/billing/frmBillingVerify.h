@@ -1,10 +1,8 @@
 #pragma once
 
-#include "billing/Collate.h"
-#include "receipts/ReceiptRows.h"
+#include "billing/ReceiptFrame.h"
+#include "forms/RangePicker.h"
 #include "session/Screen.h"
-
-#include <array>
 
 namespace orvane {
 
@@ -21,25 +19,7 @@ public:
     void afterFault() override;
 
 private:
-    enum class Search { Range, InPatients, OneBill };
-
-    /// What a line has charged to an account.
-    struct Charge {
-        double amount = 0; ///< naira
-        QString clientCode;
-    };
-
-    /// One means of payment of a receipt.
-    struct PayWay {
-        PayWay(Form& form, int index, const QString& caption);
-        Label lblAmt;
-        TextBox txtAmt;
-        std::optional<ComboBox> cboBank; ///< none for cash
-        Label lblAcctNo;
-    };
-
     // Opening (frmBillingVerify.cpp).
-    void connectHandlers();
     void fillLists();
     void enableFields();
     void SetButtons();
@@ -56,54 +36,51 @@ private:
     void cboVehNo_Click();
     void cmdRefresh_Click();
     void cmdCancel_Click();
-    void getPatForBill(Search search);
+    void getPatForBill(const Sql& visits);
     Sql visitsBetweenDates() const;
     void clearFields();
-    void loadVisit(QString pno, QString consultID, QString patient);
+    void clearEntry();
+    void loadVisit(QString consultID, QString pno, QString patient);
+    bool readVisit(Connection& connection);
+    void showVisit(Connection& connection);
     void takeInHand();
     void getConFromAdmission();
-    bool readVisit(Connection& connection);
-    bool readClient(Connection& connection);
     void readAttendance(Connection& connection);
     void getDiagnosis(Connection& connection);
-    void getApprvCode(Connection& connection);
     void getAccumBill();
+    void collate();
+    void showFigures();
     double sumOfItems(Connection& connection) const;
     void fillGrid(Connection& connection);
     void showScreen(const QString& heading);
     QDate today() const;
 
-    // Saving (frmBillingVerifySave.cpp).
+    // Saving, with the receipt (frmBillingVerifySave.cpp).
     void OKButton_Click();
-    bool isBillInHand();
+    bool isReadyToSave();
     bool isBillOpen();
     bool areDatesGiven();
+    bool isReceiptComplete();
     void confirmProfFee();
-    QString writeBill(const ReceiptEntry* receipt);
+    bool prepareSave();
+    bool genIDNo();
+    BillToSave billToSave() const;
     void afterSave(const QString& receiptNo);
-    void saveVisit(Connection& connection);
-    void saveBillRow(Connection& connection);
     void saveApprvCode();
-
-    // The receipt (frmBillingVerifyReceipt.cpp).
     void chkRct_Click();
     void followReceiptBox();
-    void clearReceipt();
-    void txtAmt_Change();
-    void txtHt_Change();
-    void chkExact_Click();
     void chkDep_Click();
     void chkCurr_Click();
-    void cboBank_Click(int way);
-    QString defaultAccount(int way) const;
-    bool isReceiptComplete();
-    bool refuseReceipt(const QString& text, Control& control, const QString& title = {});
-    void genIDNo();
-    ReceiptEntry receiptOnScreen() const;
-    void saveReceipt(Connection& connection, const ReceiptEntry& receipt);
+    void txtEmp_Change();
 
-    // Further actions (frmBillingVerifyActions.cpp).
+    // Fees and further actions (frmBillingVerifyActions.cpp).
     bool hasPatient(const QString& refusal);
+    bool isFeeGiven(TextBox& box, const QString& refusal);
+    void cmdBill_Click();
+    void cmdNHIS_Click();
+    bool askFeeItem();
+    void cmdCap_Click();
+    bool isManager();
     void cmdAddBill_Click();
     void cmdPrice_Click();
     void cmdUnBilled_Click();
@@ -118,37 +95,25 @@ private:
     void cmdPR_Click();
     void cmdPrint_Click();
 
-    // Fees and capitation (frmBillingVerifyFees.cpp).
-    void cmdBill_Click();
-    void cmdNHIS_Click();
-    void cmdCap_Click();
-    bool isFeeGiven(TextBox& box, const QString& refusal);
-    void addFeeItem(Connection& connection, const QString& text, double fee, const QString& revType, bool billed);
-    void addFeeLine(Connection& connection, const QString& text, double fee, const QString& revType);
-    void addServiceFee(Connection& connection, const QString& text);
-    bool isManager();
-    bool changeBill(Button& button, const std::function<void(Connection&)>& steps, std::function<void()> afterChange);
-    void updateBillTotal(Connection& connection);
-    void capitateItems(Connection& connection);
-    void capitateItem(Connection& connection, const Recordset& item, const Charge& charge);
-
     BillInHand m_bill;       ///< the visit on the screen; empty until it was read whole
     bool m_loading = false;  ///< a visit is being read
     bool m_saved = false;    ///< the bill on the screen was saved
     QString m_receiptClinic; ///< clinic of the receipt being taken
-    QString m_namedWays;     ///< what this screen wrote into cboPay by itself
+    QString m_feeItem;       ///< text of the fee being added
 
     // Finding a visit.
-    DatePicker DTPicker1{*this, "DTPicker1"};
-    DatePicker DTPicker2{*this, "DTPicker2"};
+    using Me = frmBillingVerify;
+    RangePicker visits{*this,
+                       {"Attendance bet&ween", "cmdList", "&Get Patient"},
+                       &Me::cmdList_Click,
+                       ComboBox::ListOnly,
+                       &Me::cboVehNo_Click};
     ComboBox cboHMO{*this, "cboHMO", ComboBox::ListOnly};
     CheckBox chkAll{*this, "chkAll", "Sho&w All"};
-    Button cmdList{*this, "cmdList", "&Get Patient"};
-    Button cmdAdm{*this, "cmdAdm", "Admission ONLY"};
-    Button cmdAdd{*this, "cmdAdd", "Collate Bill"};
+    Button cmdAdm{*this, "cmdAdm", "Admission ONLY", &Me::cmdAdm_Click};
+    Button cmdAdd{*this, "cmdAdd", "Collate Bill", &Me::cmdAdd_Click};
     TextBox txtSearch{*this, "txtSearch"};
-    Button cmdOK{*this, "cmdOK", "OK"};
-    ComboBox cboVehNo{*this, "cboVehNo", ComboBox::ListOnly};
+    Button cmdOK{*this, "cmdOK", "OK", &Me::cmdOK_Click};
 
     // The visit in hand.
     Label lblBill{*this, "lblBill"};
@@ -164,7 +129,7 @@ private:
     TabStrip SSTab1{*this, "SSTab1"};
 
     // Its bill.
-    Grid grdData{*this, "grdData"};
+    Grid grdData{*this, "grdData", &Me::cmdPrice_Click};
     Label lblGen{*this, "lblGen"};
     Label lblBilled{*this, "lblBilled"};
     Label lblPaid{*this, "lblPaid"};
@@ -174,52 +139,37 @@ private:
     Label lblAmtDue{*this, "lblAmtDue"};
     Label txtDuty{*this, "txtDuty"}; ///< the payable in words
     TextBox txtProf{*this, "txtProf"};
-    Button cmdBill{*this, "cmdBill", "Recalculate Bill"};
+    Button cmdBill{*this, "cmdBill", "Recalculate Bill", &Me::cmdBill_Click};
     TextBox txtNHIS{*this, "txtNHIS"};
-    Button cmdNHIS{*this, "cmdNHIS", "Recalculate Bill"};
-    Button cmdCap{*this, "cmdCap", "Capitate All"};
+    Button cmdNHIS{*this, "cmdNHIS", "Recalculate Bill", &Me::cmdNHIS_Click};
+    Button cmdCap{*this, "cmdCap", "Capitate All", &Me::cmdCap_Click};
 
     // The receipt.
     Label lblScreen{*this, "lblScreen", "Collate / Verify Bill"};
-    CheckBox chkRct{*this, "chkRct", "Issue &Receipt"};
-    Button cmdRev{*this, "cmdRev", "Headings..."};
-    CheckBox chkDep{*this, "chkDep", "&Deposit"};
-    CheckBox chkCurr{*this, "chkCurr", "Tick to Enter Fresh Bill ONLY"};
-    Frame fraReceipt{*this, "fraReceipt"};
-    Label lblRct{*this, "lblRct"};
-    DatePicker dtRctDate{*this, "dtRctDate"};
-    ComboBox cboPayFor{*this, "cboPayFor"};
-    Label lblDep{*this, "lblDep"};
-    TextBox txtEmp{*this, "txtEmp"};
-    CheckBox chkExact{*this, "chkExact", "E&xact amount in cash"};
-    std::array<PayWay, 4> ways{
-        {PayWay(*this, 0, "CASH"), PayWay(*this, 1, "POS"), PayWay(*this, 2, "CHEQUE"), PayWay(*this, 3, "TRANSFER")}};
-    TextBox txtCheque{*this, "txtCheque"};
-    ComboBox cboPay{*this, "cboPay"};
-    TextBox txtHt{*this, "txtHt"};
-    TextBox txtWord{*this, "txtWord"};
+    CheckBox chkRct{*this, "chkRct", "Issue &Receipt", &Me::chkRct_Click};
+    Button cmdRev{*this, "cmdRev", "Headings...", &Me::cmdRev_Click};
+    CheckBox chkDep{*this, "chkDep", "&Deposit", &Me::chkDep_Click};
+    CheckBox chkCurr{*this, "chkCurr", "Tick to Enter Fresh Bill ONLY", &Me::chkCurr_Click};
+    ReceiptFrame receipt{*this, session};
 
     // Diagnosis and treatment.
     TextBox txtDiag{*this, "txtDiag"};
-    Button cmdPresc{*this, "cmdPresc", "View Prescription/ Lab"};
-    Button cmdDispense{*this, "cmdDispense", "View Treatment Plan"};
-    Button cmdLastDiag{*this, "cmdLastDiag", "Last Diagnosis"};
+    Button cmdPresc{*this, "cmdPresc", "View Prescription/ Lab", &Me::cmdPresc_Click};
+    Button cmdDispense{*this, "cmdDispense", "View Treatment Plan", &Me::cmdDispense_Click};
+    Button cmdLastDiag{*this, "cmdLastDiag", "Last Diagnosis", &Me::cmdLastDiag_Click};
 
-    Button cmdAddBill{*this, "cmdAddBill", "&Add to Bill"};
-    Button cmdPrice{*this, "cmdPrice", "Ad&just Bill"};
-    Button cmdUnBilled{*this, "cmdUnBilled", "View &UnBilled"};
-    Button cmdAcct{*this, "cmdAcct", "D&ebt Info"};
-    Button cmdCoy{*this, "cmdCoy", "Update Compan&y"};
-    Button cmdSplit{*this, "cmdSplit", "Split B&ill"};
-    Button cmdExt{*this, "cmdExt", "Service &Outlet"};
-    Button cmdPR{*this, "cmdPR", "&Print Receipt"};
-    Button cmdPrint{*this, "cmdPrint", "Print In&voice"};
-    Button cmdRefresh{*this, "cmdRefresh", "Re&fresh"};
-    Button cmdCancel{*this, "cmdCancel", "&Cancel"};
-    Button OKButton{*this, "OKButton", "&Save Collated Bill"};
+    Button cmdAddBill{*this, "cmdAddBill", "&Add to Bill", &Me::cmdAddBill_Click};
+    Button cmdPrice{*this, "cmdPrice", "Ad&just Bill", &Me::cmdPrice_Click};
+    Button cmdUnBilled{*this, "cmdUnBilled", "View &UnBilled", &Me::cmdUnBilled_Click};
+    Button cmdAcct{*this, "cmdAcct", "D&ebt Info", &Me::cmdAcct_Click};
+    Button cmdCoy{*this, "cmdCoy", "Update Compan&y", &Me::cmdCoy_Click};
+    Button cmdSplit{*this, "cmdSplit", "Split B&ill", &Me::cmdSplit_Click};
+    Button cmdExt{*this, "cmdExt", "Service &Outlet", &Me::cmdExt_Click};
+    Button cmdPR{*this, "cmdPR", "&Print Receipt", &Me::cmdPR_Click};
+    Button cmdPrint{*this, "cmdPrint", "Print In&voice", &Me::cmdPrint_Click};
+    Button cmdRefresh{*this, "cmdRefresh", "Re&fresh", &Me::cmdRefresh_Click};
+    Button cmdCancel{*this, "cmdCancel", "&Cancel", &Me::cmdCancel_Click};
+    Button OKButton{*this, "OKButton", "&Save Collated Bill", &Me::OKButton_Click};
 };
-
-/// What a text box holds as naira; a blank or a text that is no amount is 0.
-double amountIn(const TextBox& box);
 
 } // namespace orvane

@@ -1,4 +1,7 @@
 #include "billing/frmBillingVerify.h"
+#include "books/Capitation.h"
+#include "books/Fees.h"
+#include "data/words/Money.h"
 #include "receipts/frmCashReceipt.h"
 
 namespace orvane {
@@ -11,6 +14,82 @@ bool frmBillingVerify::hasPatient(const QString& refusal) {
     }
     takeInHand();
     return true;
+}
+
+bool frmBillingVerify::isFeeGiven(TextBox& box, const QString& refusal) {
+    return hasPatient("Specify Patient Name") && passes({{parseAmount(box.text()).value_or(-1) < 0, refusal, &box}}) &&
+           isBillOpen();
+}
+
+void frmBillingVerify::cmdBill_Click() {
+    const double bill = parseAmount(lblCurr.text()).value_or(0);
+    const QString percent = txtProf.text().trimmed();
+    const QString item = professionalFeeItem(percent);
+    save<double>({.button = cmdBill,
+                  .action = "PROF FEE",
+                  .allowed = [this] { return isFeeGiven(txtProf, "Specify Prof fee! Numeric Only"); },
+                  .step =
+                      [=, this](Books& books) {
+                          return addProfessionalFee(books, m_bill, {item, dtDate.date(), *parseAmount(percent)}, bill);
+                      },
+                  .follow =
+                      [=, this](double fee) {
+                          program.writeAuditTrail(
+                              {"insert " + item + " for: " + m_bill.patient, m_bill.consultID, formatTwoDecimals(fee)});
+                          session.sAdjustItem = item;
+                          getAccumBill();
+                          program.box(percent + "% Prof fee of " + formatTwoDecimals(bill) +
+                                      " Added\nProf Fee is based on Current Bill\nProf Fee Charged is " +
+                                      formatTwoDecimals(fee));
+                      }});
+}
+
+/// False: its user wants no fee.
+bool frmBillingVerify::askFeeItem() {
+    m_feeItem = ui().inputBox("Enter Item Description", {}, "NHIS  (" + txtNHIS.text().trimmed() + "%) Fee")
+                    .value_or(QString());
+    return !m_feeItem.trimmed().isEmpty();
+}
+
+void frmBillingVerify::cmdNHIS_Click() {
+    const QString percent = txtNHIS.text().trimmed();
+    save<double>({.button = cmdNHIS,
+                  .action = "NHIS FEE",
+                  .allowed = [this] { return isFeeGiven(txtNHIS, "Specify NHIS fee! Numeric Only"); },
+                  .prepare = [this] { return askFeeItem(); },
+                  .step =
+                      [=, this](Books& books) {
+                          return addNhisFee(books, m_bill, {m_feeItem, dtDate.date(), *parseAmount(percent)});
+                      },
+                  .follow =
+                      [=, this](double) {
+                          program.writeAuditTrail(
+                              {"insert Service/NHIS  (" + percent + "%) fee for Drugs/Services for " + m_bill.patient,
+                               m_bill.consultID, m_feeItem});
+                          session.sAdjustItem = m_feeItem;
+                          getAccumBill();
+                      }});
+}
+
+bool frmBillingVerify::isManager() {
+    Connection connection = program.openBilling();
+    const Recordset manager(connection, Sql("select  * from vwUsers where loginRole='MANAGEMENT' and username='")
+                                            << session.gUsername << "'");
+    return passes({{manager.eof(), "Only User with Mgt Previlege can initiate this Action"}});
+}
+
+void frmBillingVerify::cmdCap_Click() {
+    save<Saved>({.button = cmdCap,
+                 .action = "CAPITATE ALL",
+                 .allowed = [this] { return hasPatient("No Patient is selected") && isManager() && isBillOpen(); },
+                 .question = "Are you sure to Capitate all Items in this Bill",
+                 .title = "Capitation",
+                 .step = [this](Books& books) { return capitateBill(books, m_bill); },
+                 .follow =
+                     [this](const Saved&) {
+                         program.box(" Bill Item successfully Capitated");
+                         getAccumBill();
+                     }});
 }
 
 void frmBillingVerify::cmdAddBill_Click() {
@@ -55,7 +134,7 @@ void frmBillingVerify::cmdUnBilled_Click() {
                                         << m_bill.consultID << "' and SNo not in (Select SNo from BillingDetails)");
          !rows.eof(); rows.moveNext())
         names << rows.text("DrgName");
-    program.box(names.isEmpty() ? "All Items Billed" : names.join(QLatin1Char('\n')));
+    program.box(names.isEmpty() ? "All Items Billed" : names.join('\n'));
 }
 
 void frmBillingVerify::cmdPresc_Click() {
@@ -65,7 +144,7 @@ void frmBillingVerify::cmdPresc_Click() {
                         Sql("select consultid,prescription,treatedby,policytype from qryhconsulting where consultid='")
                             << m_bill.consultID << "'");
          !rows.eof(); rows.moveNext())
-        prescriptions << "Policy/HMO Type: " + rows.text("policytype") + QLatin1Char('\n') + rows.text("prescription") +
+        prescriptions << "Policy/HMO Type: " + rows.text("policytype") + '\n' + rows.text("prescription") +
                              "\nTreated by Dr. " + rows.text("treatedby");
     program.box(prescriptions.isEmpty() ? "No prescription " : prescriptions.join("\n\n"));
 }
@@ -88,7 +167,7 @@ void frmBillingVerify::cmdLastDiag_Click() {
     if (!rows.eof())
         rows.moveNext();
     program.box(rows.eof() ? "No Last Diagnosis"
-                           : rows.date("CDate").toString("dd/MM/yyyy") + QLatin1Char('\n') + rows.text("diagnosis"));
+                           : rows.date("CDate").toString("dd/MM/yyyy") + '\n' + rows.text("diagnosis"));
 }
 
 void frmBillingVerify::cmdAcct_Click() {
@@ -137,11 +216,11 @@ void frmBillingVerify::cmdRev_Click() {
 }
 
 void frmBillingVerify::cmdPR_Click() {
-    if (m_bill.category != QLatin1String("PRIVATE")) {
+    if (m_bill.category != "PRIVATE") {
         program.box("Printing of RECEIPT is for PRIVATE Patient only");
         return;
     }
-    showCashReceipt(program, lblRct.text());
+    showCashReceipt(program, receipt.lblRct.text());
 }
 
 void frmBillingVerify::cmdPrint_Click() {

@@ -1,6 +1,10 @@
-#include "billing/BillSummary.h"
+#include "billing/BillLook.h"
 #include "billing/frmBillingVerify.h"
+#include "books/ApprovalCode.h"
+#include "books/Bill.h"
+#include "books/Collate.h"
 #include "data/words/Money.h"
+#include "session/ListedVisit.h"
 
 #include <QRegularExpression>
 
@@ -15,114 +19,110 @@ QString shortDate(QDate date) {
 } // namespace
 
 void frmBillingVerify::cmdList_Click() {
-    getPatForBill(Search::Range);
+    getPatForBill(visitsBetweenDates());
 }
 
 void frmBillingVerify::cmdAdm_Click() {
-    getPatForBill(Search::InPatients);
+    getPatForBill(Sql("select distinct  Date,Remarks,coyname,pno,fullname,consultID from vwhConsultingVisitsAdmission "
+                      "order by fullname"));
 }
 
 void frmBillingVerify::cmdOK_Click() {
-    getPatForBill(Search::OneBill);
+    getPatForBill(Sql("select distinct  Date,Remarks,coyname,pno,fullname,consultID from vwhConsultingVisitsList where "
+                      "consultid ='")
+                  << txtSearch.text().trimmed() << "'");
+    if (visits.cboVehNo.count() > 1)
+        visits.cboVehNo.setListIndex(1);
 }
 
 void frmBillingVerify::cmdAdd_Click() {
     chkRct.setChecked(false);
     dtDate.setDate(session.gServerDate);
-    getPatForBill(Search::Range);
+    getPatForBill(visitsBetweenDates());
 }
 
 Sql frmBillingVerify::visitsBetweenDates() const {
-    const QString client = cboHMO.listIndex() > 0 ? cboHMO.itemData(cboHMO.listIndex()).toString() : QString();
-    Sql visits("select distinct  Date,Remarks,coyname,pno,fullname,consultID from vwhConsultingVisitsList where ");
+    const QString client = cboHMO.picked<QString>().value_or(QString());
+    Sql rows("select distinct  Date,Remarks,coyname,pno,fullname,consultID from vwhConsultingVisitsList where ");
     if (!client.isEmpty())
-        visits << "retainID='" << client << "' and ";
-    visits << "date between '" << DTPicker1.date() << "' and '" << DTPicker2.date() << "'";
+        rows << "retainID='" << client << "' and ";
+    rows << "date between '" << visits.DTPicker1.date() << "' and '" << visits.DTPicker2.date() << "'";
     if (!chkAll.isChecked())
-        visits << " and isbilled=0";
-    return visits << " order by fullname";
+        rows << " and isbilled=0";
+    return rows << " order by fullname";
 }
 
 /// Fills the patient box.
-void frmBillingVerify::getPatForBill(Search search) {
+void frmBillingVerify::getPatForBill(const Sql& statement) {
     clearFields();
-    cboVehNo.clear();
-    cboVehNo.addItem(QString());
-    Sql visits;
-    if (search == Search::InPatients)
-        visits = Sql("select distinct  Date,Remarks,coyname,pno,fullname,consultID from vwhConsultingVisitsAdmission "
-                     "order by fullname");
-    else if (search == Search::OneBill)
-        visits = Sql("select distinct  Date,Remarks,coyname,pno,fullname,consultID from vwhConsultingVisitsList where "
-                     "consultid ='")
-                 << txtSearch.text().trimmed() << "'";
-    else
-        visits = visitsBetweenDates();
+    visits.cboVehNo.clear();
+    visits.cboVehNo.addItem(QString());
     Connection connection = program.openBilling();
-    for (Recordset rows(connection, visits); !rows.eof(); rows.moveNext()) {
-        const QString pno = rows.text("pno");
-        const QString consultID = rows.text("consultID");
+    for (Recordset rows(connection, statement); !rows.eof(); rows.moveNext()) {
+        const ListedVisit visit{rows.text("consultID"), rows.text("pno"), rows.text("fullname"), rows.date("Date")};
         const QString entry = QStringLiteral("%1 @%2 %3 - %4 [%5]#%6")
-                                  .arg(rows.text("fullname"), shortDate(rows.date("Date")), rows.text("Remarks"),
-                                       rows.text("coyname"), pno, consultID);
-        cboVehNo.addItem(entry, QStringList{pno, consultID, rows.text("fullname")});
+                                  .arg(visit.patient, shortDate(visit.date), rows.text("Remarks"), rows.text("coyname"),
+                                       visit.pno, visit.consultID);
+        visits.cboVehNo.addItem(entry, QVariant::fromValue(visit));
     }
-    if (search == Search::OneBill && cboVehNo.count() > 1)
-        cboVehNo.setListIndex(1);
 }
 
 /// Empties everything that belongs to a visit.
 void frmBillingVerify::clearFields() {
     m_bill = {};
     m_saved = false;
-    cboVehNo.setListIndex(-1);
+    visits.cboVehNo.setListIndex(-1);
     for (Label* label : {&lblBill, &lblCoy, &lblDate, &lblDisplay, &lblDate2, &lblDateLast, &lblGen, &lblBilled,
-                         &lblPaid, &lblDep, &lblSub, &lblTotal, &lblCurr, &lblAmtDue})
+                         &lblPaid, &receipt.lblDep, &lblSub, &lblTotal, &lblCurr, &lblAmtDue})
         label->clear();
     lblScreen.setText("Collate / Verify Bill");
-    for (TextBox* box : {&txtEmp, &txtDiag, &txtApprv, &txtProf, &txtNHIS})
+    for (TextBox* box : {&receipt.txtEmp, &txtDiag, &txtApprv})
         box->clear();
     dtAdmit.clear();
     dtDisch.clear();
     chkRct.setChecked(false);
-    for (CheckBox* box : {&chkDep, &chkCurr})
-        box->setChecked(false);
-    clearReceipt();
+    clearEntry();
     grdData.clear();
     enableFields();
     SetButtons();
 }
 
+/// What was entered for one bill is meant for no other one: nobody pays with it, and no fee is worked out from it.
+void frmBillingVerify::clearEntry() {
+    for (TextBox* percent : {&txtProf, &txtNHIS})
+        percent->clear();
+    for (CheckBox* box : {&chkDep, &chkCurr})
+        box->setChecked(false);
+    receipt.clear();
+}
+
 void frmBillingVerify::cmdRefresh_Click() {
     if (!m_bill.consultID.isEmpty())
-        loadVisit(m_bill.pno, m_bill.consultID, m_bill.patient);
+        loadVisit(m_bill.consultID, m_bill.pno, m_bill.patient);
 }
 
 void frmBillingVerify::cmdCancel_Click() {
     clearFields();
-    cboVehNo.clear();
+    visits.cboVehNo.clear();
     dtDate.setDate(session.gServerDate);
     SSTab1.setTab(0);
 }
 
 void frmBillingVerify::cboVehNo_Click() {
-    if (cboVehNo.listIndex() <= 0)
-        return;
-    const QStringList key = cboVehNo.itemData(cboVehNo.listIndex()).toStringList();
-    loadVisit(key.at(0), key.at(1), key.at(2));
+    if (const auto visit = visits.cboVehNo.picked<ListedVisit>())
+        loadVisit(visit->consultID, visit->pno, visit->patient);
 }
 
 /// Reads the visit and collates its bill. Until it was read whole no visit is in hand, so that a half-read one cannot
 /// be saved. By value: the visit in hand, which may be named here, is emptied first.
-void frmBillingVerify::loadVisit(QString pno, QString consultID, QString patient) {
+void frmBillingVerify::loadVisit(QString consultID, QString pno, QString patient) {
     if (lblBill.text() != consultID)
-        clearReceipt(); // nobody pays with what was entered for another bill
+        clearEntry();
     m_loading = true;
-    m_bill = {};
     cmdAddBill.setEnabled(false);
     cmdNHIS.setEnabled(false);
-
     lblBill.setText(consultID);
+    m_bill = {};
     m_bill.consultID = consultID;
     m_bill.pno = pno;
     m_bill.patient = patient;
@@ -130,31 +130,47 @@ void frmBillingVerify::loadVisit(QString pno, QString consultID, QString patient
     getConFromAdmission();
 
     Connection connection = program.openBilling();
-    if (!readVisit(connection)) {
-        m_loading = false;
-        clearFields();
-        lblScreen.setText("Process Bill");
-        program.box("Patient does not Exist");
+    if (!readVisit(connection))
         return;
-    }
-    if (!readClient(connection)) {
-        afterFault();
-        program.box("BillTo Value Cannot be Empty!!! Check your Client Information");
-        return;
-    }
-    readAttendance(connection);
-    connection.call("updateRevType", {{"ConsultID", consultID}});
-    getAccumBill();
-    getDiagnosis(connection);
-    getApprvCode(connection);
-    showScreen("Collated Bill for ");
-    if (session.gModuleName == QLatin1String("BILLING"))
-        chkRct.setEnabled(true);
-    followReceiptBox();
+    showVisit(connection);
     cmdPrint.setEnabled(true);
     cmdAddBill.setEnabled(true);
     cmdNHIS.setEnabled(true);
     m_loading = false;
+}
+
+bool frmBillingVerify::readVisit(Connection& connection) {
+    const Given<BilledVisit> visit = readBilledVisit(connection, m_bill.consultID, m_bill.pno, m_bill.patient);
+    if (visit) {
+        m_bill = visit->bill;
+        dtDate.setDate(visit->date);
+        lblDisplay.setText(m_bill.referal);
+        lblDate.setText(m_bill.category);
+        lblCoy.setText(visit->client);
+        return true;
+    }
+    if (visit.refusal() == Refusal::NoPatient) {
+        m_loading = false;
+        clearFields();
+        lblScreen.setText("Process Bill");
+    } else {
+        afterFault();
+    }
+    program.box(refusalText(visit.refusal()));
+    return false;
+}
+
+void frmBillingVerify::showVisit(Connection& connection) {
+    session.sBillCoy = lblCoy.text();
+    readAttendance(connection);
+    connection.call("updateRevType", {{"ConsultID", m_bill.consultID}});
+    getAccumBill();
+    getDiagnosis(connection);
+    txtApprv.setText(firstApprovalCode(connection, m_bill.consultID));
+    showScreen("Collated Bill for ");
+    if (session.gModuleName == "BILLING")
+        chkRct.setEnabled(true);
+    followReceiptBox();
 }
 
 /// What was read of a visit before the fault is not in hand; the buttons that a load locks are free again, but not
@@ -200,43 +216,14 @@ void frmBillingVerify::getConFromAdmission() {
     dtDisch.setLocked(false);
 }
 
-bool frmBillingVerify::readVisit(Connection& connection) {
-    const Recordset visit(connection,
-                          Sql("select pCatid,recdate,consultID,clientcat as clientcatID,referal,retainID,RetainName "
-                              "from qryhVisitsForAttend where consultid ='")
-                              << m_bill.consultID << "'");
-    if (visit.eof())
-        return false;
-    dtDate.setDate(visit.date("recdate"));
-    m_bill.referal = visit.text("referal");
-    m_bill.category = visit.text("clientcatID");
-    m_bill.retainID = visit.text("retainID");
-    lblDisplay.setText(m_bill.referal);
-    lblDate.setText(m_bill.category);
-    lblCoy.setText(visit.text("RetainName"));
-    session.sBillCoy = lblCoy.text();
-    return true;
-}
-
-bool frmBillingVerify::readClient(Connection& connection) {
-    const Recordset client(connection,
-                           Sql("Select retainCode ,retainName,BillEndDate from hretainership where retainID='")
-                               << m_bill.retainID << "'");
-    if (client.eof())
-        return false;
-    m_bill.retainCode = client.text("retainCode");
-    m_bill.billEndDay = int(client.integer("BillEndDate"));
-    return true;
-}
-
 /// The two newest attendances of the patient.
 void frmBillingVerify::readAttendance(Connection& connection) {
-    Recordset visits(connection, Sql("Select recdate from qryhvisits where  pno='")
-                                     << m_bill.pno << "' order by recdate desc");
+    Recordset rows(connection, Sql("Select recdate from qryhvisits where  pno='")
+                                   << m_bill.pno << "' order by recdate desc");
     for (Label* label : {&lblDate2, &lblDateLast}) {
-        label->setText(visits.eof() ? QString() : shortDate(visits.date("recdate")));
-        if (!visits.eof())
-            visits.moveNext();
+        label->setText(rows.eof() ? QString() : shortDate(rows.date("recdate")));
+        if (!rows.eof())
+            rows.moveNext();
     }
 }
 
@@ -246,18 +233,10 @@ void frmBillingVerify::getDiagnosis(Connection& connection) {
     QStringList diagnoses;
     for (Recordset rows(connection, Sql("select Diagnosis from hconsulting where consultid='")
                                         << m_bill.consultID << "'");
-         !rows.eof(); rows.moveNext()) {
-        const QString diagnosis = rows.text("Diagnosis");
-        if (!diagnosis.trimmed().isEmpty())
+         !rows.eof(); rows.moveNext())
+        if (const QString diagnosis = rows.text("Diagnosis"); !diagnosis.trimmed().isEmpty())
             diagnoses << diagnosis;
-    }
-    txtDiag.setText(diagnoses.join(QLatin1Char('\n')).replace(lineEnd, ";"));
-}
-
-void frmBillingVerify::getApprvCode(Connection& connection) {
-    const Recordset code(connection, Sql("select * from hApprvCode where consultID='")
-                                         << m_bill.consultID << "' order by SNO");
-    txtApprv.setText(code.eof() ? QString() : code.text("ApprvCode"));
+    txtDiag.setText(diagnoses.join('\n').replace(lineEnd, ";"));
 }
 
 /// Collates what waits and shows the bill as it then stands. Of this screen's visit: what became of a fee may be found
@@ -265,21 +244,35 @@ void frmBillingVerify::getApprvCode(Connection& connection) {
 void frmBillingVerify::getAccumBill() {
     takeInHand();
     if (std::exchange(m_saved, false))
-        clearReceipt(); // what was entered has been paid: it must not be taken once more
+        receipt.clear(); // what was entered has been paid: it must not be taken once more
     OKButton.setEnabled(true);
     for (Button* button : {&cmdCoy, &cmdSplit, &cmdBill, &cmdNHIS})
         button->setEnabled(true);
-    collateBillItems(program, m_bill);
-    // A bill without lines leaves these as they are: they must not be those of the bill before.
-    session.dBillTotal = 0;
-    session.dAmountPaid = 0;
-    saveBillSummary(program, *this, session.gConsultID);
+    collate();
+    showFigures();
+}
+
+void frmBillingVerify::collate() {
     Connection connection = program.openBilling();
-    lblSub.setText(formatTwoDecimals(sumOfItems(connection)));
-    lblCurr.setText(formatTwoDecimals(session.dBillTotal));
-    const QString payable = formatTwoDecimals(session.dBillTotal - session.dAmountPaid);
-    lblAmtDue.setText(payable);
-    txtEmp.setText(chkCurr.isChecked() ? lblSub.text() : payable);
+    if (!passes({{m_bill.consultID.isEmpty(), "No Patient is selected"},
+                 {isBillProcessed(connection, m_bill.consultID), refusalText(Refusal::BillProcessed)}}) ||
+        !needsCollation(connection, m_bill))
+        return;
+    const Given<double> billed =
+        program.desk().save<double>("COLLATION", [this](Books& books) { return collateBillItems(books, m_bill); });
+    if (!billed)
+        program.box(refusalText(billed.refusal()));
+}
+
+void frmBillingVerify::showFigures() {
+    const BillFigures figures = lookAtBill(program, m_bill.consultID);
+    Connection connection = program.openBilling();
+    showAmount({&lblGen}, figures.generated);
+    showAmount({&lblBilled, &lblTotal, &lblCurr}, figures.billed);
+    showAmount({&lblPaid, &receipt.lblDep}, figures.paid);
+    showAmount({&lblSub}, sumOfItems(connection));
+    showAmount({&lblAmtDue}, figures.billed - figures.paid);
+    chkCurr_Click();
     showScreen("Bill for ");
     fillGrid(connection);
 }
@@ -293,11 +286,10 @@ double frmBillingVerify::sumOfItems(Connection& connection) const {
                         << m_bill.consultID << "'");
     if (items.eof())
         return 0;
-    const bool chargedOnly =
-        isCapitatedCategory(items.text("ClientCatID")) && items.text("Referal") != QLatin1String("YES");
+    const bool chargedOnly = isCapitatedCategory(items.text("ClientCatID")) && items.text("Referal") != "YES";
     double sum = 0;
     for (; !items.eof(); items.moveNext())
-        if (!chargedOnly || items.text("Capitated") == QLatin1String("NO"))
+        if (!chargedOnly || items.text("Capitated") == "NO")
             sum += items.number("Subtotal");
     return sum;
 }

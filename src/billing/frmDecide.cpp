@@ -2,11 +2,7 @@
 
 namespace orvane {
 
-frmDecide::frmDecide(Program& owner) : Screen(owner, "frmDecide", "Private Bill") {
-    cmdAcc.onClick = [this] { cmdAcc_Click(); };
-    cmdBill.onClick = [this] { cmdBill_Click(); };
-    CancelButton.onClick = [this] { unload(); };
-}
+frmDecide::frmDecide(Program& owner) : Screen(owner, "frmDecide", "Private Bill") {}
 
 Layout frmDecide::layout() const {
     using namespace orvane::layout;

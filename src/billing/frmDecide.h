@@ -16,9 +16,9 @@ private:
     void cmdAcc_Click();
     void cmdBill_Click();
 
-    Button cmdAcc{*this, "cmdAcc", "View Patient Account"};
-    Button cmdBill{*this, "cmdBill", "View a Bill at a time"};
-    Button CancelButton{*this, "CancelButton", "Close"};
+    Button cmdAcc{*this, "cmdAcc", "View Patient Account", &frmDecide::cmdAcc_Click};
+    Button cmdBill{*this, "cmdBill", "View a Bill at a time", &frmDecide::cmdBill_Click};
+    Button CancelButton{*this, "CancelButton", "Close", &frmDecide::unload};
 };
 
 } // namespace orvane

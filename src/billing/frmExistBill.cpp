@@ -2,9 +2,7 @@
 
 namespace orvane {
 
-frmExistBill::frmExistBill(Program& owner) : Screen(owner, "frmExistBill", "Prepare Private Bill") {
-    CancelButton.onClick = [this] { unload(); };
-}
+frmExistBill::frmExistBill(Program& owner) : Screen(owner, "frmExistBill", "Prepare Private Bill") {}
 
 Layout frmExistBill::layout() const {
     using namespace orvane::layout;

@@ -15,7 +15,7 @@ public:
 private:
     OptionButton OptNew{*this, "OptNew", "Prepare a new Bill"};
     OptionButton OptExist{*this, "OptExist", "Add to Existing Bill"};
-    Button CancelButton{*this, "CancelButton", "Close"};
+    Button CancelButton{*this, "CancelButton", "Close", &frmExistBill::unload};
 };
 
 } // namespace orvane

@@ -21,16 +21,14 @@ Recordset frmPriceAdjust::openRow(Connection& connection) const {
     return Recordset(connection, Sql("select * from BillAccum where SNO=") << session.lWorkSNo);
 }
 
-std::vector<PriceAdjustScreen::Check> frmPriceAdjust::checks() {
-    return {{!isPriceValid(), " Please enter valid price ", txtPrice},
-            {cboCap.text().isEmpty(), "Please specify Capitation", cboCap},
-            {change().newItem.isEmpty(), "Please specify Service/Drug", txtDrug}};
+bool frmPriceAdjust::isComplete() {
+    return passes({{!isPriceValid(), " Please enter valid price ", &txtPrice},
+                   {cboCap.text().isEmpty(), "Please specify Capitation", &cboCap},
+                   {change().newItem.isEmpty(), "Please specify Service/Drug", &txtDrug}});
 }
 
-void frmPriceAdjust::saveRow(Connection&, Recordset& row) {
-    setAmounts(row, change());
-    row.set("Capitated", cboCap.text());
-    row.update();
+Given<Saved> frmPriceAdjust::write(Books& books) {
+    return adjustPrice(books, change(), cboCap.text());
 }
 
 } // namespace orvane

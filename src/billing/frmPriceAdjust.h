@@ -14,8 +14,9 @@ public:
 
 private:
     Recordset openRow(Connection& connection) const override;
-    std::vector<Check> checks() override;
-    void saveRow(Connection& connection, Recordset& row) override;
+    bool isComplete() override;
+    QString action() const override { return "PRICE ADJUST"; }
+    Given<Saved> write(Books& books) override;
 
     ComboBox cboCap{*this, "cboCap", ComboBox::ListOnly};
 };

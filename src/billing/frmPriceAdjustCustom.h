@@ -15,8 +15,9 @@ public:
 
 private:
     Recordset openRow(Connection& connection) const override;
-    std::vector<Check> checks() override;
-    void saveRow(Connection& connection, Recordset& row) override;
+    bool isComplete() override;
+    QString action() const override { return "BILL CUSTOM"; }
+    Given<Saved> write(Books& books) override;
 
     ComboBox cboHead{*this, "cboHead"};
     ComboBox cboPat{*this, "cboPat", ComboBox::ListOnly};

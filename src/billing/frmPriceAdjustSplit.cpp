@@ -27,15 +27,14 @@ Recordset frmPriceAdjustSplit::openRow(Connection& connection) const {
     return Recordset(connection, Sql("select * from BillingDetails where SNO=") << session.lWorkSNo);
 }
 
-std::vector<PriceAdjustScreen::Check> frmPriceAdjustSplit::checks() {
-    return {{!isPriceValid(), " Please enter valid price ", txtPrice},
-            {cboPat.text().isEmpty(), "Please specify Bill To", cboPat},
-            {change().newItem.isEmpty(), "Please specify Service/Drug", txtDrug}};
+bool frmPriceAdjustSplit::isComplete() {
+    return passes({{!isPriceValid(), " Please enter valid price ", &txtPrice},
+                   {cboPat.text().isEmpty(), "Please specify Bill To", &cboPat},
+                   {change().newItem.isEmpty(), "Please specify Service/Drug", &txtDrug}});
 }
 
-void frmPriceAdjustSplit::saveRow(Connection&, Recordset& row) {
-    row.set("billTo", chosenClient(cboPat));
-    row.update();
+Given<Saved> frmPriceAdjustSplit::write(Books& books) {
+    return splitPayer(books, change(), chosenClient(cboPat));
 }
 
 } // namespace orvane

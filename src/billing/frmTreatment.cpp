@@ -6,7 +6,6 @@ namespace orvane {
 
 frmTreatment::frmTreatment(Program& owner) : Screen(owner, "frmTreatment", "Treatment For") {
     txtPresc.multiline().setLocked(true);
-    CancelButton.onClick = [this] { unload(); };
 }
 
 Layout frmTreatment::layout() const {

@@ -16,7 +16,7 @@ public:
 private:
     Label Label5{*this, "Label5"};
     TextBox txtPresc{*this, "txtPresc"};
-    Button CancelButton{*this, "CancelButton", "Close"};
+    Button CancelButton{*this, "CancelButton", "Close", &frmTreatment::unload};
 };
 
 } // namespace orvane

@@ -1,5 +1,6 @@
 #include "books/Bill.h"
 
+#include "books/Words.h"
 #include "data/words/Money.h"
 
 #include <QLocale>
@@ -8,7 +9,7 @@ namespace orvane {
 
 namespace {
 
-void setColumns(Recordset& row, const Bill& bill) {
+void compose(Recordset& row, const Bill& bill) {
     row.set("bdate", bill.date);
     row.set("billNo", bill.billNo);
     row.set("PNo", bill.pno);
@@ -23,42 +24,85 @@ void setColumns(Recordset& row, const Bill& bill) {
     row.set("billingYear", QString::number(bill.date.year()));
     row.set("diagnosis", bill.diagnosis);
     row.set("billType", bill.billType ? QVariant(*bill.billType) : QVariant());
+    row.set("admdate", bill.admitted);
+    row.set("DischDate", bill.discharged);
+    row.set("isPaid", int(bill.isPaid));
+}
+
+Recordset rowOf(Connection& connection, const QString& billNo) {
+    return Recordset(connection, Sql("select * from billing where billNo='") << billNo << "'");
+}
+
+void updateBillAmount(Books& books, const QString& billNo, double amount) {
+    books.connection.execute(Sql("update  billing set AmountBilledInWord='")
+                             << getValInWord(amount) << "', amountBilled= " << amount << " where billno = '" << billNo
+                             << "'");
 }
 
 } // namespace
 
+std::optional<Bill> readBill(Connection& connection, const QString& billNo) {
+    const Recordset row = rowOf(connection, billNo);
+    if (row.eof())
+        return std::nullopt;
+    Bill bill{.date = row.date("bdate"),
+              .billNo = row.text("billNo"),
+              .pno = row.text("PNo"),
+              .clientID = row.text("clientID"),
+              .amountBilled = row.number("Amountbilled"),
+              .amountPaid = row.number("AmountPaid"),
+              .profFee = row.number("profFee"),
+              .words = row.text("AmountBIlledInWord"),
+              .diagnosis = row.text("diagnosis"),
+              .admitted = row.date("admdate"),
+              .discharged = row.date("DischDate"),
+              .isPaid = row.integer("isPaid") == 1};
+    if (!row.isNull("AmtBF"))
+        bill.broughtForward = row.number("AmtBF");
+    if (!row.isNull("billType"))
+        bill.billType = row.text("billType");
+    return bill;
+}
+
 void addBill(Books& books, const Bill& bill) {
     Recordset row(books.connection, Sql("select * from Billing where 1=2"));
     row.addNew();
-    setColumns(row, bill);
+    compose(row, bill);
+    row.update();
+}
+
+void changeBill(Books& books, const Bill& bill) {
+    Recordset row = rowOf(books.connection, bill.billNo);
+    compose(row, bill);
     row.update();
 }
 
 Given<double> enlargeBill(Books& books, const Bill& stated) {
-    Recordset row(books.connection, Sql("select * from billing where billNo='") << stated.billNo << "'");
-    if (!row.eof() && row.integer("isProcess") != 0)
+    if (isBillProcessed(books.connection, stated.billNo))
         return Refusal::BillProcessed;
+    const std::optional<Bill> before = readBill(books.connection, stated.billNo);
     Bill bill = stated;
-    if (row.eof()) {
-        row.addNew();
-    } else {
-        bill.amountBilled = round2(row.number("Amountbilled") + stated.amountBilled);
-        bill.amountPaid = round2(row.number("AmountPaid") + stated.amountPaid);
+    if (before) {
+        bill.amountBilled = round2(before->amountBilled + stated.amountBilled);
+        bill.amountPaid = round2(before->amountPaid + stated.amountPaid);
+        bill.admitted = before->admitted;
+        bill.discharged = before->discharged;
     }
-    setColumns(row, bill);
-    row.set("isPaid", isPaidFlag(bill.amountPaid, bill.amountBilled));
-    row.update();
+    bill.isPaid = isPaidFlag(bill.amountPaid, bill.amountBilled) == 1;
+    if (before)
+        changeBill(books, bill);
+    else
+        addBill(books, bill);
     return bill.amountBilled;
 }
 
 void payBill(Books& books, const QString& billNo, double amount) {
-    Recordset bill(books.connection, Sql("select * from Billing where billno='") << billNo << "'");
-    if (bill.eof())
+    std::optional<Bill> bill = readBill(books.connection, billNo);
+    if (!bill)
         return;
-    const double paid = round2(bill.number("AmountPaid") + amount);
-    bill.set("AmountPaid", paid);
-    bill.set("isPaid", isPaidFlag(paid, bill.number("Amountbilled")));
-    bill.update();
+    bill->amountPaid = round2(bill->amountPaid + amount);
+    bill->isPaid = isPaidFlag(bill->amountPaid, bill->amountBilled) == 1;
+    changeBill(books, *bill);
 }
 
 bool hasBill(Connection& connection, const QString& billNo) {
@@ -67,6 +111,29 @@ bool hasBill(Connection& connection, const QString& billNo) {
 
 bool isBillProcessed(Connection& connection, const QString& billNo) {
     return !Recordset(connection, Sql("select * from billing where isprocess=1 and billNo='") << billNo << "'").eof();
+}
+
+std::optional<double> billDetailsTotal(Connection& connection, const QString& billNo) {
+    const Recordset total(connection, Sql("select  PNo,Subtotal from vwBillingProcessDetailsGrouped where billno='")
+                                          << billNo << "'");
+    if (total.eof())
+        return std::nullopt;
+    return round2(total.number("SubTotal"));
+}
+
+std::optional<double> refreshBillTotal(Books& books, const QString& billNo) {
+    const std::optional<double> total = billDetailsTotal(books.connection, billNo);
+    if (total)
+        updateBillAmount(books, billNo, *total);
+    return total;
+}
+
+void refreshBillFromLines(Books& books, const QString& billNo) {
+    if (refreshBillTotal(books, billNo))
+        return;
+    const std::optional<Bill> bill = readBill(books.connection, billNo);
+    if (bill && bill->amountBilled != 0)
+        updateBillAmount(books, billNo, 0);
 }
 
 double refreshBillAmountPaid(Books& books, const QString& billNo) {

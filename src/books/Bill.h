@@ -4,20 +4,28 @@
 
 namespace orvane {
 
-/// A row of Billing as it is added; what is not named starts at 0 or empty.
+/// A row of Billing; what is not named starts at 0 or empty.
 struct Bill {
     QDate date; ///< also gives the billing month and year
     QString billNo, pno;
     QString clientID;                                     ///< the client's retainID
-    double amountBilled = 0, amountPaid = 0, profFee = 0; ///< naira
+    double amountBilled = 0, amountPaid = 0, profFee = 0; ///< naira; the fee is what was calculated for the bill
     QString words = {};                                   ///< the amount billed in upper-case words
     std::optional<double> broughtForward = {};            ///< naira, the patient's balance; none: null
     QString diagnosis = {};
     std::optional<QString> billType = {};
+    QDate admitted = {}, discharged = {};
+    bool isPaid = false;
 };
+
+/// The bill's row as it stands; none without one.
+std::optional<Bill> readBill(Connection& connection, const QString& billNo);
 
 /// Adds the row; the caller has seen, behind the gate, that the bill has none.
 void addBill(Books& books, const Bill& bill);
+
+/// Writes all of it over the row that the caller has read behind the gate.
+void changeBill(Books& books, const Bill& bill);
 
 /// Adds what `stated` bills and says was paid to the bill's row, in naira, writes its other columns over it, and works
 /// out isPaid; a bill without its row gets it. Gives the new total. Refuses a processed bill.
@@ -31,6 +39,16 @@ bool hasBill(Connection& connection, const QString& billNo);
 
 /// Whether a monthly batch holds the bill, which freezes it. Asked inside the transaction it stays so.
 bool isBillProcessed(Connection& connection, const QString& billNo);
+
+/// What the lines of a bill come to, in whole kobo; none without a line.
+std::optional<double> billDetailsTotal(Connection& connection, const QString& billNo);
+
+/// Amount and words of the bill's row as its lines now come to; without a line they stay. Gives that amount.
+std::optional<double> refreshBillTotal(Books& books, const QString& billNo);
+
+/// The same after a change of the lines: without a line the amount becomes 0; one that was 0 before keeps its words,
+/// which may say that the bill is capitated.
+void refreshBillFromLines(Books& books, const QString& billNo);
 
 /// Makes Billing.AmountPaid the sum of the bill's Payments and gives that sum in naira; without a payment it changes
 /// nothing and gives 0.

@@ -16,4 +16,7 @@ struct AccountEntry {
 /// the private client bears it: other clients pay by invoice.
 void postPatientTran(Books& books, const AccountEntry& entry);
 
+/// The same for several events of one patient, in their order: the balance is read and repeated once.
+void postPatientTrans(Books& books, const QVector<AccountEntry>& entries);
+
 } // namespace orvane

@@ -13,6 +13,8 @@ constexpr struct {
     {Refusal::BillProcessed, "This Bill is already processed! to Modify, unProcess the Batch"},
     {Refusal::BillExists, "This page is only for receipt of Advance/Deposit!!! Use Receipt Entry Form"},
     {Refusal::VisitChanged, "Please Re-Select Patient Name! Bill No (StrCon needed"},
+    {Refusal::NoPatient, "Patient does not Exist"},
+    {Refusal::NoClient, "BillTo Value Cannot be Empty!!! Check your Client Information"},
     {Refusal::NoConsultID, "ReceiptNo cannot be generated!!! No Consult ID for this transaction"},
     {Refusal::NoTranID, "ReceiptNo cannot be generated!!! No Tran ID for this transaction"},
     {Refusal::NoNumber, "Unable to generate No!!! Function getIDNo Failed! Receipt"},

@@ -9,6 +9,8 @@ enum class Refusal {
     BillProcessed, ///< a monthly batch holds the bill, which freezes it
     BillExists,    ///< a deposit opens the bill, so there may be none
     VisitChanged,  ///< the visit was deleted or moved to another patient or client since it was read
+    NoPatient,     ///< the visit to be billed is not there
+    NoClient,      ///< the visit's client is not in the list of clients
     NoConsultID,   ///< no receipt number: the visit's clinic has no code
     NoTranID,      ///< no receipt number: the outlet's item has no code
     NoNumber,      ///< no receipt number: the counter gave none

@@ -1,6 +1,6 @@
 #include "demo/BulkHospital.h"
 
-#include "billing/BillDate.h"
+#include "books/BillDate.h"
 #include "books/Consultation.h"
 #include "data/rows/Transaction.h"
 #include "data/words/Money.h"

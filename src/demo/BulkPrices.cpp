@@ -1,6 +1,6 @@
 #include "demo/BulkPrices.h"
 
-#include "billing/Tariff.h"
+#include "books/Tariff.h"
 
 namespace orvane {
 

@@ -22,35 +22,6 @@ protected:
 
 ORVANE_ON_EACH_ENGINE(Fees);
 
-/// Base and revenue type of the scheme's fee by the setting: capitated items count, and a fee is whole kobo.
-TEST_P(Fees, SettingChoosesBaseAndRevenueType) {
-    const struct {
-        const char* setting;
-        const char* fee;
-        const char* revType;
-    } cases[] = {{"", "125.06", "DRUG"},
-                 {"ALL", "125.06", "DRUG"},
-                 {"DRUG", "50.03", "CONSULTATION"},
-                 {"DRUGS ONLY", "50.03", "DRUG"}};
-    layVisit();
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.setting);
-        ws.run("delete from BillAccum");
-        ws.run("delete from BillingDetails");
-        ws.run("delete from Tranxaction");
-        item({.name = "DRUG", .price = 1000.55});
-        item({.name = "TEST", .billType = "LAB", .price = 1500.65, .capitated = "NO"});
-        load();
-        ws.program.session.gNHISFee = c.setting;
-        chargeScheme("5");
-        EXPECT_EQ(fee(), QString("%1|%1|%1|%2|%2|CONSULTATION|SERVICE|NO|1|1|0|0|amina.b").arg(c.fee, c.revType));
-        EXPECT_EQ(ws.scalar("select Amount from Tranxaction where Remarks='SCHEME FEE'"), QString("-") + c.fee);
-        EXPECT_EQ(ws.scalar("select round(Amountbilled-2501.2, 2) as n from Billing"), c.fee);
-    }
-    EXPECT_EQ(audit("insert Service/NHIS").section('\n', 0, 0),
-              "insert Service/NHIS  (5%) fee for Drugs/Services for ADEYEMI BOLA|SCHEME FEE");
-}
-
 TEST_P(Fees, SchemeFeeOnNothingLeavesNoLine) {
     layVisit();
     load();

@@ -111,7 +111,7 @@ TEST_P(NarrowAdjust, CustomMovesTheBillAndChargesThePayer) {
         "1500.00 : => 1750.25");
     EXPECT_EQ(account(), "") << "the company pays";
 
-    // A heading alone is no change of the amount; a private payer bears the difference of one.
+    // A heading alone is no change of the amount; a private payer bears what he takes over.
     open("frmPriceAdjustCustom");
     put("cboHead", "INVESTIGATIONS ABROAD");
     press("cmdSave");
@@ -120,7 +120,7 @@ TEST_P(NarrowAdjust, CustomMovesTheBillAndChargesThePayer) {
     put("cboPat", "PRIVATE PATIENTS");
     put("txtPrice", "1700");
     press("cmdSave");
-    EXPECT_EQ(account(), "100.5|100.5|Adjusted Bill Item: MALARIA TEST");
+    EXPECT_EQ(account(), "-3400|-3400|Adjusted Bill Item: MALARIA TEST");
     EXPECT_EQ(audit("Bill Adjustment").count('\n'), 1);
 }
 

@@ -68,57 +68,6 @@ TEST_P(VerifyReceipt, FullPaymentInCash) {
     EXPECT_EQ(debt(), "-300");
 }
 
-/// How a receipt spreads over the lines of a bill.
-TEST_P(VerifyReceipt, Distribution) {
-    struct Case {
-        const char* name;
-        QList<double> lines;
-        const char* amount;
-        const char* shares; ///< item, paid, to pay
-        const char* covered;
-    };
-    const Case cases[] = {
-        {"partial", {1000, 2000}, "1500", "A|1000|1000\nB|500|2000", "A|1\nB|1"},
-        {"the first line takes it", {1000, 2000}, "1000", "A|1000|1000", "A|1\nB|0"},
-        {"more than the bill",
-         {1000, 2000},
-         "3500.25",
-         "A|1000|1000\nB|2000|2000\nBALANCE_PAYMENT|500.25|500.25",
-         "A|1\nB|1"},
-        {"kobo leave no crumbs",
-         {100.1, 200.2, 300.3},
-         "600.60",
-         "A|100.1|100.1\nB|200.2|200.2\nC|300.3|300.3",
-         "A|1\nB|1\nC|1"},
-        {"no lines", {}, "800", "DEPOSIT_PAYMENT|800|800", ""},
-    };
-    layVisit();
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        for (const char* table : {"BillAccum", "Billing", "BillingDetails", "Payments", "PaymentDetails"})
-            ws.run(QStringLiteral("delete from %1").arg(table));
-        char name = 'A';
-        for (double price : c.lines)
-            item({.name = QString(QChar::fromLatin1(name++)), .price = price});
-        load();
-        set("chkRct", "yes");
-        set("chkDep", "yes");
-        set("txtAmt(0)", c.amount);
-        save();
-        EXPECT_EQ(covered(), c.covered);
-        const double paid = ws.scalar("select sum(AmountPaid) from PaymentDetails").toDouble();
-        EXPECT_NEAR(paid, QString(c.amount).toDouble(), 1e-6);
-        QStringList found;
-        for (Recordset share =
-                 ws.billing().run("select BillItem, AmountPaid, AmountToPay from PaymentDetails order by SNo");
-             !share.eof(); share.moveNext())
-            found << share.text(0) + '|' + QString::number(share.number("AmountPaid")) + '|' +
-                         QString::number(share.number("AmountToPay"));
-        EXPECT_EQ(found.join('\n'), c.shares);
-    }
-    EXPECT_EQ(rows("select AccountNo, revType, snoID from PaymentDetails"), "9999|SUSPENSE|0");
-}
-
 TEST_P(VerifyReceipt, SecondReceiptGoesOnWhereTheFirstStopped) {
     layBill({{"A", 1000}, {"B", 2000}, {"A", 400}});
     set("txtAmt(0)", "1000");

@@ -178,6 +178,7 @@ void layClients(Connection& billing) {
                 {"ClientType", text(client.type)},
                 {"clientcatID", text(client.category)},
                 {"Active", "YES"},
+                {"BillEndDate", 31},
                 {"Debt", 0}});
 }
 

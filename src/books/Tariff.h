@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/rows/Connection.h"
+#include "books/Books.h"
 
 #include <QStringList>
 
@@ -8,9 +8,7 @@ namespace orvane {
 
 /// What differs between the screens that price an item.
 struct TariffPolicy {
-    bool refusesEmptyClient;      ///< an item is not priced before a patient is loaded
-    bool announcesFallback;       ///< the private tariff is announced by a message too, not only in lblInfo
-    bool knowsInvestigation;      ///< the kind "INVESTIGATION" is a laboratory item
+    QString laboratory;           ///< the kind under which a laboratory item is offered, beside "LAB"
     QStringList capitatedClients; ///< client categories whose items may be capitated
 };
 
@@ -53,7 +51,7 @@ QString verifiedCapitation(const TariffPolicy& policy, const TariffVisit& visit,
 
 /// Writes the flags that the user chose back to the template row, so that the next patient of the client starts from
 /// them. An item without a template row changes nothing. Raises DataError.
-void rememberTemplateFlags(Connection& connection, const TariffKind& kind, const TariffVisit& visit,
-                           const QString& item, const QString& capitated, const QString& revType);
+void rememberTemplateFlags(Books& books, const TariffKind& kind, const TariffVisit& visit, const QString& item,
+                           const QString& capitated, const QString& revType);
 
 } // namespace orvane

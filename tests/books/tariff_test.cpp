@@ -1,10 +1,6 @@
-#include "support/Hospital.h"
-#include "support/TestHome.h"
+#include "BillingBooksTest.h"
 
-#include "billing/Tariff.h"
-#include "data/rows/Recordset.h"
-
-#include <gtest/gtest.h>
+#include "books/Tariff.h"
 
 namespace orvane {
 
@@ -14,11 +10,10 @@ const QString NoTemplate =
     "Price Template for this HMO/Company Yet to be Created! Proceed to use Hospital Private tariff";
 const QString NoPrice = "No price for this HMO/Company! Proceed to use Hospital Private tariff";
 
-class Tariff : public EngineTest {
+class Tariff : public BillingBooksTest {
 protected:
     void SetUp() override {
-        Connection accounting = data.open(TestHome::accounting());
-        layHospital(billing, accounting);
+        BillingBooksTest::SetUp();
         for (const char* row : {
                  "update DrugNHIS set RevType='LABORATORY' where drgName='AMOXICILLIN 500MG' and company='0201'",
                  "insert into DrugNHIS (drgName, company, Price, Capitated, RevType) values ('PARACETAMOL 500MG', "
@@ -101,6 +96,9 @@ TEST_P(Tariff, FallsBackFromClientToPrivateToMaster) {
 TEST_P(Tariff, AdjustmentKnowsFewerClientsAndKinds) {
     EXPECT_EQ(resolve(BillPatAdjustTariff, "DRUG", {"PHIS", "0201", "NO"}, "PARACETAMOL 500MG").capitated, "NO");
     EXPECT_EQ(resolve(BillPatAdjustTariff, "DRUG", {"HMO", "0201", "NO"}, "PARACETAMOL 500MG").capitated, "YES");
+    EXPECT_EQ(
+        resolve(BillPatAdjustTariff, BillPatAdjustTariff.laboratory, {"HMO", "0201", "NO"}, "MALARIA PARASITE").price,
+        "1,200.00");
     EXPECT_EQ(tariffKind("INVESTIGATION", BillPatAdjustTariff), nullptr);
     EXPECT_EQ(tariffKind("INVESTIGATION", BillPatTariff), tariffKind("LAB", BillPatTariff));
 }
@@ -123,10 +121,13 @@ TEST_P(Tariff, ChosenFlagsGoToTheLowestTemplateRowOfTheClient) {
     billing.run(
         "insert into LabServiceNHIS (drgName, company, Price, Capitated) values ('MALARIA PARASITE', '0201', 1, 'NO')");
     const TariffVisit hmo{"HMO", "0201", "NO"};
-    rememberTemplateFlags(billing, *tariffKind("LAB", BillPatTariff), hmo, "MALARIA PARASITE", "YES", "OTHERS");
-    rememberTemplateFlags(billing, *tariffKind("DRUG", BillPatTariff), {"NHIS", "0301", "NO"}, "PARACETAMOL 500MG",
-                          "NO", "SERVICES");
-    rememberTemplateFlags(billing, *tariffKind("SERVICE", BillPatTariff), hmo, "WOUND DRESSING", "YES", "SERVICES");
+    save<Saved>([&](Books& books) -> Given<Saved> {
+        rememberTemplateFlags(books, *tariffKind("LAB", BillPatTariff), hmo, "MALARIA PARASITE", "YES", "OTHERS");
+        rememberTemplateFlags(books, *tariffKind("DRUG", BillPatTariff), {"NHIS", "0301", "NO"}, "PARACETAMOL 500MG",
+                              "NO", "SERVICES");
+        rememberTemplateFlags(books, *tariffKind("SERVICE", BillPatTariff), hmo, "WOUND DRESSING", "YES", "SERVICES");
+        return Saved{};
+    });
 
     EXPECT_EQ(scalar("select count(*) from LabServiceNHIS where Capitated='YES' and RevType='OTHERS'"), "1");
     EXPECT_EQ(scalar("select Price from LabServiceNHIS where Capitated='YES' and RevType='OTHERS'"), "1200");

@@ -1,4 +1,4 @@
-#include "billing/BillDate.h"
+#include "books/BillDate.h"
 
 namespace orvane {
 
@@ -16,17 +16,16 @@ int yearMonth(QDate date) {
 
 QDate billDateFor(QDate recDate, QDate billDate, int billEndDay, int newestBatch) {
     QDate date = billDate;
-    if (!billDate.isValid() || billDate == recDate) {
-        const bool pastEnd = billEndDay > 0 && recDate.day() > billEndDay;
-        date = pastEnd ? firstOfNextMonth(recDate) : recDate;
-    }
+    if (!billDate.isValid() || billDate == recDate)
+        date = billEndDay >= recDate.day() ? recDate : firstOfNextMonth(recDate);
     const QDate batchMonth(newestBatch / 100, newestBatch % 100, 1);
     if (date.isValid() && batchMonth.isValid() && yearMonth(date) <= newestBatch)
         date = firstOfNextMonth(batchMonth);
     return date;
 }
 
-void settleBillDate(Connection& connection, const BillInHand& bill) {
+void settleBillDate(Books& books, const BillInHand& bill) {
+    Connection& connection = books.connection;
     const Recordset visit(connection, Sql("select recDate,BillDate from vwhrecords where consultID = '")
                                           << bill.consultID << "'");
     if (visit.eof())

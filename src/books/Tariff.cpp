@@ -1,12 +1,11 @@
-#include "billing/Tariff.h"
+#include "books/Tariff.h"
 
-#include "data/rows/Recordset.h"
 #include "data/words/Money.h"
 
 namespace orvane {
 
-const TariffPolicy BillPatTariff{true, true, true, {"NHIS", "HMO", "PHIS"}};
-const TariffPolicy BillPatAdjustTariff{false, false, false, {"NHIS", "HMO"}};
+const TariffPolicy BillPatTariff{"INVESTIGATION", {"NHIS", "HMO", "PHIS"}};
+const TariffPolicy BillPatAdjustTariff{"LAB", {"NHIS", "HMO"}};
 
 struct TariffKind {
     SqlLiteral byItem;    ///< the template view, up to the item
@@ -131,7 +130,7 @@ private:
 const TariffKind* tariffKind(const QString& kind, const TariffPolicy& policy) {
     if (kind == "DRUG")
         return &Drug;
-    if (kind == "LAB" || (kind == "INVESTIGATION" && policy.knowsInvestigation))
+    if (kind == "LAB" || kind == policy.laboratory)
         return &Lab;
     return kind == "SERVICE" ? &Service : nullptr;
 }
@@ -153,15 +152,15 @@ QString verifiedCapitation(const TariffPolicy& policy, const TariffVisit& visit,
     return capitated;
 }
 
-void rememberTemplateFlags(Connection& connection, const TariffKind& kind, const TariffVisit& visit,
-                           const QString& item, const QString& capitated, const QString& revType) {
+void rememberTemplateFlags(Books& books, const TariffKind& kind, const TariffVisit& visit, const QString& item,
+                           const QString& capitated, const QString& revType) {
     qlonglong lowest = 0;
-    Recordset row(connection, Sql(kind.templateRow)
-                                  << item << kind.templateKey << tariffKey(visit) << kind.templateEnd);
+    Recordset row(books.connection, Sql(kind.templateRow)
+                                        << item << kind.templateKey << tariffKey(visit) << kind.templateEnd);
     for (; !row.eof(); row.moveNext())
         if (const qlonglong number = row.integer("SNo"); lowest == 0 || number < lowest)
             lowest = number;
-    connection.execute(Sql(kind.update) << capitated << "',  RevType='" << revType << "' where SNo=" << lowest);
+    books.connection.execute(Sql(kind.update) << capitated << "',  RevType='" << revType << "' where SNo=" << lowest);
 }
 
 } // namespace orvane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "books/Books.h"
+
+namespace orvane {
+
+/// A row of BillAccum: one item of a visit, on its bill or waiting for it.
+struct BillItem {
+    QDate date;
+    QString consultID, pno;
+    QString name, category = {};
+    double price = 0, qty = 1, subTotal = 0; ///< naira a unit, units, naira
+    QString usage = {}, billType;
+    QString billTo;       ///< code of the client who pays it
+    QString coyName;      ///< the visit's client
+    QString revType = {}; ///< empty: not known yet
+    std::optional<int> conID = {};
+    QString capitated = "NO"; ///< "YES": a contract covers it, so that it is never charged by itself
+    bool billed = false;      ///< its line is added with it, so that it never waits
+    QString billBy = {};
+};
+
+/// Adds the row and gives its number, SNo. Raises DataError.
+qlonglong addItem(Books& books, const BillItem& item);
+
+/// "PREVIOUS DEBT" or "PREVIOUS CREDIT": a balance carried from earlier visits, which is in the running account
+/// already.
+bool isCarriedBalance(const QString& item);
+
+} // namespace orvane

@@ -1,0 +1,103 @@
+#include "books/BillLine.h"
+
+#include "books/BillItem.h"
+#include "books/PatientAccount.h"
+#include "data/words/Money.h"
+
+namespace orvane {
+
+namespace {
+
+void addLine(Books& books, const BillLine& line) {
+    Recordset row(books.connection, Sql("select * from BillingDetails where 1=2"));
+    row.addNew();
+    row.set("SNo", line.sno == 0 ? QVariant() : line.sno);
+    row.set("billNo", line.billNo);
+    row.set("dtDate", line.date);
+    row.set("PNo", line.pno);
+    row.set("drgName", line.name);
+    row.set("Price", line.price);
+    row.set("Qty", line.qty);
+    row.set("SubTotal", line.subTotal);
+    row.set("Charged", chargeOf(books, line.name, line.billTo, line.subTotal));
+    row.set("billType", line.billType);
+    row.set("conID", line.conID);
+    row.set("dosage", line.dosage);
+    row.set("coyName", line.coyName);
+    row.set("billTo", line.billTo);
+    row.set("revType", line.revType);
+    row.set("BillBy", line.billBy);
+    row.set("Capitated", line.capitated);
+    row.update();
+    if (line.sno == 0)
+        books.connection.execute(Sql("update BillingDetails set SNo=0-detID where SNo is null and billNo='")
+                                 << line.billNo << "'");
+}
+
+bool bearsTheSame(const Recordset& row, const LineChange& now) {
+    return row.text("billTo") == now.billTo && row.number("SubTotal") == now.subTotal &&
+           isCarriedBalance(row.text("drgName")) == isCarriedBalance(now.name);
+}
+
+} // namespace
+
+double chargeOf(const Books& books, const QString& name, const QString& billTo, double subTotal) {
+    return billTo == books.settings().privateClient && !isCarriedBalance(name) ? round2(subTotal) : 0;
+}
+
+double chargedFor(const Books& books, const Recordset& line) {
+    return line.isNull("Charged") ? chargeOf(books, line.text("drgName"), line.text("billTo"), line.number("SubTotal"))
+                                  : line.number("Charged");
+}
+
+void addLines(Books& books, const QVector<BillLine>& lines) {
+    QVector<AccountEntry> charges;
+    for (const BillLine& line : lines) {
+        addLine(books, line);
+        if (!isCarriedBalance(line.name))
+            charges.append({line.pno, line.billNo, 0 - line.subTotal, line.billTo,
+                            line.remarks.isEmpty() ? line.name : line.remarks});
+    }
+    postPatientTrans(books, charges);
+}
+
+void changeLine(Books& books, Recordset& row, const LineChange& now, const QString& pno, const QString& remarks) {
+    const double before = chargedFor(books, row);
+    const double after = bearsTheSame(row, now) ? before : chargeOf(books, now.name, now.billTo, now.subTotal);
+    row.set("drgName", now.name);
+    row.set("Price", now.price);
+    row.set("Qty", now.qty);
+    row.set("SubTotal", now.subTotal);
+    row.set("billTo", now.billTo);
+    row.set("Charged", after);
+    if (now.revType)
+        row.set("revType", *now.revType);
+    if (now.billType)
+        row.set("BillType", *now.billType);
+    if (now.billHead)
+        row.set("BillHead", *now.billHead);
+    row.update();
+    if (after != before)
+        postPatientTran(books,
+                        {pno, row.text("billNo"), round2(before - after), books.settings().privateClient, remarks});
+}
+
+void changePayer(Books& books, Recordset& row, const QString& billTo) {
+    row.set("Charged", chargedFor(books, row));
+    row.set("billTo", billTo);
+    row.update();
+}
+
+void keepCharges(Books& books, const QString& billNo) {
+    books.connection.execute(Sql("update BillingDetails set Charged=case when billTo='")
+                             << books.settings().privateClient
+                             << "' and drgName not in ('PREVIOUS CREDIT','PREVIOUS DEBT') then SubTotal else 0 end "
+                                "where Charged is null and billNo='"
+                             << billNo << "'");
+}
+
+void removeEmptyLines(Books& books, const QString& billNo) {
+    books.connection.execute(Sql("delete from Billingdetails  where subtotal=0 and billno = '") << billNo << "'");
+}
+
+} // namespace orvane
