@@ -9,8 +9,6 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
-#include <QThread>
-#include <future>
 
 namespace orvane {
 
@@ -55,14 +53,6 @@ protected:
         native("create or replace function meddle() returns trigger language plpgsql as $$ begin " + body +
                " return new; end $$");
         native("create or replace trigger meddle before update on hPatients for each row execute function meddle()");
-    }
-
-    /// Returns when so many sessions wait for a lock of the other ones.
-    void waitForWaiting(int sessions) {
-        while (native("select count(*) from pg_stat_activity where datname = current_database() and "
-                      "wait_event_type = 'Lock'")
-                   .toInt() != sessions)
-            QThread::msleep(5);
     }
 
     std::unique_ptr<TestHome> m_home;
@@ -129,52 +119,6 @@ TEST_F(Resend, IsForWhatTheServerHasUndoneOnly) {
         native("drop trigger meddle on hPatients");
         EXPECT_EQ(native("select string_agg(DebtBF::text, ' ') from hPatients"), fault.isEmpty() ? "1 1" : "0 0");
     }
-}
-
-/// A statement that holds P/1 and asks for P/2 meets a transaction that holds P/2 and asks for P/1. Only the
-/// statement's session looks for deadlocks, so it is the one that is undone. Doors order the steps: at the first one
-/// the statement stands once it holds P/1, before the second one it stands when it is sent again.
-TEST_F(Resend, GetsThroughAfterADeadlock) {
-    native("create sequence tries");
-    beforeEachUpdate("if current_setting('deadlock_timeout') = '10ms' and new.PNo = 'P/1' then "
-                     "perform pg_advisory_xact_lock(1); end if;");
-    native("create function wait() returns trigger language plpgsql as $$ begin if "
-           "current_setting('deadlock_timeout') = '10ms' and nextval('tries') > 1 then "
-           "perform pg_advisory_xact_lock(2); end if; return null; end $$");
-    native("create trigger wait before update on hPatients for each statement execute function wait()");
-    native("select pg_advisory_lock(1), pg_advisory_lock(2)");
-    const auto session = [this](const char* patience, const auto& work) {
-        return std::async(std::launch::async, [this, patience, work] {
-            DataSource data(m_home->folder());
-            Connection connection = data.open(TestHome::billing());
-            connection.run(QString("set deadlock_timeout = '%1'").arg(patience));
-            return work(data, connection);
-        });
-    };
-    std::promise<void> holdsSecond, mayAskForFirst;
-    auto transaction = session("1h", [&](DataSource&, Connection& connection) {
-        Transaction both(connection);
-        connection.execute(Sql("update hPatients set DebtBF=DebtBF+10 where PNo='P/2'"));
-        holdsSecond.set_value();
-        mayAskForFirst.get_future().wait();
-        connection.execute(Sql("update hPatients set DebtBF=DebtBF+10 where PNo='P/1'"));
-        both.commit();
-        return true;
-    });
-    holdsSecond.get_future().wait();
-    auto statement = session("10ms", [&](DataSource& data, Connection& connection) {
-        const qint64 before = data.statementsSent();
-        addOne(connection);
-        return data.statementsSent() - before;
-    });
-    waitForWaiting(1);
-    mayAskForFirst.set_value();
-    waitForWaiting(2);
-    native("select pg_advisory_unlock(1)");
-    EXPECT_TRUE(transaction.get());
-    native("select pg_advisory_unlock(2)");
-    EXPECT_EQ(statement.get(), 2) << "times sent";
-    EXPECT_EQ(native("select string_agg(DebtBF::text, ' ') from hPatients"), "11 11");
 }
 
 } // namespace orvane

@@ -29,14 +29,6 @@ TEST(SqlBuilder, PutsValuesIntoTheStatement) {
     EXPECT_EQ((Sql("a='x''y' and b='") << QStringLiteral("--") << "'").text(), QStringLiteral("a='x''y' and b='--'"));
 }
 
-TEST(SqlBuilder, WritesNumbersThatReadBackTheSame) {
-    for (const double value : {0.0, -0.1, 0.1 + 0.2, 1e15 / 3, 999999999999.99, 1e-7, 5e-324, 1e308, -1e308}) {
-        const QString text = sqlNumber(value, "x");
-        EXPECT_EQ(text.toDouble(), value) << text.toStdString();
-        EXPECT_FALSE(text.contains(u'e')) << text.toStdString();
-    }
-}
-
 TEST(SqlBuilder, RefusesWhatNoColumnMayHold) {
     const QString bad[] = {QString(QChar(0)), QStringLiteral("a") + QChar(0xD83D), QChar(0xDE00) + QStringLiteral("a"),
                            QStringLiteral("a") + QChar(0xD83D) + QStringLiteral("b")};
@@ -65,7 +57,7 @@ TEST_P(Values, ComeBackAsTheyWent) {
         billing.execute(Sql("delete from hPatients where psurname='") << text << "'");
         EXPECT_EQ(scalar("select count(*) from hPatients"), "0");
     }
-    QList<double> amounts = {999999999999.99, -1234567.005, 1e308, 5e-324};
+    QList<double> amounts = {0, 999999999999.99, -1234567.005, 1e15 / 3, 1e-7, 1e308, -1e308, 5e-324};
     for (double amount = 0.1; amounts.size() < 100; amount = std::fmod(amount * 7.3 + 0.07, 9e7))
         amounts << amount << -amount << std::round(amount * 100) / 100;
     billing.execute(Sql("insert into hPatients (PNo, psurname) values ('1', 'A')"));

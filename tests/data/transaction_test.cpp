@@ -3,10 +3,6 @@
 #include "data/rows/Transaction.h"
 #include "support/TestHome.h"
 
-#include <QCoreApplication>
-#include <QProcess>
-#include <thread>
-
 namespace orvane {
 
 namespace {
@@ -17,18 +13,6 @@ void addPayment(Connection& connection, qlonglong number) {
     row.set("ReceiptNo", QStringLiteral("OP001%1").arg(number, 7, 10, QChar(u'0')));
     row.set("AmountPaid", number);
     row.update();
-}
-
-/// "Read the last number, add a row under the next one", over and over, as a workstation saves receipts.
-void saveReceipts(const QString& homeFolder, int count) {
-    DataSource workstation(homeFolder);
-    for (int i = 0; i < count; ++i) {
-        Connection connection = workstation.open(TestHome::billing());
-        Transaction transaction(connection);
-        const Recordset last(connection, Sql("select MAX(CAST(right(ReceiptNo, 7) AS BIGINT)) as ID from Payments"));
-        addPayment(connection, last.integer("ID") + 1);
-        transaction.commit();
-    }
 }
 
 } // namespace
@@ -181,39 +165,7 @@ TEST_P(TransactionTest, NeverWaitsForItsOwnWorkstation) {
     EXPECT_EQ(payments(), "1");
 }
 
-TEST_P(TransactionTest, TheGateKeepsWorkstationsApart) {
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 3; ++i)
-        threads.emplace_back([this] { EXPECT_NO_THROW(saveReceipts(home.folder(), 20)); });
-    for (std::thread& thread : threads)
-        thread.join();
-    // Other processes, as on other machines.
-    std::vector<std::unique_ptr<QProcess>> processes;
-    for (int i = 0; i < 3; ++i) {
-        auto process = std::make_unique<QProcess>();
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("ORVANE_TEST_GATE", home.folder());
-        process->setProcessEnvironment(environment);
-        process->start(QCoreApplication::applicationFilePath(), {"--gtest_filter=GateWorker.*"});
-        processes.push_back(std::move(process));
-    }
-    for (const auto& process : processes) {
-        ASSERT_TRUE(process->waitForFinished(60000));
-        EXPECT_EQ(process->exitCode(), 0) << process->readAllStandardOutput().toStdString();
-    }
-    EXPECT_EQ(payments(), "120");
-    EXPECT_EQ(scalar("select count(*) from (select distinct ReceiptNo from Payments) t"), "120");
-    EXPECT_EQ(scalar("select max(AmountPaid) from Payments"), "120");
-}
-
 ORVANE_ON_EACH_ENGINE(TransactionTest);
-
-/// The part of the other processes in the test above.
-TEST(GateWorker, SavesReceipts) {
-    if (!qEnvironmentVariableIsSet("ORVANE_TEST_GATE"))
-        GTEST_SKIP() << "runs in the processes of TheGateKeepsWorkstationsApart";
-    saveReceipts(qEnvironmentVariable("ORVANE_TEST_GATE"), 20);
-}
 
 using TransactionDeathTest = TransactionTest;
 

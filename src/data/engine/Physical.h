@@ -90,7 +90,7 @@ private:
     void settleCommit(const QSqlError& error, const CommitTicket& ticket);
     void endTransaction();
 
-    QCache<QString, CompiledStatement> m_compiled{100}; ///< by text
+    QCache<QString, CompiledStatement> m_compiled{200}; ///< by text
 };
 
 /// For tests only: whether transactions of this process take the money gate of a database (they do). Without it the
