@@ -188,7 +188,7 @@ TEST_F(GridViewTest, ALongListShowsAtOnceAndIsReadOn) {
     EXPECT_EQ(column(0).first(), "1");
     // What is typed is looked for in all entries.
     form.cboTown.clear();
-    form.cboTown.fill(list(), [](const Recordset& row) { return "LINE " + row.text(0); });
+    form.cboTown.fill(list(), [](const Recordset& row) { return ComboBox::Entry{"LINE " + row.text(0)}; });
     window->view()->refreshNow();
     EXPECT_LT(form.cboTown.entriesRead(), all);
     type(form.cboTown, "line 2560");
