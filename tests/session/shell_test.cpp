@@ -1,6 +1,6 @@
 #include "session/MdiTolmek.h"
 #include "session/frmStart.h"
-#include "support/Workws.h"
+#include "support/Workstation.h"
 
 #include <QDir>
 #include <QFile>
