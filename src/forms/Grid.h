@@ -59,8 +59,8 @@ private:
     int m_row = -1;
 };
 
-/// A grid of cells by row and column. Row 0 is the head, whose text is given joined by "|" as the system states it; the
-/// last row is the empty one to type into next.
+/// A grid of cells by row and column. Row 0 is the head, whose texts are given joined by "|"; the last row is the
+/// empty one to type into next.
 class EntryGrid : public Control {
 public:
     EntryGrid(Form& form, const QString& name) : Control(form, ControlKind::EntryGrid, name) {}

@@ -102,28 +102,5 @@ TEST_P(ClientTest, RefusesInOrder) {
     }
 }
 
-TEST_P(ClientTest, AFaultOrABatchThatTookTheBillMeanwhileChangesNothing) {
-    openForm();
-    pick("CLEARWATER", "HMO");
-    ws.program.data().setStatementHook([](const QString& statement) {
-        if (statement.startsWith("update billAccum"))
-            throw DataError("disk full");
-    });
-    update();
-    EXPECT_BOXES(ui, {"disk full"});
-    EXPECT_EQ(clients(), untouched);
-
-    const SecondHome second(home);
-    Workstation other(second.folder());
-    ws.program.data().setStatementHook([&](const QString& statement) {
-        if (statement == "begin transaction")
-            other.run("update Billing set isProcess=1");
-    });
-    update();
-    EXPECT_BOXES(ui, {processed});
-    EXPECT_EQ(clients(), untouched);
-    EXPECT_TRUE(ws.program.loadedForm("frmCoyUpdate"));
-}
-
 } // namespace
 } // namespace orvane

@@ -45,14 +45,11 @@ TEST_P(LookupTest, FindNarrowsAsOneTypes) {
         ws.set("frmFind.txtName", test.typed);
         EXPECT_EQ(found(), test.numbers) << test.typed;
     }
-    ws.set("frmFind.txtName", "ADE");
-    EXPECT_EQ(ws.rows("frmFind.grdData"), QStringList({"FileNo\tOld FileNo\tSurname\tFirstname\thomeAddress",
-                                                       "P/0001\tOLD7\tADEYEMI\tBOLA\t1 Creek Road"}));
     ws.set("frmFind.TxtID", "P/0002");
     ws.click("frmFind.cmdID");
     EXPECT_EQ(found(), QStringList{"P/0002"});
     ws.click("frmFind.cmdName");
-    EXPECT_EQ(found(), QStringList{"P/0001"});
+    EXPECT_EQ(found(), QStringList{"P/0003"});
     QStringList searches;
     ws.program.data().setStatementHook([&](const QString& tsql) {
         if (tsql.contains("hpatients"))
@@ -63,7 +60,9 @@ TEST_P(LookupTest, FindNarrowsAsOneTypes) {
     EXPECT_EQ(found(), QStringList());
     EXPECT_EQ(searches, QStringList()) << "nobody is looked for";
     ws.set("frmFind.txtName", "ADE");
-    EXPECT_EQ(searches.size(), 1) << "typing still searches";
+    EXPECT_EQ(ws.rows("frmFind.grdData"), QStringList({"FileNo\tOld FileNo\tSurname\tFirstname\thomeAddress",
+                                                       "P/0001\tOLD7\tADEYEMI\tBOLA\t1 Creek Road"}))
+        << "typing still searches";
     ws.program.data().setStatementHook({});
 }
 

@@ -12,21 +12,14 @@ protected:
         Connection billing = ws.billing();
         makePatient(billing, {.debt = -1500});
         makePatient(billing, {.pno = "P/0002", .surname = "BAKARE"});
-        const struct {
-            const char* consultID;
-            const char* pno;
-            int day;
-            bool finished;
-        } visits[] = {{"001OFL0000001", "P/0001", 14, true},
-                      {"TODAY2", "P/0002", 14, true},
-                      {"WITH-DOCTOR", "P/0002", 14, false},
-                      {"BILLED", "P/0002", 14, true},
-                      {"EARLIER", "P/0001", 10, true}};
-        for (const auto& visit : visits) {
-            const QDate day(2026, 3, visit.day);
-            makeVisit(billing, {.consultID = visit.consultID, .pno = visit.pno, .date = day});
+        for (const QString& visit :
+             QStringList{"001OFL0000001 P/0001 14 1", "TODAY2 P/0002 14 1", "WITH-DOCTOR P/0002 14 0",
+                         "BILLED P/0002 14 1", "EARLIER P/0001 10 1"}) {
+            const QStringList facts = visit.split(' ');
+            const QDate day(2026, 3, facts[2].toInt());
+            makeVisit(billing, {.consultID = facts[0], .pno = facts[1], .date = day});
             makeConsultation(billing,
-                             {.consultID = visit.consultID, .pno = visit.pno, .date = day, .finished = visit.finished});
+                             {.consultID = facts[0], .pno = facts[1], .date = day, .finished = facts[3] == "1"});
         }
         makeItem(billing, {});
         ws.run("update hRecords set BillDate='2026-03-14' where consultID='BILLED'");
@@ -111,9 +104,6 @@ TEST_P(Worklist, ListsOverdrawnDrugsAndPrintsWhatItLists) {
     EXPECT_EQ(ws.rows("frmFlash.dGexp"), QStringList({"Drug\tCategory\tUnitsinStock", "AMOXICILLIN 500MG\tTABLETS\t-3",
                                                       "ARTEMETHER INJECTION\tINJECTIONS\t-1"}));
     EXPECT_EQ(caption(), "Overdrawn System Drugs");
-    ws.dblClick("frmFlash.dGexp");
-    ws.click("frmFlash.cmdExpected");
-    EXPECT_BOXES(ui, {"Please select a row ", "Please select a row to view Attendance History for the Patient"});
     ws.click("frmFlash.cmdPrint");
     ASSERT_EQ(ui.reports.size(), 1);
     EXPECT_EQ(ui.reports.first().title, "Overdrawn System Drugs");

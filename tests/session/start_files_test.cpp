@@ -1,4 +1,3 @@
-#include "data/words/TextFile.h"
 #include "session/StartFiles.h"
 #include "support/TestUi.h"
 
@@ -72,25 +71,6 @@ TEST_F(StartFiles, missingFilesSayWhichAreMissing) {
     EXPECT_FALSE(readSysDoc(program));
     EXPECT_BOXES(ui, {"A System inifile bAccum required for this Application is MISSING",
                       "A System file UName required for this Application is MISSING"});
-}
-
-TEST_F(StartFiles, filesThatAreNoTextAreRefusedByLine) {
-    const struct {
-        QByteArray content;
-        const char* reason;
-    } cases[] = {{"SVR=A\nHNO=\x1b[2J", "is not a text file: see line 2"},
-                 {QByteArray(64 * 1024 + 1, 'x'), "has a line of more than 64 KB"}};
-    for (const auto& each : cases) {
-        write("made.sys", each.content);
-        try {
-            readMadeSys(program);
-            ADD_FAILURE() << "no fault: " << each.reason;
-        } catch (const DataError& fault) {
-            EXPECT_TRUE(fault.description().contains(QLatin1String(each.reason))) << fault.what();
-        }
-    }
-    write("longest", QByteArray(64 * 1024 - 1, 'x') + "\r\nend");
-    EXPECT_EQ(readTextLines(home.filePath("longest")).last(), "end");
 }
 
 TEST_F(StartFiles, onlyTheMenuSectionTurnsEntriesOn) {

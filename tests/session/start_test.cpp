@@ -108,14 +108,6 @@ TEST_P(Start, aSecondCopyIsRefusedUntilTheFirstHasEnded) {
     EXPECT_TRUE(third.started);
 }
 
-TEST_P(Start, aNamedUserNeedsNoFile) {
-    QFile::remove(file("sysdoc.sys"));
-    Workstation station(home.folder());
-    EXPECT_FALSE(station.start("O'NEILL"));
-    EXPECT_BOXES(station.ui, {"Invalid Login OR session has expired!!! Please Re-login"});
-    EXPECT_TRUE(station.start("amina.b"));
-}
-
 TEST_P(Start, theLogInWayTakesHospitalAndSettingsOver) {
     owner.run("delete from AppDefaults where ID='PRIVATE'");
     owner.run("update ApplicationUsers set Password=''");
@@ -256,35 +248,19 @@ TEST_P(Start, postingIsAsked) {
     EXPECT_TRUE(Attempt(home.folder()).started);
 }
 
-/// What lies in the home folder instead of a database or of the list of servers; each is one box and no start.
-TEST(StartOnBrokenHome, isRefusedInOneBox) {
-    const struct {
-        const char* name;
-        const char* path;                  ///< relative to the home folder
-        std::optional<QByteArray> content; ///< none: the file is taken away
-    } cases[] = {
-        {"database missing", "data/Dunmarch.db", std::nullopt},
-        {"database foreign", "data/Dunmarch.db", QByteArray(8192, 'x')},
-        {"database empty", "data/Dunmarch.db", QByteArray()},
-        {"servers broken", "orvane.ini", QByteArray("engine = sqlite\n")},
-        {"sysdoc.sys too long", "sysdoc.sys", QByteArray(100000, 'a')},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.name);
-        TestHome home;
-        const QString path = QDir(home.folder()).filePath(QLatin1String(each.path));
-        ASSERT_TRUE(QFile::remove(path));
-        if (each.content)
-            writeFile(path, *each.content);
-        TestUi ui;
-        Program program(home.folder(), ui);
-        EXPECT_FALSE(Main(program));
-        const QStringList boxes = ui.takeBoxes();
-        ASSERT_EQ(boxes.size(), 1);
-        EXPECT_FALSE(boxes.first().isEmpty());
-        EXPECT_EQ(boxes.first().count(QLatin1Char('\n')), 0) << boxes.first().toStdString();
-        EXPECT_EQ(QFile::exists(path), each.content.has_value());
-        EXPECT_EQ(ui.opened, QStringList());
+TEST(StartWithoutDatabase, isRefusedInOneLine) {
+    TestHome home;
+    const QString path = QDir(home.folder()).filePath("data/Dunmarch.db");
+    for (const char* content : {"", "no database"}) {
+        if (*content)
+            writeFile(path, QByteArray(content).repeated(1000));
+        else
+            ASSERT_TRUE(QFile::remove(path));
+        Attempt run(home.folder());
+        EXPECT_FALSE(run.started);
+        const QStringList said = run.ui.takeBoxes();
+        EXPECT_TRUE(said.size() == 1 && !said.first().isEmpty() && !said.first().contains('\n'));
+        EXPECT_EQ(QFile::exists(path), *content != 0);
     }
 }
 

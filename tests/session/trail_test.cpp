@@ -109,16 +109,16 @@ TEST_P(Trail, onlyAnEnabledAccountOfTheModuleWithTheExactPasswordLogsIn) {
         EXPECT_BOXES(ui, {"Invalid Login details"});
     }
     storePassword(stored);
-    const QStringList refused{"Alert! Invalid Login details."};
-    station.run("update ApplicationUsers set AccountStatus='Disabled'");
-    logIn("amina.b", "abcXYZ");
-    EXPECT_EQ(ui.takeBoxes(), refused);
-    station.run("update ApplicationUsers set AccountStatus='Enabled'");
-    station.run("update Roles set LoginRole='RECORDS' where LoginRole='BILLING'");
-    logIn("amina.b", "abcXYZ");
-    EXPECT_EQ(ui.takeBoxes(), refused);
-    station.run("update Roles set LoginRole='BILLING' where LoginRole='RECORDS'");
-
+    const std::pair<const char*, const char*> hindrances[] = {
+        {"update ApplicationUsers set AccountStatus='Disabled'", "update ApplicationUsers set AccountStatus='Enabled'"},
+        {"update Roles set LoginRole='RECORDS' where LoginRole='BILLING'",
+         "update Roles set LoginRole='BILLING' where LoginRole='RECORDS'"}};
+    for (const auto& [hinder, mend] : hindrances) {
+        station.run(hinder);
+        logIn("amina.b", "abcXYZ");
+        EXPECT_BOXES(ui, {"Alert! Invalid Login details."});
+        station.run(mend);
+    }
     logIn("AMINA.B", "abcXYZ");
     EXPECT_EQ(ui.takeBoxesWithTitles(), (QList<TestUi::Box>{{"You're welcome, AMINA BELLO.", {}, Icon::Information}}));
     EXPECT_EQ(ui.opened, (QStringList{"frmLogin", "MdiTolmek"}));
