@@ -41,6 +41,7 @@ struct BookContext {
     QDate today; ///< of the shell's clock, which follows the server's
     QTime now;
     std::function<void(const AuditEntry&)> audit; ///< on a connection of its own, so that it survives a rollback
+    int* openSteps = nullptr;                     ///< counted up while a step runs; for tests
 };
 
 /// The work in hand: a connection inside its transaction, the clock, who acts, and the settings that rules read.

@@ -4,6 +4,26 @@
 
 namespace orvane {
 
+namespace {
+
+/// A step counts while it runs.
+class OpenStep {
+public:
+    explicit OpenStep(int* count) : m_count(count) { add(1); }
+    ~OpenStep() { add(-1); }
+    OpenStep(const OpenStep&) = delete;
+    OpenStep& operator=(const OpenStep&) = delete;
+
+private:
+    void add(int n) {
+        if (m_count)
+            *m_count += n;
+    }
+    int* m_count;
+};
+
+} // namespace
+
 Desk::Desk(DataSource& data, const QString& connectionString, BookContext context)
     : m_data(data), m_connectionString(connectionString), m_context(std::move(context)) {}
 
@@ -12,6 +32,7 @@ Connection Desk::open() const {
 }
 
 void Desk::run(const QString& action, const std::function<bool(Books&)>& step) const {
+    const OpenStep counted(m_context.openSteps);
     Connection connection = open();
     Transaction transaction(connection);
     Books books(connection, m_context);

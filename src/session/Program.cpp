@@ -27,7 +27,8 @@ Desk Program::desk() {
                               .nhisFeeBase = session.gNHISFee},
                  .today = session.gServerDate,
                  .now = session.gServerTime,
-                 .audit = [this](const AuditEntry& entry) { writeAuditTrail(entry); }});
+                 .audit = [this](const AuditEntry& entry) { writeAuditTrail(entry); },
+                 .openSteps = &m_openSteps});
 }
 
 void Program::registerForm(const QString& name, FormFactory factory) {

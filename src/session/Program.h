@@ -37,6 +37,7 @@ public:
 
     /// Where this user saves, by the shell's clock as it stands now.
     Desk desk();
+    int openSteps() const { return m_openSteps; } ///< of the books, that run now; for tests
 
     void registerForm(const QString& name, FormFactory factory);
     bool isRegistered(const QString& name) const;
@@ -93,6 +94,7 @@ private:
     std::vector<std::unique_ptr<Form>> m_closedForms;
     QList<Form*> m_shown; ///< open screens inside the shell, the active one last
     QStringList m_pendingBoxes;
+    int m_openSteps = 0;
 };
 
 } // namespace orvane

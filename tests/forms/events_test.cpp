@@ -193,13 +193,5 @@ TEST(Events, ControlsAreFoundByName) {
     EXPECT_EQ(form.find(""), nullptr);
 }
 
-TEST(Events, KeyPressDropsCharacters) {
-    TestUi ui;
-    SampleForm form(ui);
-    EXPECT_TRUE(form.txtDigits.keyPress('7'));
-    EXPECT_FALSE(form.txtDigits.keyPress('x'));
-    EXPECT_TRUE(form.txtName.keyPress('x')) << "no handler takes all";
-}
-
 } // namespace
 } // namespace orvane

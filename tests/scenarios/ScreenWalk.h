@@ -1,5 +1,6 @@
 #pragma once
 
+#include "demo/QuietUi.h"
 #include "play/HeadlessDriver.h"
 #include "session/Program.h"
 #include "support/TestHome.h"
@@ -9,28 +10,19 @@
 namespace orvane {
 
 /// A user who keeps the texts of all boxes, works in modal forms by `inModal`, and answers by `yes` and `answer`.
-class WalkUi : public Ui {
+class WalkUi : public QuietUi {
 public:
     std::function<void(Form&)> inModal;
     std::function<bool()> yes = [] { return true; };
     std::function<std::optional<QString>()> answer = [] { return std::optional<QString>(); };
     QStringList boxes;
 
+    WalkUi() { setClock(QDateTime(QDate(2026, 3, 14), QTime(9, 30))); }
     void box(const QString& text, Icon, const QString&) override { boxes << text; }
     bool question(const QString&, const QString&) override { return yes(); }
     std::optional<QString> inputBox(const QString&, const QString&, const QString&) override { return answer(); }
-    void show(Form&) override {}
     void showModal(Form& form) override;
-    void closed(Form&) override {}
-    void setBusy(bool) override {}
-    void processEvents() override {}
-    void printForm(Form&) override {}
-    void viewReport(const QString&, const QString&, const Recordset&) override {}
     QString exportFolder() const override { return m_documents.path(); }
-    void exported(const QString&) override {}
-    void playSound(const QString&) override {}
-    QDateTime now() const override { return QDateTime(QDate(2026, 3, 14), QTime(9, 30)); }
-    void quit() override {}
 
 private:
     QTemporaryDir m_documents;

@@ -49,43 +49,41 @@ const char* const masterRows[] = {
     "insert into drugcategories (drgCatname, catremarks) values ('INJECTIONS', 'INJECTION')",
 };
 
-const struct {
-    const char* category;
-    const char* type;
-} categories[] = {{"PRIVATE", "PRIVATE"}, {"HMO", "HMO"},       {"NHIS", "NHIS"},      {"PHIS", "NHIS"},
-                  {"COMPANY", "COMPANY"}, {"MTHLY", "COMPANY"}, {"3MTHLY", "COMPANY"}, {"6MTHLY", "COMPANY"}};
-
-const struct {
-    const char* id;
-    const char* name;
-    const char* type;
-    const char* category;
-} clients[] = {{"0001", "PRIVATE PATIENTS", "PRIVATE", "PRIVATE"},
-               {"0102", "HARMONY MILLS LTD", "COMPANY", "MTHLY"},
-               {"0201", "CLEARWATER HMO", "HMO", "HMO"},
-               {"0301", "NATIONAL SCHEME", "NHIS", "NHIS"}};
-
-const struct {
-    const char* name;
-    const char* account;
-} revenueTypes[] = {
-    {"CONSULTATION", "4001"}, {"DRUGS", "4002"}, {"LABORATORY", "4003"}, {"SERVICES", "4004"}, {"OTHERS", "4009"}};
-
-/// An item with its private price and the HMO's; a price below 0: no row in that template.
-const struct {
-    const char* kind;
-    const char* name;
-    const char* category;
-    double privatePrice;
-    double hmoPrice;
-    const char* hmoCapitated;
-} items[] = {
-    {"DRUG", "PARACETAMOL 500MG", "TABLETS", 50, 40, "YES"},
-    {"DRUG", "AMOXICILLIN 500MG", "TABLETS", 120, 0, "NO"},
-    {"DRUG", "ARTEMETHER INJECTION", "INJECTIONS", 850, -1, ""},
-    {"LAB", "MALARIA PARASITE", "PARASITOLOGY", 1500, 1200, "NO"},
-    {"LAB", "FULL BLOOD COUNT", "HAEMATOLOGY", 3500, -1, ""},
-    {"SERVICE", "WOUND DRESSING", "NURSING", 2500, -1, ""},
+/// Clients and items; where a row follows from another one, it is taken from there.
+const char* const priceRows[] = {
+    "insert into billingPrice (clientCatID, clientType, pcent, pvalue) values ('PRIVATE','PRIVATE',0,0), "
+    "('HMO','HMO',0,0), ('NHIS','NHIS',0,0), ('PHIS','NHIS',0,0), ('COMPANY','COMPANY',0,0), "
+    "('MTHLY','COMPANY',0,0), ('3MTHLY','COMPANY',0,0), ('6MTHLY','COMPANY',0,0)",
+    "insert into hRetainership (retainID, retainCode, retainName, ClientType, clientcatID, Active, Debt, "
+    "BillEndDate) values "
+    "('0001','0001','PRIVATE PATIENTS','PRIVATE','PRIVATE','YES',0,31), "
+    "('0102','0102','HARMONY MILLS LTD','COMPANY','MTHLY','YES',0,31), "
+    "('0201','0201','CLEARWATER HMO','HMO','HMO','YES',0,31), ('0301','0301','NATIONAL "
+    "SCHEME','NHIS','NHIS','YES',0,31)",
+    "insert into hRevenueType (revType, Active, AccountNo) values ('CONSULTATION','YES','4001'), "
+    "('DRUGS','YES','4002'), ('LABORATORY','YES','4003'), ('SERVICES','YES','4004'), ('OTHERS','YES','4009')",
+    "insert into drugs (drgName, ItemID, drgCatName, qtyPerUnit, Cost, Capitated) values "
+    "('PARACETAMOL 500MG','PARACETAMOL 500MG','TABLETS',1,50,'NO'), "
+    "('AMOXICILLIN 500MG','AMOXICILLIN 500MG','TABLETS',1,120,'NO'), "
+    "('ARTEMETHER INJECTION','ARTEMETHER INJECTION','INJECTIONS',1,850,'NO')",
+    "insert into drugMaster (drgName, drgCatName, revType) select drgName, drgCatName, 'DRUGS' from drugs",
+    "insert into StockItemsRetail (ItemID, ItemName, ItemCatID, UnitPrice, UnitsInStock) select drgName, drgName, "
+    "drgCatName, Cost, 500 from drugs",
+    "insert into labservices (Drgname, drgCatName, Capitated, revType, coyID, Cost) values "
+    "('MALARIA PARASITE','PARASITOLOGY','NO','LABORATORY','0001',1500), "
+    "('FULL BLOOD COUNT','HAEMATOLOGY','NO','LABORATORY','0001',3500)",
+    "insert into hservices (service, Category, Capitated, revType, coyID, Cost) values "
+    "('WOUND DRESSING','NURSING','NO','SERVICES','0001',2500)",
+    "insert into DrugNHIS (drgName, company, Price, Capitated, RevType) select drgName, '0001', Cost, 'NO', 'DRUGS' "
+    "from drugs",
+    "insert into LabServiceNHIS (drgName, company, Price, Capitated, RevType) select Drgname, '0001', Cost, 'NO', "
+    "revType from labservices",
+    "insert into hServiceNHIS (service, company, Price, Capitated, RevType) select service, '0001', Cost, 'NO', "
+    "revType from hservices",
+    "insert into DrugNHIS (drgName, company, Price, Capitated, RevType) values "
+    "('PARACETAMOL 500MG','0201',40,'YES','DRUGS'), ('AMOXICILLIN 500MG','0201',0,'NO','DRUGS')",
+    "insert into LabServiceNHIS (drgName, company, Price, Capitated, RevType) values "
+    "('MALARIA PARASITE','0201',1200,'NO','LABORATORY')",
 };
 
 void addRow(Connection& connection, const Sql& table, std::initializer_list<std::pair<const char*, QVariant>> values) {
@@ -100,99 +98,6 @@ QString text(const char* latin) {
     return QString::fromLatin1(latin);
 }
 
-void addTemplateRow(Connection& billing, const QString& kind, const QString& name, const char* client, double price,
-                    const char* capitated) {
-    if (price < 0)
-        return;
-    const QVariant flag = text(capitated);
-    if (kind == QLatin1String("DRUG"))
-        addRow(billing, Sql("DrugNHIS"),
-               {{"drgName", name},
-                {"company", text(client)},
-                {"Price", price},
-                {"Capitated", flag},
-                {"RevType", "DRUGS"}});
-    else if (kind == QLatin1String("LAB"))
-        addRow(billing, Sql("LabServiceNHIS"),
-               {{"drgName", name},
-                {"company", text(client)},
-                {"Price", price},
-                {"Capitated", flag},
-                {"RevType", "LABORATORY"}});
-    else
-        addRow(billing, Sql("hServiceNHIS"),
-               {{"service", name},
-                {"company", text(client)},
-                {"Price", price},
-                {"Capitated", flag},
-                {"RevType", "SERVICES"}});
-}
-
-void addMaster(Connection& billing, const QString& kind, const QString& name, const QString& category, double cost) {
-    if (kind == QLatin1String("DRUG")) {
-        addRow(billing, Sql("drugMaster"), {{"drgName", name}, {"drgCatName", category}, {"revType", "DRUGS"}});
-        addRow(billing, Sql("drugs"),
-               {{"drgName", name},
-                {"ItemID", name},
-                {"drgCatName", category},
-                {"qtyPerUnit", 1},
-                {"Cost", cost},
-                {"Capitated", "NO"}});
-        addRow(billing, Sql("StockItemsRetail"),
-               {{"ItemID", name},
-                {"ItemName", name},
-                {"ItemCatID", category},
-                {"UnitPrice", cost},
-                {"UnitsInStock", 500}});
-    } else if (kind == QLatin1String("LAB")) {
-        addRow(billing, Sql("labservices"),
-               {{"Drgname", name},
-                {"drgCatName", category},
-                {"Capitated", "NO"},
-                {"revType", "LABORATORY"},
-                {"coyID", "0001"},
-                {"Cost", cost}});
-    } else {
-        addRow(billing, Sql("hservices"),
-               {{"service", name},
-                {"Category", category},
-                {"Capitated", "NO"},
-                {"revType", "SERVICES"},
-                {"coyID", "0001"},
-                {"Cost", cost}});
-    }
-}
-
-void layClients(Connection& billing) {
-    for (const auto& category : categories)
-        addRow(billing, Sql("billingPrice"),
-               {{"clientCatID", text(category.category)},
-                {"clientType", text(category.type)},
-                {"pcent", 0},
-                {"pvalue", 0}});
-    for (const auto& client : clients)
-        addRow(billing, Sql("hRetainership"),
-               {{"retainID", text(client.id)},
-                {"retainCode", text(client.id)},
-                {"retainName", text(client.name)},
-                {"ClientType", text(client.type)},
-                {"clientcatID", text(client.category)},
-                {"Active", "YES"},
-                {"BillEndDate", 31},
-                {"Debt", 0}});
-}
-
-void layItems(Connection& billing) {
-    for (const auto& revenue : revenueTypes)
-        addRow(billing, Sql("hRevenueType"),
-               {{"revType", text(revenue.name)}, {"Active", "YES"}, {"AccountNo", text(revenue.account)}});
-    for (const auto& item : items) {
-        addMaster(billing, text(item.kind), text(item.name), text(item.category), item.privatePrice);
-        addTemplateRow(billing, text(item.kind), text(item.name), "0001", item.privatePrice, "NO");
-        addTemplateRow(billing, text(item.kind), text(item.name), "0201", item.hmoPrice, item.hmoCapitated);
-    }
-}
-
 } // namespace
 
 void layHospital(Connection& billing, Connection& accounting) {
@@ -203,8 +108,8 @@ void layHospital(Connection& billing, Connection& accounting) {
         addRow(billing, Sql("AppDefaults"), {{"ID", text(setting.id)}, {"idval", text(setting.value)}});
     for (const char* row : masterRows)
         billing.run(text(row));
-    layClients(billing);
-    layItems(billing);
+    for (const char* row : priceRows)
+        billing.run(text(row));
     transaction.commit();
     accounting.run("insert into AccountMonth (Period) values ('2026-03')");
 }

@@ -1,7 +1,6 @@
 #include "support/TestUi.h"
 
 #include "data/rows/Recordset.h"
-#include "forms/Form.h"
 
 #include <gtest/gtest.h>
 
@@ -16,39 +15,11 @@ TestUi::~TestUi() {
         ADD_FAILURE() << "the modal form never came up: " << modal.formName.toStdString();
 }
 
-void TestUi::answer(bool yes) {
-    m_answers.push_back({yes ? Answer::Yes : Answer::No, {}});
-}
-
-void TestUi::answer(const QString& text) {
-    m_answers.push_back({Answer::Text, text});
-}
-
-void TestUi::answerCancel() {
-    m_answers.push_back({Answer::Cancel, {}});
-}
-
-void TestUi::inModal(const QString& formName, std::function<void(Form&)> acts) {
-    m_modals.push_back({formName, std::move(acts)});
-}
-
 QStringList TestUi::takeBoxes() {
     QStringList texts;
     for (const Box& box : takeBoxesWithTitles())
         texts << box.text;
     return texts;
-}
-
-QList<TestUi::Box> TestUi::takeBoxesWithTitles() {
-    return std::exchange(m_boxes, {});
-}
-
-QStringList TestUi::takeQuestions() {
-    return std::exchange(m_questions, {});
-}
-
-void TestUi::box(const QString& text, Icon icon, const QString& title) {
-    m_boxes.append({text, title, icon});
 }
 
 std::optional<TestUi::Answer> TestUi::takeAnswer(const QString& asked) {
@@ -76,10 +47,6 @@ std::optional<QString> TestUi::inputBox(const QString& prompt, const QString&, c
     return answer && answer->kind == Answer::Text ? std::optional(answer->text) : std::nullopt;
 }
 
-void TestUi::show(Form& form) {
-    opened << form.name();
-}
-
 void TestUi::showModal(Form& form) {
     opened << form.name();
     if (m_modals.empty()) {
@@ -95,14 +62,6 @@ void TestUi::showModal(Form& form) {
         ADD_FAILURE() << "the test left the modal form open: " << form.name().toStdString();
         form.abandon();
     }
-}
-
-void TestUi::closed(Form& form) {
-    closedForms << form.name();
-}
-
-void TestUi::printForm(Form& form) {
-    printed << form.name();
 }
 
 void TestUi::viewReport(const QString& file, const QString& title, const Recordset& rows) {

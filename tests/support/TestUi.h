@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/Ui.h"
+#include "forms/Form.h"
 #include "support/Print.h"
 
 #include <QStringList>
@@ -29,17 +29,17 @@ public:
     ~TestUi() override;
 
     // What the test's user will do. Questions and input boxes share one queue.
-    void answer(bool yes);
-    void answer(const QString& text); ///< to an input box
-    void answerCancel();              ///< to an input box
+    void answer(bool yes) { m_answers.push_back({yes ? Answer::Yes : Answer::No, {}}); }
+    void answer(const QString& text) { m_answers.push_back({Answer::Text, text}); } ///< to an input box
+    void answerCancel() { m_answers.push_back({Answer::Cancel, {}}); }              ///< to an input box
     void forgetAnswers() { m_answers.clear(); }
     /// The next modal form must be this one; `acts` works in it and must close it.
-    void inModal(const QString& formName, std::function<void(Form&)> acts);
+    void inModal(const QString& formName, std::function<void(Form&)> acts) { m_modals.push_back({formName, acts}); }
 
     // What the program has shown since the test last asked.
     QStringList takeBoxes();
-    QList<Box> takeBoxesWithTitles();
-    QStringList takeQuestions();
+    QList<Box> takeBoxesWithTitles() { return std::exchange(m_boxes, {}); }
+    QStringList takeQuestions() { return std::exchange(m_questions, {}); }
     void forgetBoxes() { takeBoxes(); }
 
     // What has happened since the start.
@@ -52,16 +52,18 @@ public:
     bool hasQuit = false;
     QDateTime clock = QDateTime(QDate(2026, 3, 14), QTime(9, 30)); ///< the workstation's
 
-    void box(const QString& text, Icon icon = Icon::None, const QString& title = {}) override;
+    void box(const QString& text, Icon icon = Icon::None, const QString& title = {}) override {
+        m_boxes.append({text, title, icon});
+    }
     bool question(const QString& text, const QString& title = {}) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& title = {},
                                     const QString& initial = {}) override;
-    void show(Form& form) override;
+    void show(Form& form) override { opened << form.name(); }
     void showModal(Form& form) override;
-    void closed(Form& form) override;
+    void closed(Form& form) override { closedForms << form.name(); }
     void setBusy(bool) override {}
     void processEvents() override {}
-    void printForm(Form& form) override;
+    void printForm(Form& form) override { printed << form.name(); }
     void viewReport(const QString& file, const QString& title, const Recordset& rows) override;
     QString exportFolder() const override { return m_documents.path(); }
     void exported(const QString& file) override { exports << file; }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "play/ControlActs.h"
+#include "play/ControlReading.h"
+#include "play/HeadlessDriver.h"
 #include "session/Program.h"
 #include "support/Hospital.h"
 #include "support/TestHome.h"
@@ -22,20 +25,22 @@ public:
     bool start(const QString& userName = "amina.b"); ///< runs Main
 
     void open(const QString& form) { program.open(form); }
-    void close(const QString& form);
-    void menu(const QString& entry); ///< of the shell
-    void set(const QString& control, const QString& value);
-    void pick(const QString& control, int index);
-    void pick(const QString& control,
-              const QString& text); ///< the entry equal to the text, else the first that contains it
-    void tick(const QString& list, const QStringList& entries, bool ticked = true);
-    void row(const QString& grid, int row);
-    void row(const QString& grid, const QString& cell);
-    void click(const QString& control);
-    void dblClick(const QString& control);
-    void leave(const QString& control);
-    void key(const QString& control, const QString& keys);
-    void timer(const QString& timer); ///< one tick
+    void close(const QString& name) { m_driver.close(form(name)); }
+    void menu(const QString& entry) { m_driver.click(dynamic_cast<MenuItem&>(usable("MdiTolmek." + entry))); }
+    void set(const QString& control, const QString& value) { setValue(m_driver, usable(control), value); }
+    void pick(const QString& list, int index) { pickEntry(m_driver, usable(list), QString::number(index), true); }
+    /// The entry equal to the text, else the first that contains it.
+    void pick(const QString& list, const QString& text) { pickEntry(m_driver, usable(list), text, false); }
+    void tick(const QString& list, const QStringList& entries, bool ticked = true) {
+        tickEntries(m_driver, usable(list), entries, ticked);
+    }
+    void row(const QString& grid, int row) { makeRowCurrent(m_driver, usable(grid), QString::number(row), true); }
+    void row(const QString& grid, const QString& cell) { makeRowCurrent(m_driver, usable(grid), cell, false); }
+    void click(const QString& control) { clickControl(m_driver, usable(control)); }
+    void dblClick(const QString& control) { m_driver.dblClick(usable(control)); }
+    void leave(const QString& control) { m_driver.leave(usable(control)); }
+    void key(const QString& control, const QString& keys) { typeKeys(m_driver, usable(control), keys); }
+    void timer(const QString& timer) { m_driver.tick(control<Timer>(timer)); } ///< one tick
 
     Form& form(const QString& name); ///< an open one
     Control& control(const QString& name);
@@ -44,20 +49,25 @@ public:
         return dynamic_cast<T&>(control(name));
     }
     QString value(const QString& name) { return control(name).valueText(); }
-    QString state(const QString& name); ///< "visible enabled", "hidden disabled locked" and the like
-    QStringList items(const QString& name);
-    QStringList rows(const QString& name); ///< cells apart by tabs, the head first
+    /// "visible enabled", "hidden disabled locked" and the like.
+    QString state(const QString& name) { return stateOf(control(name)); }
+    QStringList items(const QString& name) { return itemsOf(control(name)).value(); }
+    /// Cells apart by tabs, the head first.
+    QStringList rows(const QString& name) { return rowsOf(control(name)).value(); }
 
     Connection billing() { return program.openBilling(); }
     Connection accounting() { return program.openAccounting(); }
     void run(const QString& tsql) { billing().run(tsql); } ///< on the billing database
-    QString
-    scalar(const QString& tsql); ///< the first column of the first row of the billing database; "" without a row
+    /// The first column of the first row of the billing database; "" without a row.
+    QString scalar(const QString& tsql);
     QString accountingScalar(const QString& tsql);
-    int tableCount(const QString& tableAndFilter); ///< "Payments where billNo='...'" of the billing database
+    /// "Payments where billNo='...'" of the billing database.
+    int tableCount(const QString& table) { return scalar("select count(*) as n from " + table).toInt(); }
 
 private:
     Control& usable(const QString& name);
+
+    HeadlessDriver m_driver;
 };
 
 /// A home folder of another machine, on the databases of the first one.
