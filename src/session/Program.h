@@ -1,7 +1,6 @@
 #pragma once
 
 #include "books/Desk.h"
-#include "data/rows/Transaction.h"
 #include "forms/Form.h"
 #include "session/Session.h"
 

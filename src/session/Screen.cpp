@@ -70,18 +70,6 @@ std::optional<Refusal> Screen::runStep(const AnySave& wanted) {
     }
 }
 
-bool Screen::saveOnce(Button& button, const std::function<bool()>& save, std::function<void()> afterSave) {
-    try {
-        if (!save())
-            return false;
-    } catch (const CommitUnknown& fault) {
-        m_openSave = {fault.ticket(), std::move(afterSave), lockAllBut(button)};
-        throw CommitUnknown(unknownText, fault.statement(), fault.ticket());
-    }
-    doAfterSave(afterSave);
-    return true;
-}
-
 bool Screen::settlesSave() {
     if (!m_openSave)
         return false;

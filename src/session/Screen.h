@@ -59,8 +59,6 @@ protected:
                            .refused = wanted.refused});
     }
 
-    bool saveOnce(Button& button, const std::function<bool()>& save, std::function<void()> afterSave);
-
     /// Says the first check that failed and puts the focus there. True: none did.
     bool passes(std::initializer_list<Check> checks);
 
