@@ -10,6 +10,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
+#include <QStandardPaths>
 #include <cstdio>
 
 namespace {
@@ -89,6 +90,9 @@ int runDesktop(const Options& options) {
     DesktopUi desktop;
     Program program(options.home, desktop);
     registerScreens(program);
+    Memory& memory = desktop.windows().memory();
+    memory.setFile(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + "/desk.ini");
+    memory.setUser([&program] { return program.session.gUsername; });
     const bool started = options.login ? MainWithLogin(program) : Main(program, options.user);
     return started ? QApplication::exec() : 1;
 }

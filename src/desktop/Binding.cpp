@@ -3,6 +3,7 @@
 #include "desktop/FormView.h"
 #include "desktop/Look.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 
 namespace orvane {
@@ -50,7 +51,8 @@ void Binding::refreshNow() {
     if (!m_control)
         return;
     showState();
-    refresh();
+    if (!m_waiting)
+        refresh();
     takeFocus();
     readOn();
 }
@@ -65,7 +67,7 @@ void Binding::timerEvent(QTimerEvent* event) {
     if (event->timerId() != m_readOn.timerId())
         return QObject::timerEvent(event);
     m_readOn.stop();
-    user([control = m_control] { control->readMore(rowsAtOnce); });
+    byItself([control = m_control] { control->readMore(rowsAtOnce); });
 }
 
 void Binding::showState() {
@@ -78,7 +80,15 @@ void Binding::showState() {
             companion->setVisible(shown);
     const bool usable = m_control->isUsable() && !(m_control->kind() == ControlKind::Button && m_view.isBusy());
     m_widget->setEnabled(usable);
-    m_widget->setToolTip(look::plainHint(m_control->toolTip()));
+    m_widget->setToolTip(look::plainHint(hint()));
+}
+
+/// What the control says of itself, and the key of a button whose words do not show it.
+QString Binding::hint() const {
+    const auto* button = qobject_cast<const QAbstractButton*>(m_widget.data());
+    const bool unmarked = button && !button->shortcut().isEmpty() && Mnemonics::asked(button->text()).isNull();
+    const QString key = unmarked ? button->shortcut().toString(QKeySequence::NativeText) : QString();
+    return QStringList({m_control->toolTip(), key}).join(QLatin1Char('\n')).trimmed();
 }
 
 void Binding::takeFocus() {
@@ -86,7 +96,7 @@ void Binding::takeFocus() {
         return;
     m_focusWanted = false;
     if (QWidget* target = editor(); target && target->isEnabled())
-        target->setFocus(Qt::OtherFocusReason);
+        m_view.giveFocus(*target);
 }
 
 void Binding::release() {
@@ -98,14 +108,63 @@ void Binding::release() {
 }
 
 void Binding::user(const std::function<void()>& act) {
+    if (m_control)
+        m_control->form().lateEvent(shownAfter(act));
+}
+
+void Binding::userEdit(const std::function<void()>& act) {
     if (!m_control)
         return;
-    // The event may close the form and with it this view.
-    const QPointer<Binding> self(this);
-    m_control->form().userEvent(act);
-    // A refused or corrected entry leaves no change behind: show the control's state in any case.
-    if (self)
-        schedule();
+    m_waiting = true;
+    m_control->form().lateEvent(shownAfter(act), this);
+}
+
+void Binding::press(const std::function<void()>& act) {
+    if (m_control)
+        m_control->form().userEvent(shownAfter(act));
+}
+
+void Binding::byItself(const std::function<void()>& act) {
+    if (m_control)
+        m_control->form().backgroundEvent(shownAfter(act), this);
+}
+
+namespace {
+
+bool takesEntry(const Control& control) {
+    switch (control.kind()) {
+    case ControlKind::TextBox:
+    case ControlKind::ComboBox:
+    case ControlKind::CheckBox:
+    case ControlKind::OptionButton:
+    case ControlKind::ListBox:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+/// The act, and then the widget as its control stands, in any case: a refused or corrected entry leaves no change
+/// behind. By then the act may have closed the form and with it this view.
+std::function<void()> Binding::shownAfter(const std::function<void()>& act) {
+    return [self = QPointer<Binding>(this), act] {
+        if (!self || !self->m_control)
+            return;
+        self->m_waiting = false;
+        const QString before = takesEntry(*self->m_control) ? self->m_control->valueText() : QString();
+        act();
+        if (!self)
+            return;
+        self->noteEntry(before);
+        self->schedule();
+    };
+}
+
+void Binding::noteEntry(const QString& before) {
+    if (m_control && takesEntry(*m_control) && m_control->valueText() != before)
+        m_control->form().entered(*m_control);
 }
 
 void Binding::focusCame() {
@@ -132,7 +191,11 @@ bool Binding::acceptsKey(const QKeyEvent& event) {
     if (!enter && !typed.isPrint())
         return true;
     bool accepted = false;
-    user([&] { accepted = m_control->keyPress(typed); });
+    // Behind what runs it would be too late to refuse a character; what Enter starts must not start inside it.
+    if (!m_control->form().isRunning())
+        press([&] { accepted = m_control->keyPress(typed); });
+    else if (!enter)
+        accepted = m_control->keyPress(typed);
     return accepted;
 }
 

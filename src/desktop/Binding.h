@@ -35,8 +35,12 @@ public:
     /// Takes over what is typed and not yet taken. False: it is no value, and the widget has said so.
     virtual bool settle() { return true; }
     void release();
-    /// Lets the user's act run as an event of the form, then shows what came of it.
+    /// Lets the user's act run as an event of the form, then shows what came of it. While another event runs it waits.
     void user(const std::function<void()>& act);
+    /// The same for what replaces the act before it, such as one more letter of a text: only the last of them waits.
+    void userEdit(const std::function<void()>& act);
+    /// The same for a press, which is not heard while another act runs.
+    void press(const std::function<void()>& act);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
@@ -44,16 +48,21 @@ protected:
     virtual void released() {}
     void timerEvent(QTimerEvent* event) override;
     void watch(QWidget* widget); ///< its focus and its keys belong to the control
+    /// What happens without the user, a timer's tick: waits as his acts do, but once only.
+    void byItself(const std::function<void()>& act);
     FormView& view() const { return m_view; }
 
 private:
     void schedule();
     void showState();
+    QString hint() const;
     void takeFocus();
     void readOn();
     void focusCame();
     void focusLeft();
     bool acceptsKey(const QKeyEvent& event);
+    std::function<void()> shownAfter(const std::function<void()>& act);
+    void noteEntry(const QString& before);
 
     FormView& m_view;
     QPointer<Control> m_control;
@@ -62,6 +71,7 @@ private:
     QBasicTimer m_readOn;
     bool m_scheduled = false;
     bool m_focusWanted = false;
+    bool m_waiting = false; ///< an act has not run yet: the widget shows more than the control knows
 };
 
 /// Makes the widget of a control below `parent` and ties them together. A menu entry, a tab strip and a timer are tied

@@ -63,6 +63,14 @@ bool question(QWidget* parent, const QString& text, const QString& title) {
     return box.exec() == QMessageBox::Yes;
 }
 
+bool confirmLoss(QWidget* parent, const QString& caption) {
+    QMessageBox box(QMessageBox::Warning, titleOf(caption), {}, QMessageBox::Yes | QMessageBox::No, parent);
+    setWords(box, "What was entered here is not saved. Close without saving it?");
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
 std::optional<QString> input(QWidget* parent, const QString& prompt, const QString& title, const QString& initial) {
     QInputDialog dialog(parent);
     dialog.setInputMode(QInputDialog::TextInput);

@@ -10,6 +10,8 @@ namespace orvane::boxes {
 void message(QWidget* parent, const QString& text, Icon icon, const QString& title);
 /// Yes or No; Esc and the close button are No.
 bool question(QWidget* parent, const QString& text, const QString& title);
+/// Whether what was entered on the screen of this caption may be lost; "No" unless its user says so.
+bool confirmLoss(QWidget* parent, const QString& caption);
 std::optional<QString> input(QWidget* parent, const QString& prompt, const QString& title, const QString& initial);
 
 } // namespace orvane::boxes

@@ -5,11 +5,13 @@
 #include "desktop/Look.h"
 #include "desktop/TextBinding.h"
 
+#include <QAbstractProxyModel>
 #include <QComboBox>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -18,8 +20,11 @@ namespace orvane {
 
 namespace {
 
-constexpr int sampledEntries = 60; ///< whose widths count for the list's width
-constexpr int widestList = 900;    ///< pixels
+constexpr int widestList = 900; ///< pixels
+
+bool isEnter(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
 
 /// The completer's own list would measure each of 100,000 entries before it is told that all are of one height.
 QListView* completionList() {
@@ -29,6 +34,8 @@ QListView* completionList() {
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setSelectionBehavior(QAbstractItemView::SelectRows);
     list->setSelectionMode(QAbstractItemView::SingleSelection);
+    // What is too long loses its middle: entries that begin alike often differ at their ends.
+    list->setTextElideMode(Qt::ElideMiddle);
     return list;
 }
 
@@ -47,6 +54,7 @@ ComboBinding::ComboBinding(FormView& view, ComboBox& box, QWidget* parent, int c
     m_combo->setMinimumContentsLength(characters > 0 ? std::max(2, characters - 2) : 12);
     auto* list = new QListView(m_combo);
     list->setUniformItemSizes(true);
+    list->setTextElideMode(Qt::ElideMiddle);
     m_combo->setView(list);
     m_combo->setModel(m_model);
 
@@ -58,6 +66,9 @@ ComboBinding::ComboBinding(FormView& view, ComboBox& box, QWidget* parent, int c
     completer->setPopup(completionList());
     m_combo->setCompleter(completer);
     watch(m_combo->lineEdit());
+    // Before the completer sees its keys.
+    m_popup = completer->popup();
+    m_popup->installEventFilter(this);
 
     connect(m_combo->lineEdit(), &QLineEdit::textEdited, this, &ComboBinding::typed);
     connect(m_combo->lineEdit(), &QLineEdit::editingFinished, this, &ComboBinding::finishSearch);
@@ -78,7 +89,10 @@ void ComboBinding::typed() {
         if (m_box->hasMore())
             user([this] { m_box->count(); });
     } else {
-        user([this, text] { m_box->setText(text); });
+        userEdit([this, text, before = m_box->text()] {
+            if (m_box->text() == before)
+                m_box->setText(text);
+        });
     }
     // The completer, whose turn comes next, searches all entries.
     m_model->catchUp();
@@ -91,29 +105,42 @@ void ComboBinding::picked(int index) {
     user([this, index] { m_box->setListIndex(index); });
 }
 
-/// Takes the one entry that the typed words leave; else the choice stays as it was.
-void ComboBinding::finishSearch() {
-    if (!m_box || !m_searching || m_combo->completer()->popup()->isVisible())
-        return;
-    m_searching = false;
-    const QString text = m_combo->currentText().trimmed();
-    int exact = -1, only = -1, matches = 0;
-    for (int i = 0; i < m_box->count() && !text.isEmpty() && exact < 0; ++i) {
+/// The first entry that has the text, or else contains it; -1 when none does. An equal entry that is chosen already
+/// comes before the others.
+int ComboBinding::foundBelow(const QString& text) const {
+    int containing = -1;
+    for (int i = 0; i < m_box->count(); ++i) {
         if (m_box->item(i).compare(text, Qt::CaseInsensitive) == 0)
-            exact = i;
-        if (m_box->item(i).contains(text, Qt::CaseInsensitive)) {
-            only = i;
-            ++matches;
-        }
+            return m_box->text().compare(text, Qt::CaseInsensitive) == 0 ? m_box->listIndex() : i;
+        if (containing < 0 && m_box->item(i).contains(text, Qt::CaseInsensitive))
+            containing = i;
     }
-    const int found = exact >= 0 ? exact : matches == 1 ? only : -1;
-    if (found >= 0 && found != m_box->listIndex())
-        picked(found);
+    return containing;
+}
+
+int ComboBinding::found() const {
+    if (m_popup->isVisible() && m_popup->currentIndex().isValid()) {
+        const auto* matches = qobject_cast<const QAbstractProxyModel*>(m_combo->completer()->completionModel());
+        return matches->mapToSource(m_popup->currentIndex()).row();
+    }
+    const QString text = m_combo->currentText().trimmed();
+    return text.isEmpty() ? -1 : foundBelow(text);
+}
+
+void ComboBinding::finishSearch() {
+    if (!m_box || !m_searching || m_lookedAway)
+        return;
+    const int entry = found();
+    m_searching = false;
+    m_popup->hide();
+    if (entry >= 0 && entry != m_box->listIndex())
+        picked(entry);
     else
         refreshNow();
 }
 
 bool ComboBinding::settle() {
+    m_lookedAway = false;
     finishSearch();
     return true;
 }
@@ -121,12 +148,27 @@ bool ComboBinding::settle() {
 void ComboBinding::reloadEntries() {
     m_seen = m_box->contentRevision();
     m_model->reload();
-    int widest = 0;
+    m_measured = m_widest = 0;
+    m_longest = 0;
+}
+
+/// As wide as the longest entry; with 100,000 of them only a longer one than those before it is measured.
+void ComboBinding::widenLists() {
+    if (m_measured == m_box->entriesRead())
+        return;
     const QFontMetrics metrics(m_combo->font());
-    for (int i = 0; i < std::min(m_box->entriesRead(), sampledEntries); ++i)
-        widest = std::max(widest, metrics.horizontalAdvance(m_box->item(i)));
-    const int room = widest + m_combo->view()->verticalScrollBar()->sizeHint().width() + 16;
-    m_combo->view()->setMinimumWidth(std::min(room, widestList));
+    for (; m_measured < m_box->entriesRead(); ++m_measured) {
+        const QString& entry = m_box->item(m_measured);
+        if (entry.size() <= m_longest)
+            continue;
+        m_longest = entry.size();
+        m_widest = std::max(m_widest, metrics.horizontalAdvance(entry));
+    }
+    // A shorter entry of wider letters may need a little more.
+    const int room = m_widest + m_widest / 16 + m_combo->view()->verticalScrollBar()->sizeHint().width() + 16;
+    const int screenWidth = m_combo->screen()->availableGeometry().width();
+    for (QAbstractItemView* list : {m_combo->view(), m_popup.data()})
+        list->setMinimumWidth(std::min({room, widestList, screenWidth}));
 }
 
 void ComboBinding::refresh() {
@@ -135,6 +177,7 @@ void ComboBinding::refresh() {
         reloadEntries();
     else
         m_model->catchUp();
+    widenLists();
     m_combo->lineEdit()->setReadOnly(m_box->isLocked());
     QPalette palette;
     if (m_box->isLocked())
@@ -150,13 +193,38 @@ void ComboBinding::refresh() {
     if (line->text() != m_box->text())
         m_combo->setEditText(m_box->text());
     // Another index has emptied what the entries are searched for.
-    if (m_combo->completer()->popup()->isVisible() && m_combo->completer()->completionPrefix() != line->text())
+    if (m_popup->isVisible() && m_combo->completer()->completionPrefix() != line->text())
         m_combo->completer()->setCompletionPrefix(line->text());
     line->setCursorPosition(typing ? cursor : 0);
     line->setToolTip(look::plainHint(m_box->text()));
 }
 
+/// Enter and Tab among the suggestions of a list: takes the marked one, or the first. True: the key has done its work.
+bool ComboBinding::pickFromPopup(const QKeyEvent& key) {
+    if (!m_searching || (!isEnter(key) && key.key() != Qt::Key_Tab))
+        return false;
+    m_lookedAway = false;
+    finishSearch();
+    return isEnter(key);
+}
+
+/// The completer places its list by the field's width: a wider one must not leave the screen.
+void ComboBinding::keepInSight(QWidget& popup) const {
+    const QRect screen = m_combo->screen()->availableGeometry();
+    if (popup.geometry().right() > screen.right())
+        popup.move(std::max(screen.left(), screen.right() - popup.width()), popup.y());
+}
+
 bool ComboBinding::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_popup) {
+        if (event->type() == QEvent::Show)
+            keepInSight(*m_popup);
+        return event->type() == QEvent::KeyPress && pickFromPopup(*static_cast<QKeyEvent*>(event));
+    }
+    if (event->type() == QEvent::FocusIn)
+        m_lookedAway = false;
+    if (event->type() == QEvent::FocusOut)
+        m_lookedAway = static_cast<QFocusEvent*>(event)->reason() == Qt::ActiveWindowFocusReason;
     const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
     if (m_box && m_box->isLocked() && watched == m_combo) {
         if (press || event->type() == QEvent::Wheel)
@@ -170,7 +238,7 @@ bool ComboBinding::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     if (m_searching && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
-        !m_combo->completer()->popup()->isVisible()) {
+        !m_popup->isVisible()) {
         m_searching = false;
         refreshNow();
         return true;

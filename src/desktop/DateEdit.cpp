@@ -28,11 +28,19 @@ std::optional<QDate> DateEdit::parse(const QString& text) {
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty())
         return QDate();
-    static const QRegularExpression shape("^([0-9]{1,2})[-/. ]([0-9]{1,2})[-/. ]([0-9]{4})$");
-    const QRegularExpressionMatch match = shape.match(trimmed);
+    if (trimmed.compare(QLatin1String("t"), Qt::CaseInsensitive) == 0)
+        return QDate::currentDate();
+    static const QRegularExpression shape("^([0-9]{1,2})[-/. ]([0-9]{1,2})(?:[-/. ]([0-9]{4}|[0-9]{2}))?$");
+    static const QRegularExpression digits("^([0-9]{2})([0-9]{2})([0-9]{4}|[0-9]{2})$");
+    QRegularExpressionMatch match = shape.match(trimmed);
+    if (!match.hasMatch())
+        match = digits.match(trimmed);
     if (!match.hasMatch())
         return std::nullopt;
-    const QDate date(match.captured(3).toInt(), match.captured(2).toInt(), match.captured(1).toInt());
+    const QString year = match.captured(3);
+    const int century = year.size() == 2 ? 2000 : 0;
+    const QDate date(year.isEmpty() ? QDate::currentDate().year() : century + year.toInt(), match.captured(2).toInt(),
+                     match.captured(1).toInt());
     if (!date.isValid() || date < firstDate || date > lastDate)
         return std::nullopt;
     return date;
@@ -77,8 +85,10 @@ bool DateEdit::settle() {
 void DateEdit::typed(const QString& text) {
     const std::optional<QDate> date = parse(text);
     look::mark(*m_line, "invalid", !date && text.size() == m_line->maxLength());
-    // An emptied field is only taken over when its user is done with it: he may be about to type another date.
-    if (date && date->isValid())
+    // A shorter one, and an emptied field, is only taken over when its user is done with it: he may be about to type
+    // on.
+    static const QRegularExpression whole("[-/. ][0-9]{4}\\s*$");
+    if (date && whole.match(text).hasMatch())
         take(*date);
 }
 

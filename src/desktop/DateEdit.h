@@ -27,8 +27,8 @@ public:
     void openCalendar();
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /// Day, month and a year of four digits, parted by / - . or blanks. The invalid date for an empty text, nothing for
-    /// what is no date.
+    /// Day, month and year, parted by / - . or blanks or, in two digits each, by nothing; the year may have two digits
+    /// or be left out; "t" is today. The invalid date for an empty text, nothing for what is no date.
     static std::optional<QDate> parse(const QString& text);
 
 Q_SIGNALS:

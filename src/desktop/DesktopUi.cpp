@@ -80,7 +80,8 @@ void DesktopUi::setBusy(bool busy) {
 }
 
 void DesktopUi::processEvents() {
-    QApplication::processEvents();
+    // What the user does meanwhile waits its turn.
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void DesktopUi::printForm(Form& form) {

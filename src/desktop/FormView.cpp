@@ -1,5 +1,6 @@
 #include "desktop/FormView.h"
 
+#include "desktop/Boxes.h"
 #include "desktop/LayoutBuilder.h"
 #include "desktop/SmallBindings.h"
 
@@ -7,11 +8,15 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLayout>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 
 namespace orvane {
 
 FormView::FormView(Form& form, const Layout& layout, const ViewSetting& setting, QWidget* parent)
-    : QWidget(parent), m_form(&form), m_scripted(setting.scripted), m_mnemonics(setting.reservedLetters) {
+    : QWidget(parent), m_form(&form), m_scripted(setting.scripted), m_timerSpeed(setting.timerSpeed),
+      m_memory(setting.memory), m_mnemonics(setting.reservedLetters) {
     setObjectName(form.name());
     LayoutBuilder(*this).build(layout);
     for (Control* control : form.controls())
@@ -89,16 +94,29 @@ bool FormView::settle() {
 }
 
 void FormView::press(Button& button) {
-    if (!m_form || !button.isUsable() || m_form->isRunning())
+    if (!m_form || !button.isUsable())
         return;
+    const QPointer<Button> pressed(&button);
+    if (m_form->isRunning()) {
+        // Behind a timer's event the press waits; while an act of the user runs nothing is pressed twice.
+        m_form->userEvent([self = QPointer<FormView>(this), pressed] {
+            QMetaObject::invokeMethod(
+                self,
+                [self, pressed] {
+                    if (pressed)
+                        self->press(*pressed);
+                },
+                Qt::QueuedConnection);
+        });
+        return;
+    }
     const bool leaving = &button == m_form->cancelButton();
-    const QPointer<Control> pressed(&button);
     if (!leaving && !settle())
         return;
     // What was typed last may have closed the form or disabled the button.
     Binding* binding = m_form && pressed && pressed->isUsable() ? bindingOf(*pressed) : nullptr;
     if (binding)
-        binding->user([pressed] { pressed->click(); });
+        binding->press([pressed] { pressed->click(); });
 }
 
 void FormView::focusFirst() {
@@ -120,6 +138,38 @@ void FormView::focusFirst() {
     }
 }
 
+namespace {
+
+/// The window inside the main window that the widget belongs to.
+const QMdiSubWindow* childAround(const QWidget* widget) {
+    while (widget && !qobject_cast<const QMdiSubWindow*>(widget))
+        widget = widget->parentWidget();
+    return static_cast<const QMdiSubWindow*>(widget);
+}
+
+} // namespace
+
+void FormView::giveFocus(QWidget& target) {
+    const QMdiSubWindow* child = childAround(this);
+    const QMdiSubWindow* front = child && child->mdiArea() ? child->mdiArea()->currentSubWindow() : nullptr;
+    if (front && front != child) {
+        m_focusWished = &target;
+        return;
+    }
+    m_focusWished = nullptr;
+    auto* line = qobject_cast<QLineEdit*>(&target);
+    // What a box has just complained about is typed over.
+    if (line && (!line->hasFocus() || line->property("invalid").toBool()))
+        line->selectAll();
+    target.setFocus(Qt::OtherFocusReason);
+}
+
+void FormView::focusAsWished() {
+    if (m_focusWished && m_focusWished->isEnabled())
+        giveFocus(*m_focusWished);
+    m_focusWished = nullptr;
+}
+
 void FormView::release() {
     m_form = nullptr;
     for (Binding* binding : m_bindings)
@@ -130,13 +180,53 @@ int FormView::heightForWidth(int width) const {
     return layout()->totalMinimumHeightForWidth(width);
 }
 
-void FormView::keyPressEvent(QKeyEvent* event) {
-    const bool plain = event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier;
-    if (plain && m_form && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
-        enterPressed();
-    else if (plain && m_form && event->key() == Qt::Key_Escape)
+void FormView::leave(const std::function<void()>& go) {
+    if (m_form->isRunning()) {
+        m_form->lateEvent(
+            [self = QPointer<FormView>(this), go] {
+                QMetaObject::invokeMethod(
+                    self,
+                    [self, go] {
+                        if (self->m_form)
+                            self->leave(go);
+                    },
+                    Qt::QueuedConnection);
+            },
+            this);
+        return;
+    }
+    if (m_scripted || !m_form->hasEntry() || boxes::confirmLoss(this, m_form->caption()))
+        m_form->userEvent(go);
+}
+
+Button* FormView::refreshButton() const {
+    for (Control* control : m_form->controls())
+        if (control->kind() == ControlKind::Button && Mnemonics::plain(control->caption()).startsWith("Refresh"))
+            return static_cast<Button*>(control);
+    return nullptr;
+}
+
+bool FormView::takesKey(const QKeyEvent& event) {
+    const bool save = event.matches(QKeySequence::Save);
+    if (m_form && (save || event.key() == Qt::Key_F5)) {
+        if (Button* button = save ? m_form->saveButton() : refreshButton())
+            press(*button);
+        return true;
+    }
+    const bool plain = event.modifiers() == Qt::NoModifier || event.modifiers() == Qt::KeypadModifier;
+    if (!plain || !m_form)
+        return false;
+    if (event.key() == Qt::Key_Escape)
         escapePressed();
+    else if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+        enterPressed();
     else
+        return false;
+    return true;
+}
+
+void FormView::keyPressEvent(QKeyEvent* event) {
+    if (!takesKey(*event))
         QWidget::keyPressEvent(event);
 }
 
@@ -150,10 +240,14 @@ void FormView::enterPressed() {
 }
 
 void FormView::escapePressed() {
-    if (Button* button = m_form->cancelButton())
-        press(*button);
-    else if (m_escapeCloses)
-        m_form->userEvent([form = m_form] { form->unload(); });
+    if (Button* button = m_form->cancelButton()) {
+        leave([form = m_form, button] {
+            if (button->isUsable())
+                button->click();
+        });
+    } else if (m_escapeCloses) {
+        leave([form = m_form] { form->unload(); });
+    }
 }
 
 } // namespace orvane

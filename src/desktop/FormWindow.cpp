@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -84,7 +85,7 @@ QWidget* FormWindow::pageButtons() {
         });
     connect(save, &QPushButton::clicked, this, [this] {
         if (m_form && m_form->page())
-            printing::savePdf(Document::of(*m_form->page()), m_form->caption(), this);
+            printing::savePdf(Document::of(*m_form->page()), {m_form->documentName(), this, m_view->memory()});
     });
     return row;
 }
@@ -95,16 +96,27 @@ void FormWindow::showPage() {
         m_preview->setPage(*m_form->page());
 }
 
-QSize FormWindow::sizeFor(QSize room) const {
+QSize FormWindow::neededSize() const {
     const QSize named(fontMetrics().horizontalAdvance(windowTitle()) + titleButtons, 0);
-    QSize wanted = m_view->sizeHint().expandedTo(named);
-    if (m_preview)
-        wanted = QSize(std::max(wanted.width() + 280, m_preview->sizeHint().width() + 24), room.height());
-    else if (m_form && hasList(*m_form))
-        // A wide form with a list takes all there is; a small one stays a window among others.
+    return m_view->sizeHint().expandedTo(named);
+}
+
+QSize FormWindow::sizeFor(QSize room) const {
+    return fitted(m_form && hasList(*m_form) && !m_preview ? room : neededSize(), room);
+}
+
+QSize FormWindow::dialogSize(QSize room) const {
+    QSize wanted = neededSize();
+    if (m_form && hasList(*m_form) && !m_preview)
         wanted = wanted.expandedTo(wanted.width() > room.width() * 7 / 10
                                        ? room - QSize(2 * look::spacing, 2 * look::spacing)
                                        : QSize(room.width() * 8 / 10, room.height() * 9 / 10));
+    return fitted(wanted, room);
+}
+
+QSize FormWindow::fitted(QSize wanted, QSize room) const {
+    if (m_preview)
+        wanted = QSize(std::max(wanted.width() + 280, m_preview->sizeHint().width() + 24), room.height());
     wanted = wanted.boundedTo(room);
     // A narrower form needs more height where its rows break; a scroll bar at the side needs its width.
     const int needed = m_preview ? 0 : m_view->heightForWidth(wanted.width());
@@ -126,10 +138,19 @@ void FormWindow::release() {
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-    // While a handler runs the window stays: what is being saved must end first.
-    if (Form* form = m_form)
-        form->userEvent([form] { form->unload(); });
+    if (m_form)
+        m_view->leave([form = m_form] { form->unload(); });
     event->setAccepted(!m_form);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    // The page of a document and the buttons beside it lie outside the view.
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && button && !m_view->isAncestorOf(button))
+        button->click();
+    else if (!m_view->takesKey(*event))
+        QWidget::keyPressEvent(event);
 }
 
 void FormWindow::changeEvent(QEvent* event) {

@@ -18,8 +18,10 @@ public:
 
     FormView* view() const { return m_view; }
     Form* form() const { return m_form; } ///< null once released
-    /// The size that shows everything; lists get more of the room where there is any.
+    /// The size inside the main window: a form with a list takes all the room, another one what it needs.
     QSize sizeFor(QSize room) const;
+    /// The size as a dialog, where a small form with a list stays a window among others.
+    QSize dialogSize(QSize room) const;
     void release(); ///< the form has closed: the window may go
 
 Q_SIGNALS:
@@ -29,8 +31,11 @@ Q_SIGNALS:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QSize fitted(QSize wanted, QSize room) const;
+    QSize neededSize() const;
     void showPage();
     QWidget* pageButtons();
 

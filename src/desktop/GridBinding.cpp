@@ -55,7 +55,7 @@ void GridBinding::open(int viewRow) {
         return;
     if (m_model->controlRow(viewRow) != currentRow())
         pick(viewRow);
-    user([this] { control()->dblClick(); });
+    press([this] { control()->dblClick(); });
 }
 
 bool GridBinding::eventFilter(QObject* watched, QEvent* event) {

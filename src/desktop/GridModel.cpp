@@ -1,5 +1,6 @@
 #include "desktop/GridModel.h"
 
+#include "data/words/Money.h"
 #include "desktop/Look.h"
 #include "forms/Form.h"
 
@@ -28,6 +29,16 @@ void sortByKey(std::vector<int>& order, const std::vector<Key>& keys, Qt::SortOr
 }
 
 } // namespace
+
+QString TableModel::spoken(int viewRow) const {
+    QStringList words;
+    for (int column = 0; column < columnCount(); ++column) {
+        const QString text = data(index(viewRow, column), Qt::DisplayRole).toString();
+        if (!isColumnHidden(column) && !text.isEmpty())
+            words << headerData(column, Qt::Horizontal, Qt::DisplayRole).toString() + QLatin1Char(' ') + text;
+    }
+    return words.join(", ");
+}
 
 GridModel::GridModel(Grid& grid, QObject* parent) : TableModel(parent), m_grid(&grid) {
     readColumns();
@@ -143,6 +154,8 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole)
         return alignment(m_numbers[std::size_t(index.column())]);
+    if (role == Qt::AccessibleTextRole)
+        return spoken(index.row());
     if ((role != Qt::DisplayRole && role != Qt::ToolTipRole) || !m_grid)
         return {};
     // Between a change of the control and the reload the control may have fewer rows or other columns.
@@ -153,6 +166,17 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole)
         return text;
     return text.size() > longText ? QVariant(look::plainHint(text)) : QVariant();
+}
+
+std::optional<double> GridModel::total(int column) const {
+    const bool amounts = m_grid && column < m_grid->columnCount() && m_numbers[std::size_t(column)] &&
+                         m_grid->format(column).contains(QLatin1String(".00"));
+    if (!amounts || m_grid->hasMore())
+        return std::nullopt;
+    double sum = 0;
+    for (int row = 0; row < m_grid->rowsRead(); ++row)
+        sum += m_grid->value(row, column).toDouble();
+    return round2(sum);
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -187,11 +211,22 @@ int EntryGridModel::columnCount(const QModelIndex& parent) const {
 QVariant EntryGridModel::data(const QModelIndex& index, int role) const {
     if (!m_grid || index.row() + 1 >= m_grid->rows() || index.column() >= m_grid->columns())
         return {};
+    if (role == Qt::AccessibleTextRole)
+        return spoken(index.row());
     if (role == Qt::DisplayRole)
         return m_grid->cell(index.row() + 1, index.column());
     if (role == Qt::TextAlignmentRole)
         return alignment(m_grid->isMoney(index.column()));
     return {};
+}
+
+std::optional<double> EntryGridModel::total(int column) const {
+    if (!m_grid || !m_grid->isMoney(column))
+        return std::nullopt;
+    double sum = 0;
+    for (int row = 1; row < m_grid->rows(); ++row)
+        sum += parseAmount(m_grid->cell(row, column)).value_or(0);
+    return round2(sum);
 }
 
 QVariant EntryGridModel::headerData(int section, Qt::Orientation orientation, int role) const {

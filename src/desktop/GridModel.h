@@ -4,6 +4,7 @@
 
 #include <QAbstractTableModel>
 #include <QPointer>
+#include <optional>
 #include <vector>
 
 namespace orvane {
@@ -22,6 +23,11 @@ public:
     virtual int wishedCharacters(int column) const = 0; ///< 0: by the content
     virtual bool canSort() const = 0;
     virtual bool isSorted() const { return false; }
+    /// The sum of an amounts' column over all rows; nothing for another column and while rows are still to come.
+    virtual std::optional<double> total(int column) const = 0;
+
+protected:
+    QString spoken(int viewRow) const; ///< the row as a screen reader says it: heads and values
 };
 
 /// The rows of a Grid, sorted for the view by a click on a head. The control's own order and current row stay as they
@@ -39,6 +45,7 @@ public:
     int wishedCharacters(int column) const override;
     bool canSort() const override { return true; }
     bool isSorted() const override { return m_sortColumn >= 0; }
+    std::optional<double> total(int column) const override;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -75,6 +82,7 @@ public:
     bool isColumnHidden(int) const override { return false; }
     int wishedCharacters(int) const override { return 0; }
     bool canSort() const override { return false; }
+    std::optional<double> total(int column) const override;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

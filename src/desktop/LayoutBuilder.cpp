@@ -3,8 +3,10 @@
 #include "data/Assert.h"
 #include "desktop/FlowLayout.h"
 #include "desktop/FormView.h"
+#include "desktop/GridBinding.h"
 #include "desktop/Look.h"
 #include "desktop/SmallBindings.h"
+#include "desktop/TotalsLine.h"
 
 #include <QGridLayout>
 #include <QScopedValueRollback>
@@ -108,6 +110,7 @@ void add(QBoxLayout& box, QWidget* widget, QLayout* layout, int stretch, Qt::Ali
 
 void LayoutBuilder::build(const Layout& layout) {
     m_parent = &m_view;
+    m_heading = m_view.form()->caption();
     QLayout* whole = layout.kind == Layout::Column ? column(layout.children) : column({layout});
     whole->setContentsMargins(look::margin, look::margin, look::margin, look::margin);
     m_view.setLayout(whole);
@@ -159,9 +162,23 @@ QWidget* LayoutBuilder::control(const Layout& item, Place place) {
     }
     if (isList(*item.control))
         widget->setMinimumSize(std::max(narrowestList, look::charactersWidth(*widget, item.characters)), 72);
-    if (!item.text.isEmpty())
-        binding->editor()->setAccessibleName(Mnemonics::plain(item.text));
+    const QString name = !item.text.isEmpty() ? item.text : isList(*item.control) ? m_heading : QString();
+    if (!name.isEmpty())
+        binding->editor()->setAccessibleName(Mnemonics::plain(name));
+    if (auto* grid = qobject_cast<GridBinding*>(binding))
+        return withTotals(*grid);
     return widget;
+}
+
+QWidget* LayoutBuilder::withTotals(GridBinding& grid) {
+    auto* both = new Compact<QWidget>(m_parent);
+    auto* box = new QVBoxLayout(both);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->setSpacing(2);
+    box->addWidget(grid.widget(), 1);
+    box->addWidget(new TotalsLine(*grid.model(), both));
+    grid.addCompanion(both);
+    return both;
 }
 
 /// The label of a field: its letter brings the focus to the field.
@@ -178,7 +195,8 @@ QLabel* LayoutBuilder::label(const Layout& field, QWidget* buddy) {
         return text;
     }
     text->setBuddy(buddy);
-    m_view.mnemonics().add(Mnemonics::Field, field.text, [text](const QString& marked) { text->setText(marked); });
+    m_view.mnemonics().add(Mnemonics::Field, field.text,
+                           [text](const QString& marked, QChar) { text->setText(marked); });
     return text;
 }
 
@@ -385,6 +403,7 @@ QWidget* LayoutBuilder::group(const Layout& item) {
     }
     look::mark(*box, "bare", heading.isEmpty());
     const QScopedValueRollback<QWidget*> inside(m_parent, box);
+    const QScopedValueRollback<QString> named(m_heading, heading.isEmpty() ? m_heading : heading);
     QLayout* content = column(item.children);
     content->setContentsMargins(look::spacing, look::rowSpacing, look::spacing, look::rowSpacing);
     box->setLayout(content);
@@ -396,14 +415,15 @@ QWidget* LayoutBuilder::tabs(const Layout& item) {
     for (const Layout& page : item.children) {
         auto* widget = new Compact<QWidget>(tabs);
         const QScopedValueRollback<QWidget*> inside(m_parent, widget);
+        const QScopedValueRollback<QString> named(m_heading, page.text);
         m_view.mnemonics().setPage(++m_pages);
         QLayout* content = column(page.children);
         m_view.mnemonics().setPage(0);
         content->setContentsMargins(look::spacing, look::spacing, look::spacing, look::spacing);
         widget->setLayout(content);
         const int index = tabs->addTab(widget, page.text);
-        m_view.mnemonics().add(Mnemonics::Press, page.text,
-                               [tabs, index](const QString& marked) { tabs->setTabText(index, marked); });
+        m_view.mnemonics().add(Mnemonics::First, page.text,
+                               [tabs, index](const QString& marked, QChar) { tabs->setTabText(index, marked); });
     }
     ORVANE_ASSERT(item.control);
     new TabBinding(m_view, static_cast<TabStrip&>(*item.control), tabs);

@@ -10,6 +10,8 @@ class QLayout;
 
 namespace orvane {
 
+class GridBinding;
+
 /// Turns a form's layout in words into widgets and Qt layouts inside its view.
 class LayoutBuilder {
 public:
@@ -25,6 +27,7 @@ private:
 
     Piece piece(const Layout& item);
     QWidget* control(const Layout& item, Place place);
+    QWidget* withTotals(GridBinding& grid);
     QLabel* label(const Layout& field, QWidget* buddy);
     QLayout* column(const QVector<Layout>& items);
     QLayout* fieldBlock(const QVector<Layout>& items);
@@ -41,6 +44,7 @@ private:
 
     FormView& m_view;
     QWidget* m_parent; ///< of the widgets being made
+    QString m_heading; ///< of what is around the widgets being made
     int m_pages = 0;   ///< of tab strips, made so far
 };
 

@@ -2,12 +2,15 @@
 
 #include "desktop/Boxes.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QRegularExpression>
+#include <QStandardPaths>
 
 namespace orvane::printing {
 
@@ -23,19 +26,44 @@ QSizeF sheetOf(const Document& document) {
     return {first.widthMm, first.heightMm};
 }
 
-QString askFile(const QString& title, QWidget* parent) {
-    QString file = QFileDialog::getSaveFileName(parent, "Save as PDF", title + ".pdf", "PDF (*.pdf)");
-    if (!file.isEmpty() && !file.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
-        file += ".pdf";
-    return file;
+const QString folderKey = "printing/folder", printerKey = "printing/printer";
+
+QString proposedFile(const Job& job) {
+    static const QRegularExpression unfit(R"([\\/:*?"<>|\x00-\x1f])");
+    const QString remembered = job.memory.value(folderKey).toString();
+    const QString folder = !remembered.isEmpty() && QDir(remembered).exists()
+                               ? remembered
+                               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(folder).filePath(QString(job.name).replace(unfit, "-") + ".pdf");
+}
+
+/// Empty: cancelled.
+QString askFile(const Job& job) {
+    QString file = QFileDialog::getSaveFileName(job.parent, "Save as PDF", proposedFile(job), "PDF (*.pdf)");
+    if (file.isEmpty())
+        return file;
+    job.memory.keep(folderKey, QFileInfo(file).absolutePath());
+    return file.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive) ? file : file + ".pdf";
+}
+
+bool askPrinter(QPrinter& printer, const Job& job) {
+    const QString remembered = job.memory.value(printerKey).toString();
+    if (QPrinterInfo::availablePrinterNames().contains(remembered))
+        printer.setPrinterName(remembered);
+    if (QPrintDialog(&printer, job.parent).exec() != QDialog::Accepted)
+        return false;
+    job.memory.keep(printerKey, printer.printerName());
+    return true;
 }
 
 /// Lets the user choose the printer, or the file where there is no printer. False: he has cancelled.
-bool choosePrinter(QPrinter& printer, const QString& title, QWidget* parent) {
-    printer.setDocName(title);
+bool choosePrinter(QPrinter& printer, const Job& job) {
+    printer.setDocName(job.name);
     if (!QPrinterInfo::availablePrinterNames().isEmpty())
-        return QPrintDialog(&printer, parent).exec() == QDialog::Accepted;
-    const QString file = askFile(title, parent);
+        return askPrinter(printer, job);
+    if (!boxes::question(job.parent, "No printer is set up on this computer. Save the document as a PDF instead?", {}))
+        return false;
+    const QString file = askFile(job);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(file);
     return !file.isEmpty();
@@ -67,11 +95,11 @@ QSizeF sheetFor(const QPixmap& picture) {
 
 } // namespace
 
-void print(const Document& document, const QString& title, QWidget* parent) {
+void print(const Document& document, const Job& job) {
     QPrinter printer(QPrinter::HighResolution);
     setSheet(printer, sheetOf(document));
-    if (choosePrinter(printer, title, parent) && !paintDocument(printer, document, printer.width(), printer.height()))
-        sayFailed(parent);
+    if (choosePrinter(printer, job) && !paintDocument(printer, document, printer.width(), printer.height()))
+        sayFailed(job.parent);
 }
 
 void preview(const Document& document, QWidget* parent) {
@@ -83,18 +111,19 @@ void preview(const Document& document, QWidget* parent) {
     dialog.exec();
 }
 
-void savePdf(const Document& document, const QString& title, QWidget* parent) {
-    const QString file = askFile(title, parent);
+void savePdf(const Document& document, const Job& job) {
+    const QString file = askFile(job);
     if (!file.isEmpty() && !renderPdf(document, file))
-        boxes::message(parent, QStringLiteral("The file %1 could not be written.").arg(file), Icon::Exclamation, {});
+        boxes::message(job.parent, QStringLiteral("The file %1 could not be written.").arg(file), Icon::Exclamation,
+                       {});
 }
 
-void printWidget(QWidget& widget, const QString& title, QWidget* parent) {
+void printWidget(QWidget& widget, const Job& job) {
     const QPixmap picture = widget.grab();
     QPrinter printer(QPrinter::HighResolution);
     setSheet(printer, sheetFor(picture));
-    if (choosePrinter(printer, title, parent) && !drawPicture(printer, picture))
-        sayFailed(parent);
+    if (choosePrinter(printer, job) && !drawPicture(printer, picture))
+        sayFailed(job.parent);
 }
 
 bool widgetToPdf(QWidget& widget, const QString& file) {

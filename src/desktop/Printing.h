@@ -1,20 +1,25 @@
 #pragma once
 
+#include "desktop/Memory.h"
 #include "desktop/PagePainter.h"
 
 class QWidget;
 
-/// Printing with the dialogs that its user needs. Where no printer is set up, the document goes into a PDF that its
-/// user names.
+/// Printing with the dialogs that its user needs. Where no printer is set up it says so and offers a PDF.
 namespace orvane::printing {
 
-/// Prints the document; `title` names the job and the proposed file.
-void print(const Document& document, const QString& title, QWidget* parent);
+struct Job {
+    QString name;    ///< of the job, and of the file that is proposed
+    QWidget* parent; ///< of the dialogs
+    Memory& memory;  ///< of the last folder and printer
+};
+
+void print(const Document& document, const Job& job);
 void preview(const Document& document, QWidget* parent);
-void savePdf(const Document& document, const QString& title, QWidget* parent);
+void savePdf(const Document& document, const Job& job);
 
 /// Prints the picture of a window, as large as the paper allows.
-void printWidget(QWidget& widget, const QString& title, QWidget* parent);
+void printWidget(QWidget& widget, const Job& job);
 /// The same into a PDF without asking. False: the file cannot be written.
 bool widgetToPdf(QWidget& widget, const QString& file);
 

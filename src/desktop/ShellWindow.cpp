@@ -23,7 +23,7 @@ QString topLetters(const Form& form) {
     Mnemonics letters;
     for (const Control* control : form.controls())
         if (control->kind() == ControlKind::Menu && !static_cast<const MenuItem*>(control)->menu())
-            letters.add(Mnemonics::Press, control->caption(), [](const QString&) {});
+            letters.add(Mnemonics::Press, control->caption(), [](const QString&, QChar) {});
     letters.assign();
     return letters.letters();
 }
@@ -33,18 +33,23 @@ QString topLetters(const Form& form) {
 MenuBinding::MenuBinding(FormView& view, MenuItem& item, QAction* action, QMenu* menu)
     : Binding(view, item, nullptr), m_item(&item), m_action(action), m_menu(menu) {
     action->setText(item.caption());
+    m_caption = item.caption();
     action->setObjectName(item.name());
     connect(action, &QAction::triggered, this, [this] {
         if (m_item && m_item->isUsable())
-            user([this] { m_item->click(); });
+            press([this] { m_item->click(); });
     });
 }
 
 void MenuBinding::refresh() {
-    if (Mnemonics::plain(m_item->caption()) != Mnemonics::plain(m_action->text()))
-        m_action->setText(m_item->caption());
+    if (m_caption != m_item->caption()) {
+        m_caption = m_item->caption();
+        const QString text = Mnemonics::plain(m_caption).trimmed();
+        m_action->setText(Mnemonics::marked(text, Mnemonics::asked(m_action->text())));
+    }
     m_action->setVisible(m_item->isShown());
     m_action->setEnabled(m_item->isUsable());
+    m_action->setToolTip(look::plainHint(m_item->toolTip()));
 }
 
 bool ShellWindow::isShell(const Form& form) {
@@ -53,11 +58,10 @@ bool ShellWindow::isShell(const Form& form) {
         [](const Control* control) { return control->kind() == ControlKind::Menu; });
 }
 
-ShellWindow::ShellWindow(Form& form, bool scripted)
-    : m_form(&form), m_area(new QMdiArea(this)), m_menuLetters(topLetters(form)) {
+ShellWindow::ShellWindow(Form& form, bool scripted, int timerSpeed) : m_form(&form), m_area(new QMdiArea(this)) {
     setObjectName(form.name());
     setWindowTitle(form.caption());
-    m_strip = new FormView(form, form.layout(), ViewSetting{m_menuLetters, scripted});
+    m_strip = new FormView(form, form.layout(), ViewSetting{topLetters(form), scripted, timerSpeed});
     m_strip->setEscapeCloses(false);
     m_strip->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_strip->layout()->setContentsMargins(look::spacing / 2, look::spacing / 2, look::spacing / 2, look::spacing / 2);
@@ -87,7 +91,7 @@ void ShellWindow::buildMenus() {
         auto& item = static_cast<MenuItem&>(*control);
         QMenu* menu = menuBar()->addMenu(item.caption());
         (new MenuBinding(*m_strip, item, menu->menuAction(), menu))->refreshNow();
-        letters.add(Mnemonics::Press, item.caption(), [menu](const QString& marked) { menu->setTitle(marked); });
+        letters.add(Mnemonics::Press, item.caption(), [menu](const QString& marked, QChar) { menu->setTitle(marked); });
         fillMenu(*menu, item);
     }
     letters.assign();
@@ -97,13 +101,15 @@ void ShellWindow::buildMenus() {
 }
 
 void ShellWindow::fillMenu(QMenu& menu, const MenuItem& item) {
+    // Why an entry cannot be used is said where it stands.
+    menu.setToolTipsVisible(true);
     Mnemonics letters;
     for (MenuItem* entry : item.entries()) {
         QMenu* inner = entry->entries().isEmpty() ? nullptr : menu.addMenu(entry->caption());
         QAction* action = inner ? inner->menuAction() : menu.addAction(entry->caption());
         (new MenuBinding(*m_strip, *entry, action, inner))->refreshNow();
         letters.add(Mnemonics::Press, entry->caption().trimmed(),
-                    [action](const QString& marked) { action->setText(marked); });
+                    [action](const QString& marked, QChar) { action->setText(marked); });
         if (inner)
             fillMenu(*inner, *entry);
     }
@@ -203,8 +209,8 @@ void ShellWindow::release() {
 }
 
 void ShellWindow::closeEvent(QCloseEvent* event) {
-    if (Form* form = m_form)
-        form->userEvent([form] { form->unload(); });
+    if (m_form && (!mayClose || mayClose()) && m_form)
+        m_form->lateEvent([form = m_form] { form->unload(); });
     event->setAccepted(!m_form);
 }
 

@@ -27,7 +27,7 @@ private:
     MenuItem* m_item;
     QAction* m_action;
     QMenu* m_menu;
-    int m_mnemonic;
+    QString m_caption; ///< as last shown
 };
 
 /// The main window: the form that has a menu bar. Its own controls are the strip below the menus and the status bar;
@@ -36,13 +36,15 @@ class ShellWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    ShellWindow(Form& form, bool scripted);
+    ShellWindow(Form& form, bool scripted, int timerSpeed = 1); ///< see ViewSetting
 
     FormView* view() const { return m_strip; }
     QMdiArea* area() const { return m_area; }
-    QString menuLetters() const { return m_menuLetters; }
+    /// What Alt means here whatever window is in front: the menus and the strip below them.
+    QString reservedLetters() const { return m_strip->mnemonics().letters(); }
     void release();
     static bool isShell(const Form& form);
+    std::function<bool()> mayClose; ///< asked before the form is, when the user closes the window
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -60,7 +62,6 @@ private:
     Form* m_form;
     FormView* m_strip;
     QMdiArea* m_area;
-    QString m_menuLetters;
     QVector<QAction*> m_children; ///< of the window menu, the list of open windows
 };
 

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <algorithm>
 
 namespace orvane {
 
@@ -21,9 +22,9 @@ void raiseMouse(Binding& binding, QEvent* event) {
     if (!control)
         return;
     if (event->type() == QEvent::MouseButtonRelease && control->onClick)
-        binding.user([control] { control->click(); });
+        binding.press([control] { control->click(); });
     else if (event->type() == QEvent::MouseButtonDblClick && control->onDblClick)
-        binding.user([control] { control->dblClick(); });
+        binding.press([control] { control->dblClick(); });
 }
 
 constexpr int narrowestButton = 76; ///< pixels
@@ -35,6 +36,14 @@ public:
     QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo({narrowestButton, look::lineHeight}); }
     QSize minimumSizeHint() const override { return sizeHint(); }
 };
+
+Mnemonics::Show showLetter(QAbstractButton& button) {
+    return [&button](const QString& marked, QChar letter) {
+        button.setText(marked);
+        if (!letter.isNull() && Mnemonics::asked(marked).isNull())
+            button.setShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(letter)));
+    };
+}
 
 bool isEnter(const QEvent* event) {
     if (event->type() != QEvent::KeyPress)
@@ -78,8 +87,7 @@ bool LabelBinding::eventFilter(QObject* watched, QEvent* event) {
 
 CheckBinding::CheckBinding(FormView& view, CheckBox& box, QWidget* parent)
     : Binding(view, box, new QCheckBox(parent)), m_box(&box), m_tick(static_cast<QCheckBox*>(widget())),
-      m_mnemonic(view.mnemonics().add(Mnemonics::Press, box.caption(),
-                                      [tick = m_tick](const QString& text) { tick->setText(text); })) {
+      m_mnemonic(view.mnemonics().add(Mnemonics::Press, box.caption(), showLetter(*m_tick))) {
     m_tick->setAccessibleName(Mnemonics::plain(box.caption()));
     connect(m_tick, &QCheckBox::clicked, this,
             [this](bool checked) { user([this, checked] { m_box->setChecked(checked); }); });
@@ -92,8 +100,7 @@ void CheckBinding::refresh() {
 
 OptionBinding::OptionBinding(FormView& view, OptionButton& option, QWidget* parent)
     : Binding(view, option, new QRadioButton(parent)), m_option(&option), m_radio(static_cast<QRadioButton*>(widget())),
-      m_mnemonic(view.mnemonics().add(Mnemonics::Press, option.caption(),
-                                      [radio = m_radio](const QString& text) { radio->setText(text); })) {
+      m_mnemonic(view.mnemonics().add(Mnemonics::Press, option.caption(), showLetter(*m_radio))) {
     m_radio->setAccessibleName(Mnemonics::plain(option.caption()));
     // Which options exclude each other the form model knows; the widgets only show it.
     m_radio->setAutoExclusive(false);
@@ -107,8 +114,8 @@ void OptionBinding::refresh() {
 
 ButtonBinding::ButtonBinding(FormView& view, Button& button, QWidget* parent)
     : Binding(view, button, new WordButton(parent)), m_button(&button), m_push(static_cast<QPushButton*>(widget())),
-      m_mnemonic(view.mnemonics().add(Mnemonics::Press, button.caption(),
-                                      [push = m_push](const QString& text) { push->setText(text); })) {
+      m_mnemonic(view.mnemonics().add(&button == view.form()->saveButton() ? Mnemonics::First : Mnemonics::Press,
+                                      button.caption(), showLetter(*m_push))) {
     m_push->setAutoDefault(false);
     connect(m_push, &QPushButton::clicked, this, [this] {
         if (m_button)
@@ -287,7 +294,7 @@ void StatusBinding::refresh() {
 
 TimerBinding::TimerBinding(FormView& view, Timer& timer) : Binding(view, timer, nullptr), m_timer(&timer) {
     connect(
-        &m_clock, &QTimer::timeout, this, [this] { user([this] { m_timer->tick(); }); });
+        &m_clock, &QTimer::timeout, this, [this] { byItself([this] { m_timer->tick(); }); });
 }
 
 void TimerBinding::refresh() {
@@ -296,7 +303,7 @@ void TimerBinding::refresh() {
     if (!m_timer->isEnabled())
         m_clock.stop();
     else if (!m_clock.isActive())
-        m_clock.start(m_timer->interval());
+        m_clock.start(std::max(1, m_timer->interval() / view().timerSpeed()));
 }
 
 void TimerBinding::released() {

@@ -2,6 +2,8 @@
 
 #include "desktop/GridModel.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -93,7 +95,24 @@ void TableView::showCurrent(int row) {
     viewport()->update();
 }
 
+/// The heads and the chosen row as a spreadsheet takes them.
+void TableView::copyRow() const {
+    QStringList heads, cells;
+    for (int column = 0; column < m_table->columnCount(); ++column) {
+        if (isColumnHidden(column))
+            continue;
+        heads << m_table->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        cells << m_table->index(currentIndex().row(), column).data().toString().replace(QLatin1Char('\t'), ' ');
+    }
+    QApplication::clipboard()->setText(heads.join('\t') + QLatin1Char('\n') + cells.join('\t') + QLatin1Char('\n'));
+}
+
 void TableView::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        if (currentIndex().isValid())
+            copyRow();
+        return;
+    }
     const int row = currentIndex().row();
     const bool plain = event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier;
     if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {

@@ -30,6 +30,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void copyRow() const;
     void hideColumns();
     void sizeColumns();
     void shareSlack();

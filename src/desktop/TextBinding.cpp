@@ -1,7 +1,9 @@
 #include "desktop/TextBinding.h"
 
+#include "data/words/Money.h"
 #include "desktop/FormView.h"
 #include "desktop/Look.h"
+#include "desktop/WorkedOut.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -10,6 +12,8 @@
 #include <QScopedValueRollback>
 #include <QTextDocument>
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace orvane {
 
@@ -43,11 +47,23 @@ LineBinding::LineBinding(FormView& view, TextBox& box, QWidget* parent, Place pl
     if (box.isNumeric() || place == Place::Card || place == Place::Large)
         m_line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     look::mark(*m_line, "large", place == Place::Large);
-    connect(m_line, &QLineEdit::textEdited, this,
-            [this] { user([this, text = takeOneLine(*m_line)] { m_box->setText(text); }); });
+    connect(m_line, &QLineEdit::textEdited, this, [this] { typed(takeOneLine(*m_line)); });
+}
+
+void LineBinding::typed(const QString& text) {
+    // What was typed while an event ran was typed into what stood here then.
+    if (m_box)
+        userEdit([this, text, before = m_box->text()] {
+            if (m_box->text() == before)
+                m_box->setText(text);
+        });
 }
 
 void LineBinding::refresh() {
+    // A number that cannot be read is marked at once, as a date is.
+    const QString number = m_box->isNumeric() && !m_box->isLocked() ? m_box->text().trimmed() : QString();
+    look::mark(*m_line, "invalid", !number.isEmpty() && !parseAmount(number) && !workedOut(number));
+
     const bool flat = m_place != Place::Plain && m_box->isLocked();
     look::mark(*m_line, "flat", flat);
     if (!flat)
@@ -76,11 +92,28 @@ void LineBinding::refresh() {
     }
 }
 
+bool LineBinding::settle() {
+    const std::optional<double> result =
+        m_box && m_box->isNumeric() && !m_box->isLocked() ? workedOut(m_box->text()) : std::nullopt;
+    if (result)
+        typed(formatNumber(*result, *result == std::floor(*result) ? "0" : "0.00"));
+    return true;
+}
+
 bool LineBinding::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason)
+        settle();
+    // A click into a number is there to type another one over it; a second click finds the place for a correction.
+    if (event->type() == QEvent::FocusIn && m_box && m_box->isNumeric())
+        m_clickSelects = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
+    if (event->type() == QEvent::MouseButtonRelease && std::exchange(m_clickSelects, false) &&
+        !m_line->hasSelectedText())
+        m_line->selectAll();
     if (event->type() == QEvent::KeyPress && m_box && m_box->onEnter) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            user([this] {
+            settle();
+            press([this] {
                 const Control::Handler entered = m_box->onEnter;
                 entered();
             });
@@ -108,7 +141,10 @@ void TextBinding::edited() {
     QString text = m_edit->toPlainText();
     if (m_box->maxLength() > 0)
         text.truncate(m_box->maxLength());
-    user([this, text] { m_box->setText(text); });
+    userEdit([this, text, before = m_box->text()] {
+        if (m_box->text() == before)
+            m_box->setText(text);
+    });
 }
 
 void TextBinding::refresh() {

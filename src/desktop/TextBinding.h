@@ -16,6 +16,7 @@ class LineBinding : public Binding {
 
 public:
     LineBinding(FormView& view, TextBox& box, QWidget* parent, Place place, int characters);
+    bool settle() override; ///< a sum becomes its result
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
@@ -23,10 +24,13 @@ protected:
     void released() override { m_box = nullptr; }
 
 private:
+    void typed(const QString& text);
+
     TextBox* m_box;
     QLineEdit* m_line;
     Place m_place;
     int m_characters;
+    bool m_clickSelects = false; ///< a press of the mouse has brought the focus; its release selects the number
 };
 
 /// A text of several lines.

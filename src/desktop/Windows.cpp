@@ -2,6 +2,7 @@
 
 #include "desktop/Boxes.h"
 #include "desktop/FormWindow.h"
+#include "desktop/Look.h"
 #include "desktop/PagePainter.h"
 #include "desktop/Printing.h"
 #include "desktop/ReportForm.h"
@@ -14,6 +15,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QStyle>
 #include <algorithm>
@@ -66,16 +68,11 @@ void Windows::bringForward(const Entry& entry) {
 }
 
 void Windows::showShell(Form& form) {
-    m_shell = new ShellWindow(form, m_scripted);
+    m_shell = new ShellWindow(form, m_scripted, m_timerSpeed);
+    m_shell->mayClose = [this] { return mayCloseAll(); };
     m_entries.append({&form, m_shell, nullptr});
-    connect(m_shell->area(), &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* active) {
-        for (const Entry& entry : std::as_const(m_entries)) {
-            if (!entry.child || entry.child != active)
-                continue;
-            entry.form->activated();
-            return;
-        }
-    });
+    connect(m_shell->area(), &QMdiArea::subWindowActivated, this, &Windows::activated);
+    m_shell->area()->viewport()->installEventFilter(this);
     if (m_mainSize.isValid()) {
         m_shell->resize(m_mainSize);
         m_shell->show();
@@ -85,28 +82,116 @@ void Windows::showShell(Form& form) {
     }
 }
 
+void Windows::activated(QMdiSubWindow* child) {
+    const auto found = std::find_if(m_entries.cbegin(), m_entries.cend(),
+                                    [child](const Entry& entry) { return entry.child == child; });
+    if (!child || found == m_entries.cend())
+        return;
+    const Entry entry = *found;
+    entry.form->activated();
+    // The frame puts its own last focus back first.
+    if (FormView* view = viewOf(*entry.form))
+        QMetaObject::invokeMethod(view, &FormView::focusAsWished, Qt::QueuedConnection);
+}
+
+/// Whether the main window may go: screens with an entry under way are asked about, each in front.
+bool Windows::mayCloseAll() {
+    const QVector<Entry> entries = m_entries;
+    for (const Entry& entry : entries) {
+        if (m_scripted || entry.window == m_shell || !entry.form->hasEntry())
+            continue;
+        bringForward(entry);
+        if (!boxes::confirmLoss(entry.window, entry.form->caption()))
+            return false;
+    }
+    return true;
+}
+
 FormWindow* Windows::makeWindow(Form& form, QWidget* parent, Qt::WindowFlags flags) {
-    return new FormWindow(form, {m_shell ? m_shell->menuLetters() : QString(), m_scripted}, parent, flags);
+    return new FormWindow(form, {m_shell ? m_shell->reservedLetters() : QString(), m_scripted, m_timerSpeed, &m_memory},
+                          parent, flags);
 }
 
 void Windows::showChild(Form& form) {
     FormWindow* window = makeWindow(form, nullptr, {});
-    QMdiArea* area = m_shell->area();
     auto* child = new QMdiSubWindow;
     child->setWidget(window);
     child->setAttribute(Qt::WA_DeleteOnClose, false);
-    m_entries.append({&form, window, child});
-    area->addSubWindow(child);
-    const QSize room = area->viewport()->size();
+    m_entries.append({&form, window, child, frontForm()});
+    m_shell->area()->addSubWindow(child);
+    Entry entry = m_entries.last();
+    placeChild(entry);
+    m_entries.last().place = entry.place;
+    window->view()->focusFirst();
+}
+
+void Windows::placeChild(Entry& entry) {
+    QMdiSubWindow* child = entry.child;
+    const QSize room = m_shell->area()->viewport()->size();
     const int title = child->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, child) + 8;
     const QSize frame(8, title);
+    const auto* window = static_cast<FormWindow*>(entry.window);
     child->resize((window->sizeFor(room - frame) + frame).boundedTo(room));
     child->show();
     // One window lies near the upper left corner, the next ones a step further, as long as they stay in sight.
-    const int step = 8 + 24 * (int(area->subWindowList().size() - 1) % 6);
+    const int step = 8 + 24 * (int(m_shell->area()->subWindowList().size() - 1) % 6);
     child->move(std::min(step, std::max(0, room.width() - child->width())),
                 std::min(step, std::max(0, room.height() - child->height())));
-    window->view()->focusFirst();
+    entry.place = child->geometry();
+    if (m_memory.value(entry.form->name() + "/maximized").toBool())
+        child->showMaximized();
+    else
+        restorePlace(*child, *entry.form, QRect(QPoint(), room));
+}
+
+const Form* Windows::frontForm() const {
+    const QMdiSubWindow* front = m_shell->area()->currentSubWindow();
+    const auto found = std::find_if(m_entries.cbegin(), m_entries.cend(),
+                                    [front](const Entry& entry) { return front && entry.child == front; });
+    return found == m_entries.cend() ? nullptr : found->form;
+}
+
+QWidget* Windows::frameOf(const Entry& entry) const {
+    return entry.child ? static_cast<QWidget*>(entry.child) : entry.window;
+}
+
+/// Puts a window where its user last left it, as far as that lies in the room.
+void Windows::restorePlace(QWidget& frame, const Form& form, QRect room) {
+    const QRect place = m_memory.value(form.name() + "/place").toRect();
+    if (!place.isValid())
+        return;
+    frame.resize(place.size().boundedTo(room.size()));
+    frame.move(std::clamp(place.x(), room.left(), std::max(room.left(), room.right() + 1 - frame.width())),
+               std::clamp(place.y(), room.top(), std::max(room.top(), room.bottom() + 1 - frame.height())));
+}
+
+/// A window that its user has not touched opens again as large as there is room then.
+void Windows::keepPlace(const Entry& entry) {
+    const QWidget* frame = frameOf(entry);
+    if (entry.child)
+        m_memory.keep(entry.form->name() + "/maximized", frame->isMaximized() ? QVariant(true) : QVariant());
+    if (!frame->isMaximized() && !frame->isMinimized() && frame->geometry() != entry.place)
+        m_memory.keep(entry.form->name() + "/place", frame->geometry());
+}
+
+/// What filled the main window goes on to fill it.
+void Windows::followRoom(QSize before, QSize room) {
+    for (Entry& entry : m_entries) {
+        const bool untouched = entry.child && entry.child->geometry() == entry.place;
+        if (!untouched || entry.place.width() < before.width() - look::margin)
+            continue;
+        entry.child->resize((entry.child->size() + room - before).boundedTo(room));
+        entry.place = entry.child->geometry();
+    }
+}
+
+bool Windows::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && m_shell && watched == m_shell->area()->viewport()) {
+        const auto* resized = static_cast<QResizeEvent*>(event);
+        if (resized->oldSize().isValid())
+            followRoom(resized->oldSize(), resized->size());
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void Windows::showAlone(Form& form, bool modal) {
@@ -123,8 +208,10 @@ void Windows::showAlone(Form& form, bool modal) {
     // A main window of a fixed size is pictured whole, whatever the size of the screen that it is shown on.
     const QRect main = parent ? parent->window()->frameGeometry() : screen;
     const QRect room = m_mainSize.isValid() ? main : screen.intersected(main);
-    window->resize(window->sizeFor(room.size() - QSize(40, 60)));
+    window->resize(window->dialogSize(room.size() - QSize(40, 60)));
     window->move(room.center() - window->rect().center());
+    m_entries.last().place = window->geometry();
+    restorePlace(*window, form, room);
     window->show();
     window->activateWindow();
     window->view()->focusFirst();
@@ -146,6 +233,7 @@ void Windows::closed(Form& form) {
     if (found == m_entries.end())
         return;
     const Entry entry = *found;
+    keepPlace(entry);
     m_entries.erase(found);
     // The event that closes the form may come out of one of its widgets: they go when it has ended.
     if (entry.window == m_shell) {
@@ -157,15 +245,25 @@ void Windows::closed(Form& form) {
     }
     static_cast<FormWindow*>(entry.window)->release();
     if (entry.child) {
+        const bool wasInFront = m_shell->area()->currentSubWindow() == entry.child;
         entry.child->hide();
         m_shell->area()->removeSubWindow(entry.child);
         entry.child->deleteLater();
+        goBack(wasInFront ? entry.opener : nullptr);
     } else {
         entry.window->hide();
         entry.window->deleteLater();
     }
     std::erase_if(m_reports,
                   [](const std::unique_ptr<ReportForm>& report) { return report->isClosed() && !report->isRunning(); });
+}
+
+/// To the window that the user has come from.
+void Windows::goBack(const Form* opener) {
+    const auto found = std::find_if(m_entries.cbegin(), m_entries.cend(),
+                                    [opener](const Entry& entry) { return opener && entry.form == opener; });
+    if (found != m_entries.cend() && found->child && !found->child->isMinimized())
+        m_shell->area()->setActiveSubWindow(found->child);
 }
 
 void Windows::setBusy(bool busy) {
@@ -230,9 +328,9 @@ void Windows::print(Form& form) {
     if (view)
         view->refreshNow();
     if (m_printFolder.isEmpty() && document) {
-        printing::print(*document, form.caption(), boxParent());
+        printing::print(*document, {form.documentName(), boxParent(), m_memory});
     } else if (m_printFolder.isEmpty()) {
-        printing::printWidget(*view, form.caption(), boxParent());
+        printing::printWidget(*view, {form.documentName(), boxParent(), m_memory});
     } else {
         const QString file = nextPrintFile(form);
         if (!(document ? renderPdf(*document, file) : printing::widgetToPdf(*view, file)))

@@ -3,6 +3,8 @@
 #include "data/Assert.h"
 #include "data/DataError.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 Form::Form(Ui& ui, const QString& name, const QString& caption) : m_ui(ui), m_name(name), m_caption(caption) {}
@@ -83,15 +85,49 @@ private:
 } // namespace
 
 void Form::userEvent(const std::function<void()>& event) {
-    if (!m_running && !m_closed)
-        runOutermost(event);
+    if (!m_running || m_background)
+        lateEvent(event);
+}
+
+void Form::lateEvent(const std::function<void()>& event, const QObject* source) {
+    runOrKeep({event, source, false});
+}
+
+void Form::backgroundEvent(const std::function<void()>& event, const QObject* source) {
+    runOrKeep({event, source, true});
+}
+
+void Form::runOrKeep(const Waiting& arrived) {
+    if (m_closed)
+        return;
+    if (!m_running) {
+        const Restorer background(m_background, arrived.background);
+        runOutermost(arrived.event);
+        return;
+    }
+    for (Waiting& waiting : m_waiting) {
+        if (!arrived.source || waiting.source != arrived.source)
+            continue;
+        waiting = arrived;
+        return;
+    }
+    m_waiting.append(arrived);
 }
 
 void Form::runOutermost(const std::function<void()>& event) {
-    const Restorer onStack(m_events, m_events + 1);
-    if (!runCatching(event))
-        afterFault();
-    afterEvent();
+    {
+        const Restorer onStack(m_events, m_events + 1);
+        if (!runCatching(event))
+            afterFault();
+        afterEvent();
+    }
+    runWaiting();
+}
+
+void Form::runWaiting() {
+    // Whatever arrives while one of them runs joins the others behind it.
+    while (m_events == 0 && !m_running && !m_waiting.isEmpty() && !m_closed)
+        runOrKeep(m_waiting.takeFirst());
 }
 
 bool Form::runCatching(const std::function<void()>& event) {
@@ -105,6 +141,50 @@ bool Form::runCatching(const std::function<void()>& event) {
         m_ui.box(fault.description());
         return false;
     }
+}
+
+Button* Form::saveButton() {
+    for (Control* control : std::as_const(m_controls))
+        if (control->kind() == ControlKind::Button &&
+            QString(control->caption()).remove(QLatin1Char('&')).startsWith("Save"))
+            return static_cast<Button*>(control);
+    return nullptr;
+}
+
+void Form::entered(const Control& control) {
+    m_entered.insert(&control, control.valueText());
+}
+
+namespace {
+
+bool isLocked(const Control& control) {
+    return control.kind() == ControlKind::TextBox && static_cast<const TextBox&>(control).isLocked();
+}
+
+bool isNothing(const QString& value) {
+    return value.isEmpty() || value == QLatin1String("no");
+}
+
+} // namespace
+
+bool Form::hasEntry() {
+    const Button* save = saveButton();
+    if (m_closed || !save || !save->isUsable())
+        return false;
+    int choices = 0;
+    for (auto entry = m_entered.cbegin(); entry != m_entered.cend(); ++entry) {
+        const Control& control = *entry.key();
+        if (!control.isUsable() || isLocked(control) || isNothing(*entry) || control.valueText() != *entry)
+            continue;
+        if (control.kind() == ControlKind::TextBox)
+            return true;
+        ++choices;
+    }
+    constexpr int emptyRows = 2; // the head and the row to type into next
+    return choices > 1 || std::any_of(m_controls.cbegin(), m_controls.cend(), [](const Control* control) {
+               return control->kind() == ControlKind::EntryGrid && control->isUsable() &&
+                      static_cast<const EntryGrid*>(control)->rows() > emptyRows;
+           });
 }
 
 void Form::add(Control* control) {

@@ -40,6 +40,20 @@ public:
     /// Pressed by Enter and by Esc; null when there is none.
     virtual Button* defaultButton() { return nullptr; }
     virtual Button* cancelButton() { return nullptr; }
+    /// The button that keeps what the user has entered: the first whose caption begins with "Save". Null: nothing is
+    /// entered here.
+    virtual Button* saveButton();
+    /// What a file with the form's page is called, without its ending.
+    virtual QString documentName() const { return m_caption; }
+
+    /// The user himself has changed the control's value.
+    void entered(const Control& control);
+    /// What was entered is kept now, though it may still stand in its fields.
+    void entrySaved() { m_entered.clear(); }
+    /// Whether closing the form would lose what its user has entered: the form can save, and a text that he typed
+    /// stands as he left it, or several of his choices do (one choice alone is how something is looked up), or lines
+    /// wait in an entry grid.
+    bool hasEntry();
 
     void load(); ///< runs Form_Load once, at the edge where faults are caught
     bool isLoaded() const { return m_loaded; }
@@ -58,10 +72,15 @@ public:
     /// Runs a handler. Outermost, it is the edge: a DataError is shown once in a plain box and the screen stays. Inside
     /// another handler of this form the fault rises to that one.
     void run(const std::function<void()>& handler);
-    /// What the desktop and the script player call for everything that a user does: as run, but while a handler of this
-    /// form still runs (a save under way) and when the form has closed it does nothing, so that no button can be
-    /// pressed twice.
+    /// What the desktop and the script player call for a press of a button and the like. While another act of the user
+    /// runs (a save under way) it does nothing, so that no button can be pressed twice; behind the event of a timer it
+    /// waits. A closed form hears none of these three.
     void userEvent(const std::function<void()>& event);
+    /// What must not be lost, such as a typed text or a field that was left: while another event of the form runs it
+    /// waits and runs after, in the order of arrival. Of one `source` (unless null) only the last one waits.
+    void lateEvent(const std::function<void()>& event, const QObject* source = nullptr);
+    /// As lateEvent, for what happens without the user: a timer's tick, a long list that is read on.
+    void backgroundEvent(const std::function<void()>& event, const QObject* source);
     /// Runs last, after a fault was shown: put the pointer and the like back.
     virtual void afterFault() {}
     /// Runs when an outermost event has ended, with or without a fault.
@@ -77,6 +96,14 @@ private:
     void add(Control* control);
     void focus(Control* control);
     void close();
+    /// An event that arrived while another one ran.
+    struct Waiting {
+        std::function<void()> event;
+        const QObject* source;
+        bool background;
+    };
+    void runOrKeep(const Waiting& arrived);
+    void runWaiting();
     void runOutermost(const std::function<void()>& event);
     bool runCatching(const std::function<void()>& event); ///< false: a fault was shown
 
@@ -88,8 +115,11 @@ private:
     Control* m_focused = nullptr;
     bool m_loaded = false;
     bool m_closed = false;
-    bool m_running = false; ///< a handler is under way: the user's events are dropped
-    int m_events = 0;       ///< user events whose end has not come
+    bool m_running = false;    ///< a handler is under way
+    bool m_background = false; ///< and nobody has asked for it
+    int m_events = 0;          ///< events whose end has not come
+    QVector<Waiting> m_waiting;
+    QHash<const Control*, QString> m_entered; ///< what the user has changed, with the values that he gave
 };
 
 } // namespace orvane

@@ -2,9 +2,12 @@
 #include "desktop/GridBinding.h"
 #include "desktop/GridModel.h"
 #include "desktop/TableView.h"
+#include "desktop/TotalsLine.h"
 #include "desktop/ViewTest.h"
 #include "support/TestHome.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTreeView>
@@ -78,6 +81,26 @@ TEST_F(GridViewTest, ShowsTheRowsAsTheyAreReadByPeople) {
     for (int i = 0; i < 4; ++i)
         wide += table()->columnWidth(i);
     EXPECT_EQ(wide, table()->viewport()->width()) << "the columns fill the room";
+}
+
+TEST_F(GridViewTest, TellsItsTotalsItsRowsAndCopiesThem) {
+    const auto* line = table()->parentWidget()->findChild<TotalsLine*>();
+    ASSERT_TRUE(line && line->isVisible());
+    EXPECT_EQ(line->text(), "Total of all 5 rows:   Amount 9,249.50") << "and no hidden or plain column";
+    form.grdRows.load(lines(400));
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return line->text().startsWith("Total of all 2,000 rows:   Amount 3,699,800.00");
+    })) << qPrintable(line->text());
+    form.grdRows.clear();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !line->isVisible(); })) << "nothing to sum";
+    form.grdRows.load(lines());
+    form.grdRows.selectRow(1);
+    settleEvents();
+    EXPECT_EQ(table()->accessibleName(), "Bill") << "what stands around it";
+    EXPECT_EQ(table()->currentIndex().data(Qt::AccessibleTextRole).toString(),
+              "SNo 2, Service Consultation, Amount 7,500.00, Paid 31/12/2025");
+    QTest::keyClick(table(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "SNo\tService\tAmount\tPaid\n2\tConsultation\t7,500.00\t31/12/2025\n");
 }
 
 TEST_F(GridViewTest, AClickOnAHeadSortsAndKeepsTheCurrentRow) {

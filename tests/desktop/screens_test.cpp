@@ -21,6 +21,8 @@ protected:
     /// Loads each screen as its menu does and hands it to `look`; one that refuses to open without more in hand is left
     /// out.
     void forEachScreen(const std::function<void(Form&, FormWindow&)>& look) {
+        ShellWindow shell(ws.program.form("MdiTolmek"), true);
+        reserved = shell.reservedLetters();
         int shown = 0;
         for (const QString& name : ws.program.formNames()) {
             Form& form = ws.program.form(name);
@@ -32,7 +34,7 @@ protected:
                 continue;
             ++shown;
             const ::testing::ScopedTrace trace(__FILE__, __LINE__, form.name().toStdString());
-            FormWindow window(form, ViewSetting{"FACSRW", true});
+            FormWindow window(form, ViewSetting{reserved, true});
             window.resize(window.sizeFor(smallRoom));
             window.show();
             QApplication::processEvents();
@@ -42,6 +44,9 @@ protected:
         }
         EXPECT_GT(shown, 20);
     }
+    void expectOwnLetters(FormWindow& window);
+
+    QString reserved; ///< letters of the main window
 };
 INSTANTIATE_TEST_SUITE_P(OnSqlite, ScreensTest, ::testing::Values(Engine::Sqlite));
 
@@ -67,29 +72,52 @@ TEST_P(ScreensTest, NoScreenIsCutOffOrLeavesAControlOut) {
     });
 }
 
-void expectOwnLetters(FormWindow& window) {
+/// Of every page, as a field on none of them is in sight with all.
+QString pressedLetters(const FormWindow& window) {
+    QString letters;
+    for (const QTabWidget* tabs : window.findChildren<QTabWidget*>())
+        for (int tab = 0; tab < tabs->count(); ++tab)
+            letters += Mnemonics::asked(tabs->tabText(tab));
+    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>())
+        if (!button->shortcut().isEmpty())
+            letters += button->shortcut().toString().back();
+    return letters;
+}
+
+/// What can be pressed has a letter for itself, and none of the main window's.
+void ScreensTest::expectOwnLetters(FormWindow& window) {
     QMap<QChar, QString> owners;
-    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
-        const QChar letter = Mnemonics::asked(button->text());
-        if (!button->isVisible() || letter.isNull())
-            continue;
-        EXPECT_FALSE(owners.contains(letter))
-            << qPrintable(button->text()) << " and " << qPrintable(owners.value(letter));
-        owners.insert(letter, button->text());
-    }
+    const QString pressed = pressedLetters(window);
+    const auto take = [&](const QString& text, QChar letter) {
+        EXPECT_FALSE(letter.isNull() || reserved.contains(letter)) << qPrintable(text);
+        EXPECT_FALSE(owners.contains(letter)) << qPrintable(text) << " and " << qPrintable(owners.value(letter));
+        owners.insert(letter, text);
+    };
+    for (const QTabWidget* tabs : window.findChildren<QTabWidget*>())
+        for (int tab = 0; tab < tabs->count(); ++tab)
+            take(tabs->tabText(tab), Mnemonics::asked(tabs->tabText(tab)));
+    for (const QAbstractButton* button : window.view()->findChildren<QAbstractButton*>())
+        if (button->isVisible() && !button->text().isEmpty())
+            take(button->text(), button->shortcut().isEmpty() ? QChar() : button->shortcut().toString().back());
+    // The collation screen has more to press than there are letters; its fields are reached by Tab.
+    constexpr int letters = 26 + 10;
+    if (pressed.size() + reserved.size() >= letters)
+        return;
+    for (const QLabel* label : window.findChildren<QLabel*>())
+        for (const QChar letter : label->text().toUpper())
+            EXPECT_FALSE(label->buddy() && label->isVisible() && Mnemonics::asked(label->text()).isNull() &&
+                         letter.isLetterOrNumber() && !reserved.contains(letter) && !pressed.contains(letter))
+                << qPrintable(label->text()) << " could have " << qPrintable(QString(letter));
 }
 
 TEST_P(ScreensTest, EveryFieldIsReachedByKeysAndEveryButtonHasItsOwnLetter) {
-    forEachScreen([](Form&, FormWindow& window) {
+    forEachScreen([this](Form&, FormWindow& window) {
         auto* tabs = window.findChild<QTabWidget*>();
         for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
             if (tabs)
                 tabs->setCurrentIndex(page);
             expectOwnLetters(window);
         }
-        for (const QLabel* label : window.findChildren<QLabel*>())
-            EXPECT_FALSE(label->buddy() && label->isVisible() && Mnemonics::asked(label->text()).isNull())
-                << qPrintable(label->text());
         for (const Binding* binding : window.findChildren<Binding*>()) {
             const Control* control = binding->control();
             const bool field = control->kind() == ControlKind::TextBox || control->kind() == ControlKind::ComboBox ||
@@ -99,6 +127,31 @@ TEST_P(ScreensTest, EveryFieldIsReachedByKeysAndEveryButtonHasItsOwnLetter) {
                 << qPrintable(control->name());
         }
     });
+}
+
+TEST_P(ScreensTest, TheCollationScreenKeepsItsAmountAndItsSaveInSight) {
+    const QFont usual = QApplication::font();
+    const QSize size(1366, 768);
+    for (const double letters : {1.0, 1.3}) {
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * letters);
+        QApplication::setFont(font);
+        Form& form = ws.program.form("frmBillingVerify");
+        form.load();
+        ui.forgetBoxes();
+        FormWindow window(form, ViewSetting{{}, true});
+        window.resize(size - QSize(8, 110));
+        window.show();
+        QApplication::processEvents();
+        for (const char* name : {"lblAmtDue", "OKButton", "cmdCancel", "SSTab1"}) {
+            const QWidget* widget = window.view()->widgetOf(*form.find(name));
+            EXPECT_GE(widget->visibleRegion().boundingRect().height(), std::min(widget->height(), 60))
+                << name << " with letters of " << letters;
+        }
+        window.release();
+        form.abandon();
+    }
+    QApplication::setFont(usual);
 }
 
 } // namespace

@@ -124,7 +124,7 @@ TEST_F(WindowsTest, MenusFollowTheirForm) {
     EXPECT_FALSE(menu(shell.mnuOpen)->action()->isEnabled());
     // The letters of the menu bar are not given away inside the windows.
     ui.show(first);
-    for (const QChar letter : ui.windows().shell()->menuLetters())
+    for (const QChar letter : ui.windows().shell()->reservedLetters())
         EXPECT_NE(Mnemonics::asked(ui.windows().viewOf(first)->findChild<QLabel*>()->text()), letter);
 }
 
