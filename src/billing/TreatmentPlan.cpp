@@ -1,5 +1,7 @@
 #include "billing/TreatmentPlan.h"
 
+#include <QRegularExpression>
+
 namespace orvane {
 
 namespace {
@@ -27,6 +29,44 @@ QString treatmentPlan(const Recordset& consultations) {
     for (Recordset row = consultations.detached(); !row.eof(); row.moveNext())
         plan += consultation(row);
     return plan + "END OF TREATMENT";
+}
+
+QString prescriptions(Connection& connection, const QString& consultID) {
+    QStringList found;
+    for (Recordset rows(connection,
+                        Sql("select consultid,prescription,treatedby,policytype from qryhconsulting where consultid='")
+                            << consultID << "'");
+         !rows.eof(); rows.moveNext())
+        found << "Policy/HMO Type: " + rows.text("policytype") + "\n" + rows.text("prescription") +
+                     "\nTreated by Dr. " + rows.text("treatedby");
+    return found.join("\n\n");
+}
+
+QString treatmentPlans(Connection& connection, const QString& consultID) {
+    QStringList found;
+    for (Recordset rows(connection, Sql("select consultid,treatplan from qryhconsulting where consultid='")
+                                        << consultID << "'");
+         !rows.eof(); rows.moveNext())
+        found << rows.text("treatplan");
+    return found.join("\n\n");
+}
+
+QString diagnosesInOneLine(Connection& connection, const QString& consultID) {
+    static const QRegularExpression lineEnd("\r\n|\r|\n");
+    QStringList found;
+    for (Recordset rows(connection, Sql("select Diagnosis from hconsulting where consultid='") << consultID << "'");
+         !rows.eof(); rows.moveNext())
+        if (const QString diagnosis = rows.text("Diagnosis"); !diagnosis.trimmed().isEmpty())
+            found << diagnosis;
+    return found.join('\n').replace(lineEnd, ";");
+}
+
+QString lastDiagnosis(Connection& connection, const QString& pno) {
+    Recordset rows(connection, Sql("select CDate,diagnosis from qryhconsulting where pno='")
+                                   << pno << "' order by CDate desc");
+    if (!rows.eof())
+        rows.moveNext();
+    return rows.eof() ? QString() : rows.date("CDate").toString("dd/MM/yyyy") + "\n" + rows.text("diagnosis");
 }
 
 } // namespace orvane

@@ -46,11 +46,9 @@ private:
     void takeInHand();
     void getConFromAdmission();
     void readAttendance(Connection& connection);
-    void getDiagnosis(Connection& connection);
     void getAccumBill();
     void collate();
     void showFigures();
-    double sumOfItems(Connection& connection) const;
     void fillGrid(Connection& connection);
     void showScreen(const QString& heading);
     QDate today() const;
@@ -84,6 +82,7 @@ private:
     void cmdAddBill_Click();
     void cmdPrice_Click();
     void cmdUnBilled_Click();
+    void showOr(const QString& text, const QString& nothing); ///< `nothing` for an empty text
     void cmdPresc_Click();
     void cmdDispense_Click();
     void cmdLastDiag_Click();

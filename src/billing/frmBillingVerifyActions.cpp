@@ -1,3 +1,4 @@
+#include "billing/TreatmentPlan.h"
 #include "billing/frmBillingVerify.h"
 #include "books/Capitation.h"
 #include "books/Fees.h"
@@ -134,40 +135,26 @@ void frmBillingVerify::cmdUnBilled_Click() {
                                         << m_bill.consultID << "' and SNo not in (Select SNo from BillingDetails)");
          !rows.eof(); rows.moveNext())
         names << rows.text("DrgName");
-    program.box(names.isEmpty() ? "All Items Billed" : names.join('\n'));
+    showOr(names.join('\n'), "All Items Billed");
+}
+
+void frmBillingVerify::showOr(const QString& text, const QString& nothing) {
+    program.box(text.isEmpty() ? nothing : text);
 }
 
 void frmBillingVerify::cmdPresc_Click() {
     Connection connection = program.openBilling();
-    QStringList prescriptions;
-    for (Recordset rows(connection,
-                        Sql("select consultid,prescription,treatedby,policytype from qryhconsulting where consultid='")
-                            << m_bill.consultID << "'");
-         !rows.eof(); rows.moveNext())
-        prescriptions << "Policy/HMO Type: " + rows.text("policytype") + '\n' + rows.text("prescription") +
-                             "\nTreated by Dr. " + rows.text("treatedby");
-    program.box(prescriptions.isEmpty() ? "No prescription " : prescriptions.join("\n\n"));
+    showOr(prescriptions(connection, m_bill.consultID), "No prescription ");
 }
 
 void frmBillingVerify::cmdDispense_Click() {
     Connection connection = program.openBilling();
-    QStringList plans;
-    for (Recordset rows(connection, Sql("select consultid,treatplan from qryhconsulting where consultid='")
-                                        << m_bill.consultID << "'");
-         !rows.eof(); rows.moveNext())
-        plans << rows.text("treatplan");
-    program.box(plans.isEmpty() ? "No Treatment Plan " : plans.join("\n\n"));
+    showOr(treatmentPlans(connection, m_bill.consultID), "No Treatment Plan ");
 }
 
-/// The diagnosis before the newest one.
 void frmBillingVerify::cmdLastDiag_Click() {
     Connection connection = program.openBilling();
-    Recordset rows(connection, Sql("select CDate,diagnosis from qryhconsulting where pno='")
-                                   << m_bill.pno << "' order by CDate desc");
-    if (!rows.eof())
-        rows.moveNext();
-    program.box(rows.eof() ? "No Last Diagnosis"
-                           : rows.date("CDate").toString("dd/MM/yyyy") + '\n' + rows.text("diagnosis"));
+    showOr(lastDiagnosis(connection, m_bill.pno), "No Last Diagnosis");
 }
 
 void frmBillingVerify::cmdAcct_Click() {

@@ -1,12 +1,11 @@
 #include "billing/BillLook.h"
+#include "billing/TreatmentPlan.h"
 #include "billing/frmBillingVerify.h"
 #include "books/ApprovalCode.h"
 #include "books/Bill.h"
 #include "books/Collate.h"
 #include "data/words/Money.h"
 #include "session/ListedVisit.h"
-
-#include <QRegularExpression>
 
 namespace orvane {
 
@@ -165,7 +164,7 @@ void frmBillingVerify::showVisit(Connection& connection) {
     readAttendance(connection);
     connection.call("updateRevType", {{"ConsultID", m_bill.consultID}});
     getAccumBill();
-    getDiagnosis(connection);
+    txtDiag.setText(diagnosesInOneLine(connection, m_bill.consultID));
     txtApprv.setText(firstApprovalCode(connection, m_bill.consultID));
     showScreen("Collated Bill for ");
     if (session.gModuleName == "BILLING")
@@ -227,18 +226,6 @@ void frmBillingVerify::readAttendance(Connection& connection) {
     }
 }
 
-/// The diagnoses of the visit's consultations in one line.
-void frmBillingVerify::getDiagnosis(Connection& connection) {
-    static const QRegularExpression lineEnd("\r\n|\r|\n");
-    QStringList diagnoses;
-    for (Recordset rows(connection, Sql("select Diagnosis from hconsulting where consultid='")
-                                        << m_bill.consultID << "'");
-         !rows.eof(); rows.moveNext())
-        if (const QString diagnosis = rows.text("Diagnosis"); !diagnosis.trimmed().isEmpty())
-            diagnoses << diagnosis;
-    txtDiag.setText(diagnoses.join('\n').replace(lineEnd, ";"));
-}
-
 /// Collates what waits and shows the bill as it then stands. Of this screen's visit: what became of a fee may be found
 /// out after another screen has worked on another one.
 void frmBillingVerify::getAccumBill() {
@@ -270,28 +257,11 @@ void frmBillingVerify::showFigures() {
     showAmount({&lblGen}, figures.generated);
     showAmount({&lblBilled, &lblTotal, &lblCurr}, figures.billed);
     showAmount({&lblPaid, &receipt.lblDep}, figures.paid);
-    showAmount({&lblSub}, sumOfItems(connection));
+    showAmount({&lblSub}, itemsTotal(connection, m_bill.consultID));
     showAmount({&lblAmtDue}, figures.billed - figures.paid);
     chkCurr_Click();
     showScreen("Bill for ");
     fillGrid(connection);
-}
-
-/// What the items come to: all of them, but of a capitated patient only those that are charged one by one.
-double frmBillingVerify::sumOfItems(Connection& connection) const {
-    Recordset items(connection,
-                    Sql("select distinct ClientCatID,ClientCatID as ClientCat,Referal,billtype,SNo,conID,[Date],"
-                        "Capitated ,ConsultID,Service,Dosage,UnitPrice,Qty,Subtotal,CoyName,BillTo,RevType "
-                        "from qryBillAccum where consultid='")
-                        << m_bill.consultID << "'");
-    if (items.eof())
-        return 0;
-    const bool chargedOnly = isCapitatedCategory(items.text("ClientCatID")) && items.text("Referal") != "YES";
-    double sum = 0;
-    for (; !items.eof(); items.moveNext())
-        if (!chargedOnly || items.text("Capitated") == "NO")
-            sum += items.number("Subtotal");
-    return sum;
 }
 
 void frmBillingVerify::fillGrid(Connection& connection) {

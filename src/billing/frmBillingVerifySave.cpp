@@ -4,7 +4,7 @@
 #include "books/ReceiptNumber.h"
 #include "books/Words.h"
 #include "data/words/Money.h"
-#include "receipts/VisitFacts.h"
+#include "books/VisitFacts.h"
 #include "receipts/frmCashReceipt.h"
 
 namespace orvane {

@@ -12,7 +12,7 @@ void compose(Recordset& row, const ApprovalCode& code) {
     row.set("ApprvDate", code.date);
     row.set("consultID", code.consultID);
     row.set("ApprvCode", code.code);
-    row.set("Remarks", code.remarks);
+    row.set("Remarks", nullIfEmpty(code.remarks));
     row.set("billType", code.billType);
     row.set("PNo", code.pno);
     row.update();

@@ -4,10 +4,6 @@ namespace orvane {
 
 namespace {
 
-QVariant nullIfEmpty(const QString& text) {
-    return text.isEmpty() ? QVariant() : text;
-}
-
 /// Other departments' programs add items at any time, so that the newest of all visits need not be the one just added.
 qlonglong numberOfAddedItem(Connection& connection, const BillItem& item) {
     // The name is compared here: a comparison in SQL would miss one that ends in a blank.

@@ -26,8 +26,8 @@ void addLine(Books& books, const BillLine& line) {
     row.set("coyName", line.coyName);
     row.set("billTo", line.billTo);
     row.set("revType", line.revType);
-    row.set("BillBy", line.billBy);
-    row.set("Capitated", line.capitated);
+    row.set("BillBy", nullIfEmpty(line.billBy));
+    row.set("Capitated", nullIfEmpty(line.capitated));
     row.update();
     if (line.sno == 0)
         books.connection.execute(Sql("update BillingDetails set SNo=0-detID where SNo is null and billNo='")

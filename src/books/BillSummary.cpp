@@ -1,6 +1,8 @@
 #include "books/BillSummary.h"
 
 #include "books/Bill.h"
+#include "books/BillInHand.h"
+#include "data/words/Money.h"
 
 namespace orvane {
 
@@ -34,6 +36,21 @@ Given<BillFigures> saveBillSummary(Books& books, const QString& billNo, const QS
         figures.balance = info.number("AmountBal");
     }
     return figures;
+}
+
+double itemsTotal(Connection& connection, const QString& consultID) {
+    Recordset items(connection,
+                    Sql("select distinct ClientCatID,ClientCatID as ClientCat,Referal,billtype,SNo,conID,[Date],"
+                        "Capitated ,ConsultID,Service,Dosage,UnitPrice,Qty,Subtotal,CoyName,BillTo,RevType "
+                        "from qryBillAccum where consultid='")
+                        << consultID << "'");
+    const bool chargedOnly =
+        !items.eof() && isCapitatedCategory(items.text("ClientCatID")) && items.text("Referal") != "YES";
+    double sum = 0;
+    for (; !items.eof(); items.moveNext())
+        if (!chargedOnly || items.text("Capitated") == "NO")
+            sum += items.number("Subtotal");
+    return round2(sum);
 }
 
 } // namespace orvane

@@ -17,4 +17,8 @@ struct BillFigures {
 /// the patient. A processed bill keeps its total.
 Given<BillFigures> saveBillSummary(Books& books, const QString& billNo, const QString& pno);
 
+/// What the items of a visit come to, in naira: all of them, but of a capitated patient only those that are charged one
+/// by one.
+double itemsTotal(Connection& connection, const QString& consultID);
+
 } // namespace orvane

@@ -7,4 +7,8 @@ void Books::record(const QString& document, double amount) {
     m_amount = amount;
 }
 
+QVariant nullIfEmpty(const QString& text) {
+    return text.isEmpty() ? QVariant() : text;
+}
+
 } // namespace orvane

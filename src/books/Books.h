@@ -69,4 +69,7 @@ private:
     double m_amount = 0;
 };
 
+/// For a column that is null where there is nothing to say.
+QVariant nullIfEmpty(const QString& text);
+
 } // namespace orvane

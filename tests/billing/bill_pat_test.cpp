@@ -1,5 +1,5 @@
+#include "support/ChecksInOrder.h"
 #include "support/TestHome.h"
-#include "support/Workstation.h"
 
 #include <gtest/gtest.h>
 
@@ -141,37 +141,23 @@ TEST_P(BillPat, LookupFillsTheEntryLine) {
 TEST_P(BillPat, AddChecksInOrder) {
     openFor("PRIVATE", "0001");
     ws.program.session.gLockPrice = "NO";
+    ws.control<TextBox>("frmBillPat.txtPrice").setLocked(false);
     put("cboCat", "DRUG");
-    const struct {
-        std::function<void()> before;
-        const char* message;
-        const char* focus;
-    } steps[] = {
-        {[] {}, "Please specify a Drug/Service No ", "cboDrug"},
-        {[&] { put("cboDrug", "  "); }, "Please specify whether Item is Capitated or Not", "cboFFS2"},
-        {[&] { put("cboFFS2", "NO"); }, "Please specify Revenue Type! Others Not Allowed", "cboRev"},
-        {[&] { put("cboRev", "OTHERS"); }, "Please specify Revenue Type! Others Not Allowed", "cboRev"},
-        {[&] { put("cboRev", "DRUGS"); }, "BillTo/Sponsor field Cannot be Empty", "cboPat"},
-        {[&] { put("cboPat", "PRIVATE PATIENTS"); }, "Cannot add this line without a price to Grid !!!  ", "txtPrice"},
-        {[&] { ws.control<TextBox>("frmBillPat.txtPrice").setText("-1"); },
-         "Cannot add this line without a price to Grid !!!  ", "txtPrice"},
-        {[&] { ws.control<TextBox>("frmBillPat.txtPrice").setText("10"); }, "Please specify Drug/Service used ",
-         "cboDrug"},
-        {[&] {
-             pickItem("DRUG", "PARACETAMOL 500MG");
-             put("cboRev", "DRUGS");
-         },
-         "Please specify Quantity of Drug prescribed", "txtQty"},
-        {[&] { put("txtQty", " "); }, "Please specify Quantity of Drug prescribed", "txtQty"},
-        {[&] { put("txtQty", "two"); }, "Please specify Quantity of Drug prescribed", "txtQty"},
-    };
-    for (const auto& step : steps) {
-        step.before();
-        click("cmdAdd");
-        EXPECT_BOXES(ui, {step.message});
-        EXPECT_EQ(ws.form("frmBillPat").focused()->name(), step.focus);
-        EXPECT_EQ(ws.rows("frmBillPat.OrderGridDrug").size(), 2) << "head and the empty row";
-    }
+    expectChecksInOrder(
+        ws, "frmBillPat", "cmdAdd",
+        {{"cboDrug", "", "Please specify a Drug/Service No ", "cboDrug"},
+         {"cboDrug", "  ", "Please specify whether Item is Capitated or Not", "cboFFS2"},
+         {"cboFFS2", "NO", "Please specify Revenue Type! Others Not Allowed", "cboRev"},
+         {"cboRev", "OTHERS", "Please specify Revenue Type! Others Not Allowed", "cboRev"},
+         {"cboRev", "DRUGS", "BillTo/Sponsor field Cannot be Empty", "cboPat"},
+         {"cboPat", "PRIVATE PATIENTS", "Cannot add this line without a price to Grid !!!  ", "txtPrice"},
+         {"txtPrice", "-1", "Cannot add this line without a price to Grid !!!  ", "txtPrice"},
+         {"txtPrice", "10", "Please specify Drug/Service used ", "cboDrug"},
+         {"cboDrug", "PARACETAMOL 500MG"},
+         {"cboRev", "DRUGS", "Please specify Quantity of Drug prescribed", "txtQty"},
+         {"txtQty", " ", "Please specify Quantity of Drug prescribed", "txtQty"},
+         {"txtQty", "two", "Please specify Quantity of Drug prescribed", "txtQty"}});
+    EXPECT_EQ(ws.rows("frmBillPat.OrderGridDrug").size(), 2) << "head and the empty row";
     put("txtQty", "3");
     click("cmdAdd");
     EXPECT_BOXES(ui, {});
@@ -324,60 +310,6 @@ TEST_P(BillPat, FaultOrFrozenBillSavesNothingAndKeepsTheLines) {
     save();
     EXPECT_EQ(ws.scalar("select Amountbilled from Billing"), "2600");
     EXPECT_EQ(ws.tableCount("BillAccum"), 2);
-}
-
-/// Nobody knows whether they were saved: the next press of Save finds out, and puts no line on the bill twice.
-TEST_P(BillPat, UnknownCommitIsLookedUp) {
-    openFor("PRIVATE", "0001");
-    addLine("SERVICE", "WOUND DRESSING", "1");
-    bool itemWritten = false;
-    ws.program.data().setStatementHook([&itemWritten](const QString& tsql) {
-        itemWritten = itemWritten || tsql.contains("billingdetails", Qt::CaseInsensitive);
-        if (itemWritten && tsql == "transaction committed")
-            throw DataError("the cable was pulled");
-    });
-    save();
-    EXPECT_TRUE(ui.takeBoxes().join('|').contains("It is not known whether it was saved."));
-    EXPECT_EQ(ws.state("frmBillPat.cmdRefresh"), "visible disabled") << "the entry stays as it is";
-    ws.program.data().setStatementHook({});
-    ws.click("frmBillPat.OKButton");
-    EXPECT_BOXES(ui, {"The entry was saved before the connection broke. It is not saved again."});
-    open();
-    EXPECT_EQ(ws.rows("frmBillPat.OrderGridDrug").size(), 3) << "the saved line, read as old";
-    save();
-    EXPECT_EQ(ws.tableCount("BillAccum"), 1);
-    EXPECT_EQ(ws.scalar("select DebtBF from hPatients"), "-2500");
-}
-
-TEST_P(BillPat, VisitMovedToAnotherClientMeanwhileTakesNoLine) {
-    openFor("PRIVATE", "0001");
-    addLine("SERVICE", "WOUND DRESSING", "1");
-    ws.run("update hRecords set coyName='0102'");
-    save();
-    EXPECT_BOXES(ui, {"Please Re-Select Patient Name! Bill No (StrCon needed"});
-    EXPECT_EQ(ws.tableCount("BillAccum"), 0);
-    EXPECT_EQ(ws.tableCount("Tranxaction"), 0);
-}
-
-/// On SQLite nobody else writes while a transaction is open.
-TEST_P(BillPat, LineBearsTheNumberOfItsOwnItem) {
-    if (GetParam() == Engine::Sqlite)
-        GTEST_SKIP() << "one writer at a time";
-    openFor("PRIVATE", "0001");
-    addLine("SERVICE", "WOUND DRESSING", "1");
-    SecondHome otherHome(home);
-    Workstation laboratory(otherHome.folder());
-    ws.program.data().setStatementHook([&](const QString& tsql) {
-        if (!tsql.contains("SNo,drgName from billaccum", Qt::CaseInsensitive))
-            return;
-        ws.program.data().setStatementHook({});
-        Connection connection = laboratory.billing();
-        makeItem(connection, {.consultID = "001OFL0000009", .pno = "P/0009", .name = "MALARIA PARASITE"});
-    });
-    save();
-    EXPECT_EQ(row("select a.drgName, a.attendedto from BillAccum a inner join BillingDetails d on d.SNo=a.SNo"),
-              "WOUND DRESSING|1");
-    EXPECT_EQ(ws.scalar("select attendedto from BillAccum where drgName='MALARIA PARASITE'"), "0");
 }
 
 TEST_P(BillPat, FeeForServiceFlipsTheWholeVisit) {

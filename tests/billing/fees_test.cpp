@@ -100,36 +100,6 @@ TEST_P(Fees, UnknownCommitIsFollowedOnTheBillOfTheScreen) {
     EXPECT_EQ(lines(), "DRUG|1000\nProf Fee (10%)|100");
 }
 
-TEST_P(Fees, FaultLeavesTheBillAsItWas) {
-    layVisit({.category = "HMO", .client = "0201"}, {.category = "HMO", .client = "0201"});
-    item({.name = "DRUG", .price = 1000});
-    item({.name = "TEST", .client = "0201", .price = 500});
-    load();
-    save();
-    ui.forgetBoxes();
-    const QString before = lines() + account() + rows("select * from BillAccum") + rows("select * from Billing");
-    const auto unchanged = [&] {
-        EXPECT_BOXES(ui, {"disk full"});
-        ws.program.data().setStatementHook({});
-        EXPECT_EQ(lines() + account() + rows("select * from BillAccum") + rows("select * from Billing"), before);
-        EXPECT_EQ(ws.tableCount("BillingDetailsAdjust"), 0);
-    };
-    breakAt(ws.program, "amountBilled=");
-    chargeScheme("10");
-    unchanged();
-    breakAt(ws.program, "hPatients set DebtBF");
-    ui.answer(true);
-    click("cmdCap");
-    EXPECT_QUESTIONS(ui, {"Are you sure to Capitate all Items in this Bill"});
-    unchanged();
-    ui.answer(true);
-    click("cmdCap");
-    EXPECT_BOXES(ui, {" Bill Item successfully Capitated"});
-    EXPECT_EQ(debt(), "0");
-    EXPECT_EQ(audit("Capitated  Bill Item for ").section('\n', -1),
-              "Capitated  Bill Item for ADEYEMI BOLA|Item Capitated TEST: Qty:1 Amount: 500.00");
-}
-
 } // namespace
 
 } // namespace orvane

@@ -26,7 +26,7 @@ QStringList record() {
         EXPECT_TRUE(ws.start());
         action.lay(ws);
         action.enter(ws);
-        action.act(ws);
+        action.press(ws);
         ws.program.data().setStatementHook({});
         ws.ui.forgetBoxes();
         ws.ui.takeQuestions();

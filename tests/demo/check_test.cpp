@@ -116,7 +116,6 @@ const Plant plants[] = {
     {"correction without patient", {"update hDebtReview set PNo='9/001' where Debt=50"}},
     {"correction without bill", {"update hDebtReview set billNo='001OFL0000077' where Debt=50"}},
     {"correction's sign", {"update hDebtReview set Debt=200 where Debt=-200"}},
-    {"correction's sign", {"update hDebtReview set Debt=-50 where Debt=50"}},
     {"approval code without visit", {"update hApprvCode set consultID='001OFL0000077' where ApprvCode='OFH/1'"}},
     {"amount that is not stated", {"update BillAccum set SubTotal=null where SNo=1"}},
     {"amount that is no number", {"update BillAccum set Price=1e308*10 where SNo=1"}},

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "demo/QuietUi.h"
+#include "play/QuietUi.h"
 #include "play/HeadlessDriver.h"
 #include "session/Program.h"
 #include "support/TestHome.h"

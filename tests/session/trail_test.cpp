@@ -1,3 +1,4 @@
+#include "data/rows/Transaction.h"
 #include "session/Scramble.h"
 #include "support/TestHome.h"
 #include "support/Workstation.h"

@@ -1,6 +1,6 @@
 #include "support/ScreenTest.h"
 
-#include "demo/Check.h"
+#include "support/Check.h"
 
 namespace orvane {
 

@@ -7,6 +7,7 @@
 #include "data/engine/Physical.h"
 #include "data/engine/Rights.h"
 #include "data/engine/ServerList.h"
+#include "data/engine/Source.h"
 #include "data/rows/Recordset.h"
 #include "data/rows/SchemaSteps.h"
 #include "data/rows/Transaction.h"
