@@ -12,6 +12,7 @@ public:
     Layout layout() const override;
     void Form_Load() override;
     Button* defaultButton() override { return &OkButton; }
+    Button* saveButton() override { return &OkButton; }
     Button* cancelButton() override { return &CancelButton; }
 
 private:

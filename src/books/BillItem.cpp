@@ -4,6 +4,37 @@ namespace orvane {
 
 namespace {
 
+QVariant nullIfEmpty(const QString& text) {
+    return text.isEmpty() ? QVariant() : text;
+}
+
+} // namespace
+
+void addItem(Books& books, const BillItem& item) {
+    Recordset row(books.connection, Sql("select * from billAccum where 1=2"));
+    row.addNew();
+    row.set("dtDate", item.date);
+    row.set("PNo", item.pno);
+    row.set("consultID", item.consultID);
+    row.set("drgName", item.name);
+    row.set("Category", nullIfEmpty(item.category));
+    row.set("Price", item.price);
+    row.set("Qty", item.qty);
+    row.set("SubTotal", item.subTotal);
+    row.set("usage", nullIfEmpty(item.usage));
+    row.set("billType", item.billType);
+    row.set("billTo", nullIfEmpty(item.billTo));
+    row.set("coyName", nullIfEmpty(item.coyName));
+    row.set("revType", nullIfEmpty(item.revType));
+    row.set("conID", item.conID ? QVariant(*item.conID) : QVariant());
+    row.set("Capitated", nullIfEmpty(item.capitated));
+    row.set("BillBy", nullIfEmpty(item.billBy));
+    row.set("attendedto", int(item.billed));
+    row.set("isBilled", int(item.billed));
+    row.set("suppres", 0);
+    row.update();
+}
+
 /// Other departments' programs add items at any time, so that the newest of all visits need not be the one just added.
 qlonglong numberOfAddedItem(Connection& connection, const BillItem& item) {
     // The name is compared here: a comparison in SQL would miss one that ends in a blank.
@@ -13,34 +44,6 @@ qlonglong numberOfAddedItem(Connection& connection, const BillItem& item) {
         if (items.text("drgName") == item.name)
             return items.integer("SNo");
     throw DataError("The item that was just added cannot be found.");
-}
-
-} // namespace
-
-qlonglong addItem(Books& books, const BillItem& item) {
-    Recordset row(books.connection, Sql("select * from billAccum where 1=2"));
-    row.addNew();
-    row.set("dtDate", item.date);
-    row.set("PNo", item.pno);
-    row.set("consultID", item.consultID);
-    row.set("drgName", item.name);
-    row.set("Category", item.category);
-    row.set("Price", item.price);
-    row.set("Qty", item.qty);
-    row.set("SubTotal", item.subTotal);
-    row.set("usage", item.usage);
-    row.set("billType", item.billType);
-    row.set("billTo", item.billTo);
-    row.set("coyName", item.coyName);
-    row.set("revType", nullIfEmpty(item.revType));
-    row.set("conID", item.conID ? QVariant(*item.conID) : QVariant());
-    row.set("Capitated", item.capitated);
-    row.set("BillBy", nullIfEmpty(item.billBy));
-    row.set("attendedto", int(item.billed));
-    row.set("isBilled", int(item.billed));
-    row.set("suppres", 0);
-    row.update();
-    return numberOfAddedItem(books.connection, item);
 }
 
 bool isCarriedBalance(const QString& item) {

@@ -4,15 +4,16 @@
 
 namespace orvane {
 
-/// A row of BillAccum: one item of a visit, on its bill or waiting for it.
+/// A row of BillAccum: one item of a visit, on its bill or waiting for it. A text that is empty is stored as null: not
+/// known yet.
 struct BillItem {
     QDate date;
     QString consultID, pno;
     QString name, category = {};
     double price = 0, qty = 1, subTotal = 0; ///< naira a unit, units, naira
     QString usage = {}, billType;
-    QString billTo;       ///< code of the client who pays it
-    QString coyName;      ///< the visit's client
+    QString billTo = {};  ///< code of the client who pays it
+    QString coyName = {}; ///< the visit's client
     QString revType = {}; ///< empty: not known yet
     std::optional<int> conID = {};
     QString capitated = "NO"; ///< "YES": a contract covers it, so that it is never charged by itself
@@ -20,8 +21,11 @@ struct BillItem {
     QString billBy = {};
 };
 
-/// Adds the row and gives its number, SNo. Raises DataError.
-qlonglong addItem(Books& books, const BillItem& item);
+/// Adds the row.
+void addItem(Books& books, const BillItem& item);
+
+/// The number, SNo, of the item that this transaction has added last under its name.
+qlonglong numberOfAddedItem(Connection& connection, const BillItem& item);
 
 /// "PREVIOUS DEBT" or "PREVIOUS CREDIT": a balance carried from earlier visits, which is in the running account
 /// already.

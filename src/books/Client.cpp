@@ -1,6 +1,7 @@
 #include "books/Client.h"
 
 #include "books/Bill.h"
+#include "books/BillLine.h"
 
 namespace orvane {
 
@@ -14,6 +15,7 @@ Given<Saved> moveToClient(Books& books, const ClientMove& move) {
     Connection& connection = books.connection;
     if (isBillProcessed(connection, move.billNo))
         return Refusal::BillProcessed;
+    keepCharges(books, move.billNo);
     connection.execute(Sql("update hPatients set coyname='") << move.clientID << "', clientCatID ='" << move.category
                                                              << "'   where pno ='" << move.pno << "'");
     connection.execute(Sql("update hRecords set coyname='") << move.clientID << "', clientCat ='" << move.category

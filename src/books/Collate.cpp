@@ -145,6 +145,8 @@ Given<double> collateBillItems(Books& books, const BillInHand& bill) {
     releaseFeeForService(books.connection, bill);
     billed = round2(billed + runPass(books, bill, released(bill)));
     removeEmptyLines(books, bill.consultID);
+    // In the same step, so that a bill never stands beside lines of another amount.
+    refreshBillTotal(books, bill.consultID);
     if (billed != 0)
         books.record(bill.consultID, billed);
     return billed;

@@ -1,28 +1,11 @@
 #include "books/Consultation.h"
 
+#include "books/BillItem.h"
 #include "data/words/Money.h"
 
 #include <cmath>
 
 namespace orvane {
-
-namespace {
-
-void addConsultationItem(Books& books, const ConsultationCharge& charge, double fee) {
-    Recordset item(books.connection, Sql("select *  from billAccum where 1=2"));
-    item.addNew();
-    item.set("dtDate", charge.date);
-    item.set("drgName", "CONSULTATION");
-    item.set("Price", fee);
-    item.set("Qty", 1);
-    item.set("SubTotal", fee);
-    item.set("PNo", charge.pno);
-    item.set("consultID", charge.consultID);
-    item.set("billType", "SERVICE");
-    item.update();
-}
-
-} // namespace
 
 double consultationFee(double fullFee, const QString& purpose) {
     if (purpose == "REVIEW")
@@ -38,7 +21,15 @@ double postConsultationFee(Books& books, const ConsultationCharge& charge) {
     if (clinic.eof())
         return 0;
     const double fee = consultationFee(round2(clinic.number("ConFee")), charge.purpose);
-    addConsultationItem(books, charge, fee);
+    // Who pays it, and whether a contract covers it, the collation settles.
+    addItem(books, {.date = charge.date,
+                    .consultID = charge.consultID,
+                    .pno = charge.pno,
+                    .name = "CONSULTATION",
+                    .price = fee,
+                    .subTotal = fee,
+                    .billType = "SERVICE",
+                    .capitated = {}});
     return fee;
 }
 

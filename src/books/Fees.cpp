@@ -65,7 +65,8 @@ Given<double> addNhisFee(Books& books, const BillInHand& visit, const PercentFee
     item.conID = 0;
     item.billBy = books.actor().user;
     item.billed = true;
-    addLines(books, {{.sno = addItem(books, item),
+    addItem(books, item);
+    addLines(books, {{.sno = numberOfAddedItem(books.connection, item),
                       .billNo = visit.consultID,
                       .date = item.date,
                       .pno = item.pno,

@@ -99,7 +99,7 @@ Given<Saved> addToVisit(Books& books, const EnteredItems& entered) {
             if (!item.billed)
                 return std::nullopt;
             audit(books, entered, "insert BillDetails Item for ", item);
-            return lineOf(item, sno);
+            return lineOf(item, numberOfAddedItem(books.connection, item));
         });
 }
 
@@ -109,7 +109,8 @@ Given<Saved> addToCollatedBill(Books& books, const EnteredItems& entered) {
         [&](const EnteredItem& typed) {
             BillItem item = itemOf(entered, typed);
             item.billed = true;
-            BillLine line = lineOf(item, addItem(books, item));
+            addItem(books, item);
+            BillLine line = lineOf(item, numberOfAddedItem(books.connection, item));
             line.billBy = books.actor().user;
             line.remarks = "New Bill Item: " + item.name;
             audit(books, entered, "insert BillDetails Item for ", item);

@@ -44,14 +44,14 @@ constexpr Check checks[] = {
      "and not exists (select a.SNo from BillAccum a where a.consultID = r.billNo) "
      "and not exists (select j.SNo from BillingDetailsAdjust j where j.billNo = r.billNo)",
      "correction %1 of %3 is of the bill %2, which is not there"},
-    // A debt carried is minus, a credit plus. A line that was renamed leaves a correction of either sign, and where a
-    // bill carries both names the row does not say of which it is.
+    // A debt carried is minus; a credit stands as its price does. A line that was renamed leaves a correction of either
+    // sign, and where a bill carries both names the row does not say of which it is.
     {"correction's sign",
      "select top 1000 r.SNo,r.billNo,r.Debt,c.Item from hDebtReview r "
      "inner join (select billNo,min(Debt) as Lowest,max(Debt) as Highest from hDebtReview group by billNo) s "
      "on s.billNo = r.billNo inner join (select billNo,min(Item) as Item from " CARRIED_BALANCES " l group by billNo "
      "having min(Item) = max(Item)) c on c.billNo = r.billNo where (s.Lowest >= 0 or s.Highest <= 0) "
-     "and ((c.Item = 'PREVIOUS DEBT' and r.Debt > 0) or (c.Item = 'PREVIOUS CREDIT' and r.Debt < 0))",
+     "and c.Item = 'PREVIOUS DEBT' and r.Debt > 0",
      "correction %1 of %3 on the bill %2 has the wrong sign for its %4"},
 };
 

@@ -132,6 +132,10 @@ std::optional<Page> ReceiptScreen::page() const {
     return receiptPage(customer.text("Customer's copy"), office.text("Office copy"));
 }
 
+QString ReceiptScreen::documentName() const {
+    return "Receipt " + customer.txtReceiptNo.text() + ' ' + customer.txtRecFrom.text();
+}
+
 /// The page is what the screen shows, so the button must not stand on it.
 void ReceiptScreen::cmdPrint_Click() {
     cmdPrint.setVisible(false);

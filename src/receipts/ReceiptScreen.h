@@ -16,6 +16,8 @@ public:
     Layout layout() const override;
     std::optional<Page> page() const override;
     Button* defaultButton() override { return &cmdPrint; }
+    /// What the receipt is called as a file: its number and its patient.
+    QString documentName() const override;
 
 protected:
     virtual Sql receiptsByNumber() const = 0; ///< up to the number, which comes behind it

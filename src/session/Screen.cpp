@@ -63,6 +63,8 @@ std::optional<Refusal> Screen::runStep(const AnySave& wanted) {
     try {
         const std::optional<Refusal> refusal = wanted.step();
         ui().setBusy(false);
+        if (!refusal)
+            entrySaved();
         return refusal;
     } catch (const CommitUnknown& fault) {
         m_openSave = {fault.ticket(), wanted.follow, lockAllBut(wanted.button)};
@@ -82,8 +84,10 @@ bool Screen::settlesSave() {
     for (Control* control : settled.locked)
         control->setEnabled(true);
     program.box(outcome == CommitOutcome::Saved ? savedText : notSavedText);
-    if (outcome == CommitOutcome::Saved)
+    if (outcome == CommitOutcome::Saved) {
+        entrySaved();
         doAfterSave(settled.follow);
+    }
     return true;
 }
 

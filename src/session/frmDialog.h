@@ -11,6 +11,7 @@ public:
 
     Layout layout() const override;
     Button* defaultButton() override { return &OKButton; }
+    Button* saveButton() override { return &OKButton; }
     Button* cancelButton() override { return &CancelButton; }
 
 private:
