@@ -114,10 +114,7 @@ TEST_P(Adjust, CapitatedItemIsNotCharged) {
     item({.price = 700});
     load();
     const struct {
-        const char* capitated;
-        const char* debt;
-        const char* lines;
-        const char* remark;
+        const char *capitated, *debt, *lines, *remark;
     } steps[] = {{"YES", "0", "", "Bill Item Capitated: PARACETAMOL 500MG"},
                  {"YES", "0", "", "Bill Item Capitated: PARACETAMOL 500MG"},
                  {"NO", "-700", "PARACETAMOL 500MG|700", "New Bill Item: PARACETAMOL 500MG"},

@@ -203,11 +203,7 @@ TEST_P(BillPat, PrivateLinesGoOnTheBillAtOnce) {
 
 TEST_P(BillPat, CapitatedItemsWaitAndClientsItemsLeaveTheAccountAlone) {
     const struct {
-        const char* category;
-        const char* client;
-        const char* ref;
-        const char* flag;
-        const char* stored;
+        const char *category, *client, *ref, *flag, *stored;
         int details;
         const char* billed;
     } cases[] = {

@@ -44,16 +44,7 @@ ORVANE_ON_EACH_ENGINE(Tariff);
 
 TEST_P(Tariff, FallsBackFromClientToPrivateToMaster) {
     const struct {
-        const char* kind;
-        const char* category;
-        const char* client;
-        const char* item;
-        const char* price;
-        const char* quantity;
-        const char* stock;
-        const char* itemCategory;
-        const char* capitated;
-        const char* revType;
+        const char *kind, *category, *client, *item, *price, *quantity, *stock, *itemCategory, *capitated, *revType;
         QString fallback;
     } cases[] = {
         {"DRUG", "HMO", "0201", "PARACETAMOL 500MG", "40.00", "0", "500", "TABLETS", "YES", "DRUGS", {}},
@@ -105,10 +96,7 @@ TEST_P(Tariff, AdjustmentKnowsFewerClientsAndKinds) {
 
 TEST_P(Tariff, CapitationHoldsOnlyForCapitatedClients) {
     const struct {
-        const char* category;
-        const char* feeForService;
-        const char* flag;
-        const char* verified;
+        const char *category, *feeForService, *flag, *verified;
     } cases[] = {{"HMO", "NO", "YES", "YES"},    {"NHIS", "NO", "YES", "YES"}, {"PHIS", "NO", "YES", "YES"},
                  {"HMO", "YES", "YES", "NO"},    {"HMO", "NO", "", "NO"},      {"HMO", "NO", "NO", "NO"},
                  {"PRIVATE", "NO", "YES", "NO"}, {"MTHLY", "NO", "YES", "NO"}};
