@@ -2,14 +2,6 @@
 
 namespace orvane {
 
-namespace {
-
-QVariant nullIfEmpty(const QString& text) {
-    return text.isEmpty() ? QVariant() : text;
-}
-
-} // namespace
-
 void addItem(Books& books, const BillItem& item) {
     Recordset row(books.connection, Sql("select * from billAccum where 1=2"));
     row.addNew();

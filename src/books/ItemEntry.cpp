@@ -94,7 +94,7 @@ Given<Saved> addToVisit(Books& books, const EnteredItems& entered) {
             BillItem item = itemOf(entered, typed);
             item.capitated = mayBeCapitated(entered) ? typed.capitated : "NO";
             item.billed = typed.capitated == "NO" || !isCapitatedCategory(entered.category);
-            const qlonglong sno = addItem(books, item);
+            addItem(books, item);
             audit(books, entered, "insert BillAccum Item for ", item);
             if (!item.billed)
                 return std::nullopt;
