@@ -136,15 +136,21 @@ void refreshBillFromLines(Books& books, const QString& billNo) {
         updateBillAmount(books, billNo, 0);
 }
 
-double refreshBillAmountPaid(Books& books, const QString& billNo) {
-    const Recordset payments(books.connection,
+std::optional<double> sumOfPayments(Connection& connection, const QString& billNo) {
+    const Recordset payments(connection,
                              Sql("select  BillNo,sum(AmountPaid) as AmountPaid from payments where billno='")
                                  << billNo << "' group by BillNo");
     if (payments.eof())
-        return 0;
-    const double paid = round2(payments.number("AmountPaid"));
-    books.connection.execute(Sql("update  billing set AmountPaid= ") << paid << " where billno = '" << billNo << "'");
-    return paid;
+        return std::nullopt;
+    return round2(payments.number("AmountPaid"));
+}
+
+double refreshBillAmountPaid(Books& books, const QString& billNo) {
+    const std::optional<double> paid = sumOfPayments(books.connection, billNo);
+    if (paid)
+        books.connection.execute(Sql("update  billing set AmountPaid= ")
+                                 << *paid << " where billno = '" << billNo << "'");
+    return paid.value_or(0);
 }
 
 int isPaidFlag(double paid, double billed) {

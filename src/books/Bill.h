@@ -50,6 +50,9 @@ std::optional<double> refreshBillTotal(Books& books, const QString& billNo);
 /// which may say that the bill is capitated.
 void refreshBillFromLines(Books& books, const QString& billNo);
 
+/// What the bill's Payments come to, in naira; none without a payment.
+std::optional<double> sumOfPayments(Connection& connection, const QString& billNo);
+
 /// Makes Billing.AmountPaid the sum of the bill's Payments and gives that sum in naira; without a payment it changes
 /// nothing and gives 0.
 double refreshBillAmountPaid(Books& books, const QString& billNo);

@@ -117,9 +117,7 @@ void frmReceiptTemp::loadBill(const QString& billNo) {
     }
     txtDiag.setText(diagnosisOfVisit(connection, billNo));
     lblClinic2.setText(clinicOfVisit(connection, billNo));
-    // In the gate, or a receipt of another workstation could come between the sum and the bill.
-    const double paid = *program.desk().save<double>(
-        "REFRESH", [&](Books& books) -> Given<double> { return refreshBillAmountPaid(books, billNo); });
+    const double paid = refreshPaid(billNo);
     lblDep.setText(formatTwoDecimals(paid));
     txtEmp.setText(formatTwoDecimals((bill.eof() ? 0 : bill.number("amountbilled")) - paid));
     // Only now: a bill that a fault left half read takes no money.
@@ -127,6 +125,22 @@ void frmReceiptTemp::loadBill(const QString& billNo) {
         return;
     m_billNo = bill.text("billno");
     m_pno = bill.text("pno");
+}
+
+/// What was paid on the bill, in naira, which its row repeats from now on. That the row could not be brought in step is
+/// not shown: what was summed up is the answer, and the next look heals the row.
+double frmReceiptTemp::refreshPaid(const QString& billNo) {
+    double reached = 0;
+    try {
+        // In the gate, or a receipt of another workstation could come between the sum and the bill.
+        program.desk().save<Saved>("REFRESH", [&](Books& books) -> Given<Saved> {
+            reached = sumOfPayments(books.connection, billNo).value_or(0);
+            refreshBillAmountPaid(books, billNo);
+            return Saved{};
+        });
+    } catch (const DataError&) {
+    }
+    return reached;
 }
 
 void frmReceiptTemp::clearBill() {

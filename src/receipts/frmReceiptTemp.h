@@ -20,6 +20,7 @@ private:
     void cmdInv_Click();
     void cboVehNo_Click();
     void loadBill(const QString& billNo);
+    double refreshPaid(const QString& billNo);
     void clearBill();
     void loadGrid(const Sql& which);
     void loadToday();
