@@ -64,7 +64,11 @@ void frmRecordsOffline::saveNew() {
                  return now.isValid();
              },
          .step = [this, &now](Books& books) { return enterVisit(books, visitInHand(), now, sReferralConsultID); },
-         .follow = [this](const QString&) { afterSave("Record Succesfully saved"); },
+         .follow =
+             [this](const QString& consultID) {
+                 lblBill.setText(consultID); // another workstation may have taken the one that was shown
+                 afterSave("Record Succesfully saved");
+             },
          .refused = [this](Refusal) { refuseDuplicate(); }});
 }
 
