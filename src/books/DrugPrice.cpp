@@ -21,13 +21,16 @@ Given<Saved> changeDrugPrice(Books& books, const DrugPrice& price) {
 
 void takePriceLoad(Books& books) {
     Recordset drugs(books.connection, Sql("select * from drugs where 1=2"));
+    int taken = 0;
     for (Recordset load(books.connection, Sql("select * from drugsxxx")); !load.eof(); load.moveNext()) {
         drugs.addNew();
         for (const char* column : {"drgName", "drgCatName", "qtyPerUnit", "Cost"})
             drugs.set(column, load.value(QString(column)));
         drugs.update();
+        ++taken;
     }
-    books.record("PRICE LOAD", 0);
+    if (taken > 0)
+        books.record(QStringLiteral("%1 drugs").arg(taken), 0);
 }
 
 } // namespace orvane
