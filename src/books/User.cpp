@@ -16,6 +16,9 @@ Given<Saved> addUser(Books& books, const User& user) {
     account.set("AccountStatus", user.status);
     account.set("BranchCode", user.branch);
     account.update();
+    if (!user.empID.isEmpty())
+        books.connection.execute(Sql("update ApplicationUsers set EmpID='")
+                                 << user.empID << "' where Username = '" << user.name << "'");
     books.record(user.name, 0);
     return Saved{};
 }

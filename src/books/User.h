@@ -11,6 +11,7 @@ struct User {
     QString password; ///< as it was typed: the log-on compares the scrambled form, which is given by other means
     QString status;   ///< "Enabled" or "Disabled"
     QString branch;
+    QString empID = {}; ///< his number among the employees
 };
 
 /// Refuses a name that somebody bears: no account is ever changed by this.

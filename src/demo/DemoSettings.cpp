@@ -1,6 +1,6 @@
 #include "data/rows/Transaction.h"
 #include "demo/DemoParts.h"
-#include "session/Users.h"
+#include "books/NewUser.h"
 
 namespace orvane {
 
@@ -183,7 +183,7 @@ void makeUsers(Connection& billing) {
         account.accounts = user.accounts;
         account.password = "halden";
         account.branch = "IKEJA";
-        addUser(billing, account);
+        admitUser(billing, account);
     }
 }
 

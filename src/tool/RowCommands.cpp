@@ -1,6 +1,6 @@
 // What adds rows: load and user add.
 #include "data/rows/SharedTables.h"
-#include "session/Users.h"
+#include "books/NewUser.h"
 #include "tool/Command.h"
 #include "tool/CsvLoad.h"
 #include "tool/Password.h"
@@ -56,7 +56,7 @@ int userAddCommand(Call& call) {
         throw UsageError{"--role is needed."};
     Workplace workplace(call.required("home"));
     Connection billing = workplace.program().openBilling();
-    addUser(billing, user);
+    admitUser(billing, user);
     call.out << "The user " << user.name << " is added.\n";
     return Done;
 }
