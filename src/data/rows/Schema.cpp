@@ -58,7 +58,10 @@ QStringList indexesOf(Engine engine, const QString& database) {
 
 /// On a server the audit trail's table is part of the billing database.
 QStringList partsOf(Engine engine, const QString& database) {
-    return database == "billing" && engine != Engine::Sqlite ? QStringList{database, "audit"} : QStringList{database};
+    QStringList parts(database);
+    if (database == "billing" && engine != Engine::Sqlite)
+        parts << "audit";
+    return parts;
 }
 
 bool isView(const QString& statement) {
