@@ -1,51 +1,71 @@
 #pragma once
 
+#include "books/BillInHand.h"
 #include "books/Desk.h"
 #include "support/Hospital.h"
+#include "support/Rows.h"
 #include "support/TestHome.h"
 
 namespace orvane {
 
-/// A test of rules on the rows of layHospital, without a screen, on each engine.
+/// Rules on the rows of layHospital without any screen, for the patient P/0001 and his visit, on each engine.
 class BooksTest : public EngineTest {
-protected:
+public:
+    static constexpr const char* billNo = "001OFL0000001";
+
     void SetUp() override {
         Connection accounting = data.open(TestHome::accounting());
         layHospital(billing, accounting);
+        makePatient(billing);
+        makeVisit(billing);
     }
 
-    /// Saves as every desk does: "saved", or the words of the refusal.
+    /// Saves as every desk does.
     template <typename T>
-    QString save(const std::function<Given<T>(Books&)>& step) {
-        const Given<T> given = desk.save<T>("TEST", [&](Books& books) {
-            const Given<T> result = step(books);
-            recorded = books.document() + '|' + QString::number(books.amount());
-            return result;
-        });
-        return given ? "saved" : refusalText(given.refusal());
+    Given<T> save(const std::function<Given<T>(Books&)>& step) {
+        return Desk(data, TestHome::billing(), context)
+            .save<T>(
+                "TEST",
+                [&](Books& books) {
+                    const Given<T> given = step(books);
+                    recorded = books.document() + '|' + QString::number(books.amount());
+                    return given;
+                });
     }
-    /// The cells of the first row.
-    QString row(const QString& tsql) {
-        const Recordset found = billing.run(tsql);
-        QStringList cells;
-        for (int column = 0; !found.eof() && column < found.columns().size(); ++column)
-            cells << found.text(column);
-        return cells.join('|');
+    void run(const QString& tsql) { billing.run(tsql); }
+    QString rows(const QString& tsql) { return rowsOf(billing, tsql); }
+    QString lines() { return rows("select drgName, SubTotal from BillingDetails order by SNo"); }
+    QString account() { return rows("select Amount, RunningTotal, Remarks from Tranxaction order by SNo"); }
+    /// A bill and its visit as if they had never been, the patient owing nothing.
+    void strike() {
+        for (const char* table : {"BillAccum", "Billing", "BillingDetails", "BillingDetailsAdjust", "Tranxaction",
+                                  "Payments", "PaymentDetails", "hDebtReview"})
+            run(QStringLiteral("delete from %1").arg(table));
+        run("update hPatients set DebtBF=0");
+    }
+    void moveVisit(const QString& category, const QString& client, const QString& referal = "NO") {
+        run(QStringLiteral("update hRecords set clientCat='%1', coyName='%2', referal='%3'")
+                .arg(category, client, referal));
+    }
+    BillInHand visit(const QString& category = "PRIVATE", const QString& client = "0001") const {
+        return {.consultID = billNo,
+                .pno = "P/0001",
+                .patient = "ADEYEMI BOLA",
+                .retainID = client,
+                .retainCode = client,
+                .category = category,
+                .referal = "NO",
+                .billEndDay = 31};
     }
 
-    QString recorded; ///< document and amount of the last save
-    Desk desk{data,
-              TestHome::billing(),
-              {.actor = {.user = "amina.b", .empID = "E001", .workstation = "CASH-01"},
-               .settings = {.hospital = "001",
-                            .privateClient = "0001",
-                            .privateTariff = "0001",
-                            .suspenseAccount = "9999",
-                            .suspenseRevenue = "SUSPENSE",
-                            .nhisFeeBase = "ALL"},
-               .today = QDate(2026, 3, 14),
-               .now = QTime(9, 30),
-               .audit = {}}};
+    QString recorded;    ///< document and amount of the last save
+    QStringList audited; ///< action, document, remarks
+    BookContext context{
+        .actor = {"amina.b", "E001", "WS1"},
+        .settings = {"001", "0001", "0001", "9999", "SUSPENSE", "ALL"},
+        .today = QDate(2026, 3, 14),
+        .now = QTime(9, 30),
+        .audit = [this](const AuditEntry& e) { audited << e.action + '|' + e.document + '|' + e.remarks; }};
 };
 
 } // namespace orvane

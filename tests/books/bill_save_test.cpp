@@ -1,4 +1,4 @@
-#include "BillingBooksTest.h"
+#include "BooksTest.h"
 
 #include "books/BillDate.h"
 #include "books/BillSave.h"
@@ -6,10 +6,9 @@
 #include "books/Fees.h"
 
 namespace orvane {
-
 namespace {
 
-class BillSave : public BillingBooksTest {
+class BillSave : public BooksTest {
 protected:
     void collate() {
         save<double>([&](Books& books) { return collateBillItems(books, visit()); });
@@ -39,7 +38,6 @@ protected:
         });
     }
 };
-
 ORVANE_ON_EACH_ENGINE(BillSave);
 
 /// How a receipt spreads over the lines of a bill.
@@ -53,16 +51,8 @@ TEST_P(BillSave, ReceiptOverTheLines) {
     } cases[] = {
         {"partial", {1000, 2000}, 1500, "A|1000|1000\nB|500|2000", "A|1\nB|1"},
         {"the first line takes it", {1000, 2000}, 1000, "A|1000|1000", "A|1\nB|0"},
-        {"more than the bill",
-         {1000, 2000},
-         3500.25,
-         "A|1000|1000\nB|2000|2000\nBALANCE_PAYMENT|500.25|500.25",
-         "A|1\nB|1"},
-        {"kobo leave no crumbs",
-         {100.1, 200.2, 300.3},
-         600.60,
-         "A|100.1|100.1\nB|200.2|200.2\nC|300.3|300.3",
-         "A|1\nB|1\nC|1"},
+        {"more", {1000, 20}, 1520.25, "A|1000|1000\nB|20|20\nBALANCE_PAYMENT|500.25|500.25", "A|1\nB|1"},
+        {"no crumbs", {0.1, 200.2, 0.3}, 200.6, "A|0.1|0.1\nB|200.2|200.2\nC|0.3|0.3", "A|1\nB|1\nC|1"},
         {"kobo of kobo", {33.335, 66.671}, 100.01, "A|33.34|33.34\nB|66.67|66.67", "A|1\nB|1"},
         {"no lines", {}, 800, "DEPOSIT_PAYMENT|800|800", ""},
     };
@@ -90,11 +80,11 @@ TEST_P(BillSave, BillWithoutLinesKeepsItsAmount) {
         run(QString("insert into Billing (billNo, Amountbilled, AmountBIlledInWord) values ('001OFL0000001',250,'%1')")
                 .arg(c.words));
         saveIt();
-        EXPECT_EQ(bill(), c.kept);
+        EXPECT_EQ(rows("select Amountbilled, AmountBIlledInWord from Billing"), c.kept);
     }
     makeItem(billing);
     saveIt();
-    EXPECT_EQ(bill(), "50|FIFTY NAIRA") << "the lines win";
+    EXPECT_EQ(rows("select Amountbilled, AmountBIlledInWord from Billing"), "50|FIFTY NAIRA") << "the lines win";
 }
 
 /// What was changed since the bill was read is not overwritten.
@@ -105,7 +95,6 @@ TEST_P(BillSave, RefusedWhenTheVisitIsAnotherOne) {
         Refusal refusal;
     } cases[] = {
         {"insert into Billing (billNo, isProcess) values ('001OFL0000001',1)", Refusal::BillProcessed},
-        {"update Billing set isProcess=0", Refusal::VisitChanged}, // by the next ones
         {"update hRecords set coyName='0102'", Refusal::VisitChanged},
         {"update hRecords set coyName='0001', PNo='P/0002'", Refusal::VisitChanged},
         {"delete from hRecords", Refusal::VisitChanged},
@@ -113,9 +102,8 @@ TEST_P(BillSave, RefusedWhenTheVisitIsAnotherOne) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.change);
         run(c.change);
-        if (QString(c.change).contains("isProcess=0"))
-            continue;
         const Given<Saved> saved = saveIt(700);
+        run("delete from Billing");
         ASSERT_FALSE(saved);
         EXPECT_EQ(saved.refusal(), c.refusal);
         EXPECT_EQ(scalar("select count(*) from Payments") + lines(), "0");
@@ -191,5 +179,4 @@ TEST(BillDate, RuleByRule) {
 }
 
 } // namespace
-
 } // namespace orvane

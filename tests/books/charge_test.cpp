@@ -1,5 +1,5 @@
 // What a line has charged goes back to the account that bore it, whoever the line names when it goes or changes.
-#include "BillingBooksTest.h"
+#include "BooksTest.h"
 
 #include "books/Adjustment.h"
 #include "books/Bill.h"
@@ -10,10 +10,9 @@
 #include "data/words/Money.h"
 
 namespace orvane {
-
 namespace {
 
-class Charge : public BillingBooksTest {
+class Charge : public BooksTest {
 public:
     /// The item as it stands.
     ItemChange item() {
@@ -47,72 +46,54 @@ public:
     void adjust(const ItemChange& change, bool capitated, const QString& billTo) {
         save<Saved>([&](Books& books) { return adjustItem(books, {change, capitated, "DRUGS", billTo, "X"}); });
     }
+    /// Does to the item what a screen of this name does. `payer`: whom it names; empty: nobody else.
+    void act(const QString& screen, const ItemChange& change, const QString& payer, const QString& client) {
+        save<Saved>([&](Books& books) -> Given<Saved> {
+            if (screen == "split")
+                return splitPayer(books, change, payer);
+            if (screen == "custom")
+                return customiseLine(books, change, "HEAD", payer);
+            if (screen == "remove")
+                return removeItem(books, change);
+            if (screen == "capitate all")
+                return capitateBill(books, inHand(client));
+            if (screen != "none")
+                return adjustItem(books, {change, screen == "capitate", "DRUGS", payer, "X"});
+            return Saved{};
+        });
+    }
 };
-
 ORVANE_ON_EACH_ENGINE(Charge);
 
 TEST_P(Charge, GoesBackToWhoBoreIt) {
-    const struct {
-        const char* name;
-        void (*change)(Charge&, const QString& payer);
-        bool moves; ///< the charge moves with the payer
-    } changes[] = {
-        {"none", [](Charge&, const QString&) {}, true},
-        {"split",
-         [](Charge& at, const QString& payer) {
-             at.save<Saved>([&](Books& books) { return splitPayer(books, at.item(), payer); });
-         },
-         false},
-        {"custom",
-         [](Charge& at, const QString& payer) {
-             at.save<Saved>([&](Books& books) { return customiseLine(books, at.item(), "HEAD", payer); });
-         },
-         true},
-        {"adjust", [](Charge& at, const QString& payer) { at.adjust(at.item(), false, payer); }, true},
-    };
-    const struct {
-        const char* name;
-        void (*end)(Charge&, const QString& client);
-        double amount; ///< naira that are left on the bill
-    } ends[] = {
-        {"removed",
-         [](Charge& at, const QString&) { at.save<Saved>([&](Books& books) { return removeItem(books, at.item()); }); },
-         0},
-        {"capitated all",
-         [](Charge& at, const QString& client) {
-             at.save<Saved>([&](Books& books) { return capitateBill(books, at.inHand(client)); });
-         },
-         0},
-        {"adjusted to capitated", [](Charge& at, const QString&) { at.adjust(at.item(), true, {}); }, 0},
-        {"amount changed", [](Charge& at, const QString&) { at.adjust(at.priced(1500.5), false, {}); }, 1500.5},
-        {"amount customised",
-         [](Charge& at, const QString&) {
-             at.save<Saved>([&](Books& books) { return customiseLine(books, at.priced(1500.5), "HEAD", {}); });
-         },
-         1500.5},
-    };
+    const std::pair<const char*, bool> changes[] = {{"none", true},
+                                                    {"split", false},
+                                                    {"custom", true},
+                                                    {"adjust", true}}; // whether the charge moves with the payer
+    const std::pair<const char*, double> ends[] = {
+        {"remove", 0}, {"capitate all", 0}, {"capitate", 0}, {"adjust", 1500.5}, {"custom", 1500.5}}; // what is left
     for (const char* client : {"0001", "0201"})
-        for (const auto& change : changes)
-            for (const auto& end : ends)
+        for (const auto& [change, moves] : changes)
+            for (const auto& [end, left] : ends)
                 for (bool known : {true, false}) {
-                    SCOPED_TRACE(std::string(client) + ", " + change.name + ", " + end.name +
+                    SCOPED_TRACE(std::string(client) + ", " + change + ", " + end +
                                  (known ? "" : ", billed before Charged was kept"));
                     layBilled(client);
                     if (!known)
                         run("update BillingDetails set Charged=null");
                     const QString other = QString(client) == "0001" ? "0201" : "0001";
-                    const QString payer = QString(change.name) == "none" ? QString(client) : other;
-                    change.change(*this, payer);
+                    const QString payer = QString(change) == "none" ? QString(client) : other;
+                    act(change, item(), payer, client);
                     EXPECT_EQ(scalar("select billTo from BillingDetails"), payer);
                     EXPECT_EQ(scalar("select isnull(sum(Amount),0) from Tranxaction"),
-                              (change.moves ? payer : QString(client)) == "0001" ? "-1000" : "0");
-                    if (QString(change.name) == "adjust")
+                              (moves ? payer : QString(client)) == "0001" ? "-1000" : "0");
+                    if (QString(change) == "adjust")
                         EXPECT_EQ(scalar("select billTo from BillAccum"), payer) << "item and line agree";
-                    end.end(*this, client);
-                    const double borne = payer == "0001" ? -end.amount : 0;
+                    act(end, left > 0 ? priced(left) : item(), {}, client);
+                    const double borne = payer == "0001" ? 0 - left : 0;
                     EXPECT_EQ(scalar("select isnull(sum(Amount),0) from Tranxaction").toDouble(), borne);
                     EXPECT_EQ(scalar("select DebtBF from hPatients").toDouble(), borne);
-                    EXPECT_EQ(scalar("select Amountbilled from Billing").toDouble(), end.amount);
+                    EXPECT_EQ(scalar("select Amountbilled from Billing").toDouble(), left);
                     EXPECT_EQ(scalar("select isnull(sum(Charged),0) from BillingDetails").toDouble(), -borne);
                 }
 }
@@ -178,5 +159,4 @@ TEST_P(Charge, DiscountMovesTheBillAlone) {
 }
 
 } // namespace
-
 } // namespace orvane

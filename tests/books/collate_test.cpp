@@ -1,16 +1,14 @@
-#include "BillingBooksTest.h"
+#include "BooksTest.h"
 
 #include "books/Bill.h"
 #include "books/BillSave.h"
 #include "books/BillSummary.h"
 #include "books/Collate.h"
-#include "books/PatientAccount.h"
 
 namespace orvane {
-
 namespace {
 
-class Collation : public BillingBooksTest {
+class Collation : public BooksTest {
 protected:
     Given<double> collate(const BillInHand& bill) {
         return save<double>([&](Books& books) { return collateBillItems(books, bill); });
@@ -19,38 +17,30 @@ protected:
         save<Saved>([&](Books& books) { return saveBill(books, {bill, context.today, {}, {}, {}, std::nullopt}); });
     }
 };
-
 ORVANE_ON_EACH_ENGINE(Collation);
 
 /// What becomes of one item: its line, its charge and its flags after the collation, and after the save.
 TEST_P(Collation, ItemByClientAndState) {
     const struct {
-        const char* name;
-        const char *category, *client, *referal, *item;
+        const char *name, *category, *client, *referal, *item;
         double price;
         const char* capitated;
         int attended;
-        const char *line, *charge, *flags; ///< flags: attendedto, isBilled, Capitated
-        const char *savedLine, *savedFlags;
+        const char *line, *charge, *flags, *savedLine, *savedFlags; ///< flags: attendedto, isBilled, Capitated
     } cases[] = {
-        {"private", "PRIVATE", "0001", "NO", "DRESSING", 500, "YES", 0, "DRESSING|500", "-500", "1|1|NO",
-         "DRESSING|500", "1|1|NO"},
-        {"company", "MTHLY", "0102", "NO", "DRESSING", 500, "", 0, "DRESSING|500", "", "1|1|NO", "DRESSING|500",
-         "1|1|NO"},
-        {"capitated item", "HMO", "0201", "NO", "DRESSING", 500, "YES", 0, "", "", "0|0|YES", "", "1|1|YES"},
-        {"charged item waits for the save", "NHIS", "0301", "NO", "DRESSING", 500, "NO", 0, "", "", "0|0|NO",
-         "DRESSING|500", "1|1|NO"},
-        {"charged item taken in before", "PHIS", "0301", "NO", "DRESSING", 500, "NO", 1, "DRESSING|500", "", "1|1|NO",
-         "DRESSING|500", "1|1|NO"},
-        {"fee for service", "HMO", "0201", "YES", "DRESSING", 500, "YES", 0, "DRESSING|500", "", "1|1|NO",
-         "DRESSING|500", "1|1|NO"},
-        {"carried debt", "PRIVATE", "0001", "NO", "PREVIOUS DEBT", 500, "NO", 0, "PREVIOUS DEBT|500", "", "1|1|NO",
-         "PREVIOUS DEBT|500", "1|1|NO"},
-        {"carried credit", "PRIVATE", "0001", "NO", "PREVIOUS CREDIT", -500, "NO", 0, "", "", "0|0|NO",
-         "PREVIOUS CREDIT|-500", "1|1|NO"},
-        {"carried credit without a flag", "HMO", "0201", "NO", "PREVIOUS CREDIT", -500, "", 0, "", "", "0|0|",
-         "PREVIOUS CREDIT|-500", "1|1|NO"},
-        {"no price", "PRIVATE", "0001", "NO", "DRESSING", 0, "NO", 0, "", "", "0|0|NO", "", "1|1|NO"},
+        {"private", "PRIVATE", "0001", "NO", "X", 5, "YES", 0, "X|5", "-5", "1|1|NO", "X|5", "1|1|NO"},
+        {"company", "MTHLY", "0102", "NO", "X", 5, "", 0, "X|5", "", "1|1|NO", "X|5", "1|1|NO"},
+        {"capitated item", "HMO", "0201", "NO", "X", 5, "YES", 0, "", "", "0|0|YES", "", "1|1|YES"},
+        {"waits for the save", "NHIS", "0301", "NO", "X", 5, "NO", 0, "", "", "0|0|NO", "X|5", "1|1|NO"},
+        {"taken in before", "PHIS", "0301", "NO", "X", 5, "NO", 1, "X|5", "", "1|1|NO", "X|5", "1|1|NO"},
+        {"fee for service", "HMO", "0201", "YES", "X", 5, "YES", 0, "X|5", "", "1|1|NO", "X|5", "1|1|NO"},
+        {"carried debt", "PRIVATE", "0001", "NO", "PREVIOUS DEBT", 5, "NO", 0, "PREVIOUS DEBT|5", "", "1|1|NO",
+         "PREVIOUS DEBT|5", "1|1|NO"},
+        {"carried credit", "PRIVATE", "0001", "NO", "PREVIOUS CREDIT", -5, "NO", 0, "", "", "0|0|NO",
+         "PREVIOUS CREDIT|-5", "1|1|NO"},
+        {"carried credit without a flag", "HMO", "0201", "NO", "PREVIOUS CREDIT", -5, "", 0, "", "", "0|0|",
+         "PREVIOUS CREDIT|-5", "1|1|NO"},
+        {"no price", "PRIVATE", "0001", "NO", "X", 0, "NO", 0, "", "", "0|0|NO", "", "1|1|NO"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -59,7 +49,6 @@ TEST_P(Collation, ItemByClientAndState) {
         makeItem(billing, {.name = c.item, .client = c.client, .price = c.price, .capitated = c.capitated});
         run(QStringLiteral("update BillAccum set attendedto=%1").arg(c.attended));
         const BillInHand bill = visit(c.category, c.client);
-
         EXPECT_EQ(needsCollation(billing, bill), *c.line != '\0');
         collate(bill);
         EXPECT_EQ(lines(), c.line);
@@ -71,7 +60,7 @@ TEST_P(Collation, ItemByClientAndState) {
         EXPECT_EQ(scalar("select Amount from Tranxaction"), c.charge) << "a carried balance is in the account already";
         EXPECT_EQ(rows("select attendedto, isBilled, Capitated from BillAccum"), c.savedFlags);
         EXPECT_EQ(scalar("select Amountbilled from Billing"),
-                  QString(c.savedLine).section('|', 1).isEmpty() ? QString("0") : QString(c.savedLine).section('|', 1));
+                  *c.savedLine ? QString(c.savedLine).section('|', 1) : "0");
     }
 }
 
@@ -80,7 +69,6 @@ TEST_P(Collation, LineBearsTheItemAndTheAccountRuns) {
     makeItem(billing, {.name = "MALARIA PARASITE", .billType = "LAB", .revType = "LABORATORY", .price = 1500.2});
     const qlonglong second = makeItem(billing, {.price = 50, .qty = 6});
     run("update BillAccum set usage='2 TDS', conID=7 where SNo=" + QString::number(second));
-
     EXPECT_EQ(*collate(visit()), 1800.2);
     EXPECT_EQ(account(), "-0.1|-0.1|X\n-1500.2|-1500.3|MALARIA PARASITE\n-300|-1800.3|PARACETAMOL 500MG");
     EXPECT_EQ(scalar("select DebtBF from hPatients"), "-1800.3");
@@ -88,7 +76,7 @@ TEST_P(Collation, LineBearsTheItemAndTheAccountRuns) {
                    "revType, BillBy, Charged from BillingDetails where SNo=" +
                    QString::number(second)),
               "2026-03-14|001OFL0000001|PARACETAMOL 500MG|50|6|300|DRUG|7|2 TDS|0001|0001|DRUGS|amina.b|300");
-    EXPECT_EQ(audited.last(), "insert Bill Item for ADEYEMI BOLA|PARACETAMOL 500MG: 300.00");
+    EXPECT_EQ(audited.last(), "insert Bill Item for ADEYEMI BOLA|001OFL0000001|PARACETAMOL 500MG: 300.00");
     collate(visit());
     EXPECT_EQ(scalar("select count(*) from Tranxaction"), "3") << "a second collation charged again";
 }
@@ -96,8 +84,10 @@ TEST_P(Collation, LineBearsTheItemAndTheAccountRuns) {
 TEST_P(Collation, RepairsRowsAndDropsEmptyLines) {
     makeItem(billing);
     collate(visit());
-    const QString sound = rows("select b.coyName, b.billTo, d.BillType, h.coyName from BillAccum b, BillingDetails d, "
-                               "hRecords h");
+    const auto found = [&] {
+        return rows("select b.coyName, b.billTo, d.BillType, h.coyName from BillAccum b, BillingDetails d, hRecords h");
+    };
+    const QString sound = found();
     for (const char* lack : {"update BillAccum set coyName=null", "update BillAccum set billTo=null",
                              "update hRecords set coyName=null", "update BillingDetails set BillType=''"}) {
         SCOPED_TRACE(lack);
@@ -105,10 +95,7 @@ TEST_P(Collation, RepairsRowsAndDropsEmptyLines) {
         EXPECT_TRUE(needsCollation(billing, visit()));
         collate(visit());
         EXPECT_FALSE(needsCollation(billing, visit()));
-        EXPECT_EQ(rows("select b.coyName, b.billTo, d.BillType, h.coyName from BillAccum b, BillingDetails d, "
-                       "hRecords h")
-                      .replace("SERVICE", "DRUG"),
-                  sound);
+        EXPECT_EQ(found().replace("SERVICE", "DRUG"), sound);
     }
     run("update BillingDetails set SubTotal=0, Charged=0");
     EXPECT_TRUE(needsCollation(billing, visit()));
@@ -116,21 +103,11 @@ TEST_P(Collation, RepairsRowsAndDropsEmptyLines) {
     EXPECT_EQ(lines(), "");
 }
 
-TEST_P(Collation, AllItemsOrNone) {
+TEST_P(Collation, ProcessedBillTakesNoItem) {
     makeItem(billing, {.name = "FIRST"});
-    makeItem(billing, {.name = "SECOND"});
-    data.setStatementHook([](const QString& tsql) {
-        if (tsql.contains("hPatients set DebtBF"))
-            throw DataError("disk full");
-    });
-    EXPECT_THROW(collate(visit()), DataError);
-    data.setStatementHook({});
-    EXPECT_EQ(lines() + account(), "");
     run("insert into Billing (billNo, PNo, isProcess) values ('001OFL0000001','P/0001',1)");
     EXPECT_EQ(collate(visit()).refusal(), Refusal::BillProcessed);
-    run("delete from Billing");
-    collate(visit());
-    EXPECT_EQ(account(), "-50|-50|FIRST\n-50|-100|SECOND");
+    EXPECT_EQ(lines() + account(), "");
 }
 
 /// The summary heals a bill by its lines and receipts, and leaves the total of a processed one.
@@ -159,24 +136,10 @@ TEST_P(Collation, SummaryByWhatIsThere) {
         const Given<BillFigures> figures =
             save<BillFigures>([&](Books& books) { return saveBillSummary(books, billNo, "P/0001"); });
         EXPECT_EQ(rows("select Amountbilled, AmountPaid from Billing"), c.bill);
-        EXPECT_EQ(figures->billed, c.billed);
-        EXPECT_EQ(figures->paid, c.paid);
-        EXPECT_EQ(figures->generated, c.generated);
+        EXPECT_EQ((QList{figures->billed, figures->paid, figures->generated}), (QList{c.billed, c.paid, c.generated}));
     }
     EXPECT_EQ(rows("select PNo from Billing"), "P/0001");
 }
 
-TEST_P(Collation, AccountIsForThePrivateClientOnly) {
-    save<Saved>([](Books& books) -> Given<Saved> {
-        postPatientTran(books, {"P/0001", billNo, 1000.25, "0001", "Payment"});
-        postPatientTran(books, {"P/0001", billNo, -400, "0201", "HMO ITEM"});
-        postPatientTran(books, {"P/0001", billNo, -1000.25, "0001", "Payment"});
-        return Saved{};
-    });
-    EXPECT_EQ(account(), "1000.25|1000.25|Payment\n-1000.25|0|Payment");
-    EXPECT_EQ(scalar("select DebtBF from hPatients"), "0");
-}
-
 } // namespace
-
 } // namespace orvane

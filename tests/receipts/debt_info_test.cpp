@@ -1,14 +1,13 @@
-#include "ReceiptTest.h"
+#include "support/ScreenTest.h"
 
 #include <QProcess>
 
 namespace orvane {
-
 namespace {
 
-class DebtInfo : public ReceiptTest {
+class DebtInfo : public ScreenTest {
 protected:
-    DebtInfo() : ReceiptTest("frmDebtInfo") {}
+    DebtInfo() : ScreenTest("frmDebtInfo") {}
 
     /// The rows of the grid without their head.
     QStringList statement() { return ws.rows("frmDebtInfo.grdData").mid(1); }
@@ -48,16 +47,14 @@ protected:
         "3\t14/03/2026\t\tO'NEILL ADA\t00012/001\tMALARIA \U0001F600\t500.50\t.00\t(2,501)\t001OFL0000002\tPRIVATE "
         "PATIENTS"};
 };
-
 ORVANE_ON_EACH_ENGINE(DebtInfo);
 
 TEST_P(DebtInfo, FindsPatientsAndShowsTheWholeAccount) {
     layAccount();
     layVisit({.pno = "00013/001", .surname = "ONEX"}, {.consultID = "001OFL0000003", .pno = "00013/001"});
-    openScreen();
+    open();
     EXPECT_EQ(value("Label5"), "Debt Information");
-    click("cmdList");
-    EXPECT_BOXES(ui, {"Double Click a row to Get the Debt Info of a Patient"});
+    EXPECT_EQ(told("cmdList"), "Double Click a row to Get the Debt Info of a Patient");
     const struct {
         const char *kind, *text;
         QStringList found;
@@ -75,15 +72,14 @@ TEST_P(DebtInfo, FindsPatientsAndShowsTheWholeAccount) {
     }
     search("Name", "O");
     EXPECT_TRUE(statement().value(0).contains("\t(2,501)\t")) << statement().value(0).toStdString();
-    ws.row("frmDebtInfo.grdData", 0);
-    ws.dblClick("frmDebtInfo.grdData");
+    row("grdData", 0);
+    dblClick("grdData");
     EXPECT_EQ(value("Label5"), "Search for: O'NEILL ADA");
     EXPECT_EQ(statement(), account);
-    ws.dblClick("frmDebtInfo.grdData");
+    dblClick("grdData");
     EXPECT_EQ(statement(), account) << "a row of the statement is no patient";
     set("DTPicker1", "2026-03-15");
-    click("cmdList");
-    EXPECT_BOXES(ui, {"Please specify Attendance Date Range"});
+    EXPECT_EQ(told("cmdList"), "Please specify Attendance Date Range");
 }
 
 TEST_P(DebtInfo, ThePatientInHandIsShownSinceTheFirstVisit) {
@@ -91,7 +87,7 @@ TEST_P(DebtInfo, ThePatientInHandIsShownSinceTheFirstVisit) {
     ws.program.session.sBillPno = "00012/001";
     ws.program.session.sBillPatName = "O'NEILL ADA";
     ws.program.session.sDebtMode = "AUTO";
-    openScreen();
+    open();
     EXPECT_EQ(value("DTPicker1"), "2026-03-10");
     EXPECT_EQ(statement().size(), 3);
     set("DTPicker1", "2026-03-11");
@@ -132,7 +128,7 @@ TEST_P(DebtInfo, SummariesGiveWhatIsOwedAsPlus) {
     Connection connection = ws.billing();
     for (const auto& [pno, debt] : {std::pair("P/1", -100.0), {"P/2", 50.0}, {"P/3", 0.0}, {"P/4", -700.0}})
         makePatient(connection, {.pno = pno, .debt = debt});
-    openScreen();
+    open();
     click("cmdRpt");
     click("cmdDebtOnly");
     set("chkDebt", "yes");
@@ -153,9 +149,8 @@ QString workbookPart(const QString& file, const QString& part) {
 
 TEST_P(DebtInfo, ExportsWhatTheGridShows) {
     layAccount();
-    openScreen();
-    click("cmdExport");
-    EXPECT_BOXES(ui, {"No record is displayed for printing"});
+    open();
+    EXPECT_EQ(told("cmdExport"), "No record is displayed for printing");
     search("Name", "O");
     click("cmdList");
     click("cmdExport");
@@ -163,7 +158,6 @@ TEST_P(DebtInfo, ExportsWhatTheGridShows) {
     const QString file = ui.exports.first();
     EXPECT_EQ(file, ui.exportFolder() + "/Debt Info Search for O NEILL ADA 2026-03-14 09.30.00.xlsx");
     EXPECT_FALSE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther));
-
     const QString sheet = workbookPart(file, "xl/worksheets/sheet1.xml");
     EXPECT_TRUE(workbookPart(file, "xl/workbook.xml").contains("name=\"Sheet1\""));
     EXPECT_FALSE(sheet.contains("<f>")) << "no text may become a formula";
@@ -186,5 +180,4 @@ TEST_P(DebtInfo, ExportsWhatTheGridShows) {
 }
 
 } // namespace
-
 } // namespace orvane

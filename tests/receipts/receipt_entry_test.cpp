@@ -1,31 +1,29 @@
-#include "ReceiptTest.h"
+#include "support/ScreenTest.h"
 
 namespace orvane {
-
 namespace {
 
-class ReceiptEntry : public ReceiptTest {
+class ReceiptEntry : public ScreenTest {
 protected:
-    ReceiptEntry() : ReceiptTest("frmReceiptTemp") {}
+    ReceiptEntry() : ScreenTest("frmReceiptTemp") {}
 
     void begin(const QString& bill = billNo) {
-        ReceiptTest::begin(bill);
+        ScreenTest::begin(bill);
         set("cboPay", "CASH");
     }
-    void save() {
-        ReceiptTest::save();
+    void saved() {
+        save();
         EXPECT_BOXES(ui, {"Record Succesfully saved"});
     }
     void receive(const QString& amount) {
         begin();
         set("txtHt", amount);
-        save();
+        saved();
     }
     QString payments() {
         return rows("select ReceiptNo, Amountbilled, AmountPaid, PayType, Remarks from Payments order by SNo");
     }
 };
-
 ORVANE_ON_EACH_ENGINE(ReceiptEntry);
 
 const char* const noRefund =
@@ -46,7 +44,7 @@ TEST_P(ReceiptEntry, ListsBillsWithABalanceAndShowsTheirFigures) {
     ws.run("insert into Payments (ReceiptDate, ReceiptNo, billNo, PNo, Amountbilled, AmountPaid) values "
            "('2026-03-13','7','001OFL0000001','P/0001',4000.5,1000.25)");
     begin();
-    EXPECT_EQ(ws.items("frmReceiptTemp.cboVehNo"), (QStringList{"", "O'NEILL [JR] #2 =cmd [001OFL0000001]"}));
+    EXPECT_EQ(items("cboVehNo"), (QStringList{"", "O'NEILL [JR] #2 =cmd [001OFL0000001]"}));
     EXPECT_EQ(shown("Label5 txtBill lblDate lblCurr lblRct lblDep txtEmp lblClinic2"),
               "O'NEILL [JR] #2 =cmd|001OFL0000001|14/03/2026|4,000.50|XX|1,000.25|3,000.25|OPD");
     EXPECT_EQ(ws.scalar("select AmountPaid from Billing where billNo='001OFL0000001'"), "1000.25") << "it heals itself";
@@ -54,11 +52,10 @@ TEST_P(ReceiptEntry, ListsBillsWithABalanceAndShowsTheirFigures) {
                     .value(1)
                     .startsWith("13/03/2026\tO'NEILL [JR] #2 =cmd\t4,000.50\t1,000.25\t3,000.25\t\t7\t001OFL0000001\t"
                                 "PRIVATE PATIENTS\tP/0001"));
-
     set("DTPicker1", "2026-03-13");
     click("cmdInv");
-    EXPECT_EQ(ws.items("frmReceiptTemp.cboVehNo").size(), 3);
-    ws.pick("frmReceiptTemp.cboVehNo", 0);
+    EXPECT_EQ(items("cboVehNo").size(), 3);
+    pick("cboVehNo", 0);
     EXPECT_BOXES(ui, {"No Consultation No"});
     EXPECT_EQ(ws.program.session.gConsultID, "");
 }
@@ -72,13 +69,12 @@ TEST_P(ReceiptEntry, SavesWhatIsShown) {
     set("dtDate", "2026-03-13");
     // Another screen looks at another patient in between.
     ws.program.session.gConsultID = "001OFL0000099";
-    save();
+    saved();
     EXPECT_EQ(rows("select ReceiptDate, billNo, PNo, PaymentFor, AmountInWord from Payments"),
               "2026-03-13|001OFL0000001|P/0001|DRUGS'); delete from Payments; -- \U0001F600|ONE THOUSAND, FIVE HUNDRED "
               "NAIRA");
     EXPECT_EQ(payments() + '/' + bill(), "1|4000.5|1500|CASH|PAYMENT/4000.5|1500|0");
-    EXPECT_EQ(ws.value("frmCashReceipt.txtReceiptNo"), "1");
-    EXPECT_EQ(ws.value("frmCashReceipt.txtRecFrom"), "O'NEILL [JR] #2 BOLA");
+    EXPECT_EQ(ws.value("frmCashReceipt.txtReceiptNo") + ws.value("frmCashReceipt.txtRecFrom"), "1O'NEILL [JR] #2 BOLA");
     EXPECT_EQ(shown("txtHt lblRct cboCat"), "||GOODS PURCHASED");
     EXPECT_EQ(state("OKButton"), "visible disabled") << "a second press would take the money again";
 }
@@ -86,32 +82,32 @@ TEST_P(ReceiptEntry, SavesWhatIsShown) {
 TEST_P(ReceiptEntry, ChecksInOrder) {
     layVisit();
     layBill(4000.5);
-    openScreen();
+    open();
     click("cmdAdd");
     set("chkRev", "yes");
     EXPECT_BOXES(ui, {"No Patient is selected"});
     set("chkRev", "no");
-    expectRefusals({{"txtHt", "", "Please enter Amount Paid", "txtHt"},
-                    {"txtHt", "100", "Please enter Customer Name", "cboVehNo"},
-                    {"cboVehNo", "ADEYEMI", "Please enter Customer Name", "cboVehNo"}});
+    expectChecks({{"txtHt", "", "Please enter Amount Paid", "txtHt"},
+                  {"txtHt", "100", "Please enter Customer Name", "cboVehNo"},
+                  {"cboVehNo", "ADEYEMI", "Please enter Customer Name", "cboVehNo"}});
     pick("cboVehNo", billNo);
     set("cboPay", "");
-    expectRefusals({{"cboCat", "", "Please enter Payment Purpose", "cboCat"},
-                    {"cboCat", "DRUGS", "Please enter Payment type", "cboPay"}});
+    expectChecks({{"cboCat", "", "Please enter Payment Purpose", "cboCat"},
+                  {"cboCat", "DRUGS", "Please enter Payment type", "cboPay"}});
     set("cboPay", "CHEQUE");
-    expectRefusals({{"chkRev", "yes", noRecord, "grdData"}});
+    expectChecks({{"chkRev", "yes", noRecord, "grdData"}});
     set("chkRev", "no");
-    expectRefusals({{"txtHt", "abc", "Please enter Amount Paid", "txtHt"},
-                    {"txtHt", "-100", "Please enter Amount Paid"},
-                    {"txtHt", "1e400", "Please enter Amount Paid"},
-                    {"txtHt", " ", "Please enter Amount Paid"}});
+    expectChecks({{"txtHt", "abc", "Please enter Amount Paid", "txtHt"},
+                  {"txtHt", "-100", "Please enter Amount Paid"},
+                  {"txtHt", "1e400", "Please enter Amount Paid"},
+                  {"txtHt", " ", "Please enter Amount Paid"}});
     set("txtHt", "0");
-    expectRefusals({{"dtDate", "", "Please enter Receipt Date", "dtDate"}});
+    expectChecks({{"dtDate", "", "Please enter Receipt Date", "dtDate"}});
     set("dtDate", "2026-03-14");
     ui.answer(false);
     click("OKButton");
     EXPECT_QUESTIONS(ui, {"Are you sure to save?"});
-    save();
+    saved();
     EXPECT_EQ(payments(), "1|4000.5|0|CHEQUE|PAYMENT") << "nothing is an amount on this screen";
 }
 
@@ -122,7 +118,7 @@ TEST_P(ReceiptEntry, AnOverpaidBillTakesNoMore) {
     receive("1200");
     begin();
     EXPECT_EQ(value("txtEmp"), "-200.00");
-    expectRefusals({{"txtHt", "10", noRefund}, {"chkRev", "yes", noRecord}, {"txtHt", "-200", noRecord}});
+    expectChecks({{"txtHt", "10", noRefund}, {"chkRev", "yes", noRecord}, {"txtHt", "-200", noRecord}});
     EXPECT_EQ(payments(), "1|1000|1200|CASH|PAYMENT");
 }
 
@@ -134,13 +130,13 @@ TEST_P(ReceiptEntry, ReversalUndoesAReceiptExactly) {
     set("cboPay", "CHEQUE");
     set("dtDate", "2026-03-13");
     set("txtHt", "500");
-    save();
+    saved();
     ui.opened.clear();
 
     // A receipt of another day is found through its bill. Cancelled, its date does not stay.
     for (bool cancelled : {true, false}) {
         begin();
-        ws.row("frmReceiptTemp.grdData", "2");
+        row("grdData", "2");
         click("cmdRev");
         if (!cancelled)
             break;
@@ -152,12 +148,11 @@ TEST_P(ReceiptEntry, ReversalUndoesAReceiptExactly) {
               "[001OFL0000001]");
     for (const char* fixed : {"cboCat", "cboPay", "txtHt", "cboVehNo"})
         EXPECT_TRUE(state(fixed).contains("disabled")) << fixed;
-    expectRefusals({{"", "", noRefund}});
+    expectChecks({{nullptr, nullptr, noRefund}});
     set("chkRev", "yes");
-    save();
+    saved();
     EXPECT_EQ(payments(), "1|1000|250|CASH|PAYMENT\n2|750|500|CHEQUE|PAYMENT\n3|-750|-500|CASH|REVERSAL for RctNo: 2");
-    EXPECT_EQ(rows("select ReceiptDate, PNo, billNo, PaymentFor, AmountInWord from Payments where ReceiptNo='3'"),
-              "2026-03-13|P/0001|001OFL0000001|REVERSAL for RctNo: 2|FIVE HUNDRED NAIRA");
+    EXPECT_EQ(rows("select ReceiptDate, AmountInWord from Payments where SNo=3"), "2026-03-13|FIVE HUNDRED NAIRA");
     EXPECT_EQ(bill(), "1000|250|0");
     EXPECT_FALSE(ui.opened.contains("frmCashReceipt")) << "a reversal prints on request only";
     EXPECT_EQ(value("dtDate"), "2026-03-14") << "the next receipt is of today";
@@ -166,20 +161,17 @@ TEST_P(ReceiptEntry, ReversalUndoesAReceiptExactly) {
 TEST_P(ReceiptEntry, WhatCannotBeReversed) {
     layVisit();
     layBill(1000);
-    openScreen();
-    click("cmdRev");
-    EXPECT_BOXES(ui, {noRecord});
+    open();
+    EXPECT_EQ(told("cmdRev"), noRecord);
     receive("1000");
     click("cmdRev");
     set("chkRev", "yes");
-    save();
-    ws.row("frmReceiptTemp.grdData", "2");
-    click("cmdRev");
-    EXPECT_BOXES(ui, {"Cannot Reverse a Reversed Entry"});
-    ws.row("frmReceiptTemp.grdData", "1");
+    saved();
+    row("grdData", "2");
+    EXPECT_EQ(told("cmdRev"), "Cannot Reverse a Reversed Entry");
+    row("grdData", "1");
     ws.run("delete from UserRoles where RoleID=102");
-    click("cmdRev");
-    EXPECT_BOXES(ui, {"You dont have Permission to Reverse a Receipt Entry"});
+    EXPECT_EQ(told("cmdRev"), "You dont have Permission to Reverse a Receipt Entry");
     EXPECT_EQ(ws.tableCount("Payments"), 2);
 }
 
@@ -193,10 +185,10 @@ TEST_P(ReceiptEntry, MoneyGoesToThePickedBill) {
     for (const char* statement : {"qryhVisitsForAttend", "update  billing"}) {
         SCOPED_TRACE(statement);
         begin("001OFL0000002");
-        breakAt(statement);
+        breakAt(statement, true);
         pick("cboVehNo", billNo);
         EXPECT_BOXES(ui, {"disk full"});
-        expectRefusals({{"txtHt", "10", "Please enter Customer Name"}});
+        expectChecks({{"txtHt", "10", "Please enter Customer Name"}});
     }
     receive("400");
     EXPECT_EQ(rows("select billNo, AmountPaid from Billing order by ID"), "001OFL0000001|400\n001OFL0000002|0");
@@ -204,5 +196,4 @@ TEST_P(ReceiptEntry, MoneyGoesToThePickedBill) {
 }
 
 } // namespace
-
 } // namespace orvane

@@ -1,6 +1,8 @@
 #include "support/ScreenTest.h"
 
 #include "support/Check.h"
+#include "support/Entries.h"
+#include "support/Rows.h"
 
 namespace orvane {
 
@@ -33,6 +35,18 @@ void ScreenTest::open(const QString& form) {
     open();
 }
 
+void ScreenTest::load(const QString& bill) {
+    m_form = "frmBillingVerify";
+    loadBill(ws.program, bill);
+}
+
+void ScreenTest::begin(const QString& bill) {
+    open();
+    if (state("cmdAdd") == "visible enabled")
+        click("cmdAdd");
+    pick("cboVehNo", bill);
+}
+
 void ScreenTest::save(const QString& button) {
     ui.answer(true);
     click(button);
@@ -45,15 +59,24 @@ QString ScreenTest::focused() {
     return control ? control->name() : QString();
 }
 
-QString ScreenTest::rows(Connection connection, const QString& tsql) {
-    QStringList lines;
-    for (Recordset found = connection.run(tsql); !found.eof(); found.moveNext()) {
-        QStringList cells;
-        for (int column = 0; column < found.columns().size(); ++column)
-            cells << found.text(column);
-        lines << cells.join('|');
-    }
-    return lines.join('\n');
+QString ScreenTest::shown(const QString& controls) {
+    QStringList values;
+    for (const QString& control : controls.split(' '))
+        values << value(control);
+    return values.join('|');
+}
+
+QString ScreenTest::rows(const QString& tsql) {
+    Connection connection = ws.billing();
+    return rowsOf(connection, tsql);
+}
+
+QString ScreenTest::lines() {
+    return rows("select drgName, SubTotal from BillingDetails order by SNo");
+}
+
+QString ScreenTest::bill() {
+    return rows("select Amountbilled, AmountPaid, isPaid from Billing order by ID");
 }
 
 QString ScreenTest::account() {
@@ -67,8 +90,7 @@ QString ScreenTest::debt() {
 QString ScreenTest::audit(const QString& action, const QString& columns) {
     // On SQLite the trail lies in a file of its own.
     Connection trail = ws.billing().beside(GetParam() == Engine::Sqlite ? "Audit" : "");
-    return rows(std::move(trail),
-                "select " + columns + " from AuditTrail where userAction like '" + action + "' order by SNo");
+    return rowsOf(trail, "select " + columns + " from AuditTrail where userAction like '" + action + "' order by SNo");
 }
 
 void ScreenTest::breakAt(const QString& text, bool once) {
@@ -78,6 +100,16 @@ void ScreenTest::breakAt(const QString& text, bool once) {
             return;
         m_broken = true;
         throw DataError("disk full");
+    });
+}
+
+void ScreenTest::runBeforeTransaction(const QString& tsql) {
+    ws.program.data().setStatementHook([this, tsql](const QString& started) {
+        if (started != "begin transaction")
+            return;
+        mend();
+        const SecondHome other(home);
+        Workstation(other.folder()).run(tsql);
     });
 }
 
