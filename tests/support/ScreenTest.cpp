@@ -1,6 +1,7 @@
 #include "support/ScreenTest.h"
 
 #include "support/Check.h"
+#include "support/Rows.h"
 
 namespace orvane {
 
@@ -45,15 +46,9 @@ QString ScreenTest::focused() {
     return control ? control->name() : QString();
 }
 
-QString ScreenTest::rows(Connection connection, const QString& tsql) {
-    QStringList lines;
-    for (Recordset found = connection.run(tsql); !found.eof(); found.moveNext()) {
-        QStringList cells;
-        for (int column = 0; column < found.columns().size(); ++column)
-            cells << found.text(column);
-        lines << cells.join('|');
-    }
-    return lines.join('\n');
+QString ScreenTest::rows(const QString& tsql) {
+    Connection billing = ws.billing();
+    return rowsOf(billing, tsql);
 }
 
 QString ScreenTest::account() {
@@ -67,8 +62,7 @@ QString ScreenTest::debt() {
 QString ScreenTest::audit(const QString& action, const QString& columns) {
     // On SQLite the trail lies in a file of its own.
     Connection trail = ws.billing().beside(GetParam() == Engine::Sqlite ? "Audit" : "");
-    return rows(std::move(trail),
-                "select " + columns + " from AuditTrail where userAction like '" + action + "' order by SNo");
+    return rowsOf(trail, "select " + columns + " from AuditTrail where userAction like '" + action + "' order by SNo");
 }
 
 void ScreenTest::breakAt(const QString& text, bool once) {

@@ -36,7 +36,7 @@ protected:
     QString focused(); ///< the control's name; "" without one
 
     /// Cells apart by "|", rows apart by "\n"; amounts in plain decimals.
-    QString rows(const QString& tsql) { return rows(ws.billing(), tsql); }
+    QString rows(const QString& tsql);
     QString account(); ///< the running account: amount, running total, remarks
     QString debt();
     /// The audit rows whose action is like this pattern.
@@ -46,7 +46,6 @@ protected:
 
 private:
     QString named(const QString& control) const { return m_form + '.' + control; }
-    static QString rows(Connection connection, const QString& tsql);
 
     QString m_form;
     bool m_broken = false;
