@@ -309,26 +309,20 @@ TEST_F(ViewTest, ACaptionThatChangesKeepsALetterOfItsOwn) {
 }
 
 TEST(MnemonicsTest, AsksForFreeLettersAndSharesThemOnlyAmongFields) {
-    const auto press = Mnemonics::Press, field = Mnemonics::Field;
-    const struct {
-        int page;
-        Mnemonics::Kind kind;
-        const char* caption;
-        const char* shown; ///< behind it a letter that is pressed without being in it
-    } cases[] = {{0, press, "&Find", "Fi&nd"}, {0, press, "&OK", "&OK"},
-                 {0, press, "OK", "O&K"},      {0, press, "OK", "OKJ"},
-                 {0, field, "OK", "OK"},       {0, field, "AA", "&AA"},
-                 {0, field, "A A", "&A A"},    {0, press, "Profit && &Loss", "Profit && &Loss"},
-                 {0, field, "12 %", "&12 %"},  {1, press, "X", "&X"},
-                 {2, press, "X", "&X"},        {2, field, "Xi", "X&i"},
-                 {0, press, "Ze", "Z&e"},      {0, field, "Z", "&Z"},
-                 {0, field, "U", "U"},         {0, press, "U", "&U"}};
+    // Page, to press or a field, caption, and what is shown, with a letter behind it that is pressed without being in
+    // it.
+    const QStringList cases{
+        "0 press|&Find|Fi&nd", "0 press|&OK|&OK", "0 press|OK|O&K",   "0 press|OK|OKJ",
+        "0 field|OK|OK",       "0 field|AA|&AA",  "0 field|A A|&A A", "0 press|Profit && &Loss|Profit && &Loss",
+        "0 field|12 %|&12 %",  "1 press|X|&X",    "2 press|X|&X",     "2 field|Xi|X&i",
+        "0 press|Ze|Z&e",      "0 field|Z|&Z",    "0 field|U|U",      "0 press|U|&U"};
     Mnemonics letters("F");
-    QStringList shown(std::size(cases));
+    QStringList shown(cases.size());
     QVector<int> ids;
-    for (int place = 0; place < shown.size(); ++place) {
-        letters.setPage(cases[place].page);
-        ids << letters.add(cases[place].kind, QString::fromLatin1(cases[place].caption),
+    for (int place = 0; place < cases.size(); ++place) {
+        const auto& words = cases.at(place);
+        letters.setPage(words.left(1).toInt());
+        ids << letters.add(words.contains("press") ? Mnemonics::Press : Mnemonics::Field, words.section('|', 1, 1),
                            [&shown, place](const QString& text, QChar letter) {
                                shown[place] = text;
                                if (Mnemonics::asked(text).isNull() && !letter.isNull())
@@ -337,7 +331,7 @@ TEST(MnemonicsTest, AsksForFreeLettersAndSharesThemOnlyAmongFields) {
     }
     letters.assign();
     for (int place = 0; place < shown.size(); ++place)
-        EXPECT_EQ(shown.at(place), cases[place].shown) << place;
+        EXPECT_EQ(shown.at(place), cases.at(place).section('|', 2)) << place;
     letters.captionChanged(ids.at(3), "Other");
     EXPECT_EQ(shown.at(3), "O&ther");
     letters.captionChanged(ids.at(1), "Go on");

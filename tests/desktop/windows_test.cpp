@@ -247,16 +247,15 @@ TEST_F(WindowsTest, AnEntryUnderWayIsNotLostUnasked) {
     EXPECT_EQ(asked(QMessageBox::No, close), 0);
     EXPECT_TRUE(first.isClosed());
 
+    EntryForm stated(ui, "frmStated");
+    ui.show(stated);
+    QTest::keyClicks(editor(stated.txtName), "ADE");
+    EXPECT_EQ(asked(QMessageBox::No, [&] { press(stated.cmdClose); }), 0) << "the stated buttons close unasked";
+    EXPECT_TRUE(stated.isClosed());
     ui.show(second);
     second.grdEntry.addRow();
     EXPECT_EQ(asked(QMessageBox::Yes, [&] { QTest::keyClick(editor(second.txtName), Qt::Key_Escape); }), 1);
     EXPECT_TRUE(second.isClosed());
-}
-
-TEST_F(WindowsTest, TheStatedButtonsCloseAFormUnasked) {
-    QTest::keyClicks(editor(first.txtName), "ADE");
-    EXPECT_EQ(asked(QMessageBox::No, [&] { press(first.cmdClose); }), 0);
-    EXPECT_TRUE(first.isClosed());
 }
 
 TEST_F(WindowsTest, AReceiptOpensInFrontAndEscGoesBack) {
