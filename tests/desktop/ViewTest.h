@@ -1,19 +1,28 @@
 #pragma once
 
 #include "desktop/FormWindow.h"
-#include "desktop/ShownForm.h"
+#include "support/SampleForm.h"
 #include "support/TestUi.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QTest>
 #include <gtest/gtest.h>
 
 namespace orvane {
 
+inline void settleEvents() {
+    for (int round = 0; round < 3; ++round)
+        QApplication::processEvents();
+}
+
 /// The sample form in a window, worked on with mouse and keys.
 class ViewTest : public ::testing::Test {
 protected:
-    void SetUp() override { show(); }
+    void SetUp() override {
+        form.tmrTick.setEnabled(false);
+        show();
+    }
 
     void show() {
         window.reset();
@@ -25,10 +34,6 @@ protected:
         settleEvents();
         form.takeEvents();
     }
-    static void settleEvents() {
-        for (int round = 0; round < 3; ++round)
-            QApplication::processEvents();
-    }
     QWidget* widget(const Control& control) { return window->view()->widgetOf(control); }
     template <typename T>
     T* widget(const Control& control) {
@@ -36,9 +41,21 @@ protected:
     }
     /// Where typed keys go.
     QWidget* editor(const Control& control) { return window->view()->bindingOf(control)->editor(); }
+    QLineEdit* line(const Control& control) { return qobject_cast<QLineEdit*>(editor(control)); }
+    /// What the field shows, which the control holds as well.
+    QString text(const Control& control) {
+        settleEvents();
+        EXPECT_EQ(line(control)->text(), control.valueText());
+        return line(control)->text();
+    }
+    void key(const Control& control, Qt::Key pressed, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(editor(control), pressed, modifiers);
+        settleEvents();
+    }
+    void focus(const Control& control) { editor(control)->setFocus(); }
     void type(const Control& control, const QString& text) {
-        editor(control)->setFocus();
-        QTest::keyClick(editor(control), Qt::Key_A, Qt::ControlModifier);
+        focus(control);
+        key(control, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(editor(control), text);
         settleEvents();
     }
@@ -58,7 +75,7 @@ protected:
     }
 
     TestUi ui;
-    ShownForm form{ui};
+    SampleForm form{ui};
     std::unique_ptr<FormWindow> window;
 };
 

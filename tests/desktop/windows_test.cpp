@@ -1,135 +1,368 @@
-// The windows of the open forms: the main window, those inside it, dialogs, and a script that works on them.
+// The windows of the open forms: the main window, those inside it, dialogs, timers, and a script that works on them.
 #include "desktop/DesktopUi.h"
-#include "desktop/FormWindow.h"
 #include "desktop/ShellWindow.h"
-#include "desktop/ShownForm.h"
+#include "desktop/ViewTest.h"
 #include "desktop/WindowDriver.h"
 #include "play/Play.h"
+#include "screens/Screens.h"
+#include "session/Main.h"
 #include "support/SourceTree.h"
 #include "support/Workstation.h"
 #include "tool/Tool.h"
 
-#include <QApplication>
 #include <QBuffer>
 #include <QDir>
+#include <QFileDialog>
 #include <QInputDialog>
-#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
-#include <QMenuBar>
 #include <QMessageBox>
+#include <QPrinterInfo>
 #include <QPushButton>
-#include <QTest>
+#include <QThread>
 #include <QTimer>
 #include <filesystem>
 
 namespace orvane {
 namespace {
 
-/// A small form without menus, so that it is no main window.
-class PlainForm : public Form {
+/// Two timers of one beat; the first one's handler lets events in.
+class TickingForm : public Form {
 public:
-    PlainForm(Ui& ui, const QString& name) : Form(ui, name, name) {}
-    Layout layout() const override {
-        using namespace orvane::layout;
-        return column({field("Name", txtName), buttons({}, {&cmdGo})});
+    explicit TickingForm(Ui& ui) : Form(ui, "frmTicking", "Ticking") {
+        tmrFirst.onTimer = [this] {
+            inside = true;
+            for (int ticks = 0; ticks < 5; ++ticks) {
+                QThread::msleep(7);
+                this->ui().processEvents();
+            }
+            inside = false;
+            ++first;
+        };
+        tmrSecond.onTimer = [this] {
+            ++second;
+            secondInside = secondInside || inside;
+        };
+        cmdGo.onClick = [this] { ++pressed; };
     }
-    bool Form_Unload() override { return !refuses; }
+    Layout layout() const override { return layout::buttons({}, {&cmdGo}); }
 
-    TextBox txtName{*this, "txtName"};
+    Timer tmrFirst{*this, "tmrFirst", 5, true}, tmrSecond{*this, "tmrSecond", 5, true};
     Button cmdGo{*this, "cmdGo", "Go"};
-    bool refuses = false;
+    int first = 0, second = 0, pressed = 0;
+    bool inside = false, secondInside = false;
 };
 
-class ShellForm : public PlainForm {
+TEST(TimersTest, NoTickIsLostInsideAnotherAndNoneRunsThere) {
+    DesktopUi ui;
+    TickingForm form(ui);
+    ui.show(form);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form.first >= 5; }));
+    EXPECT_GE(form.second, 4);
+    EXPECT_LE(form.second, 2 * form.first + 2) << "ticks that pile up are one";
+    EXPECT_FALSE(form.secondInside);
+
+    // A press that comes inside a timer's event waits for its end.
+    form.tmrSecond.setEnabled(false);
+    form.tmrFirst.onTimer = [&] {
+        form.tmrFirst.setEnabled(false);
+        for (int press = 0; press < 2; ++press)
+            static_cast<QPushButton*>(ui.windows().viewOf(form)->widgetOf(form.cmdGo))->click();
+        EXPECT_EQ(form.pressed, 0);
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form.pressed > 0; }));
+    form.unload();
+}
+
+TEST(TimersTest, TheDoctorsAlertComesByItself) {
+    TestHome home;
+    {
+        Workstation station(home.folder());
+        station.layHospital();
+        Connection billing = station.billing();
+        makePatient(billing);
+        makeVisit(billing, {.date = QDate::currentDate()});
+        makeConsultation(billing, {.date = QDate::currentDate()});
+    }
+    DesktopUi ui;
+    ui.windows().setTimerSpeed(1000);
+    Program program(home.folder(), ui);
+    registerScreens(program);
+    ASSERT_TRUE(Main(program, "amina.b"));
+    const Control* alert = program.form("MdiTolmek").find("tmrMDI");
+    EXPECT_FALSE(alert->isEnabled());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return alert->isEnabled(); }));
+    program.form("MdiTolmek").abandon();
+}
+
+class ShellForm : public Form {
 public:
-    explicit ShellForm(Ui& ui) : PlainForm(ui, "frmShell") {}
-    MenuItem mnuFile{*this, "mnuFile", "File"};
+    explicit ShellForm(Ui& ui) : Form(ui, "frmShell", "Shell") {
+        status.setPanel(1, "amina.b");
+        mnuSecret.setVisible(false);
+    }
+    Layout layout() const override { return layout::row({layout::cell(cmdView)}); }
+
+    MenuItem mnuFile{*this, "mnuFile", "&File"};
     MenuItem mnuOpen{*this, "mnuOpen", "Open && Go", &mnuFile};
+    MenuItem mnuRct{*this, "mnuRct", " Receipt Entry", &mnuFile};
+    MenuItem mnuRctNo{*this, "mnuRctNo", "Receipt Numbers", &mnuFile};
     MenuItem mnuSecret{*this, "mnuSecret", "Secret", &mnuFile};
     MenuItem mnuWindow{*this, "mnuWindow", "Window"};
     MenuItem mnuWindowTV{*this, "mnuWindowTV", "Tile Vertical", &mnuWindow};
     MenuItem mnuWindowTH{*this, "mnuWindowTH", "Tile Horizontal", &mnuWindow};
     StatusBar status{*this, "status", 2};
+    Button cmdView{*this, "cmdView", "Patients from Doctor"};
 };
 
+class EntryForm : public Form {
+public:
+    EntryForm(Ui& ui, const QString& name) : Form(ui, name, name) {
+        cboTown.addItems({"ABA", "IBADAN"});
+        grdEntry.setHead("---Item---|--Price--");
+        cmdClose.onClick = [this] { unload(); };
+    }
+    Layout layout() const override {
+        using namespace orvane::layout;
+        return column({field("Name", txtName), field("Code", txtCode), field("Town", cboTown), growing(cell(grdEntry)),
+                       buttons({&cmdRefresh}, {&cmdClose, &cmdSave})});
+    }
+    Button* cancelButton() override { return &cmdClose; }
+    bool Form_Unload() override { return !refuses; }
+    std::optional<Page> page() const override {
+        return name() == QLatin1String("frmReceipt") ? std::optional(Page()) : std::nullopt;
+    }
+    QString documentName() const override { return "12/3 ADE"; }
+
+    TextBox txtName{*this, "txtName"}, txtCode{*this, "txtCode"};
+    ComboBox cboTown{*this, "cboTown", ComboBox::ListOnly};
+    EntryGrid grdEntry{*this, "grdEntry"};
+    Button cmdRefresh{*this, "cmdRefresh", "&Refresh"}, cmdClose{*this, "cmdClose", "&Close"};
+    Button cmdSave{*this, "cmdSave", "&Save"};
+    bool refuses = false;
+};
+
+/// The main window with one form in it.
 class WindowsTest : public ::testing::Test {
 protected:
     void SetUp() override {
         ui.windows().setMainSize({1366, 768});
-        shell.status.setPanel(1, "amina.b");
-        shell.mnuSecret.setVisible(false);
+        ui.windows().memory().setFile(folder.filePath("desk.ini"));
         ui.show(shell);
-        QApplication::processEvents();
+        ui.show(first);
+        settleEvents();
     }
     QMdiArea& area() { return *ui.windows().shell()->area(); }
+    QMdiSubWindow* front() { return area().currentSubWindow(); }
     MenuBinding* menu(const Control& item) {
         return static_cast<MenuBinding*>(ui.windows().shell()->view()->bindingOf(item));
     }
-    /// Acts on the box that comes up, once the program waits in it.
+    QWidget* editor(const Control& control) {
+        return ui.windows().viewOf(control.form())->bindingOf(control)->editor();
+    }
+    void press(const Button& button) {
+        static_cast<QPushButton*>(editor(button))->click();
+        settleEvents();
+    }
+    /// Acts, while each dialog of this kind that comes up is answered; gives how many did.
     template <typename Dialog>
-    void onBox(std::function<void(Dialog&)> act) {
-        QTimer::singleShot(
-            0,
-            [act] {
-                auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-                ASSERT_TRUE(dialog);
-                act(*dialog);
-            });
+    int answering(const std::function<void(Dialog&)>& answer, const std::function<void()>& act) {
+        int seen = 0;
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, [&] {
+            if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
+                ++seen;
+                answer(*dialog);
+            }
+        });
+        watch.start(1);
+        act();
+        settleEvents();
+        if (ShellWindow* window = ui.windows().shell())
+            window->activateWindow(); // nobody does it on a screen without a window manager
+        settleEvents();
+        return seen;
+    }
+    /// How many questions came up, which were answered so.
+    int asked(QMessageBox::StandardButton answer, const std::function<void()>& act) {
+        return answering<QMessageBox>(
+            [&](QMessageBox& box) {
+                EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No)) << "it would lose something";
+                box.button(answer)->click();
+            },
+            act);
     }
 
+    QTemporaryDir folder;
     DesktopUi ui;
     ShellForm shell{ui};
-    PlainForm first{ui, "frmFirst"}, second{ui, "frmSecond"};
+    EntryForm first{ui, "frmFirst"}, second{ui, "frmSecond"}, receipt{ui, "frmReceipt"};
 };
 
 TEST_F(WindowsTest, FormsShowInsideTheMainWindowOnceAndGoWhenTheyClose) {
     QStringList activated;
-    for (PlainForm* form : {&first, &second})
+    for (EntryForm* form : {&first, &second})
         form->onActivated = [&activated](Form& which) { activated << which.name(); };
-    ui.show(first);
     ui.show(second);
     ui.show(first);
     EXPECT_EQ(area().subWindowList().size(), 2);
-    EXPECT_EQ(area().activeSubWindow()->windowTitle(), "frmFirst");
-    EXPECT_EQ(activated, (QStringList{"frmFirst", "frmSecond", "frmFirst"}));
-    EXPECT_EQ(QApplication::focusWidget(), ui.windows().viewOf(first)->widgetOf(first.txtName));
+    EXPECT_EQ(front()->windowTitle(), "frmFirst");
+    EXPECT_EQ(activated, (QStringList{"frmSecond", "frmFirst"}));
+    EXPECT_EQ(QApplication::focusWidget(), editor(first.txtName));
 
     first.refuses = true;
-    area().activeSubWindow()->close();
+    front()->close();
     EXPECT_FALSE(first.isClosed());
-    EXPECT_TRUE(area().activeSubWindow()->isVisible()) << "a form that refuses stays in sight";
+    EXPECT_TRUE(front()->isVisible()) << "a form that refuses stays in sight";
     first.refuses = false;
-    area().activeSubWindow()->close();
+    front()->close();
     EXPECT_TRUE(first.isClosed());
     second.setCaption("Another");
-    EXPECT_EQ(area().activeSubWindow()->windowTitle(), "Another");
+    EXPECT_EQ(front()->windowTitle(), "Another");
     second.unload();
     EXPECT_EQ(area().subWindowList().size(), 0);
     EXPECT_FALSE(ui.windows().viewOf(second));
 }
 
-TEST_F(WindowsTest, MenusFollowTheirForm) {
+TEST_F(WindowsTest, AnEntryUnderWayIsNotLostUnasked) {
+    const auto esc = [&] { QTest::keyClick(editor(first.txtName), Qt::Key_Escape); };
+    const auto close = [&] { front()->close(); };
+    QTest::keyClicks(editor(first.txtName), "ADE");
+    EXPECT_EQ(asked(QMessageBox::No, esc), 1);
+    EXPECT_EQ(asked(QMessageBox::No, close), 1);
+    EXPECT_EQ(asked(QMessageBox::No, [&] { ui.windows().shell()->close(); }), 1);
+    EXPECT_FALSE(first.isClosed() || shell.isClosed());
+    EXPECT_EQ(first.txtName.text(), "ADE");
+    // A save that empties its fields, or that says so, leaves nothing to lose.
+    first.entrySaved();
+    EXPECT_FALSE(first.hasEntry());
+    QTest::keyClicks(editor(first.txtName), "X");
+    EXPECT_TRUE(first.hasEntry());
+    first.txtName.clear();
+    EXPECT_FALSE(first.hasEntry());
+    // One choice is a look-up, two are an entry; lines of an entry grid are one.
+    QTest::keyClick(editor(first.cboTown), Qt::Key_Down);
+    EXPECT_EQ(first.cboTown.listIndex(), 0);
+    EXPECT_EQ(asked(QMessageBox::No, close), 0);
+    EXPECT_TRUE(first.isClosed());
+
+    EntryForm stated(ui, "frmStated");
+    ui.show(stated);
+    QTest::keyClicks(editor(stated.txtName), "ADE");
+    EXPECT_EQ(asked(QMessageBox::No, [&] { press(stated.cmdClose); }), 0) << "the stated buttons close unasked";
+    EXPECT_TRUE(stated.isClosed());
+    ui.show(second);
+    second.grdEntry.addRow();
+    EXPECT_EQ(asked(QMessageBox::Yes, [&] { QTest::keyClick(editor(second.txtName), Qt::Key_Escape); }), 1);
+    EXPECT_TRUE(second.isClosed());
+}
+
+TEST_F(WindowsTest, AReceiptOpensInFrontAndEscGoesBack) {
+    ui.show(second);
+    first.cmdSave.onClick = [this] {
+        ui.show(receipt);
+        first.txtCode.setFocus();
+    };
+    ui.show(first);
+    press(first.cmdSave);
+    EXPECT_EQ(front()->windowTitle(), "frmReceipt");
+    // Esc from beside the page, where no field is.
+    for (QPushButton* button : front()->findChildren<QPushButton*>())
+        if (button->text().contains("PDF")) {
+            button->setFocus();
+            QTest::keyClick(button, Qt::Key_Escape);
+        }
+    settleEvents();
+    EXPECT_TRUE(receipt.isClosed());
+    EXPECT_EQ(front()->windowTitle(), "frmFirst") << "not the one that was shown last";
+    EXPECT_EQ(QApplication::focusWidget(), editor(first.txtCode));
+}
+
+TEST_F(WindowsTest, WindowsWithAListTakeTheRoomAndAreWhereTheirUserLeftThem) {
+    const QSize room = area().viewport()->size();
+    EXPECT_EQ(front()->size(), room);
+    ui.windows().shell()->resize(1024, 600);
+    settleEvents();
+    EXPECT_EQ(front()->size(), area().viewport()->size()) << "and goes on to fill it";
+    ui.windows().shell()->resize(1366, 768);
+    settleEvents();
+    first.unload();
+
+    QString user = "amina.b";
+    ui.windows().memory().setUser([&user] { return user; });
+    ui.show(second);
+    front()->setGeometry(40, 50, 700, 400);
+    second.unload();
+    EntryForm again(ui, "frmSecond"), other(ui, "frmSecond");
+    ui.show(again);
+    EXPECT_EQ(front()->geometry(), QRect(40, 50, 700, 400));
+    again.unload();
+    user = "another/one";
+    ui.show(other);
+    EXPECT_EQ(front()->size(), room) << "of another user";
+    other.unload();
+}
+
+TEST_F(WindowsTest, CtrlSSavesAndF5Refreshes) {
+    QStringList pressed;
+    first.cmdSave.onClick = [&] { pressed << "save"; };
+    first.cmdRefresh.onClick = [&] { pressed << "refresh"; };
+    QTest::keyClick(editor(first.txtName), Qt::Key_S, Qt::ControlModifier);
+    QTest::keyClick(editor(first.grdEntry), Qt::Key_F5);
+    first.cmdSave.setEnabled(false);
+    QTest::keyClick(editor(first.txtName), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(pressed, (QStringList{"save", "refresh"}));
+}
+
+TEST_F(WindowsTest, WithoutAPrinterAPdfIsOfferedWhereTheLastOneWent) {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty())
+        GTEST_SKIP() << "this machine has a printer";
+    QDir().mkpath(folder.filePath("receipts"));
+    ui.windows().memory().keep("printing/folder", folder.filePath("receipts"));
+    QStringList said;
+    const auto answer = [&](QDialog& dialog) {
+        if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
+            said << box->text();
+            box->button(QMessageBox::Yes)->click();
+        } else if (auto* files = qobject_cast<QFileDialog*>(&dialog)) {
+            said << files->selectedFiles().value(0);
+            files->reject();
+        }
+    };
+    ui.show(receipt);
+    answering<QDialog>(answer, [&] { ui.printForm(receipt); });
+    EXPECT_EQ(said, (QStringList{"No printer is set up on this computer. Save the document as a PDF instead?",
+                                 folder.filePath("receipts/12-3 ADE.pdf")}));
+}
+
+TEST_F(WindowsTest, MenusFollowTheirFormAndKeepTheirLetters) {
     int opened = 0;
     shell.mnuOpen.onClick = [&] { ++opened; };
     menu(shell.mnuOpen)->action()->trigger();
     EXPECT_EQ(opened, 1);
     EXPECT_EQ(Mnemonics::plain(menu(shell.mnuOpen)->action()->text()), "Open & Go");
     EXPECT_FALSE(menu(shell.mnuSecret)->action()->isVisible());
+    const QString reserved = ui.windows().shell()->reservedLetters();
+    EXPECT_TRUE(reserved.contains('F') && reserved.contains('P')) << qPrintable(reserved);
+    for (const QPushButton* button : front()->findChildren<QPushButton*>())
+        EXPECT_FALSE(reserved.contains(Mnemonics::asked(button->text()))) << qPrintable(button->text());
+
+    MenuBinding* entry = menu(shell.mnuRct);
+    const QString shown = entry->action()->text();
+    EXPECT_FALSE(Mnemonics::asked(shown).isNull());
+    entry->refreshNow();
+    EXPECT_EQ(entry->action()->text(), shown);
+    shell.mnuRct.setCaption(" Receipts");
     shell.mnuFile.setVisible(false);
     shell.mnuOpen.setEnabled(false);
-    QApplication::processEvents();
+    settleEvents();
+    EXPECT_EQ(Mnemonics::asked(entry->action()->text()), Mnemonics::asked(shown));
     EXPECT_FALSE(menu(shell.mnuFile)->action()->isVisible());
     EXPECT_FALSE(menu(shell.mnuOpen)->action()->isEnabled());
-    // The letters of the menu bar are not given away inside the windows.
-    ui.show(first);
-    for (const QChar letter : ui.windows().shell()->reservedLetters())
-        EXPECT_NE(Mnemonics::asked(ui.windows().viewOf(first)->findChild<QLabel*>()->text()), letter);
 }
 
 TEST_F(WindowsTest, TheWindowMenuArrangesAndListsTheWindows) {
-    ui.show(first);
     ui.show(second);
     menu(shell.mnuWindowTV)->action()->trigger();
     const QList<QMdiSubWindow*> children = area().subWindowList();
@@ -148,69 +381,66 @@ TEST_F(WindowsTest, TheWindowMenuArrangesAndListsTheWindows) {
             listed << Mnemonics::plain(action->text()) + (action->isChecked() ? "*" : "");
     EXPECT_EQ(listed, (QStringList{"1 frmFirst", "2 frmSecond*"}));
     windowMenu->actions().at(windowMenu->actions().size() - 2)->trigger();
-    EXPECT_EQ(area().activeSubWindow(), children[0]);
+    EXPECT_EQ(front(), children[0]);
 }
 
 TEST_F(WindowsTest, AModalFormReturnsWhenItHasClosed) {
+    first.unload();
+    EntryForm modal(ui, "frmModal");
     bool worked = false;
     QTimer::singleShot(0, [&] {
-        EXPECT_EQ(QApplication::activeModalWidget(), ui.windows().windowOf(first));
+        EXPECT_EQ(QApplication::activeModalWidget(), ui.windows().windowOf(modal));
         // Behind a dialog nobody could reach a window inside the main one.
         ui.show(second);
         EXPECT_TRUE(ui.windows().windowOf(second)->isWindow());
         second.unload();
         worked = true;
-        first.userEvent([&] { first.unload(); });
+        modal.userEvent([&] { modal.unload(); });
     });
-    ui.showModal(first);
-    EXPECT_TRUE(worked);
-    EXPECT_TRUE(first.isClosed());
+    ui.showModal(modal);
+    EXPECT_TRUE(worked && modal.isClosed());
 }
 
 TEST_F(WindowsTest, BoxesShowPlainWordsAndEscIsNo) {
-    onBox<QMessageBox>([](QMessageBox& box) {
+    ui.setBusy(true);
+    ui.setBusy(true);
+    EXPECT_TRUE(QApplication::overrideCursor());
+    const auto plain = [](QMessageBox& box) {
+        EXPECT_FALSE(QApplication::overrideCursor()) << "a busy pointer gives way";
         EXPECT_EQ(box.windowTitle(), "Billing");
         EXPECT_EQ(box.text(), "<b>5 < 6</b>");
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.icon(), QMessageBox::Critical);
         box.accept();
-    });
-    ui.box("<b>5 < 6</b>", Icon::Critical);
-    onBox<QMessageBox>([](QMessageBox& box) {
-        EXPECT_EQ(box.detailedText().size(), 5000) << "the whole text can be read";
-        EXPECT_LT(box.text().size(), 2000);
-        box.accept();
-    });
-    ui.box(QString(5000, QLatin1Char('x')));
-    onBox<QMessageBox>([](QMessageBox& box) {
-        EXPECT_EQ(box.windowTitle(), "Exit Application");
-        QTest::keyClick(&box, Qt::Key_Escape);
-    });
-    EXPECT_FALSE(ui.question("Exit?", "Exit Application"));
-    onBox<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
-    EXPECT_TRUE(ui.question("Exit?"));
-    onBox<QInputDialog>([](QInputDialog& dialog) {
-        EXPECT_EQ(dialog.textValue(), "5");
-        dialog.setTextValue("7");
-        dialog.accept();
-    });
-    EXPECT_EQ(ui.inputBox("How many?", {}, "5"), "7");
-    onBox<QInputDialog>([](QInputDialog& dialog) { dialog.reject(); });
-    EXPECT_EQ(ui.inputBox("How many?"), std::nullopt);
-}
-
-TEST_F(WindowsTest, ABusyPointerGivesWayToABox) {
-    ui.setBusy(true);
-    ui.setBusy(true);
-    EXPECT_TRUE(QApplication::overrideCursor());
-    onBox<QMessageBox>([](QMessageBox& box) {
-        EXPECT_FALSE(QApplication::overrideCursor());
-        box.accept();
-    });
-    ui.box("Saved");
+    };
+    EXPECT_EQ(answering<QMessageBox>(plain, [&] { ui.box("<b>5 < 6</b>", Icon::Critical); }), 1);
     EXPECT_TRUE(QApplication::overrideCursor());
     ui.setBusy(false);
     EXPECT_FALSE(QApplication::overrideCursor());
+
+    const auto longOne = [](QMessageBox& box) {
+        EXPECT_EQ(box.detailedText().size(), 5000) << "the whole text can be read";
+        EXPECT_LT(box.text().size(), 2000);
+        box.accept();
+    };
+    EXPECT_EQ(answering<QMessageBox>(longOne, [&] { ui.box(QString(5000, QLatin1Char('x'))); }), 1);
+    const auto escape = [](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "Exit Application");
+        QTest::keyClick(&box, Qt::Key_Escape);
+    };
+    answering<QMessageBox>(
+        escape, [&] { EXPECT_FALSE(ui.question("Exit?", "Exit Application")); });
+    const auto yes = [](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); };
+    answering<QMessageBox>(yes, [&] { EXPECT_TRUE(ui.question("Exit?")); });
+    const auto given = [](QInputDialog& dialog) {
+        EXPECT_EQ(dialog.textValue(), "5");
+        dialog.setTextValue("7");
+        dialog.accept();
+    };
+    answering<QInputDialog>(
+        given, [&] { EXPECT_EQ(ui.inputBox("How many?", {}, "5"), "7"); });
+    const auto cancel = [](QInputDialog& dialog) { dialog.reject(); };
+    answering<QInputDialog>(cancel, [&] { EXPECT_EQ(ui.inputBox("How many?"), std::nullopt); });
 }
 
 /// Plays a script without windows (`out` empty), or on the real ones with its pictures and prints in `out`.

@@ -26,9 +26,13 @@ void fail() {
     throw DataError("the server is gone");
 }
 
-TEST(Faults, AFaultInsideAnotherHandlerRisesToTheOutermostAndIsShownOnce) {
+class Faults : public ::testing::Test {
+protected:
     BusyUi ui;
-    SampleForm form(ui);
+    SampleForm form{ui};
+};
+
+TEST_F(Faults, AFaultInsideAnotherHandlerRisesToTheOutermostAndIsShownOnce) {
     bool wentOn = false;
     form.txtName.onChange = fail;
     form.cmdSave.onClick = [&] {
@@ -46,37 +50,27 @@ TEST(Faults, AFaultInsideAnotherHandlerRisesToTheOutermostAndIsShownOnce) {
     EXPECT_EQ(form.takeEvents(), QStringList{"cmdClose Click"}) << "the screen stays usable";
 }
 
-TEST(Faults, AnotherFormsFaultStaysThere) {
-    BusyUi ui;
-    SampleForm first(ui, "frmFirst");
-    SampleForm second(ui, "frmSecond");
-    bool wentOn = false;
-    second.txtName.onChange = fail;
-    first.cmdSave.onClick = [&] {
-        second.txtName.setText("x");
-        wentOn = true;
-    };
-    first.cmdSave.click();
-    EXPECT_TRUE(wentOn);
-    EXPECT_BOXES(ui, {"the server is gone"});
-}
-
-TEST(Faults, AFaultOfTheLoadLeavesTheFormOpen) {
+TEST_F(Faults, AnotherFormsFaultAndThatOfALoadStayThere) {
     struct Failing : SampleForm {
         using SampleForm::SampleForm;
         void Form_Load() override { fail(); }
     };
-    BusyUi ui;
-    Failing form(ui);
-    form.load();
+    Failing second(ui, "frmSecond");
+    second.load();
     EXPECT_BOXES(ui, {"the server is gone"});
-    EXPECT_TRUE(form.isLoaded());
-    EXPECT_FALSE(form.isClosed());
+    EXPECT_TRUE(second.isLoaded() && !second.isClosed());
+    bool wentOn = false;
+    second.txtName.onChange = fail;
+    form.cmdSave.onClick = [&] {
+        second.txtName.setText("x");
+        wentOn = true;
+    };
+    form.cmdSave.click();
+    EXPECT_TRUE(wentOn);
+    EXPECT_BOXES(ui, {"the server is gone"});
 }
 
-TEST(Faults, AHandlerUnderWayHearsItsUserNoMore) {
-    BusyUi ui;
-    SampleForm form(ui);
+TEST_F(Faults, AHandlerUnderWayHearsItsUserNoMore) {
     int saves = 0;
     const auto press = [&] { form.userEvent([&] { form.cmdSave.click(); }); };
     form.cmdSave.onClick = [&] {
@@ -93,22 +87,12 @@ TEST(Faults, AHandlerUnderWayHearsItsUserNoMore) {
     press();
     EXPECT_EQ(saves, 2);
     ui.forgetBoxes();
-}
-
-TEST(Faults, AnyOtherExceptionLeavesTheFormUsable) {
-    BusyUi ui;
-    SampleForm form(ui);
     form.cmdSave.onClick = [] { throw std::runtime_error("not of the database"); };
     EXPECT_THROW(form.cmdSave.click(), std::runtime_error);
-    EXPECT_FALSE(form.isRunning());
-    form.takeEvents();
-    form.userEvent([&] { form.cmdClose.click(); });
-    EXPECT_EQ(form.takeEvents(), QStringList{"cmdClose Click"});
+    EXPECT_FALSE(form.isRunning()) << "the form stays usable";
 }
 
-TEST(Closing, UnloadMayRefuseAndHappensOnce) {
-    BusyUi ui;
-    SampleForm form(ui);
+TEST_F(Faults, UnloadMayRefuseAndHappensOnce) {
     form.load();
     form.load();
     form.refusesUnload = true;
@@ -125,9 +109,8 @@ TEST(Closing, UnloadMayRefuseAndHappensOnce) {
     EXPECT_EQ(form.takeEvents(), QStringList{}) << "a closed form hears its user no more";
 }
 
-TEST(Closing, AFormLivesUntilItsLastHandlerHasEnded) {
+TEST_F(Faults, AFormLivesUntilItsLastHandlerHasEnded) {
     QTemporaryDir home;
-    BusyUi ui;
     Program program(home.path(), ui);
     for (const char* name : {"frmFirst", "frmSecond"})
         program.registerForm(

@@ -11,14 +11,8 @@ namespace {
 class GridTest : public EngineTest {
 protected:
     void SetUp() override {
-        add("P/0001", "ADE", "'2026-03-14'", "-1234.5");
-        add("P/0002", "O''NEILL", "null", "null");
-        add("P/0003", "BOLA", "'2025-12-31'", "0");
-    }
-    void add(const char* pno, const char* name, const char* expiry, const char* debt) {
-        billing.run(
-            QStringLiteral("insert into hPatients (PNo, psurname, expirydate, DebtBF) values ('%1', '%2', %3, %4)")
-                .arg(QLatin1String(pno), QLatin1String(name), QLatin1String(expiry), QLatin1String(debt)));
+        billing.run("insert into hPatients (PNo, psurname, expirydate, DebtBF) values ('P/0001', 'ADE', '2026-03-14', "
+                    "-1234.5), ('P/0002', 'O''NEILL', null, null), ('P/0003', 'BOLA', '2025-12-31', 0)");
     }
     Recordset patients(const char* filter = "") {
         return billing.run(

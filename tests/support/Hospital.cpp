@@ -7,50 +7,31 @@ namespace orvane {
 
 namespace {
 
-const char* const settingRows[] = {
+/// Where a row follows from another one, it is taken from there.
+const char* const hospitalRows[] = {
     "insert into HospList (hospID, Hname, hname2) values ('001', 'HALDEN HOSPITAL', 'MAIN CLINIC')",
     "insert into ApplicationUsers (Username, Fullname, Password, AccountStatus, BranchCode, EmpID, hospID) values "
     "('amina.b', 'AMINA BELLO', '', 'Enabled', 'HQ', 'E001', '001')",
-    "insert into Roles (RoleID, LoginRole) values (101, 'BILLING')",
-    "insert into Roles (RoleID, LoginRole) values (102, 'MANAGEMENT')",
-    "insert into UserRoles (RoleID, Username) values (101, 'amina.b')",
-    "insert into UserRoles (RoleID, Username) values (102, 'amina.b')",
+    "insert into Roles (RoleID, LoginRole) values (101, 'BILLING'), (102, 'MANAGEMENT')",
+    "insert into UserRoles (RoleID, Username) values (101, 'amina.b'), (102, 'amina.b')",
     "insert into UsersForAccts (username) values ('amina.b')",
     "insert into LagosBranches (BranchCode) values ('HQ')",
-    "insert into employees (empID, LastName, firstname, deptID, designation) values ('E001', 'BELLO', 'AMINA', 'ACC', "
-    "'CASHIER')",
-    "insert into employees (empID, LastName, firstname, deptID, designation) values ('D001', 'OKAFOR', 'CHIDI', 'MED', "
-    "'DOCTOR')",
+    "insert into employees (empID, LastName, firstname, deptID, designation) values "
+    "('E001', 'BELLO', 'AMINA', 'ACC', 'CASHIER'), ('D001', 'OKAFOR', 'CHIDI', 'MED', 'DOCTOR')",
     "insert into AccountMonth (Period) values ('2026-03')",
     "insert into appSettings (ID, IDValCode, idval, idval2, idval3, idval4, idval5, idvalPix) values "
-    "('BILL', '00', 'HALDEN HOSPITAL', '12 CREEK ROAD', 'LAGOS', 'TEL 01-0000000', '', 'RctPix.JPG')",
-    "insert into appSettings (ID, IDValCode, idval, idval2, idval3, idval4, idval5, idvalPix) values "
+    "('BILL', '00', 'HALDEN HOSPITAL', '12 CREEK ROAD', 'LAGOS', 'TEL 01-0000000', '', 'RctPix.JPG'), "
     "('LAB', 'LB', 'HALDEN LABORATORY', '12 CREEK ROAD', 'LAGOS', 'TEL 01-0000000', '', 'RctPixLab.JPG')",
-};
-
-const struct {
-    const char* id;
-    const char* value;
-} appDefaults[] = {
-    {"PRIVATE", "0001"},      {"LockPrice", "YES"},           {"RevTypeRpt", "NO"},      {"AcctPostOn", "1"},
-    {"ACCT_SUSP", "9999"},    {"ACCT_SUSP_DESC", "SUSPENSE"}, {"AcctPostType", "AUTO"},  {"AUTO_TRAN_NO", "YES"},
-    {"AcctCostCenter", "01"}, {"AcctNoPOS", "1003"},          {"AcctNoCheque", "1002"},  {"AcctNoTransfer", "1004"},
-    {"AcctNoCash", "1001"},   {"AcctNoOthers", "0000"},       {"CashAccountIndex", "1"}, {"ARAccountIndex", "2"},
-    {"AcctNoSales", "4000"},  {"AcctNoSalesInv", "4100"},     {"NHISFEE", "ALL"},        {"OLDPNo", "NO"},
-    {"BillTo", "0001"},       {"Coy_Code", "SHORT"},
-};
-
-const char* const masterRows[] = {
-    "insert into clinicTypes (ClinicID, ConFee, Code, rctCode) values ('OPD', 2000, 'OP', 'OP')",
-    "insert into clinicTypes (ClinicID, ConFee, Code, rctCode) values ('ANTENATAL', 1501.5, 'AN', 'AN')",
-    "insert into hOutletTypes (ItemName, ItemCode) values ('LABORATORY', 'LB')",
-    "insert into hOutletTypes (ItemName, ItemCode) values ('PHARMACY', 'PH')",
-    "insert into drugcategories (drgCatname, catremarks) values ('TABLETS', 'ORAL')",
-    "insert into drugcategories (drgCatname, catremarks) values ('INJECTIONS', 'INJECTION')",
-};
-
-/// Clients and items; where a row follows from another one, it is taken from there.
-const char* const priceRows[] = {
+    "insert into AppDefaults (ID, idval) values ('PRIVATE','0001'), ('LockPrice','YES'), ('RevTypeRpt','NO'), "
+    "('AcctPostOn','1'), ('ACCT_SUSP','9999'), ('ACCT_SUSP_DESC','SUSPENSE'), ('AcctPostType','AUTO'), "
+    "('AUTO_TRAN_NO','YES'), ('AcctCostCenter','01'), ('AcctNoPOS','1003'), ('AcctNoCheque','1002'), "
+    "('AcctNoTransfer','1004'), ('AcctNoCash','1001'), ('AcctNoOthers','0000'), ('CashAccountIndex','1'), "
+    "('ARAccountIndex','2'), ('AcctNoSales','4000'), ('AcctNoSalesInv','4100'), ('NHISFEE','ALL'), "
+    "('OLDPNo','NO'), ('BillTo','0001'), ('Coy_Code','SHORT')",
+    "insert into clinicTypes (ClinicID, ConFee, Code, rctCode) values ('OPD', 2000, 'OP', 'OP'), "
+    "('ANTENATAL', 1501.5, 'AN', 'AN')",
+    "insert into hOutletTypes (ItemName, ItemCode) values ('LABORATORY', 'LB'), ('PHARMACY', 'PH')",
+    "insert into drugcategories (drgCatname, catremarks) values ('TABLETS', 'ORAL'), ('INJECTIONS', 'INJECTION')",
     "insert into billingPrice (clientCatID, clientType, pcent, pvalue) values ('PRIVATE','PRIVATE',0,0), "
     "('HMO','HMO',0,0), ('NHIS','NHIS',0,0), ('PHIS','NHIS',0,0), ('COMPANY','COMPANY',0,0), "
     "('MTHLY','COMPANY',0,0), ('3MTHLY','COMPANY',0,0), ('6MTHLY','COMPANY',0,0)",
@@ -86,89 +67,50 @@ const char* const priceRows[] = {
     "('MALARIA PARASITE','0201',1200,'NO','LABORATORY')",
 };
 
-void addRow(Connection& connection, const Sql& table, std::initializer_list<std::pair<const char*, QVariant>> values) {
+/// The columns by name, apart by blanks.
+void addRow(Connection& connection, const Sql& table, const char* columns, const QVariantList& values) {
     Recordset row(connection, Sql("select * from ") << table << Sql(" where 1=2"));
     row.addNew();
-    for (const auto& [column, value] : values)
-        row.set(QString::fromLatin1(column), value);
+    const QStringList names = QString::fromLatin1(columns).split(' ');
+    for (qsizetype i = 0; i < names.size(); ++i)
+        row.set(names.at(i), values.at(i));
     row.update();
-}
-
-QString text(const char* latin) {
-    return QString::fromLatin1(latin);
 }
 
 } // namespace
 
 void layHospital(Connection& billing, Connection& accounting) {
     Transaction transaction(billing);
-    for (const char* row : settingRows)
-        billing.run(text(row));
-    for (const auto& setting : appDefaults)
-        addRow(billing, Sql("AppDefaults"), {{"ID", text(setting.id)}, {"idval", text(setting.value)}});
-    for (const char* row : masterRows)
-        billing.run(text(row));
-    for (const char* row : priceRows)
-        billing.run(text(row));
+    for (const char* row : hospitalRows)
+        billing.run(QString::fromLatin1(row));
     transaction.commit();
     accounting.run("insert into AccountMonth (Period) values ('2026-03')");
 }
 
 void makePatient(Connection& billing, const TestPatient& patient) {
-    addRow(billing, Sql("hPatients"),
-           {{"PNo", patient.pno},
-            {"psurname", patient.surname},
-            {"pfirstname", patient.firstname},
-            {"clientcatID", patient.category},
-            {"coyName", patient.client},
-            {"ref", patient.ref},
-            {"expirydate", patient.expiry},
-            {"DebtBF", patient.debt}});
+    addRow(billing, Sql("hPatients"), "PNo psurname pfirstname clientcatID coyName ref expirydate DebtBF",
+           {patient.pno, patient.surname, patient.firstname, patient.category, patient.client, patient.ref,
+            patient.expiry, patient.debt});
 }
 
 void makeVisit(Connection& billing, const TestVisit& visit) {
     addRow(billing, Sql("hRecords"),
-           {{"consultID", visit.consultID},
-            {"PNo", visit.pno},
-            {"recDate", visit.date},
-            {"htime", "09:00:00"},
-            {"clientCat", visit.category},
-            {"coyName", visit.client},
-            {"clinicType", visit.clinic},
-            {"Remarks", visit.purpose},
-            {"referal", visit.referal},
-            {"empID", "E001"},
-            {"attendedto", 0}});
+           "consultID PNo recDate htime clientCat coyName clinicType Remarks referal empID attendedto",
+           {visit.consultID, visit.pno, visit.date, "09:00:00", visit.category, visit.client, visit.clinic,
+            visit.purpose, visit.referal, "E001", 0});
 }
 
 void makeConsultation(Connection& billing, const TestConsultation& consultation) {
-    addRow(billing, Sql("hconsulting"),
-           {{"consultID", consultation.consultID},
-            {"PNo", consultation.pno},
-            {"CDate", consultation.date},
-            {"cTime", "09:20:00"},
-            {"Diagnosis", consultation.diagnosis},
-            {"prescription", consultation.prescription},
-            {"treatedby", "D001"},
-            {"attendedto", consultation.finished ? 1 : 0}});
+    addRow(billing, Sql("hconsulting"), "consultID PNo CDate cTime Diagnosis prescription treatedby attendedto",
+           {consultation.consultID, consultation.pno, consultation.date, "09:20:00", consultation.diagnosis,
+            consultation.prescription, "D001", consultation.finished ? 1 : 0});
 }
 
 qlonglong makeItem(Connection& billing, const TestItem& item) {
     addRow(billing, Sql("BillAccum"),
-           {{"consultID", item.consultID},
-            {"PNo", item.pno},
-            {"dtDate", item.date},
-            {"drgName", item.name},
-            {"Price", item.price},
-            {"Qty", item.qty},
-            {"SubTotal", item.price * item.qty},
-            {"billType", item.billType},
-            {"revType", item.revType},
-            {"billTo", item.client},
-            {"coyName", item.client},
-            {"Capitated", item.capitated},
-            {"conID", 0},
-            {"BillBy", "amina.b"}});
+           "consultID PNo dtDate drgName Price Qty SubTotal billType revType billTo coyName Capitated conID BillBy",
+           {item.consultID, item.pno, item.date, item.name, item.price, item.qty, item.price * item.qty, item.billType,
+            item.revType, item.client, item.client, item.capitated, 0, "amina.b"});
     return billing.run("select max(SNo) as SNo from BillAccum").integer("SNo");
 }
 

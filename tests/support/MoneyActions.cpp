@@ -9,6 +9,12 @@ namespace {
 const char* const bill = "001OFL0000001";
 const char* const item = "PARACETAMOL 500MG";
 
+/// Sets controls of a screen in this order.
+void fill(Workstation& ws, const QString& form, std::initializer_list<std::pair<const char*, const char*>> values) {
+    for (const auto& [control, value] : values)
+        ws.set(form + '.' + control, value);
+}
+
 void layVisit(Workstation& ws) {
     Connection connection = ws.billing();
     makePatient(connection);
@@ -51,28 +57,25 @@ void layInsured(Workstation& ws) {
     makeItem(connection, {.client = "0201", .capitated = "YES"});
 }
 
-/// Screens that a bill opens work on the visit in hand.
-void takeInHand(Workstation& ws) {
+/// Opens a screen on the visit in hand, as a bill does.
+void openOnBill(Workstation& ws, const QString& form) {
     ws.program.session.gConsultID = bill;
     ws.program.session.sBillPno = "P/0001";
     ws.program.session.sBillPatLabel = "ADEYEMI BOLA";
+    ws.open(form);
 }
 
 void enterBillItems(Workstation& ws) {
-    takeInHand(ws);
-    ws.open("frmBillPat");
+    openOnBill(ws, "frmBillPat");
     for (const auto& [kind, name] : {std::pair("DRUG", item), std::pair("SERVICE", "WOUND DRESSING")}) {
-        ws.set("frmBillPat.cboCat", kind);
-        ws.set("frmBillPat.cboDrug", name);
-        ws.set("frmBillPat.txtQty", "2");
+        fill(ws, "frmBillPat", {{"cboCat", kind}, {"cboDrug", name}, {"txtQty", "2"}});
         ws.pick("frmBillPat.cboPat", 1);
         ws.click("frmBillPat.cmdAdd");
     }
 }
 
 void enterClientMove(Workstation& ws) {
-    takeInHand(ws);
-    ws.open("frmCoyUpdate");
+    openOnBill(ws, "frmCoyUpdate");
     ws.pick("frmCoyUpdate.cboPat", "HARMONY MILLS");
     ws.set("frmCoyUpdate.cboClient", "MTHLY");
 }
@@ -107,23 +110,12 @@ void enterAttendanceEdit(Workstation& ws) {
 
 void enterUser(Workstation& ws) {
     ws.open("frmUsers");
-    ws.set("frmUsers.txtUserName", "kemi");
-    ws.set("frmUsers.txtPassword", "secret");
-    ws.set("frmUsers.txtConfirmPWD", "secret");
-    ws.set("frmUsers.cboAcctStatus", "Enabled");
-    ws.set("frmUsers.cboBranchCode", "HQ");
-}
-
-void enterRole(Workstation& ws) {
-    ws.open("frmRole");
-    ws.set("frmRole.txtRID", "103");
-    ws.set("frmRole.txtRName", "AUDIT");
-}
-
-void enterRoleOfUser(Workstation& ws) {
-    ws.open("frmUserRole");
-    ws.set("frmUserRole.cboRoleID", "102");
-    ws.set("frmUserRole.cboUsername", "musa");
+    fill(ws, "frmUsers",
+         {{"txtUserName", "kemi"},
+          {"txtPassword", "secret"},
+          {"txtConfirmPWD", "secret"},
+          {"cboAcctStatus", "Enabled"},
+          {"cboBranchCode", "HQ"}});
 }
 
 const char* const saved = "box Record Succesfully saved";
@@ -156,9 +148,7 @@ const QList<MoneyAction>& moneyActions() {
         {"SaveWithReceipt", layItems,
          [](Workstation& ws) {
              loadBill(ws.program, bill);
-             ws.set("frmBillingVerify.chkRct", "yes");
-             ws.set("frmBillingVerify.cboPayFor", "DRUGS");
-             ws.set("frmBillingVerify.chkExact", "yes");
+             fill(ws, "frmBillingVerify", {{"chkRct", "yes"}, {"cboPayFor", "DRUGS"}, {"chkExact", "yes"}});
          },
          "frmBillingVerify.OKButton", "yes", receiptShown},
         {"SaveWithoutReceipt", layItems, collate, "frmBillingVerify.OKButton", "yes", saved},
@@ -216,8 +206,7 @@ const QList<MoneyAction>& moneyActions() {
         {"DrugPrice", layVisit, enterDrugPrice, "frmDrugPrice.OKButton", "yes", "box Record Succesfully updated", true},
         {"FeeForService", layInsured,
          [](Workstation& ws) {
-             takeInHand(ws);
-             ws.open("frmBillPat");
+             openOnBill(ws, "frmBillPat");
              ws.set("frmBillPat.cboFFS", "YES");
          },
          "frmBillPat.cmdUpd", "", "", true},
@@ -226,10 +215,19 @@ const QList<MoneyAction>& moneyActions() {
         {"AttendanceDelete", layVisit, pickAttendance, "frmRecordsOffline.cmdDel", "yes",
          "box  Record successfully deleted ", true},
         {"User", layVisit, enterUser, "frmUsers.cmdApply", "", "box Account creation succeeded.", true},
-        {"Role", layVisit, enterRole, "frmRole.cmdSubmit", "", "", true},
+        {"Role", layVisit,
+         [](Workstation& ws) {
+             ws.open("frmRole");
+             fill(ws, "frmRole", {{"txtRID", "103"}, {"txtRName", "AUDIT"}});
+         },
+         "frmRole.cmdSubmit", "", "", true},
         {"RoleOfUser",
          [](Workstation& ws) { ws.run("insert into ApplicationUsers (Username, AccountStatus) values ('musa', 'X')"); },
-         enterRoleOfUser, "frmUserRole.cmdSubmit", "", "box Submission Successful.", true},
+         [](Workstation& ws) {
+             ws.open("frmUserRole");
+             fill(ws, "frmUserRole", {{"cboRoleID", "102"}, {"cboUsername", "musa"}});
+         },
+         "frmUserRole.cmdSubmit", "", "box Submission Successful.", true},
     };
     return actions;
 }
@@ -265,46 +263,36 @@ QStringList takeShown(TestUi& ui) {
 }
 
 QString moneyFigures(Workstation& ws) {
+    const struct {
+        const char* table;
+        const char* counted; ///< conditions whose rows are counted, apart by "; "
+        const char* summed = "";
+    } figures[] = {
+        {"hRecords", "1=1; BillDate is not null; clinicType='ANTENATAL'; coyName='0102'; referal='YES'"},
+        {"hPatients", "coyName='0102'; ref='YES'", "DebtBF"},
+        {"BillAccum", "consultID<>''; billTo='0102'; Capitated='YES'", "attendedto; isBilled; isRct; SubTotal"},
+        {"BillingDetails", "1=1; billTo='0102'; BillHead='TABLETS'", "SubTotal; isRct"},
+        {"Billing", "clientID='0102'", "Amountbilled; AmountPaid"},
+        {"Payments", "1=1", "AmountPaid"},
+        {"PaymentTypes", "", "AmountPaid"},
+        {"PaymentDetails", "", "AmountPaid"},
+        {"Tranxaction", "1=1", "Amount"},
+        {"BillingDetailsAdjust", "1=1"},
+        {"billDiscounts", "", "Amount"},
+        {"hApprvCode", "1=1"},
+        {"Drugs", "", "Cost"},
+        {"ApplicationUsers", "1=1"},
+        {"Roles", "1=1"},
+        {"UserRoles", "1=1"},
+    };
     QStringList found;
-    for (const char* figure : {
-             "count(*) from hRecords",
-             "count(BillDate) from hRecords",
-             "count(*) from hRecords where clinicType='ANTENATAL'",
-             "count(*) from hRecords where coyName='0102'",
-             "count(*) from hRecords where referal='YES'",
-             "count(*) from hPatients where coyName='0102'",
-             "count(*) from hPatients where ref='YES'",
-             "sum(DebtBF) from hPatients",
-             "count(*) from BillAccum where consultID<>''",
-             "count(*) from BillAccum where billTo='0102'",
-             "count(*) from BillAccum where Capitated='YES'",
-             "sum(attendedto) from BillAccum",
-             "sum(isBilled) from BillAccum",
-             "sum(isRct) from BillAccum",
-             "sum(SubTotal) from BillAccum",
-             "count(*) from BillingDetails",
-             "count(*) from BillingDetails where billTo='0102'",
-             "count(*) from BillingDetails where BillHead='TABLETS'",
-             "sum(SubTotal) from BillingDetails",
-             "sum(isRct) from BillingDetails",
-             "count(*) from Billing where clientID='0102'",
-             "sum(Amountbilled) from Billing",
-             "sum(AmountPaid) from Billing",
-             "count(*) from Payments",
-             "sum(AmountPaid) from Payments",
-             "sum(AmountPaid) from PaymentTypes",
-             "sum(AmountPaid) from PaymentDetails",
-             "count(*) from Tranxaction",
-             "sum(Amount) from Tranxaction",
-             "count(*) from BillingDetailsAdjust",
-             "sum(Amount) from billDiscounts",
-             "count(*) from hApprvCode",
-             "sum(Cost) from Drugs",
-             "count(*) from ApplicationUsers",
-             "count(*) from Roles",
-             "count(*) from UserRoles",
-         })
-        found << figure + QLatin1String(": ") + ws.scalar(QLatin1String("select ") + QLatin1String(figure));
+    const auto find = [&](const QString& query) { found << query + ": " + ws.scalar("select " + query); };
+    for (const auto& [table, counted, summed] : figures) {
+        for (const QString& condition : QString(counted).split("; ", Qt::SkipEmptyParts))
+            find(QStringLiteral("count(*) from %1 where %2").arg(table, condition));
+        for (const QString& column : QString(summed).split("; ", Qt::SkipEmptyParts))
+            find(QStringLiteral("sum(%2) from %1").arg(table, column));
+    }
     found << "ledger: " + ws.accountingScalar("select count(*) as n from Tranxaction");
     return found.join('\n');
 }

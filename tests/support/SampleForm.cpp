@@ -8,6 +8,7 @@ SampleForm::SampleForm(Ui& ui, const QString& name) : Form(ui, name, "Sample") {
     txtLocked.setText("fixed");
     txtLocked.setLocked(true);
     txtNote.multiline();
+    txtAmt0.numeric();
     cboTown.addItems({"ABA", "IBADAN", "IBADAN NORTH"});
     cboColor.addItems({"RED", "GREEN"});
     fraInner.holds({&radCash, &radBank});
@@ -51,14 +52,17 @@ void SampleForm::noteEvents(Control& control) {
 
 Layout SampleForm::layout() const {
     using namespace layout;
-    return column(
-        {cell(lblTitle),
-         row({field("Name", txtName), field("Code", txtCode), field("Town", cboTown), field("Color", cboColor)}),
-         row({cell(chkCard), cell(radOne), cell(radTwo), field("Date", dtDate)}),
-         group("Payment", {cell(radCash), cell(radBank)}, &fraInner),
-         tabs(strip,
-              {layout::page("Rows", {growing(cell(grdRows))}), layout::page("Entries", {growing(cell(grdEntry))})}),
-         buttons({}, {&cmdClose, &cmdSave})});
+    const Layout rows = row({growing(cell(grdRows)), card({field("Amount", txtAmt0), field("Second", txtAmt1)})});
+    const Layout entries = row({cell(grdEntry), cell(lstItems), cell(tree)});
+    return column({row({field("Name", txtName, 20), field("Code", txtCode, 8), field("Color", cboColor, 12),
+                        cell(chkCard), stretch()}),
+                   field("Town", cboTown), facts({{"Bill No", &lblTitle}, {"Fixed", &txtLocked}}),
+                   row({field("Digits", txtDigits, 10), field("Date", dtDate)}),
+                   growing(tabs(strip, {layout::page("Rows", {rows}),
+                                        layout::page("Entries", {entries, field("Note", txtNote)})})),
+                   row({cell(radOne), cell(radTwo), group("Payment", {row({cell(radCash), cell(radBank)})}, &fraInner),
+                        cell(bar)}),
+                   cell(status), buttons({&cmdExtra}, {&cmdClose, &cmdSave})});
 }
 
 bool SampleForm::Form_Unload() {

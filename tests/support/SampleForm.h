@@ -15,8 +15,8 @@ public:
     TextBox txtCode{*this, "txtCode"};     ///< capitals, at most 5
     TextBox txtDigits{*this, "txtDigits"}; ///< drops what is no digit
     TextBox txtLocked{*this, "txtLocked"};
-    TextBox txtNote{*this, "txtNote"}; ///< multi-line
-    TextBox txtAmt0{*this, "txtAmt(0)"};
+    TextBox txtNote{*this, "txtNote"};   ///< multi-line
+    TextBox txtAmt0{*this, "txtAmt(0)"}; ///< a number
     TextBox txtAmt1{*this, "txtAmt(1)"};
     ComboBox cboTown{*this, "cboTown"};                       ///< "ABA", "IBADAN", "IBADAN NORTH"
     ComboBox cboColor{*this, "cboColor", ComboBox::ListOnly}; ///< "RED", "GREEN"
@@ -36,11 +36,12 @@ public:
     ProgressBar bar{*this, "bar"};
     StatusBar status{*this, "status", 2};
     Timer tmrTick{*this, "tmrTick", 1000, true};
-    Timer tmrOff{*this, "tmrOff", 1000, false};
+    Timer tmrOff{*this, "tmrOff", 1, false};
     MenuItem mnuMain{*this, "mnuMain", "&Main"};
     MenuItem mnuEntry{*this, "mnuEntry", "&Entry", &mnuMain};
     MenuItem mnuHidden{*this, "mnuHidden", "Hidden"};
     MenuItem mnuInHidden{*this, "mnuInHidden", "Inside", &mnuHidden};
+    Button cmdExtra{*this, "cmdExtra", "Save Copy"};
     Button cmdSave{*this, "cmdSave", "&Save"};
     Button cmdClose{*this, "cmdClose", "&Close"};
 

@@ -62,12 +62,9 @@ void onCluster(const QStringList& statements, const QString& onDatabase = "postg
     QSqlDatabase::removeDatabase(name);
 }
 
-QStringList forBothDatabases(const QString& statement, const QString& prefix) {
-    return {statement.arg(prefix + "dunmarch"), statement.arg(prefix + "accounting")};
-}
-
 void dropDatabases(const QString& prefix) {
-    onCluster(forBothDatabases("drop database if exists \"%1\" with (force)", prefix));
+    for (const char* database : {"dunmarch", "accounting"})
+        onCluster({QStringLiteral("drop database if exists \"%1%2\" with (force)").arg(prefix, database)});
 }
 
 /// Databases with the schema, made once a process and copied for each test.
@@ -115,8 +112,8 @@ void copyFiles(const QString& from, const QString& to) {
 QString cloneDatabases(const QString& from) {
     static std::atomic<int> last = 0;
     const QString prefix = QStringLiteral("t%1_%2_").arg(QCoreApplication::applicationPid()).arg(++last);
-    onCluster({QStringLiteral("create database \"%1dunmarch\" template \"%2dunmarch\"").arg(prefix, from),
-               QStringLiteral("create database \"%1accounting\" template \"%2accounting\"").arg(prefix, from)});
+    for (const char* database : {"dunmarch", "accounting"})
+        onCluster({QStringLiteral("create database \"%1%3\" template \"%2%3\"").arg(prefix, from, database)});
     return prefix;
 }
 
