@@ -36,16 +36,7 @@ struct PlainUser {
 
 } // namespace
 
-TEST(EmbeddedFile, IsNeverCreatedByOpening) {
-    const TestHome home;
-    const QString path = home.folder() + "/data/Dunmarch.db";
-    QFile::remove(path);
-    EXPECT_TRUE(openFault(home.folder()).contains("does not exist"));
-    EXPECT_FALSE(QFile::exists(path));
-    EXPECT_TRUE(openFault(home.folder(), QStringLiteral("Server=SERVER;Database=Nothing")).contains("does not exist"));
-}
-
-TEST(EmbeddedFile, SaysWhatIsWrongWithIt) {
+TEST(EmbeddedFile, IsNeverCreatedByOpeningAndSaysWhatIsWrongWithIt) {
     const TestHome home;
     const QString path = home.folder() + "/data/Dunmarch.db";
     DataSource(home.folder()).open(TestHome::billing()).run("pragma user_version = 999");
@@ -54,6 +45,9 @@ TEST(EmbeddedFile, SaysWhatIsWrongWithIt) {
     EXPECT_TRUE(openFault(home.folder()).contains("is not a database"));
     write(path, {});
     EXPECT_TRUE(openFault(home.folder()).contains("has no schema of this program"));
+    QFile::remove(path);
+    EXPECT_TRUE(openFault(home.folder()).contains("does not exist"));
+    EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST(EmbeddedFile, MustBeWritable) {
@@ -66,27 +60,22 @@ TEST(EmbeddedFile, MustBeWritable) {
     EXPECT_TRUE(openFault(home.folder()).contains("read-only")) << openFault(home.folder()).toStdString();
 }
 
-TEST(EmbeddedFile, IsNotCreatedOverAnother) {
+TEST(ServerFile, NamesItsBrokenLineAndAServerThatDoesNotAnswer) {
     const TestHome home;
-    DataSource source(home.folder());
-    EXPECT_THROW(source.create(TestHome::billing()), DataError);
-    EXPECT_EQ(openFault(home.folder()), QString());
-}
-
-TEST(ServerFile, NamesItsBrokenLine) {
-    const TestHome home;
-    const struct {
-        const char* text;
-        const char* fault;
-    } cases[] = {
-        {"[server SERVER]\nengine = oracle\n", "line 2"},     {"engine = sqlite\n", "line 1"},
-        {"[server SERVER]\nport = 99999\n", "is no port"},    {"[SERVER]\n", "[server NAME]"},
-        {"[server SERVER\nengine = sqlite", "[server NAME]"}, {"[server SERVER]\ncolour = red\n", "colour"},
+    const std::pair<const char*, const char*> cases[] = {
+        {"[server SERVER]\nengine = oracle\n", "line 2"},
+        {"engine = sqlite\n", "line 1"},
+        {"[server SERVER]\nport = 99999\n", "is no port"},
+        {"[SERVER]\n", "[server NAME]"},
+        {"[server SERVER\nengine = sqlite", "[server NAME]"},
+        {"[server SERVER]\ncolour = red\n", "colour"},
         {"[server SERVER]\n\n; note\nengine\n", "line 4"},
+        {"[server SERVER]\nhost = 127.0.0.1\nport = 1\nengine = postgresql", "cannot be opened"},
+        {"[server SERVER]\nhost = 127.0.0.1\nport = 1\nengine = sqlserver", "cannot be opened"},
     };
-    for (const auto& one : cases) {
-        write(home.folder() + "/orvane.ini", one.text);
-        EXPECT_TRUE(openFault(home.folder()).contains(QString::fromUtf8(one.fault))) << one.text;
+    for (const auto& [text, fault] : cases) {
+        write(home.folder() + "/orvane.ini", text);
+        EXPECT_TRUE(openFault(home.folder()).contains(fault)) << text;
     }
 }
 
@@ -104,19 +93,9 @@ TEST(ServerFile, SaysWhichEngineServesAServer) {
                   .arg(home.folder()))
         << "a misspelt name opens no empty hospital beside the real one";
     EXPECT_THROW(source.engineOf("Database=Dunmarch"), DataError);
-    EXPECT_TRUE(
-        openFault(home.folder(), QStringLiteral("Server=here;Database=Dunmarch")).contains("/other/Dunmarch.db"));
+    EXPECT_TRUE(openFault(home.folder(), "Server=here;Database=Dunmarch").contains("/other/Dunmarch.db"));
     QFile::remove(home.folder() + "/orvane.ini");
     EXPECT_EQ(openFault(home.folder()), QString()) << "without the file the embedded engine serves from data/";
-}
-
-TEST(ServerFile, ANamedServerMustAnswer) {
-    const TestHome home;
-    for (const char* engine : {"postgresql", "sqlserver"}) {
-        write(home.folder() + "/orvane.ini",
-              QByteArray("[server SERVER]\nhost = 127.0.0.1\nport = 1\nengine = ") + engine);
-        EXPECT_TRUE(openFault(home.folder()).contains("cannot be opened")) << engine;
-    }
 }
 
 class Pool : public EngineTest {};
@@ -128,12 +107,7 @@ TEST_P(Pool, GivesAnIdleConnectionAgain) {
         data.open(TestHome::billing()).run("select 1 as x");
     EXPECT_EQ(open(), before + 1);
     {
-        Connection one = data.open(TestHome::billing());
-        Connection two = data.open(TestHome::billing());
-        EXPECT_EQ(open(), before + 2);
-    }
-    {
-        const DataSource other(home.folder());
+        const Connection one = data.open(TestHome::billing()), two = data.open(TestHome::billing());
         EXPECT_EQ(open(), before + 2);
     }
     {
@@ -149,14 +123,18 @@ TEST_P(Pool, GivesAnIdleConnectionAgain) {
 }
 
 TEST_P(Pool, EachWorkstationHasItsOwnClock) {
+    const auto clock = [](Connection& asking) { return Recordset(asking, Sql("select sysDT from qrySysDateTime")); };
+    const QDateTime ours(QDate(2026, 1, 31), QTime(23, 59, 59)), theirs(QDate(2026, 2, 1), QTime(0, 0));
     DataSource other(home.folder());
-    data.setServerClock(QDateTime(QDate(2026, 1, 31), QTime(23, 59, 59)));
-    other.setServerClock(QDateTime(QDate(2026, 2, 1), QTime(0, 0)));
-    Connection theirs = other.open(TestHome::billing());
-    EXPECT_EQ(scalar("select sysDT from qrySysDateTime"), "2026-01-31 23:59:59");
-    EXPECT_EQ(theirs.run("select sysDT from qrySysDateTime").text(0), "2026-02-01 00:00:00");
-    data.setServerClock(QDateTime(QDate(2026, 3, 1), QTime(8, 0)));
-    EXPECT_EQ(scalar("select sysDT from qrySysDateTime"), "2026-03-01 08:00:00");
+    data.setServerClock(ours);
+    other.setServerClock(theirs);
+    Connection beside = other.open(TestHome::billing());
+    EXPECT_EQ(clock(billing).text(0), "2026-01-31 23:59:59");
+    EXPECT_EQ(clock(billing).dateTime("sysdt"), ours);
+    EXPECT_EQ(clock(billing).date("sysdt"), ours.date());
+    EXPECT_EQ(clock(beside).dateTime("sysdt"), theirs);
+    data.setServerClock({});
+    EXPECT_LE(std::abs(clock(billing).dateTime("sysDT").secsTo(QDateTime::currentDateTime())), 5);
 }
 
 TEST_P(Pool, KeepsTheEnginesWordsInAFault) {
@@ -186,26 +164,20 @@ ORVANE_ON_EACH_ENGINE(Pool);
 /// A server that goes away, which the embedded engine cannot.
 class LostServer : public EngineTest {};
 
-TEST_P(LostServer, AnIdleConnectionIsReplacedBeforeItIsGiven) {
-    { const Connection idle = data.open(TestHome::billing()); }
-    DataSource other(home.folder());
-    other.open(TestHome::billing())
-        .run(QStringLiteral(
-            "select pg_terminate_backend(pid, 10000) from pg_stat_activity where datname=current_database() and "
-            "pid <> pg_backend_pid()"));
+TEST_P(LostServer, AnIdleConnectionIsReplacedBeforeItIsGivenAndALiveOneIsNotAsked) {
+    QString server;
+    const auto leaveIdle = [&] { server = data.open(TestHome::billing()).run("select pg_backend_pid() as p").text(0); };
+    leaveIdle();
+    {
+        const Connection again = data.open(TestHome::billing());
+        EXPECT_TRUE(scalar("select query from pg_stat_activity where pid=" + server).contains("pg_backend_pid"));
+    }
+    DataSource(home.folder())
+        .open(TestHome::billing())
+        .run("select pg_terminate_backend(pid, 10000) from pg_stat_activity where datname=current_database() and "
+             "pid <> pg_backend_pid()");
     Connection fresh = data.open(TestHome::billing());
     EXPECT_EQ(fresh.run("select count(*) from Payments").text(0), "0");
-}
-
-TEST_P(LostServer, AnIdleConnectionThatIsAliveIsGivenWithoutAMessage) {
-    QString server;
-    {
-        Connection idle = data.open(TestHome::billing());
-        server = idle.run("select pg_backend_pid() as pid").text(0);
-    }
-    const Connection again = data.open(TestHome::billing());
-    EXPECT_TRUE(
-        scalar(QStringLiteral("select query from pg_stat_activity where pid=") + server).contains("pg_backend_pid"));
 }
 
 INSTANTIATE_TEST_SUITE_P(On, LostServer, ::testing::ValuesIn(testEngines().mid(1)),

@@ -2,6 +2,8 @@
 #include "data/rows/Recordset.h"
 #include "data/rows/Transaction.h"
 #include "support/LeastRights.h"
+#include "support/Print.h"
+#include "support/Rows.h"
 #include "support/TestHome.h"
 
 #include <set>
@@ -9,19 +11,7 @@
 
 namespace orvane {
 
-class ProceduresTest : public EngineTest {
-protected:
-    QVariantMap auditRow(const QString& action) {
-        return {{"userName", "amina.b"},      {"@userAction", action}, {"ActionDate", QDate(2026, 3, 14)},
-                {"ActionTime", QTime(9, 30)}, {"TranCode", "R1"},      {"Remarks", QString()},
-                {"Src", "BILLING: from DESK"}};
-    }
-
-    Connection audit() {
-        return GetParam() == Engine::Sqlite ? data.open("Server=SERVER;Database=Audit")
-                                            : data.open(TestHome::billing());
-    }
-};
+class ProceduresTest : public EngineTest {};
 
 TEST_P(ProceduresTest, RefusesWrongCalls) {
     EXPECT_THROW(billing.call("noSuchProcedure"), DataError);
@@ -33,37 +23,39 @@ TEST_P(ProceduresTest, AnAuditRowSurvivesARollback) {
     {
         Transaction transaction(billing);
         billing.run("insert into Payments (ReceiptNo) values ('R1')");
-        billing.call("spauditrail", auditRow("Save O'NEILL"));
+        billing.call("spauditrail", {{"userName", "amina.b"},
+                                     {"@userAction", "Save O'NEILL"},
+                                     {"ActionDate", QDate(2026, 3, 14)},
+                                     {"ActionTime", QTime(9, 30)},
+                                     {"TranCode", "R1"},
+                                     {"Remarks", QString()},
+                                     {"Src", "BILLING: from DESK"}});
     }
-    Connection trail = audit();
-    const Recordset row(trail, Sql("select * from AuditTrail"));
-    ASSERT_EQ(row.count(), 1);
-    EXPECT_EQ(row.text("userAction"), "Save O'NEILL");
-    EXPECT_EQ(row.text("ActionDate"), "2026-03-14");
-    EXPECT_EQ(row.text("ActionTime"), "09:30:00");
+    Connection trail = data.open(GetParam() == Engine::Sqlite ? "Server=SERVER;Database=Audit" : TestHome::billing());
+    EXPECT_EQ(rowsOf(trail, "select userName,userAction,ActionDate,ActionTime,TranCode,Src from AuditTrail"),
+              "amina.b|Save O'NEILL|2026-03-14|09:30:00|R1|BILLING: from DESK");
     EXPECT_EQ(scalar("select count(*) from Payments"), "0");
 }
 
 TEST_P(ProceduresTest, ANumberIsGivenOnce) {
     const LeastRights login(home);
     Connection own = data.open(TestHome::billing());
-    EXPECT_EQ(own.call("getIDNo", {{"@DestName", "RECEIPT2"}}).text("getIDNo"), "1") << "makes its counter";
-    EXPECT_EQ(own.call("getIDNo", {{"DestName", "receipt2"}}).text("getIDNo"), "2");
+    EXPECT_EQ(own.call("getIDNo", {{"@DestName", "NEW"}}).text("getIDNo"), "1") << "makes its counter";
+    EXPECT_EQ(own.call("getIDNo", {{"DestName", "new"}}).text("getIDNo"), "2");
     {
         Transaction transaction(own);
-        EXPECT_EQ(own.call("getIDNo", {{"DestName", "RECEIPT2"}}).text(0), "3");
+        EXPECT_EQ(own.call("getIDNo", {{"DestName", "NEW"}}).text(0), "3");
     }
-    EXPECT_EQ(scalar("select ID from IDgen"), "2") << "goes back with the caller's transaction";
+    EXPECT_EQ(scalar("select ID from IDgen where DestName='NEW'"), "2") << "goes back with the caller's transaction";
 
-    std::array<std::vector<qlonglong>, 3> numbers;
+    std::array<std::set<qlonglong>, 3> numbers;
     std::vector<std::thread> threads;
     for (auto& given : numbers) {
         threads.emplace_back([&given, this] {
             DataSource workstation(home.folder());
-            for (int i = 0; i < 20; ++i) {
-                Connection connection = workstation.open(TestHome::billing());
-                given.push_back(connection.call(QStringLiteral("getIDNo"), {{"DestName", "BOTH"}}).integer("getIDNo"));
-            }
+            while (given.size() < 20)
+                given.insert(
+                    workstation.open(TestHome::billing()).call("getIDNo", {{"DestName", "BOTH"}}).integer("getIDNo"));
         });
     }
     std::set<qlonglong> all;
@@ -76,43 +68,29 @@ TEST_P(ProceduresTest, ANumberIsGivenOnce) {
 }
 
 TEST_P(ProceduresTest, RevenueTypesComeFromTheItemMasters) {
-    for (const char* tsql : {"insert into drugMaster (drgName, revType) values ('PARACETAMOL', 'DRUGS')",
-                             "insert into drugMaster (drgName, revType) values ('SWAB', '')",
-                             "insert into labservices (Drgname, revType) values ('FBC', 'LABORATORY')",
-                             "insert into hservices (service, revType) values ('SWAB', 'NURSING')"})
-        billing.run(QString::fromUtf8(tsql));
-    const struct {
-        const char* item;
-        const char* before;
-        const char* after;
-    } cases[] = {{"paracetamol", "null", "DRUGS"},
-                 {"FBC", "''", "LABORATORY"},
-                 {"SWAB", "'OTHERS'", "NURSING"},
-                 {"PARACETAMOL", "'CHOSEN'", "CHOSEN"},
-                 {"UNKNOWN", "'OTHERS'", "OTHERS"}};
+    addRows(billing, "drugMaster (drgName, revType)", {"'PARACETAMOL', 'DRUGS'", "'SWAB', ''"});
+    addRows(billing, "labservices (Drgname, revType)", {"'FBC', 'LABORATORY'"});
+    addRows(billing, "hservices (service, revType)", {"'SWAB', 'NURSING'"});
     for (const char* bill : {"V1", "V2"}) {
-        for (const auto& one : cases) {
-            billing.run(QStringLiteral("insert into BillAccum (consultID, drgName, revType) values ('%1', '%2', %3)")
-                            .arg(bill, one.item, one.before));
-            billing.run(QStringLiteral("insert into BillingDetails (billNo, drgName, revType) values ('%1', '%2', %3)")
-                            .arg(bill, one.item, one.before));
+        for (const char* item : {"'paracetamol', null", "'FBC', ''", "'SWAB', 'OTHERS'", "'PARACETAMOL', 'CHOSEN'",
+                                 "'UNKNOWN', 'OTHERS'"}) {
+            const std::string row = '\'' + std::string(bill) + "', " + item;
+            addRows(billing, "BillAccum (consultID, drgName, revType)", {row.c_str()});
+            addRows(billing, "BillingDetails (billNo, drgName, revType)", {row.c_str()});
         }
     }
     billing.run("insert into Billing (billNo, isProcess) values ('V2', 1)");
-    billing.call("updateRevType", {{"@ConsultID", "V1"}});
-    billing.call("updateRevType", {{"@ConsultID", "V2"}});
-    const auto check = [this, &cases](const char* table, bool filled) {
-        Recordset rows = billing.run(QString::fromUtf8(table));
-        for (const auto& one : cases) {
-            const QString before = QString::fromUtf8(one.before).remove(u'\'').replace("null", QString());
-            EXPECT_EQ(rows.text(0), filled ? QString::fromUtf8(one.after) : before) << table << " " << one.item;
-            rows.moveNext();
-        }
-    };
-    check("select revType from BillAccum where consultID='V1' order by SNo", true);
-    check("select revType from BillingDetails where billNo='V1' order by detID", true);
-    check("select revType from BillAccum where consultID='V2' order by SNo", true);
-    check("select revType from BillingDetails where billNo='V2' order by detID", false); // processed
+    const QString untouched = "||OTHERS|CHOSEN|OTHERS", filled = "DRUGS|LABORATORY|NURSING|CHOSEN|OTHERS";
+    for (const char* bill : {"V1", "V2"}) {
+        const auto types = [&](const char* of) {
+            return rowsOf(billing, QStringLiteral("select revType from ") + QString(of).arg(bill)).replace(u'\n', u'|');
+        };
+        billing.call("updateRevType", {{"@ConsultID", bill}});
+        EXPECT_EQ(types("BillAccum where consultID='%1' order by SNo"), filled) << bill;
+        EXPECT_EQ(types("BillingDetails where billNo='%1' order by detID"),
+                  bill == QLatin1StringView("V2") ? untouched : filled)
+            << "a processed bill stays as it is";
+    }
 }
 
 ORVANE_ON_EACH_ENGINE(ProceduresTest);

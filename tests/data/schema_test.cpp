@@ -1,92 +1,84 @@
-#include "data/dialect/Catalog.h"
-#include "data/rows/Recordset.h"
+#include "data/DataError.h"
 #include "support/Print.h"
+#include "support/Rows.h"
 #include "support/TestHome.h"
 
 namespace orvane {
 
-class SchemaRules : public EngineTest {
-protected:
-    void run(const char* statement) { billing.run(QString::fromUtf8(statement)); }
-};
+class SchemaRules : public EngineTest {};
 
 TEST_P(SchemaRules, ANumberIsGivenOnce) {
     const struct {
+        const char* into;
         const char* first;
         const char* second;
         bool accepted;
     } cases[] = {
-        {"insert into hPatients (PNo, psurname) values ('P/1', 'A')",
-         "insert into hPatients (PNo, psurname) values ('p/1', 'B')", false},
-        {"insert into hRecords (consultID, PNo, recDate) values ('001OFL0000001', 'P/1', '2026-03-14')",
-         "insert into hRecords (consultID, PNo, recDate) values ('001OFL0000001', 'P/2', '2026-03-14')", false},
-        {"insert into hRecordsPublic (consultID) values ('001/26/000001')",
-         "insert into hRecordsPublic (consultID) values ('001/26/000001')", false},
-        {"insert into Billing (billNo) values ('001OFL0000001')",
-         "insert into Billing (billNo) values ('001ofl0000001')", false},
-        {"insert into BillingDetails (billNo, SNo) values ('A', 7)",
-         "insert into BillingDetails (billNo, SNo) values ('B', 7)", false},
-        {"insert into BillingDetails (billNo) values ('A')", "insert into BillingDetails (billNo) values ('A')", true},
-        {"insert into Payments (ReceiptNo) values ('001OP0000001')",
-         "insert into Payments (ReceiptNo) values ('001op0000001')", false},
-        {"insert into Payments (ReceiptNo) values ('1')", "insert into Payments (ReceiptNo) values ('1')", false},
-        {"insert into Payments (ReceiptNo) values ('TH0000001')",
-         "insert into Payments (ReceiptNo) values ('TH0000001')", false},
-        {"insert into Payments (ReceiptNo) values ('SN 4711')", "insert into Payments (ReceiptNo) values ('sn 4711')",
-         true},
-        {"insert into Payments (ReceiptNo) values ('SN')", "insert into Payments (ReceiptNo) values ('SN')", true},
-        {"insert into hRevenueType (revType) values ('DRUGS')", "insert into hRevenueType (revType) values ('Drugs')",
-         false},
-        {"insert into billingPrice (clientCatID, clientType) values ('HMO', 'HMO')",
-         "insert into billingPrice (clientCatID, clientType) values ('hmo', 'NHIS')", true},
-        {"insert into billingPrice (clientCatID, clientType) values ('STAFF', 'HMO')",
-         "insert into billingPrice (clientCatID, clientType) values ('staff', 'hmo')", false},
-        {"insert into UserRoles (RoleID, Username) values (1, 'a')",
-         "insert into UserRoles (RoleID, Username) values (1, 'A')", false},
+        {"hPatients (PNo, psurname)", "'P/1', 'A'", "'p/1', 'B'", false},
+        {"hRecords (consultID, PNo, recDate)", "'A', 'P/1', '2026-03-14'", "'A', 'P/2', '2026-03-14'", false},
+        {"hRecordsPublic (consultID)", "'001/26/000001'", "'001/26/000001'", false},
+        {"Billing (billNo)", "'001OFL0000001'", "'001ofl0000001'", false},
+        {"BillingDetails (billNo, SNo)", "'A', 7", "'B', 7", false},
+        {"BillingDetails (billNo)", "'A'", "'A'", true},
+        {"Payments (ReceiptNo)", "'001OP0000001'", "'001op0000001'", false},
+        {"Payments (ReceiptNo)", "'1'", "'1'", false},
+        {"Payments (ReceiptNo)", "'TH0000001'", "'TH0000001'", false},
+        {"Payments (ReceiptNo)", "'SN 4711'", "'sn 4711'", true},
+        {"Payments (ReceiptNo)", "'SN'", "'SN'", true},
+        {"hRevenueType (revType)", "'DRUGS'", "'Drugs'", false},
+        {"billingPrice (clientCatID, clientType)", "'HMO', 'HMO'", "'hmo', 'NHIS'", true},
+        {"billingPrice (clientCatID, clientType)", "'STAFF', 'HMO'", "'staff', 'hmo'", false},
+        {"UserRoles (RoleID, Username)", "1, 'a'", "1, 'A'", false},
     };
-    for (const auto& test : cases) {
-        EXPECT_NO_THROW(run(test.first)) << test.first;
-        if (test.accepted)
-            EXPECT_NO_THROW(run(test.second)) << test.second;
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.into + std::string(one.second));
+        EXPECT_NO_THROW(addRows(billing, one.into, {one.first}));
+        if (one.accepted)
+            EXPECT_NO_THROW(addRows(billing, one.into, {one.second}));
         else
-            EXPECT_THROW(run(test.second), DataError) << test.second;
+            EXPECT_THROW(addRows(billing, one.into, {one.second}), DataError);
     }
 }
 
 TEST_P(SchemaRules, AKeyNeverComesBack) {
-    for (const char* table : {"BillAccum", "hRecords", "Payments"}) {
-        const QString name = QString::fromLatin1(table);
-        const bool visit = name == QLatin1StringView("hRecords");
-        const QString key = visit ? "recID" : "SNo";
-        const QString insert = visit
-                                   ? QStringLiteral("insert into hRecords (consultID, PNo, recDate) values ('A', 'P', "
-                                                    "'2026-03-14')")
-                                   : QStringLiteral("insert into %1 (PNo) values ('P')").arg(name);
-        billing.run(insert);
-        const qlonglong first = scalar(QStringLiteral("select max(%1) as n from %2").arg(key, name)).toLongLong();
-        billing.run("delete from " + name);
-        billing.run(insert);
-        EXPECT_GT(scalar(QStringLiteral("select max(%1) as n from %2").arg(key, name)).toLongLong(), first) << table;
+    const struct {
+        const char* key;
+        QString table;
+        const char* columns;
+        const char* row;
+    } cases[] = {{"SNo", "BillAccum", "(PNo)", "'P'"},
+                 {"SNo", "Payments", "(PNo)", "'P'"},
+                 {"recID", "hRecords", "(consultID, PNo, recDate)", "'A', 'P', '2026-03-14'"}};
+    for (const auto& one : cases) {
+        const auto added = [&] {
+            addRows(billing, (one.table + one.columns).toUtf8(), {one.row});
+            return scalar("select max(" + QString(one.key) + ") as n from " + one.table).toLongLong();
+        };
+        const qlonglong first = added();
+        billing.run("delete from " + one.table);
+        EXPECT_GT(added(), first) << one.table.toStdString();
     }
 }
 
 TEST_P(SchemaRules, AFlagThatIsNotWrittenIsZero) {
-    run("insert into BillAccum (consultID) values ('A')");
-    run("insert into BillingDetails (billNo) values ('A')");
-    run("insert into Billing (billNo) values ('A')");
-    run("insert into hRecords (consultID, PNo, recDate) values ('A', 'P', '2026-03-14')");
-    run("insert into hRetainership (retainID) values ('0001')");
-    EXPECT_EQ(scalar("select attendedto + isBilled + isRct from BillAccum"), "0");
-    EXPECT_EQ(scalar("select isRct + isPost from BillingDetails"), "0");
-    EXPECT_EQ(scalar("select isProcess + isPaid + AmountPaid + Amountbilled from Billing"), "0");
-    EXPECT_EQ(scalar("select attendedto from hRecords"), "0");
-    EXPECT_EQ(scalar("select BillEndDate from hRetainership"), "31");
+    addRows(billing, "BillAccum (consultID)", {"'A'"});
+    addRows(billing, "BillingDetails (billNo)", {"'A'"});
+    addRows(billing, "Billing (billNo)", {"'A'"});
+    addRows(billing, "hRecords (consultID, PNo, recDate)", {"'A', 'P', '2026-03-14'"});
+    addRows(billing, "hRetainership (retainID)", {"'0001'"});
+    const std::pair<const char*, const char*> cases[] = {
+        {"attendedto + isBilled + isRct from BillAccum", "0"},
+        {"isRct + isPost from BillingDetails", "0"},
+        {"isProcess + isPaid + AmountPaid + Amountbilled from Billing", "0"},
+        {"attendedto from hRecords", "0"},
+        {"BillEndDate from hRetainership", "31"}};
+    for (const auto& [columns, value] : cases)
+        EXPECT_EQ(scalar(QStringLiteral("select ") + columns), value) << columns;
 }
 
 TEST_P(SchemaRules, APatientsFullNameFollowsItsParts) {
-    run("insert into hPatients (PNo, psurname, pfirstname) values ('P/1', 'O''NEILL', 'Áine')");
-    run("insert into hPatients (PNo, psurname) values ('P/2', 'ONE_ILL')");
-    run("update hPatients set psurname='One' where PNo='P/2'");
+    addRows(billing, "hPatients (PNo, psurname, pfirstname)", {"'P/1', 'O''NEILL', 'Áine'", "'P/2', 'ONE_ILL', null"});
+    billing.run("update hPatients set psurname='One' where PNo='P/2'");
     EXPECT_EQ(scalar("select fullname from hPatients where PNo='P/1'"), "O'NEILL Áine");
     EXPECT_EQ(scalar("select PNo from hPatients where fullname='one'"), "P/2");
     EXPECT_EQ(scalar("select PNo from vwhpatients where fullname like 'o''n%'"), "P/1");
@@ -94,39 +86,35 @@ TEST_P(SchemaRules, APatientsFullNameFollowsItsParts) {
 
 /// The account of a patient and the ledger share a table name; each is written with its own columns.
 TEST_P(SchemaRules, BothTablesOfOneNameAreWritten) {
-    Recordset account(billing, Sql("select * from Tranxaction where 1=2"));
-    account.addNew();
-    account.set("PNo", "P/1");
-    account.set("Amount", -2000.5);
-    account.set("RunningTotal", -2000.5);
-    account.update();
-    EXPECT_EQ(scalar("select RunningTotal from Tranxaction where PNo='P/1'"), "-2000.5");
-
-    Connection accounting = data.open(TestHome::accounting());
-    Recordset ledger(accounting, Sql("select * from Tranxaction where 1=2"));
-    ledger.addNew();
-    ledger.set("TranID", "T1");
-    ledger.set("AccountNo", "1001");
-    ledger.set("TranDate", QDate(2026, 3, 14));
-    ledger.set("Amount", 2000.5);
-    ledger.update();
-    EXPECT_EQ(accounting.run("select Amount, TranDate from Tranxaction where TranID='T1'").text("TranDate"),
-              "2026-03-14");
+    const struct {
+        QString database;
+        QVariantMap row;
+    } cases[] = {{TestHome::billing(), {{"PNo", "P/1"}, {"Amount", -2000.5}, {"RunningTotal", -2000.5}}},
+                 {TestHome::accounting(), {{"TranID", "T1"}, {"AccountNo", "1001"}, {"Amount", -2000.5}}}};
+    for (const auto& one : cases) {
+        Connection connection = data.open(one.database);
+        Recordset table(connection, Sql("select * from Tranxaction where 1=2"));
+        table.addNew();
+        for (auto cell = one.row.begin(); cell != one.row.end(); ++cell)
+            table.set(cell.key(), cell.value());
+        table.update();
+        EXPECT_EQ(rowsOf(connection, "select " + QStringList(one.row.keys()).join(u',') + " from Tranxaction"),
+                  one.database == TestHome::billing() ? "-2000.5|P/1|-2000.5" : "1001|-2000.5|T1");
+    }
 }
 
 TEST_P(SchemaRules, ADeletedSupplierIsKeptWhole) {
     for (int round = 0; round < 2; ++round) {
-        run("insert into suppliers (supplierID, SupplierName, Email) values ('0001', 'ACME', 'a@b.c')");
-        run("insert into SuppliersArchive select * from suppliers where supplierID='0001'");
-        run("delete from suppliers where supplierID = '0001'");
+        addRows(billing, "suppliers (supplierID, SupplierName, Email)", {"'0001', 'ACME', 'a@b.c'"});
+        billing.run("insert into SuppliersArchive select * from suppliers where supplierID='0001'");
+        billing.run("delete from suppliers where supplierID = '0001'");
     }
     EXPECT_EQ(scalar("select count(*) as n from SuppliersArchive where Email='a@b.c'"), "2");
 }
 
 TEST_P(SchemaRules, ForeignNumbersDoNotDisturbTheGenerators) {
-    for (const char* number :
-         {"001OP0000007", "001OP0000041", "SN 900", "0", "OP0000012", "002OP0000090", "001LB0000099"})
-        billing.run(QStringLiteral("insert into Payments (ReceiptNo) values ('%1')").arg(QLatin1StringView(number)));
+    addRows(billing, "Payments (ReceiptNo)",
+            {"'001OP0000007'", "'001OP0000041'", "'SN 900'", "'0'", "'OP0000012'", "'002OP0000090'", "'001LB0000099'"});
     EXPECT_EQ(scalar("select MAX(cast(SUBSTRING(ReceiptNo, 6, 7)as bigint))  as ID from Payments WHERE  "
                      "SUBSTRING(ReceiptNo, 4, 2)='OP ' and SUBSTRING(ReceiptNo, 1, 3)='001 '"),
               "41");

@@ -1,7 +1,7 @@
 #include "data/dialect/Catalog.h"
-#include "data/rows/Recordset.h"
 #include "support/Hospital.h"
 #include "support/Print.h"
+#include "support/Rows.h"
 #include "support/TestHome.h"
 
 namespace orvane {
@@ -16,44 +16,28 @@ protected:
         data.setServerClock(QDateTime(QDate(2026, 3, 14), QTime(9, 30)));
     }
 
-    /// The rows of a statement: cells apart by "|", a line a row.
-    QString rows(const QString& tsql) {
-        QStringList lines;
-        for (Recordset recordset = billing.run(tsql); !recordset.eof(); recordset.moveNext()) {
-            QStringList cells;
-            for (int i = 0; i < recordset.columns().size(); ++i)
-                cells += recordset.text(i);
-            lines += cells.join(u'|');
-        }
-        return lines.join(u'\n');
+    QString rows(const QString& tsql) { return rowsOf(billing, tsql); }
+    /// What each statement gives.
+    void expect(std::initializer_list<std::pair<const char*, const char*>> cases) {
+        for (const auto& [tsql, expected] : cases)
+            EXPECT_EQ(rows(tsql), expected) << tsql;
     }
-
-    void run(std::initializer_list<const char*> statements) {
-        for (const char* statement : statements)
-            billing.run(QString::fromUtf8(statement));
-    }
+    void add(const char* into, std::initializer_list<const char*> rows) { addRows(billing, into, rows); }
 
     void visit(const char* consultID, const char* category = "PRIVATE", const char* client = "0001") {
-        makeVisit(billing, {.consultID = QString::fromUtf8(consultID),
-                            .category = QString::fromUtf8(category),
-                            .client = QString::fromUtf8(client)});
+        makeVisit(billing, {.consultID = consultID, .category = category, .client = client});
     }
 };
 
 TEST_P(Views, EveryViewOfBothDatabasesSelects) {
-    Connection accounting = data.open(TestHome::accounting());
-    for (const char* database : {"billing", "accounting"}) {
-        Connection& connection = database == std::string("billing") ? billing : accounting;
-        for (const QString& view : Catalog::instance().views(QString::fromLatin1(database))) {
-            try {
-                const Recordset all = connection.run("select * from " + view);
-                QStringList names;
-                for (const QString& column : all.columns())
-                    names += column.toLower();
-                EXPECT_EQ(names.removeDuplicates(), 0) << view.toStdString() << " gives a column twice";
-            } catch (const DataError& fault) {
-                ADD_FAILURE() << view.toStdString() << ": " << fault.what();
-            }
+    const std::pair<QString, QString> databases[] = {{"billing", TestHome::billing()},
+                                                     {"accounting", TestHome::accounting()}};
+    for (const auto& [database, connectionString] : databases) {
+        Connection connection = data.open(connectionString);
+        for (const QString& view : Catalog::instance().views(database)) {
+            SCOPED_TRACE(view.toStdString());
+            QStringList names = connection.run("select * from " + view).columns().join(u'|').toLower().split(u'|');
+            EXPECT_EQ(names.removeDuplicates(), 0) << "a column twice";
         }
     }
 }
@@ -62,25 +46,18 @@ TEST_P(Views, ABillHasATotalAsSoonAsItHasALine) {
     visit("A");
     visit("B", "HMO", "0201");
     visit("C");
-    run({"insert into hRecordsPublic (consultID, PNo, recDate, coyName) values ('001/26/000001', 'X1', '2026-03-14', "
-         "'0001')",
-         "insert into BillingDetails (SNo, billNo, drgName, SubTotal) values (1, 'A', 'CONSULTATION', 2000)",
-         "insert into BillingDetails (SNo, billNo, drgName, SubTotal) values (2, 'A', 'AMOXICILLIN 500MG', 120.5)",
-         "insert into BillingDetails (billNo, drgName, SubTotal) values ('A', 'DISCOUNT', -100)",
-         "insert into BillingDetails (SNo, billNo, drgName) values (3, 'A', 'NO PRICE')",
-         "insert into BillingDetails (SNo, billNo, drgName, SubTotal) values (4, 'B', 'CONSULTATION', 3000)",
-         "insert into BillingDetails (SNo, billNo, drgName, SubTotal) values (5, '001/26/000001', 'MALARIA', 1500)",
-         "insert into Billing (billNo, PNo, Amountbilled, InvNo, isProcess) values ('B', 'P/0001', 2500, "
-         "'0201/2026/03', 1)",
-         "insert into Billing (billNo, PNo, Amountbilled) values ('C', 'P/0001', 10)"});
-
-    EXPECT_EQ(rows("select billno, PNo, SubTotal, amountBilled, isprocess, invNo, coycode from "
-                   "vwBillingProcessDetailsGrouped order by billno"),
-              "001/26/000001|X1|1500||0||0001\n"
-              "A|P/0001|2020.5||0||0001\n"
-              "B|P/0001|3000|2500|1|0201/2026/03|0201");
-    EXPECT_EQ(rows("select billno, Amountbilled, SubTotal, Diff from vwBillingProcessDetailsGroupedVerify"),
-              "B|2500|3000|-500");
+    add("hRecordsPublic (consultID, PNo, recDate, coyName)", {"'001/26/000001', 'X1', '2026-03-14', '0001'"});
+    add("BillingDetails (SNo, billNo, SubTotal)", {"1, 'A', 2000", "2, 'A', 120.5", "null, 'A', -100", "3, 'A', null",
+                                                   "4, 'B', 3000", "5, '001/26/000001', 1500"});
+    add("Billing (billNo, PNo, Amountbilled, InvNo, isProcess)",
+        {"'B', 'P/0001', 2500, '0201/2026/03', 1", "'C', 'P/0001', 10, null, 0"});
+    expect({{"select billno, PNo, SubTotal, amountBilled, isprocess, invNo, coycode from "
+             "vwBillingProcessDetailsGrouped order by billno",
+             "001/26/000001|X1|1500||0||0001\n"
+             "A|P/0001|2020.5||0||0001\n"
+             "B|P/0001|3000|2500|1|0201/2026/03|0201"},
+            {"select billno, Amountbilled, SubTotal, Diff from vwBillingProcessDetailsGroupedVerify",
+             "B|2500|3000|-500"}});
 }
 
 TEST_P(Views, BillInfoSumsEveryItemAndTakesTheRestFromTheBill) {
@@ -88,12 +65,9 @@ TEST_P(Views, BillInfoSumsEveryItemAndTakesTheRestFromTheBill) {
     visit("B");
     makeItem(billing, {.consultID = "A", .price = 1000});
     makeItem(billing, {.consultID = "A", .price = 40, .qty = 6, .capitated = "YES"});
-    run({"insert into Billing (billNo, Amountbilled, AmountPaid) values ('A', 1000, null)"});
-
-    EXPECT_EQ(rows("select consultID, amountGen, Amountbilled, AmountPaid, AmountBal from vwbillInfo order by "
-                   "consultID"),
-              "A|1240|1000|0|1000\n"
-              "B||0|0|0");
+    add("Billing (billNo, Amountbilled, AmountPaid)", {"'A', 1000, null"});
+    EXPECT_EQ(rows("select consultID,amountGen,Amountbilled,AmountPaid,AmountBal from vwbillInfo order by consultID"),
+              "A|1240|1000|0|1000\nB||0|0|0");
 }
 
 TEST_P(Views, ABalanceIsDueOnAPrivateBillInEitherDirection) {
@@ -112,25 +86,21 @@ TEST_P(Views, ABalanceIsDueOnAPrivateBillInEitherDirection) {
         visit(bill.toUtf8(), test.category);
         billing.run(QStringLiteral("insert into Billing (billNo, PNo, bdate, Amountbilled, AmountPaid) values ('%1', "
                                    "'P/0001', '2026-03-14', %2, %3)")
-                        .arg(bill, QLatin1StringView(test.billed), QLatin1StringView(test.paid)));
+                        .arg(bill, test.billed, test.paid));
         for (const char* view : {"AmountDue from qryBillingBalanceDueForPrivate", "AmountDue from qryBillingBalanceDue",
-                                 "Balance from qryhBillingbalanceForPrivate"}) {
-            EXPECT_EQ(scalar(QStringLiteral("select %1 where billNo='%2'").arg(QLatin1StringView(view), bill)),
-                      QLatin1StringView(test.due))
+                                 "Balance from qryhBillingbalanceForPrivate"})
+            EXPECT_EQ(scalar(QStringLiteral("select %1 where billNo='%2'").arg(view, bill)), test.due)
                 << view << " of " << test.category << " billed " << test.billed << " paid " << test.paid;
-        }
     }
     EXPECT_EQ(rows("select fullName, clientName, Date from qryBillingBalanceDueForPrivate where billNo='B1'"),
               "ADEYEMI BOLA||2026-03-14");
 }
 
 TEST_P(Views, AReceiptCoversTheLinesThatNoReceiptCovers) {
-    run({"insert into BillingDetails (SNo, billNo, dtDate, drgName, SubTotal, revType, isRct) values (7, 'A', "
-         "'2026-03-13', 'CONSULTATION', 2000, 'CONSULTATION', 1)",
-         "insert into BillingDetails (SNo, billNo, dtDate, drgName, SubTotal, revType) values (9, 'A', '2026-03-14', "
-         "'DRESSING', 2500, 'UNKNOWN')",
-         "insert into BillingDetails (SNo, billNo, dtDate, drgName, SubTotal, revType) values (8, 'A', '2026-03-14', "
-         "'PARACETAMOL 500MG', 600, 'drugs')"});
+    add("BillingDetails (SNo, billNo, dtDate, drgName, SubTotal, revType, isRct)",
+        {"7, 'A', '2026-03-13', 'CONSULTATION', 2000, 'CONSULTATION', 1",
+         "9, 'A', '2026-03-14', 'DRESSING', 2500, 'UNKNOWN', 0",
+         "8, 'A', '2026-03-14', 'PARACETAMOL 500MG', 600, 'drugs', 0"});
     EXPECT_EQ(rows("select SNo, BillDate, BillItem, SubTotal, revType, AccountNo from vwRctForAcctDetails where "
                    "billNo='A' order by SNo"),
               "8|2026-03-14|PARACETAMOL 500MG|600|drugs|4002\n"
@@ -141,22 +111,20 @@ TEST_P(Views, AnItemIsBilledByItsVisitsCategory) {
     makePatient(billing, {.pno = "P/0002", .surname = "OKON", .category = "HMO", .client = "0201"});
     makeVisit(billing, {.consultID = "A", .pno = "P/0002", .category = "MTHLY", .client = "0102", .referal = "YES"});
     visit("B");
-    run({"update hRecords set clientCat=null where consultID='B'",
-         "insert into BillAccum (consultID, PNo, drgName, usage, SubTotal, coyName, billTo) values ('A', 'P/0002', "
-         "'A1', '2 TDS', 5, '0102', '0102')",
-         "insert into BillAccum (consultID, drgName, usage, dosage, SubTotal) values ('B', 'B1', '', '1 OD', 6)",
-         "insert into BillAccum (consultID, drgName, SubTotal) values ('GONE', 'C1', 7)"});
-
-    EXPECT_EQ(rows("select ConsultID, PNo, Service, ClientCat, Referal, Dosage, Subtotal, CoyName, BillTo, AttendedTo "
-                   "from qryBillAccum order by ConsultID"),
-              "A|P/0002|A1|MTHLY|YES|2 TDS|5|0102|0102|0\n"
-              "B|P/0001|B1||NO|1 OD|6|||0\n"
-              "GONE||C1||||7|||0")
-        << "the client columns give the client's id, and an item outlives its visit";
-    EXPECT_EQ(rows("select Service from qryBillAccum where consultid='B' and ClientCat not in ('HMO','PHIS','NHIS') "
-                   "and SNo not in (Select SNo from BillingDetails)"),
-              "B1")
-        << "a visit without a category is charged";
+    billing.run("update hRecords set clientCat=null where consultID='B'");
+    add("BillAccum (consultID, PNo, drgName, usage, dosage, SubTotal, coyName, billTo)",
+        {"'A', 'P/0002', 'A1', '2 TDS', null, 5, '0102', '0102'", "'B', null, 'B1', '', '1 OD', 6, null, null",
+         "'GONE', null, 'C1', null, null, 7, null, null"});
+    expect({
+        {"select ConsultID, PNo, Service, ClientCat, Referal, Dosage, Subtotal, CoyName, BillTo, AttendedTo from "
+         "qryBillAccum order by ConsultID",
+         "A|P/0002|A1|MTHLY|YES|2 TDS|5|0102|0102|0\n"
+         "B|P/0001|B1||NO|1 OD|6|||0\n"
+         "GONE||C1||||7|||0"}, // the client columns give the client's id, and an item outlives its visit
+        {"select Service from qryBillAccum where consultid='B' and ClientCat not in ('HMO','PHIS','NHIS') and SNo not "
+         "in (Select SNo from BillingDetails)",
+         "B1"} // a visit without a category is charged
+    });
 }
 
 TEST_P(Views, TheListsGiveOneRowAVisit) {
@@ -165,95 +133,85 @@ TEST_P(Views, TheListsGiveOneRowAVisit) {
     visit("C");
     visit("D");
     for (const char* consultID : {"A", "A", "B", "D"})
-        makeConsultation(billing, {.consultID = QString::fromLatin1(consultID)});
+        makeConsultation(billing, {.consultID = consultID});
     makeConsultation(billing, {.consultID = "C", .finished = false});
-    run({"update hRecords set BillDate='2026-03-14' where consultID='D'",
-         "delete from hRetainership where retainID='0201'",
-         "insert into hAdmission (consultID, PNo, admdate, DischDate, wardid) values ('A', 'P/0001', '2026-03-10', "
-         "'2026-03-12', 'W1')",
-         "insert into hAdmission (consultID, PNo, admdate, wardid) values ('A', 'P/0001', '2026-03-12', 'W2')",
-         "insert into hAdmission (consultID, PNo, admdate, DischDate) values ('D', 'P/0001', '2026-03-10', "
-         "'2026-03-12')"});
-
-    EXPECT_EQ(rows("select ConsultID, Fullname, Client, Debt from vwhConsultingVisitsForBilling where "
-                   "date='2026-03-14' order by ConsultID"),
-              "A|ADEYEMI BOLA|PRIVATE PATIENTS|0\n"
-              "B|ADEYEMI BOLA||0")
-        << "finished by a doctor, not billed, also of a client that is gone";
-    EXPECT_EQ(rows("select consultID, isbilled, coyname, retainID from vwhConsultingVisitsList order by consultID"),
-              "A|0|PRIVATE PATIENTS|0001\nB|0||0201\nC|0|PRIVATE PATIENTS|0001\nD|1|PRIVATE PATIENTS|0001");
-    EXPECT_EQ(rows("select consultID from vwhConsultingVisitsAdmission order by consultID"), "A\nD")
-        << "a bill that a deposit made bears no discharge";
-    run({"insert into Billing (billNo, DischDate) values ('D', '2026-03-14')"});
-    EXPECT_EQ(rows("select consultID from vwhConsultingVisitsAdmission"), "A") << "D was discharged and billed";
-    EXPECT_EQ(rows("select admdate, DischDate from vwAdmissionAndDischargeInfo where consultID='A'"), "2026-03-12|")
-        << "the last stay counts";
-    EXPECT_EQ(rows("select wardid from qryhAdmission where consultID='A'"), "W2");
-    EXPECT_EQ(rows("select consultID from vwhConsultingVisits"), "B") << "a private patient needs no approval";
-    EXPECT_EQ(rows("select consultID from qryhVisitsOffline order by consultID"), "A\nB\nC");
-    EXPECT_EQ(rows("select count(*) as n from vwhConsultingDetailsForBillingAlt where consultID='A'"), "2");
+    billing.run("update hRecords set BillDate='2026-03-14' where consultID='D'");
+    billing.run("delete from hRetainership where retainID='0201'");
+    add("hAdmission (consultID, PNo, admdate, DischDate, wardid)",
+        {"'A', 'P/0001', '2026-03-10', '2026-03-12', 'W1'", "'A', 'P/0001', '2026-03-12', null, 'W2'",
+         "'D', 'P/0001', '2026-03-10', '2026-03-12', null"});
+    expect({
+        {"select ConsultID, Fullname, Client, Debt from vwhConsultingVisitsForBilling where date='2026-03-14' order by "
+         "ConsultID",
+         "A|ADEYEMI BOLA|PRIVATE PATIENTS|0\n"
+         "B|ADEYEMI BOLA||0"}, // finished by a doctor, not billed, also of a client that is gone
+        {"select consultID, isbilled, coyname, retainID from vwhConsultingVisitsList order by consultID",
+         "A|0|PRIVATE PATIENTS|0001\nB|0||0201\nC|0|PRIVATE PATIENTS|0001\nD|1|PRIVATE PATIENTS|0001"},
+        {"select consultID from vwhConsultingVisitsAdmission order by consultID",
+         "A\nD"} // a bill that a deposit made bears no discharge
+    });
+    add("Billing (billNo, DischDate)", {"'D', '2026-03-14'"});
+    expect({{"select consultID from vwhConsultingVisitsAdmission", "A"}, // D was discharged and billed
+            {"select admdate, DischDate from vwAdmissionAndDischargeInfo where consultID='A'",
+             "2026-03-12|"}, // the last stay counts
+            {"select wardid from qryhAdmission where consultID='A'", "W2"},
+            {"select consultID from vwhConsultingVisits", "B"}, // a private patient needs no approval
+            {"select consultID from qryhVisitsOffline order by consultID", "A\nB\nC"},
+            {"select count(*) as n from vwhConsultingDetailsForBillingAlt where consultID='A'", "2"}});
 }
 
 TEST_P(Views, AVisitWithoutDoctorOrClientCanBePriced) {
     makePatient(billing, {.pno = "P/0002", .surname = "OKON", .firstname = "", .category = "HMO", .client = "0201"});
     makeVisit(billing, {.consultID = "A", .pno = "P/0002", .category = "HMO", .referal = "YES"});
-    run({"update hRecords set coyName=null where consultID='A'",
-         "update hPatients set DOB='1990-06-01' where PNo='P/0002'"});
-    EXPECT_EQ(rows("select fullName, clientcat, ref, retainID, RetainCode, Company, Age, treatedby from "
-                   "vwhConsultingDetailsForBillingAlt where consultID='A'"),
-              "OKON|HMO|YES|0201|0201|CLEARWATER HMO|36|")
-        << "a visit that names no client is its patient's client's";
-    EXPECT_EQ(rows("select clientcatID, retainID, RetainName from qryhVisitsForAttend where consultid='A'"),
-              "HMO|0201|CLEARWATER HMO");
+    billing.run("update hRecords set coyName=null where consultID='A'");
+    billing.run("update hPatients set DOB='1990-06-01' where PNo='P/0002'");
+    expect({{"select fullName, clientcat, ref, retainID, RetainCode, Company, Age, treatedby from "
+             "vwhConsultingDetailsForBillingAlt where consultID='A'",
+             "OKON|HMO|YES|0201|0201|CLEARWATER HMO|36|"}, // a visit that names no client is its patient's client's
+            {"select clientcatID, retainID, RetainName from qryhVisitsForAttend where consultid='A'",
+             "HMO|0201|CLEARWATER HMO"}});
 }
 
 TEST_P(Views, ATemplatePriceStandsBesideTheItemsMaster) {
-    run({"insert into DrugNHIS (drgName, company, Price, Capitated, RevType) values ('NEW DRUG', '0201', 15, 'YES', "
-         "null)",
-         "insert into labservices (Drgname, drgCatName, coyID) values ('MALARIA PARASITE', 'PARASITOLOGY', '0201')",
-         "insert into hServiceNHIS (service, company, Price) values ('NEW SERVICE', '0201', 5)"});
-    EXPECT_EQ(rows("select Drug, LocID, Price, Capitated, Category, revType, UnitsInStock from vwDrugNHIS where "
-                   "coyID='0201' and Drug in ('NEW DRUG','paracetamol 500mg') order by Drug"),
-              "NEW DRUG|0001|15|YES|||\n"
-              "PARACETAMOL 500MG|0001|40|YES|TABLETS|DRUGS|500");
-    EXPECT_EQ(rows("select Price, Category, revType from vwLabServiceNHIS where LabItem ='MALARIA PARASITE'and "
-                   "coyID='0201'"),
-              "1200|PARASITOLOGY|LABORATORY")
-        << "a master row a client does not double the price";
-    EXPECT_EQ(rows("select Price, Category from vwServiceNHIS where service ='NEW SERVICE'   and coyID='0201'"), "5|");
+    add("DrugNHIS (drgName, company, Price, Capitated)", {"'NEW DRUG', '0201', 15, 'YES'"});
+    add("labservices (Drgname, drgCatName, coyID)", {"'MALARIA PARASITE', 'PARASITOLOGY', '0201'"});
+    add("hServiceNHIS (service, company, Price)", {"'NEW SERVICE', '0201', 5"});
+    expect({{"select Drug, LocID, Price, Capitated, Category, revType, UnitsInStock from vwDrugNHIS where coyID='0201' "
+             "and Drug in ('NEW DRUG','paracetamol 500mg') order by Drug",
+             "NEW DRUG|0001|15|YES|||\n"
+             "PARACETAMOL 500MG|0001|40|YES|TABLETS|DRUGS|500"},
+            {"select Price, Category, revType from vwLabServiceNHIS where LabItem ='MALARIA PARASITE'and coyID='0201'",
+             "1200|PARASITOLOGY|LABORATORY"}, // a master row a client does not double the price
+            {"select Price, Category from vwServiceNHIS where service ='NEW SERVICE'   and coyID='0201'", "5|"}});
 }
 
 TEST_P(Views, DebtsStandAsTheScreensAskForThem) {
     makePatient(billing, {.pno = "P/0002", .surname = "OKON", .debt = -1500.5});
     makePatient(billing, {.pno = "P/0003", .surname = "PAM", .debt = 200});
-    run({"update hPatients set DebtBF=null where PNo='P/0001'"});
-    EXPECT_EQ(rows("SELECT PNo, debtBF FROM qryhFullnameHosp order by abs(debtBF) desc"),
-              "P/0002|1500.5\nP/0003|-200\nP/0001|0")
-        << "a debt report shows what is owed as plus";
-    EXPECT_EQ(scalar("select debt from qryhfullname where pno='P/0002'"), "-1500.5");
-    EXPECT_EQ(scalar("select debt from vwDebtInfoForPatUnionGrouped where pno='P/0002'"), "-1500.5");
+    billing.run("update hPatients set DebtBF=null where PNo='P/0001'");
+    expect({{"SELECT PNo, debtBF FROM qryhFullnameHosp order by abs(debtBF) desc",
+             "P/0002|1500.5\nP/0003|-200\nP/0001|0"}, // a debt report shows what is owed as plus
+            {"select debt from qryhfullname where pno='P/0002'", "-1500.5"},
+            {"select debt from vwDebtInfoForPatUnionGrouped where pno='P/0002'", "-1500.5"}});
 }
 
 /// A sum of doubles may miss nothing by a hair; nobody owes a hair.
 TEST_P(Views, LessThanHalfAKoboIsNoDebt) {
     visit("A");
-    run({"insert into hconsulting (consultID, attendedto) values ('A', 1)",
-         "insert into BillingDetails (billNo, SubTotal) values ('A', 100)",
-         "insert into Billing (billNo, PNo, AmountPaid) values ('A', 'P/0001', 100)"});
-    const struct {
-        const char* amount;
-        bool nothing;
-    } cases[] = {{"-0.0000000000018", true}, {"0.0049", true}, {"-0.0051", false}, {"0.01", false}};
-    for (const auto& test : cases) {
-        billing.run(QStringLiteral("update hPatients set DebtBF=%1").arg(QLatin1StringView(test.amount)));
-        billing.run(QStringLiteral("update Billing set Amountbilled=100 - (%1)").arg(QLatin1StringView(test.amount)));
+    add("hconsulting (consultID, attendedto)", {"'A', 1"});
+    add("BillingDetails (billNo, SubTotal)", {"'A', 100"});
+    add("Billing (billNo, PNo, AmountPaid)", {"'A', 'P/0001', 100"});
+    const std::pair<const char*, bool> cases[] = {
+        {"-0.0000000000018", true}, {"0.0049", true}, {"-0.0051", false}, {"0.01", false}};
+    for (const auto& [amount, nothing] : cases) {
+        billing.run(QStringLiteral("update hPatients set DebtBF=%1").arg(amount));
+        billing.run(QStringLiteral("update Billing set Amountbilled=100 - (%1)").arg(amount));
         for (const char* column :
              {"Debt from vwhpatients", "Debt from qryhfullname", "debtBF from qryhFullnameHosp",
               "Debt from vwDebtInfoForPatUnionGrouped", "debt from vwDebtInfo",
               "Debt from vwhConsultingVisitsForBilling", "AmountBal from vwbillInfo", "Balance from vwBilling",
               "AmountDue from qryBillingBalanceForPrivate", "Diff from vwBillingProcessDetailsGroupedVerify"})
-            EXPECT_EQ(scalar(QStringLiteral("select %1").arg(column)) == "0", test.nothing)
-                << column << " of " << test.amount;
+            EXPECT_EQ(scalar(QStringLiteral("select %1").arg(column)) == "0", nothing) << column << " of " << amount;
     }
 }
 
@@ -261,24 +219,21 @@ TEST_P(Views, LessThanHalfAKoboIsNoDebt) {
 TEST_P(Views, ABillOfWhichOnlyTheLinesAreThereIsDue) {
     visit("A");
     visit("B", "HMO", "0201");
-    run({"insert into BillingDetails (billNo, SubTotal) values ('A', 2000.5)",
-         "insert into BillingDetails (billNo, SubTotal) values ('B', 700)",
-         "insert into Payments (ReceiptNo, billNo, AmountPaid) values ('1', 'A', 500)"});
+    add("BillingDetails (billNo, SubTotal)", {"'A', 2000.5", "'B', 700"});
+    add("Payments (ReceiptNo, billNo, AmountPaid)", {"'1', 'A', 500"});
     EXPECT_EQ(rows("select distinct Date,billno,pno,amountbilled,currentDebt,prevDebt,AmountPaid,bdate from "
                    "qryBillingBalanceDueForPrivate"),
               "2026-03-14|A|P/0001|2000.5|1500.5|0|500|");
-    run({"update Payments set AmountPaid=2000.5"});
+    billing.run("update Payments set AmountPaid=2000.5");
     EXPECT_EQ(rows("select billNo from qryBillingBalanceDueForPrivate"), "");
 }
 
 TEST_P(Views, TheAccountShowsChargesAndMoneyApart) {
     visit("A", "MTHLY", "0102");
-    run({"insert into Tranxaction (entryDate, PNo, billNo, Amount, RunningTotal, Remarks) values ('2026-03-15', "
-         "'P/0001', 'A', -2000, -2000, 'CONSULTATION')",
-         "insert into Tranxaction (entryDate, PNo, billNo, Amount, RunningTotal, Remarks) values ('2026-03-16', "
-         "'P/0001', 'GONE', 500.25, -1499.75, 'Payment')",
-         "insert into Tranxaction (entryDate, PNo, billNo, Amount, RunningTotal, Remarks) values ('2026-03-16', "
-         "'P/0001', 'A', 0, -1499.75, 'Payment')"});
+    add("Tranxaction (entryDate, PNo, billNo, Amount, RunningTotal, Remarks)",
+        {"'2026-03-15', 'P/0001', 'A', -2000, -2000, 'CONSULTATION'",
+         "'2026-03-16', 'P/0001', 'GONE', 500.25, -1499.75, 'Payment'",
+         "'2026-03-16', 'P/0001', 'A', 0, -1499.75, 'Payment'"});
     EXPECT_EQ(rows("SELECT AttndDate, FullName, Remarks as Items, Bill, AmountPaid, RunningTotal as Debt, BillNo, "
                    "Comapany FROM vwTranxaction where pno='P/0001' order by SNo"),
               "2026-03-14|ADEYEMI BOLA|CONSULTATION|2000|0|-2000|A|HARMONY MILLS LTD\n"
@@ -288,57 +243,52 @@ TEST_P(Views, TheAccountShowsChargesAndMoneyApart) {
 
 TEST_P(Views, AReceiptCountsOnceWhoeverPaid) {
     visit("A");
-    run({"insert into hRecordsPublic (consultID, PNo, recDate, coyName) values ('001/26/000001', 'X1', '2026-03-14', "
-         "'0001')",
-         "insert into hPatientsPublic (PNo, pSurname, pfirstname) values ('X1', 'EZE', 'IFY')",
-         "insert into hPatientsPublic (PNo, pSurname, pfirstname) values ('X1', 'EZE', 'IFY')",
-         "insert into Payments (ReceiptDate, ReceiptNo, billNo, PNo, Amountbilled, AmountPaid) values ('2026-03-14', "
-         "'1', 'A', 'P/0001', 2000, 1500)",
-         "insert into Payments (ReceiptDate, ReceiptNo, billNo, PNo, Amountbilled, AmountPaid) values ('2026-03-14', "
-         "'2', '001/26/000001', 'X1', 1000, 1000)",
-         "insert into Payments (ReceiptDate, ReceiptNo, billNo, PNo, Amountbilled, AmountPaid) values ('2026-03-14', "
-         "'3', 'A', 'P/0001', -2000, -1500)"});
-    const char* const expected = "1|ADEYEMI BOLA|1500\n2|EZE IFY|1000\n3|ADEYEMI BOLA|-1500";
-    EXPECT_EQ(rows("select receiptNo, fullname, AmountPaid from qrypayments order by receiptNo"), expected);
-    EXPECT_EQ(rows("select ReceiptNo, Fullname, AmountPaid from qryhBillingReceipt order by ReceiptNo"), expected);
-    EXPECT_EQ(rows("select receiptNo, Fullname, Income from qryhBillingIncome order by receiptNo"), expected);
-    EXPECT_EQ(rows("select receiptNo, Fullname from qryhBillingReceiptPublic"), "2|EZE IFY");
-    EXPECT_EQ(rows("select receiptNo from qryreceiptCancelled where receiptdate ='2026-03-14'"), "3");
-    EXPECT_EQ(rows("select rctCode, ClinicID from vwClinicCode where consultID='A'"), "OP|OPD");
+    add("hRecordsPublic (consultID, PNo, recDate, coyName)", {"'001/26/000001', 'X1', '2026-03-14', '0001'"});
+    add("hPatientsPublic (PNo, pSurname, pfirstname)", {"'X1', 'EZE', 'IFY'", "'X1', 'EZE', 'IFY'"});
+    add("Payments (ReceiptDate, ReceiptNo, billNo, PNo, Amountbilled, AmountPaid)",
+        {"'2026-03-14', '1', 'A', 'P/0001', 2000, 1500", "'2026-03-14', '2', '001/26/000001', 'X1', 1000, 1000",
+         "'2026-03-14', '3', 'A', 'P/0001', -2000, -1500"});
+    for (const char* view :
+         {"AmountPaid from qrypayments", "AmountPaid from qryhBillingReceipt", "Income from qryhBillingIncome"})
+        EXPECT_EQ(rows(QStringLiteral("select receiptNo, Fullname, %1 order by receiptNo").arg(view)),
+                  "1|ADEYEMI BOLA|1500\n2|EZE IFY|1000\n3|ADEYEMI BOLA|-1500")
+            << view;
+    expect({{"select receiptNo, Fullname from qryhBillingReceiptPublic", "2|EZE IFY"},
+            {"select receiptNo from qryreceiptCancelled where receiptdate ='2026-03-14'", "3"},
+            {"select rctCode, ClinicID from vwClinicCode where consultID='A'", "OP|OPD"}});
 }
 
 TEST_P(Views, TodayIsTheServersDay) {
     visit("OLD");
     visit("OLDOPEN");
     visit("TODAY");
-    run({"update hRecords set recDate='2026-03-01'", "update hRecords set attendedto=1 where consultID='OLD'",
-         "update hRecords set attendedto=1, recDate='2026-03-14' where consultID='TODAY'",
-         "insert into hreferal (ConsultID, PNo, ApptDate, Remarks) values ('OLD', 'P/0001', '2026-03-14', 'FOLLOW-UP')",
-         "insert into hreferal (ConsultID, PNo, ApptDate, Remarks) values ('OLD', 'P/0001', '2026-03-15', 'REVIEW')"});
+    billing.run("update hRecords set attendedto=1 where consultID<>'OLDOPEN'");
+    billing.run("update hRecords set recDate='2026-03-01' where consultID<>'TODAY'");
+    add("hreferal (ConsultID, PNo, ApptDate, Remarks)",
+        {"'OLD', 'P/0001', '2026-03-14', 'FOLLOW-UP'", "'OLD', 'P/0001', '2026-03-15', 'REVIEW'"});
     makePatient(billing, {.pno = "P/0002", .surname = "OKON", .expiry = QDate(2026, 3, 14)});
     makePatient(billing, {.pno = "P/0003", .surname = "PAM", .expiry = QDate(2026, 3, 15)});
 
-    EXPECT_EQ(rows("select ConsultID from qryhVisitsForToday order by ConsultID"), "OLDOPEN\nTODAY");
-    EXPECT_EQ(rows("select Remarks from qryhAppt where pno='P/0001' and attendedto =0"), "FOLLOW-UP");
-    EXPECT_EQ(rows("SELECT pNo FROM qryhCardNotExpired order by psurname"), "P/0001\nP/0003")
-        << "a card is no longer valid on its last day";
-    EXPECT_EQ(rows("select Pno, expired from vwhpatients order by Pno"), "P/0001|0\nP/0002|1\nP/0003|0");
+    expect({{"select ConsultID from qryhVisitsForToday order by ConsultID", "OLDOPEN\nTODAY"},
+            {"select Remarks from qryhAppt where pno='P/0001' and attendedto =0", "FOLLOW-UP"},
+            {"SELECT pNo FROM qryhCardNotExpired order by psurname",
+             "P/0001\nP/0003"}, // a card is no longer valid on its last day
+            {"select Pno, expired from vwhpatients order by Pno", "P/0001|0\nP/0002|1\nP/0003|0"}});
 }
 
 TEST_P(Views, AUserIsSeenOncePerRole) {
-    run({"insert into ApplicationUsers (Username, Fullname, AccountStatus) values ('new.user', 'NEW USER', 'Enabled')",
-         "insert into UserRoles (RoleID, Username) values (101, 'NEW.USER')"});
-    EXPECT_EQ(rows("SELECT EmpID, Fullname,username,loginrole,hname,hospID FROM vwUsers WHERE Username = 'AMINA.B'  "
-                   "and loginrole='BILLING'"),
-              "E001|AMINA BELLO|amina.b|BILLING|HALDEN HOSPITAL|001");
-    EXPECT_EQ(rows("select hospID, loginrole from vwUsers where username='new.user'"), "001|BILLING")
-        << "a user without a hospital belongs to the first";
-    EXPECT_EQ(scalar("select count(*) as n from vwUsers"), "3");
+    add("ApplicationUsers (Username, Fullname, AccountStatus)", {"'new.user', 'NEW USER', 'Enabled'"});
+    add("UserRoles (RoleID, Username)", {"101, 'NEW.USER'"});
+    expect({{"SELECT EmpID, Fullname,username,loginrole,hname,hospID FROM vwUsers WHERE Username = 'AMINA.B'  and "
+             "loginrole='BILLING'",
+             "E001|AMINA BELLO|amina.b|BILLING|HALDEN HOSPITAL|001"},
+            {"select hospID, loginrole from vwUsers where username='new.user'",
+             "001|BILLING"}, // a user without a hospital belongs to the first
+            {"select count(*) as n from vwUsers", "3"}});
 }
 
 TEST_P(Views, ABatchHasANumericValue) {
-    run({"insert into BillsForClients (CoyCode, BatchNo) values ('0201', '2026/02')",
-         "insert into BillsForClients (CoyCode, BatchNo) values ('0201', '2025/12')"});
+    add("BillsForClients (CoyCode, BatchNo)", {"'0201', '2026/02'", "'0201', '2025/12'"});
     EXPECT_EQ(rows("select  top 1 batchVal,coyCode  from vwBillsForClientsBatchVal where coycode='0201' order by "
                    "batchval desc "),
               "202602|0201");

@@ -2,6 +2,7 @@
 
 #include "play/QuietUi.h"
 #include "session/Main.h"
+#include "support/Rows.h"
 #include "support/TestHome.h"
 
 #include <QFile>
@@ -10,61 +11,59 @@ using namespace orvane;
 
 namespace {
 
-/// A patient with a visit, a bill of two lines, and a receipt over two ways, all in order.
-const QStringList soundRows = {
-    "insert into hPatients (PNo,psurname,DebtBF) values ('1/001','BELLO',-500)",
-    "insert into hRecords (consultID,PNo,recDate,BillDate) values ('001OFL0000001','1/001','2026-03-01','2026-03-01')",
-    "insert into BillAccum (consultID,PNo,drgName,SubTotal) values ('001OFL0000001','1/001','A',1000)",
-    "insert into BillAccum (consultID,PNo,drgName,SubTotal) values ('001OFL0000001','1/001','B',500)",
-    "insert into BillingDetails (SNo,billNo,drgName,SubTotal) values (1,'001OFL0000001','A',1000)",
-    "insert into BillingDetails (SNo,billNo,drgName,SubTotal) values (2,'001OFL0000001','B',500)",
-    "insert into Billing (billNo,PNo,Amountbilled,AmountPaid) values ('001OFL0000001','1/001',1500,1000)",
-    "insert into Payments (ReceiptNo,billNo,PNo,AmountPaid) values ('7','001OFL0000001','1/001',1000)",
-    "insert into PaymentTypes (ReceiptNo,PayType,AmountPaid) values ('7','CASH',400)",
-    "insert into PaymentTypes (ReceiptNo,PayType,AmountPaid) values ('7','POS',600)",
-    "insert into PaymentDetails (ReceiptNo,billNo,BillItem,AmountPaid) values ('7','001OFL0000001','A',1000)",
-    "insert into Tranxaction (PNo,billNo,Amount,RunningTotal) values ('1/001','001OFL0000001',-1000,-1000)",
-    "insert into Tranxaction (PNo,billNo,Amount,RunningTotal) values ('1/001','001OFL0000001',-500,-1500)",
-    "insert into Tranxaction (PNo,billNo,Amount,RunningTotal) values ('1/001','001OFL0000001',1000,-500)",
-    // What the program's own actions leave and no check may mind.
-    "insert into BillAccum (consultID,PNo,drgName,SubTotal) values ('001OFL0000099','1/001','OF A DELETED VISIT',70)",
-    "insert into BillingDetails (SNo,billNo,drgName,SubTotal) values (-3,'001OFL0000001','DISCOUNT',0)",
-    // A paper receipt whose number comes twice, both reversed.
-    "insert into Billing (billNo,PNo,Amountbilled,AmountPaid,billType) values ('001OFL0000002','1/001',900,0,'CASH')",
-    "insert into Payments (ReceiptNo,billNo,PNo,AmountPaid) values ('SN12','001OFL0000002','1/001',450)",
-    "insert into Payments (ReceiptNo,billNo,PNo,AmountPaid) values ('SN12','001OFL0000002','1/001',450)",
-    "insert into Payments (ReceiptNo,billNo,AmountPaid,Remarks) values "
-    "('11','001OFL0000002',-450,'REVERSAL for RctNo: SN12')",
-    "insert into Payments (ReceiptNo,billNo,AmountPaid,Remarks) values "
-    "('12','001OFL0000002',-450,'REVERSAL for RctNo: SN12')",
-    // Visits that took receipts before they had a bill; a reversal comes to whole kobo.
-    "insert into hRecords (consultID,PNo,recDate) values ('001OFL0000003','1/001','2026-03-01')",
-    "insert into hRecordsPublic (consultID) values ('001/26/000009')",
-    "insert into Payments (ReceiptNo,billNo,AmountPaid) values ('13','001/26/000009',60)",
-    "insert into Payments (ReceiptNo,billNo,AmountPaid) values ('8','001OFL0000003',300.005)",
-    "insert into PaymentDetails (ReceiptNo,billNo,snoID,BillItem,AmountPaid) values "
-    "('8','001OFL0000003',4,'C',300.005)",
-    "insert into Payments (ReceiptNo,billNo,AmountPaid,Remarks) values "
-    "('9','001OFL0000003',-300.01,'REVERSAL for RctNo: 8')",
-    // Three lines were covered by the name of the first; the others were renamed, one of them as an item only.
-    "insert into BillAccum (consultID,drgName,SubTotal,isRct) values ('001OFL0000003','C',400,1)",
-    "insert into BillAccum (consultID,drgName,SubTotal,isRct) values ('001OFL0000003','E',400,1)",
-    "insert into BillingDetails (SNo,billNo,drgName,SubTotal,isRct) values (4,'001OFL0000003','F',400,1)",
-    "insert into BillingDetails (SNo,billNo,drgName,SubTotal,isRct) values (5,'001OFL0000003','C',400,1)",
-    "insert into BillAccum (consultID,drgName,SubTotal,isRct) values ('001OFL0000004','H',70,1)",
-    "insert into BillingDetailsAdjust (billNo,BillItem) values ('001OFL0000004','G')",
-    "insert into PaymentDetails (ReceiptNo,billNo,snoID,BillItem,AmountPaid) values ('13','001OFL0000004',9,'G',60)",
-    // A carried debt corrected; a carried credit that was removed from a visit deleted later; one renamed to the other.
-    "insert into BillAccum (consultID,drgName,SubTotal) values ('001OFL0000003','PREVIOUS DEBT',200)",
-    "insert into hDebtReview (billNo,PNo,Debt) values ('001OFL0000003','1/001',-200)",
-    "insert into BillingDetailsAdjust (billNo,BillItem) values ('001OFL0000098','PREVIOUS CREDIT')",
-    "insert into hDebtReview (billNo,PNo,Debt) values ('001OFL0000098','1/001',50)",
-    "insert into BillAccum (consultID,drgName,SubTotal) values ('001OFL0000097','PREVIOUS CREDIT',80)",
-    "insert into hDebtReview (billNo,PNo,Debt) values ('001OFL0000097','1/001',-80)",
-    "insert into hDebtReview (billNo,PNo,Debt) values ('001OFL0000097','1/001',80)",
-    "insert into hApprvCode (consultID,ApprvCode) values ('001OFL0000003','OFH/1')",
-    "insert into hApprvCode (consultID,ApprvCode) values ('001OFL0000099','OFH/2')",
+struct Rows {
+    const char* into;
+    std::initializer_list<const char*> rows;
 };
+
+/// A patient with a visit, a bill of two lines, and a receipt over two ways, all in order; and what the program's own
+/// actions leave and no check may mind.
+const Rows soundRows[] = {
+    {"hPatients (PNo,psurname,DebtBF)", {"'1/001','BELLO',-500"}},
+    {"hRecords (consultID,PNo,recDate,BillDate)",
+     {"'001OFL0000001','1/001','2026-03-01','2026-03-01'", "'001OFL0000003','1/001','2026-03-01',null"}},
+    {"hRecordsPublic (consultID)", {"'001/26/000009'"}},
+    // Of a deleted visit; of a visit whose first line covered three by its name, the others were renamed, one of them
+    // as an item only; a carried debt corrected, and a credit on a visit deleted later.
+    {"BillAccum (consultID,PNo,drgName,SubTotal,isRct)",
+     {"'001OFL0000001','1/001','A',1000,0", "'001OFL0000001','1/001','B',500,0",
+      "'001OFL0000099','1/001','OF A DELETED VISIT',70,0", "'001OFL0000003',null,'C',400,1",
+      "'001OFL0000003',null,'E',400,1", "'001OFL0000004',null,'H',70,1", "'001OFL0000003',null,'PREVIOUS DEBT',200,0",
+      "'001OFL0000097',null,'PREVIOUS CREDIT',80,0"}},
+    {"BillingDetails (SNo,billNo,drgName,SubTotal,isRct)",
+     {"1,'001OFL0000001','A',1000,0", "2,'001OFL0000001','B',500,0", "-3,'001OFL0000001','DISCOUNT',0,0",
+      "4,'001OFL0000003','F',400,1", "5,'001OFL0000003','C',400,1"}},
+    {"BillingDetailsAdjust (billNo,BillItem)", {"'001OFL0000004','G'", "'001OFL0000098','PREVIOUS CREDIT'"}},
+    {"Billing (billNo,PNo,Amountbilled,AmountPaid,billType)",
+     {"'001OFL0000001','1/001',1500,1000,null", "'001OFL0000002','1/001',900,0,'CASH'"}},
+    // A paper receipt whose number comes twice, both reversed; visits that took receipts before they had a bill, of
+    // which a reversal comes to whole kobo.
+    {"Payments (ReceiptNo,billNo,PNo,AmountPaid,Remarks)",
+     {"'7','001OFL0000001','1/001',1000,null", "'SN12','001OFL0000002','1/001',450,null",
+      "'SN12','001OFL0000002','1/001',450,null", "'11','001OFL0000002',null,-450,'REVERSAL for RctNo: SN12'",
+      "'12','001OFL0000002',null,-450,'REVERSAL for RctNo: SN12'", "'13','001/26/000009',null,60,null",
+      "'8','001OFL0000003',null,300.005,null", "'9','001OFL0000003',null,-300.01,'REVERSAL for RctNo: 8'"}},
+    {"PaymentTypes (ReceiptNo,PayType,AmountPaid)", {"'7','CASH',400", "'7','POS',600"}},
+    {"PaymentDetails (ReceiptNo,billNo,snoID,BillItem,AmountPaid)",
+     {"'7','001OFL0000001',null,'A',1000", "'8','001OFL0000003',4,'C',300.005", "'13','001OFL0000004',9,'G',60"}},
+    {"Tranxaction (PNo,billNo,Amount,RunningTotal)",
+     {"'1/001','001OFL0000001',-1000,-1000", "'1/001','001OFL0000001',-500,-1500",
+      "'1/001','001OFL0000001',1000,-500"}},
+    {"hDebtReview (billNo,PNo,Debt)",
+     {"'001OFL0000003','1/001',-200", "'001OFL0000098','1/001',50", "'001OFL0000097','1/001',-80",
+      "'001OFL0000097','1/001',80"}},
+    {"hApprvCode (consultID,ApprvCode)", {"'001OFL0000003','OFH/1'", "'001OFL0000099','OFH/2'"}},
+};
+
+/// The program with the sound rows and what is done to them.
+void lay(Program& program, const QStringList& statements = {}, bool ofAccounting = false) {
+    ASSERT_TRUE(prepareServer(program));
+    Connection billing = program.openBilling();
+    for (const Rows& rows : soundRows)
+        addRows(billing, rows.into, rows.rows);
+    for (const QString& statement : statements)
+        (ofAccounting ? program.openAccounting() : program.openBilling()).run(statement);
+}
 
 struct Plant {
     const char* check;
@@ -103,11 +102,11 @@ const Plant plants[] = {
     {"reversal's amount", {"update Payments set AmountPaid=-300.02 where ReceiptNo='9'"}},
     {"reversal's amount", {"update Payments set AmountPaid=300.005 where ReceiptNo='9'"}},
     {"receipt reversed again",
-     {"insert into Payments (ReceiptNo,billNo,AmountPaid,Remarks) values "
-      "('14','001OFL0000003',-300.01,'REVERSAL for RctNo: 8')"}},
+     {"insert into Payments (ReceiptNo,billNo,AmountPaid,Remarks) values ('14','001OFL0000003',-300.01,'REVERSAL for "
+      "RctNo: 8')"}},
     {"receipt reversed again",
-     {"insert into Payments (ReceiptNo,billNo,AmountPaid,Remarks) values "
-      "('14','001OFL0000002',-450,'REVERSAL for RctNo: SN12')"}},
+     {"insert into Payments (ReceiptNo,billNo,AmountPaid,Remarks) values ('14','001OFL0000002',-450,'REVERSAL for "
+      "RctNo: SN12')"}},
     {"bill line without item", {"delete from BillAccum where SNo=2"}},
     {"saved visit without bill", {"delete from Billing where billNo='001OFL0000001'"}},
     {"covered item without payment", {"update BillAccum set isRct=1 where drgName='B'"}},
@@ -132,21 +131,16 @@ const Plant plants[] = {
      true},
 };
 
-class CheckTest : public EngineTest {
+class CheckTest : public ::testing::TestWithParam<Engine> {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(prepareServer(program));
-        for (const QString& row : soundRows)
-            billing.run(row);
-    }
-
+    TestHome home{GetParam()};
     QuietUi ui;
     Program program{home.folder(), ui};
 };
 
 TEST_P(CheckTest, passesASoundHospital) {
-    const CheckReport report = checkDatabases(program);
-    EXPECT_EQ(report.findings, QStringList());
+    lay(program);
+    EXPECT_EQ(checkDatabases(program).findings, QStringList());
 }
 
 TEST_P(CheckTest, everyCheckFindsItsFault) {
@@ -158,12 +152,7 @@ TEST_P(CheckTest, everyCheckFindsItsFault) {
             continue; // that engine refuses the sum that would make one
         TestHome fresh(GetParam());
         Program sick(fresh.folder(), ui);
-        ASSERT_TRUE(prepareServer(sick));
-        Connection connection = sick.openBilling();
-        for (const QString& row : soundRows)
-            connection.run(row);
-        for (const QString& statement : plant.statements)
-            (plant.ofAccounting ? sick.openAccounting() : sick.openBilling()).run(statement);
+        lay(sick, plant.statements, plant.ofAccounting);
         const CheckReport report = checkDatabases(sick);
         const QStringList findings = report.findings + report.notices;
         EXPECT_FALSE(findings.filter(QString(plant.check) + ": ").isEmpty())
@@ -179,20 +168,16 @@ TEST_P(CheckTest, everyCheckFindsItsFault) {
 /// What the program's own actions leave between a private patient's account and his bills is told with its cause, and
 /// is no finding.
 TEST_P(CheckTest, aNoticeTellsWhyAnAccountDiffersFromItsBills) {
-    const QStringList agreeing = {
-        "insert into hPatients (PNo,psurname,clientcatID,DebtBF) values ('2/001','OJO','PRIVATE',-1500)",
-        "insert into hRecords (consultID,PNo,recDate,clientCat) values ('B1','2/001','2026-03-01','PRIVATE')",
-        "insert into BillAccum (consultID,PNo,drgName,SubTotal) values ('B1','2/001','A',1000)",
-        "insert into BillAccum (consultID,PNo,drgName,SubTotal) values ('B1','2/001','B',800)",
-        "insert into BillingDetails (SNo,billNo,drgName,SubTotal,billTo) select SNo,'B1',drgName,SubTotal,'0001' from "
-        "BillAccum where consultID='B1'",
-        "insert into BillingDetails (SNo,billNo,drgName,SubTotal,billTo) values (-9,'B1','PREVIOUS DEBT',70,'0001')",
-        "insert into Billing (billNo,PNo,Amountbilled,AmountPaid) values ('B1','2/001',1870,300)",
-        "insert into Payments (ReceiptNo,billNo,PNo,AmountPaid) values ('21','B1','2/001',300)",
-        "insert into Tranxaction (PNo,billNo,Amount,RunningTotal) values ('2/001','B1',-1000,-1000)",
-        "insert into Tranxaction (PNo,billNo,Amount,RunningTotal) values ('2/001','B1',-800,-1800)",
-        "insert into Tranxaction (PNo,billNo,Amount,RunningTotal) values ('2/001','B1',300,-1500)",
-    };
+    const Rows agreeing[] = {
+        {"hPatients (PNo,psurname,clientcatID,DebtBF)", {"'2/001','OJO','PRIVATE',-1500"}},
+        {"hRecords (consultID,PNo,recDate,clientCat)", {"'B1','2/001','2026-03-01','PRIVATE'"}},
+        {"BillAccum (consultID,PNo,drgName,SubTotal)", {"'B1','2/001','A',1000", "'B1','2/001','B',800"}},
+        {"BillingDetails (SNo,billNo,drgName,SubTotal,billTo)",
+         {"1,'B1','A',1000,'0001'", "2,'B1','B',800,'0001'", "-9,'B1','PREVIOUS DEBT',70,'0001'"}},
+        {"Billing (billNo,PNo,Amountbilled,AmountPaid)", {"'B1','2/001',1870,300"}},
+        {"Payments (ReceiptNo,billNo,PNo,AmountPaid)", {"'21','B1','2/001',300"}},
+        {"Tranxaction (PNo,billNo,Amount,RunningTotal)",
+         {"'2/001','B1',-1000,-1000", "'2/001','B1',-800,-1800", "'2/001','B1',300,-1500"}}};
     const struct {
         QStringList statements;
         QString told; ///< empty: nothing
@@ -217,7 +202,9 @@ TEST_P(CheckTest, aNoticeTellsWhyAnAccountDiffersFromItsBills) {
         Program owed(fresh.folder(), ui);
         ASSERT_TRUE(prepareServer(owed));
         Connection connection = owed.openBilling();
-        for (const QString& statement : agreeing + test.statements)
+        for (const Rows& rows : agreeing)
+            addRows(connection, rows.into, rows.rows);
+        for (const QString& statement : test.statements)
             connection.run(statement);
         const CheckReport report = checkDatabases(owed);
         EXPECT_EQ(report.findings.filter("account"), QStringList());
@@ -234,10 +221,8 @@ TEST(CheckOfFiles, tellsOfADamagedFile) {
     qint64 page = 0;
     {
         Program writer(home.folder(), ui);
-        ASSERT_TRUE(prepareServer(writer));
+        lay(writer);
         Connection billing = writer.openBilling();
-        for (const QString& row : soundRows)
-            billing.run(row);
         page =
             billing.run("select rootpage from sqlite_master where name like 'ixPatientsSurname%'").integer("rootpage");
         billing.run("pragma wal_checkpoint(truncate)");

@@ -1,6 +1,7 @@
 #include "tool/CsvLoad.h"
 
-#include "data/rows/Recordset.h"
+#include "support/Print.h"
+#include "support/Rows.h"
 #include "support/TestHome.h"
 
 using namespace orvane;
@@ -19,26 +20,14 @@ TEST_P(CsvLoad, readsEachKindOfColumnAndLeavesTheRestToTheDefault) {
                    "1/001,O'NEILL,\"JIM, JR\",1990-02-28,-1500.25,\"\",\r\n"
                    "2/001,\xE1\xBB\x8C\xE1\xB9\xA2UN,,,,a@b.example,YES\r\n"),
               2);
-    Recordset row(billing, Sql("select * from hPatients order by PNo"));
-    EXPECT_EQ(row.text("psurname"), "O'NEILL");
-    EXPECT_EQ(row.text("fullname"), "O'NEILL JIM, JR");
-    EXPECT_EQ(row.date("DOB"), QDate(1990, 2, 28));
-    EXPECT_EQ(row.number("DebtBF"), -1500.25);
-    EXPECT_FALSE(row.isNull("email"));
-    EXPECT_TRUE(row.isNull("ref"));
-    row.moveNext();
-    EXPECT_EQ(row.text("psurname"), "\u1ECC\u1E62UN");
-    EXPECT_TRUE(row.isNull("DOB"));
-    EXPECT_EQ(row.value("DebtBF").toDouble(), 0);
-    EXPECT_FALSE(row.isNull("DebtBF")) << "the column's default";
+    EXPECT_EQ(rowsOf(billing, "select psurname,fullname,DOB,DebtBF,email,ref from hPatients order by PNo", "null"),
+              "O'NEILL|O'NEILL JIM, JR|1990-02-28|-1500.25||null\n"
+              "\u1ECC\u1E62UN|\u1ECC\u1E62UN|null|0|a@b.example|YES");
 }
 
 TEST_P(CsvLoad, refusesTheWholeFileForOneBadRowAndSaysWhere) {
     const QByteArray heads = "PNo,psurname,DOB,DebtBF\n1/001,GOOD,2000-01-01,5\n";
-    const struct {
-        QByteArray content;
-        const char* message;
-    } cases[] = {
+    const std::pair<QByteArray, const char*> cases[] = {
         {heads + "1/001,AGAIN,,0\n", "patients.csv:3: a row with this key is there already"},
         {heads + ",AGAIN,,0\n", "patients.csv:3: a column that must have a value has none"},
         {heads + "2/001,BAD,,1e13\n", "patients.csv:3: 10000000000000 is too large: column DebtBF."},
@@ -46,14 +35,9 @@ TEST_P(CsvLoad, refusesTheWholeFileForOneBadRowAndSaysWhere) {
          "patients.csv:3: column DebtBF: \"\\u001b[2J\\n01234567890123456789012345678\\t01234...\" is no number"},
         {heads + "2/001,BAD,2023-02-29,0\n",
          "patients.csv:3: column DOB: \"2023-02-29\" is no date of the form yyyy-mm-dd"},
-        {heads + "2/001,BAD,29/02/2024,0\n",
-         "patients.csv:3: column DOB: \"29/02/2024\" is no date of the form yyyy-mm-dd"},
-        {heads + "2/001,\"BAD\nNAME\",,\"1,000\"\n", "patients.csv:3: column DebtBF: \"1,000\" is no number"},
         {heads + "2/001,\"BAD\nNAME\",,\n3/001,WORSE,,12a\n", "patients.csv:5: column DebtBF: \"12a\" is no number"},
-        {heads + "2/001,BAD,,nan\n", "patients.csv:3: column DebtBF: \"nan\" is no number"},
         {heads + "2/001,BAD,,inf\n", "patients.csv:3: column DebtBF: \"inf\" is no number"},
         {heads + "2/001,BAD,,\"\"\n", "patients.csv:3: column DebtBF: \"\" is no number"},
-        {heads + "2/001,BAD,0\n", "patients.csv:3: 3 fields, but 4 heads"},
         {heads + "2/001,BAD,,0,\n", "patients.csv:3: 5 fields, but 4 heads"},
         {heads + "2/001,B\xFF,,0\n", "patients.csv:3: column psurname: the text is not UTF-8"},
         {heads + "2/001,BAD,,\"0\n", "patients.csv:3: column DebtBF: the quote is never closed"},
@@ -62,26 +46,16 @@ TEST_P(CsvLoad, refusesTheWholeFileForOneBadRowAndSaysWhere) {
         {"PNo,psurname,PNO\n1/001,A,7\n", "patients.csv:1: column PNO: the column is named twice"},
         {"", "patients.csv:1: the file has no heads"},
     };
-    for (const auto& c : cases) {
+    for (const auto& [content, message] : cases) {
         try {
-            load(c.content);
-            ADD_FAILURE() << "loaded: " << c.message;
+            load(content);
+            ADD_FAILURE() << "loaded: " << message;
         } catch (const DataError& error) {
-            EXPECT_EQ(error.description().toStdString(), c.message);
+            EXPECT_EQ(error.description().toStdString(), message);
         }
-        EXPECT_EQ(scalar("select count(*) from hPatients"), "0") << c.message;
+        EXPECT_EQ(scalar("select count(*) from hPatients"), "0") << message;
         EXPECT_FALSE(billing.inTransaction());
     }
-}
-
-TEST_P(CsvLoad, putsTheLineBeforeTheEnginesOwnRefusal) {
-    try {
-        load("PNo,psurname\n1/001,FIRST\n1/001,AGAIN\n");
-        ADD_FAILURE() << "a number was taken twice";
-    } catch (const DataError& error) {
-        EXPECT_TRUE(error.description().startsWith("patients.csv:3: ")) << error.description().toStdString();
-    }
-    EXPECT_EQ(scalar("select count(*) from hPatients"), "0");
 }
 
 TEST_P(CsvLoad, goesOnNumberingBehindTheLoadedKeys) {

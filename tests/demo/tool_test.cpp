@@ -1,13 +1,13 @@
 #include "tool/Tool.h"
 
 #include "data/dialect/Catalog.h"
-#include "data/rows/Recordset.h"
 #include "play/QuietUi.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
+#include "support/Print.h"
+#include "support/Rows.h"
 #include "support/TestHome.h"
 
-#include <QDirIterator>
 #include <QFileInfo>
 
 using namespace orvane;
@@ -33,22 +33,12 @@ QStringList dump(const QString& home) {
     Program program(home, ui);
     prepareServer(program);
     QStringList lines;
-    const auto add = [&lines](Connection& connection, const QString& database) {
-        for (const Table* table : Catalog::instance().tables(database)) {
-            for (Recordset row = connection.run("select * from [" + table->name + "]"); !row.eof(); row.moveNext()) {
-                QStringList cells{table->name};
-                for (int column = 0; column < int(row.columns().size()); ++column)
-                    cells.append(row.text(column));
-                lines.append(cells.join('\t'));
-            }
-        }
-    };
-    Connection billing = program.openBilling();
-    Connection accounting = program.openAccounting();
-    Connection audit = billing.beside("Audit");
-    add(billing, "billing");
-    add(accounting, "accounting");
-    add(audit, "audit");
+    Connection billing = program.openBilling(), accounting = program.openAccounting(), audit = billing.beside("Audit");
+    for (const auto& [connection, database] :
+         {std::pair(&billing, "billing"), {&accounting, "accounting"}, {&audit, "audit"}})
+        for (const Table* table : Catalog::instance().tables(database))
+            if (table->name != "SavedActions") // their tokens are drawn by chance
+                lines.append(table->name + '\n' + rowsOf(*connection, "select * from [" + table->name + "]"));
     return lines;
 }
 
@@ -58,12 +48,6 @@ QString scalar(const QString& home, const QString& tsql) {
     prepareServer(program);
     const Recordset row = program.openBilling().run(tsql);
     return row.eof() ? QString() : row.text(0);
-}
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
 }
 
 class Tool : public ::testing::Test {
@@ -93,6 +77,9 @@ TEST_F(Tool, refusesWhatItDoesNotUnderstand) {
         {"demo", "--home", home, "--until", "2026-02-30"},
         {"demo", "--home", home, "--days", "0"},
         {"user", "add", "ada.o", "--home", home, "--fullname", "ADA OBI"},
+        {"create", "--home", home, "--engine", "postgresql", "--prefix", "Big_"},
+        {"create", "--home", home, "--engine", "postgresql", "--prefix", "a;drop"},
+        {"create", "--home", home, "--engine", "postgresql", "--prefix", "1a"},
     };
     for (const QStringList& line : lines) {
         const Result result = tool(line);
@@ -102,18 +89,11 @@ TEST_F(Tool, refusesWhatItDoesNotUnderstand) {
     EXPECT_FALSE(QFileInfo::exists(home)) << "nothing was made";
 }
 
-TEST_F(Tool, createsEmptyDatabasesOnceForTheOwnerAlone) {
+TEST_F(Tool, createsEmptyDatabasesOnce) {
     ASSERT_EQ(tool({"create", "--home", home}).code, 0);
-    QDirIterator files(home, QDir::Files, QDirIterator::Subdirectories);
-    int count = 0;
-    for (; files.hasNext(); ++count)
-        EXPECT_FALSE(QFileInfo(files.next()).permissions() &
-                     (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther))
-            << files.filePath().toStdString();
-    EXPECT_GE(count, 8);
     EXPECT_EQ(tool({"check", "--home", home}).code, 0);
-
     const QString database = home + "/data/Dunmarch.db";
+    EXPECT_FALSE(QFileInfo(database).permissions() & (QFile::ReadGroup | QFile::ReadOther)) << "its owner's alone";
     scalar(home, "insert into AppDefaults (ID,idval) values ('PRIVATE','0001')");
     const Result again = tool({"create", "--home", home});
     EXPECT_EQ(again.code, 1);
@@ -141,20 +121,16 @@ TEST_F(Tool, loadsAndAddsAUserWhomTheProgramAdmits) {
     EXPECT_EQ(scalar(home, "select AccountName from vwAccountsInfo"), "CASH") << "the billing database follows";
     EXPECT_EQ(tool({"load", "AppDefaults", folder.filePath("none.csv"), "--home", home}).code, 1);
 
-    const QStringList add = {"user",    "add",        "ada.o",           "--home",
-                             home,      "--fullname", "ADA O'BI",        "--role",
-                             "BILLING", "--role",     "MANAGEMENT",      "--accounts",
-                             "--empid", "E9",         "--password-file", written("password", "Secret1!\n")};
-    ASSERT_EQ(tool(add).code, 0);
-    EXPECT_EQ(tool(add).errors, "orvane-db user add: The user name \"ada.o\" is taken.\n");
-    EXPECT_EQ(
-        tool({"user", "add", "no.role", "--home", home, "--fullname", "X", "--role", "A ROLE NAME TOO LONG"}).code, 1);
-    EXPECT_EQ(tool({"user", "add", "no.pass", "--home", home, "--fullname", "X", "--role", "BILLING", "--password-file",
-                    written("bad", "a b")})
-                  .code,
-              1);
-    const Result onTheLine = tool(
-        {"user", "add", "no.pass", "--home", home, "--fullname", "X", "--role", "BILLING", "--password", "Secret1!"});
+    const auto user = [&](const QString& name, const QString& fullName, const QStringList& more) {
+        return tool(QStringList{"user", "add", name, "--home", home, "--fullname", fullName, "--role"} + more);
+    };
+    const QStringList adas = {"BILLING", "--role", "MANAGEMENT",      "--accounts",
+                              "--empid", "E9",     "--password-file", written("password", "Secret1!\n")};
+    ASSERT_EQ(user("ada.o", "ADA O'BI", adas).code, 0);
+    EXPECT_EQ(user("ada.o", "ADA O'BI", adas).errors, "orvane-db user add: The user name \"ada.o\" is taken.\n");
+    EXPECT_EQ(user("no.role", "X", {"A ROLE NAME TOO LONG"}).code, 1);
+    EXPECT_EQ(user("no.pass", "X", {"BILLING", "--password-file", written("bad", "a b")}).code, 1);
+    const Result onTheLine = user("no.pass", "X", {"BILLING", "--password", "Secret1!"});
     EXPECT_EQ(onTheLine.code, 2) << "every user of the machine sees a command line";
     EXPECT_FALSE(onTheLine.errors.contains("Secret1!"));
     EXPECT_EQ(scalar(home, "select count(*) from ApplicationUsers"), "1");
@@ -182,7 +158,8 @@ TEST_F(Tool, makesTheSameSoundHospitalTwice) {
     EXPECT_EQ(scalar(home, "select count(*) from hRecords where BillDate is not null"), "28");
     EXPECT_NE(scalar(home, "select count(*) from Payments"), "0");
     EXPECT_NE(scalar(home, "select count(*) from Tranxaction where Amount < 0"), "0");
-    EXPECT_EQ(contentOf(home + "/sysdoc.sys"), "amina.b\n");
+    QFile user(home + "/sysdoc.sys");
+    EXPECT_TRUE(user.open(QIODevice::ReadOnly) && user.readAll() == "amina.b\n");
 
     const QString twin = folder.filePath("twin");
     ASSERT_EQ(demo(twin, "7").code, 0);

@@ -4,7 +4,8 @@
 #include "screens/Screens.h"
 #include "session/Main.h"
 #include "support/Check.h"
-#include "support/LeastRights.h"
+#include "support/Print.h"
+#include "support/Rows.h"
 #include "support/SourceTree.h"
 #include "support/TestHome.h"
 #include "tool/Tool.h"
@@ -61,14 +62,8 @@ QStringList shape(Connection& connection) {
                   "select proname, pg_get_functiondef(oid) as body from pg_proc where pronamespace = "
                   "'public'::regnamespace and prolang <> 13 and proname like 'orvane%'"};
     QStringList lines;
-    for (const QString& statement : asked) {
-        for (Recordset row = connection.run(statement); !row.eof(); row.moveNext()) {
-            QStringList cells;
-            for (int column = 0; column < int(row.columns().size()); ++column)
-                cells += row.text(column);
-            lines += cells.join(u'\t');
-        }
-    }
+    for (const QString& statement : asked)
+        lines += rowsOf(connection, statement).split(u'\n');
     lines.sort();
     return lines;
 }
@@ -99,11 +94,10 @@ protected:
         return source;
     }
     QString figures(Connection& billing) {
-        const Recordset row =
-            billing.run("select (select count(*) from hRecords) as a, (select sum(AmountPaid) from Payments) as b, "
-                        "(select sum(SubTotal) from BillingDetails) as c, (select sum(DebtBF) from hPatients) as d, "
-                        "(select count(*) from billingPrice) as e");
-        return QStringList{row.text(0), row.text(1), row.text(2), row.text(3), row.text(4)}.join(u'|');
+        return rowsOf(billing,
+                      "select (select count(*) from hRecords) as a, (select sum(AmountPaid) from Payments) as "
+                      "b, (select sum(SubTotal) from BillingDetails) as c, (select sum(DebtBF) from hPatients) "
+                      "as d, (select count(*) from billingPrice) as e");
     }
 
     TestHome home{GetParam()};
@@ -124,12 +118,10 @@ TEST_P(Upgrade, BringsAHospitalToThePresentSchemaWithEveryRow) {
         EXPECT_TRUE(told.contains("orvane-db upgrade --home \"" + home.folder() + '"') && !told.contains(u'\n'))
             << told.toStdString();
     }
-    QString before;
-    {
-        const auto source = opened();
-        Connection billing = source->open(TestHome::billing());
-        before = figures(billing);
-    }
+    const QString before = [this] {
+        Connection billing = opened()->open(TestHome::billing());
+        return figures(billing);
+    }();
     ASSERT_EQ(tool("upgrade"), 0) << said.toStdString();
     EXPECT_EQ(said.count("copy of the "), GetParam() == Engine::Sqlite ? 3 : 2) << said.toStdString();
     EXPECT_EQ(tool("check"), 0) << said.toStdString();
@@ -177,11 +169,9 @@ TEST_P(Upgrade, ThatBreaksOffLeavesTheOldSchemaAsItWas) {
 }
 
 TEST_P(Upgrade, RefusesANewerSchema) {
-    {
-        const auto source = opened();
-        Connection billing = source->open(TestHome::billing());
-        billing.run(GetParam() == Engine::Sqlite ? "pragma user_version = 99" : "update orvaneSchema set version = 99");
-    }
+    opened()
+        ->open(TestHome::billing())
+        .run(GetParam() == Engine::Sqlite ? "pragma user_version = 99" : "update orvaneSchema set version = 99");
     EXPECT_EQ(tool("upgrade"), 1);
     EXPECT_TRUE(said.contains("has the schema 99")) << said.toStdString();
     EXPECT_EQ(tool("check"), 1);
