@@ -1,6 +1,7 @@
 // Attendance entry: what the records officer sees and is told, in order. The rules of a visit have tests of their own.
 #include "support/ChecksInOrder.h"
-#include "support/TestHome.h"
+#include "support/Entries.h"
+#include "support/ScreenTest.h"
 
 namespace orvane {
 
@@ -8,47 +9,37 @@ namespace {
 
 const QDate Today(2026, 3, 14);
 
-class Attendance : public WorkstationTest {
+class Attendance : public ScreenTest {
 protected:
-    void patient(const TestPatient& patient = {}) {
-        Connection connection = ws.billing();
-        makePatient(connection, patient);
-    }
-    void visit(const TestVisit& visit) {
-        Connection connection = ws.billing();
-        makeVisit(connection, visit);
-    }
+    Attendance() : ScreenTest("frmRecordsOffline") {}
 
+    Connection billing = ws.billing();
+    void patient(const TestPatient& patient = {}) { makePatient(billing, patient); }
+    void visit(const TestVisit& visit) { makeVisit(billing, visit); }
+    void search(const QString& name) {
+        set("txtName", name);
+        click("cmdOK");
+    }
     /// Starts a new attendance and picks the patient whose name begins so.
-    static void begin(Workstation& at, const QString& name) {
-        if (!at.program.loadedForm("frmRecordsOffline"))
-            at.open("frmRecordsOffline");
-        at.click("frmRecordsOffline.cmdAdd");
-        at.set("frmRecordsOffline.txtName", name);
-        at.click("frmRecordsOffline.cmdOK");
-        at.pick("frmRecordsOffline.cboVehNo", 0);
+    void begin(const QString& name = "ADEYEMI") {
+        if (!isOpen())
+            open();
+        click("cmdAdd");
+        search(name);
+        pick("cboVehNo", 0);
     }
-    static void fill(Workstation& at, const QString& clinic = "OPD", const QString& purpose = "CONSULTATION") {
-        at.set("frmRecordsOffline.cboType", clinic);
-        at.set("frmRecordsOffline.cboClient", purpose);
-        at.pick("frmRecordsOffline.cboAppr", "BELLO AMINA");
+    void fill(const QString& clinic = "OPD", const QString& purpose = "CONSULTATION") {
+        set("cboType", clinic);
+        set("cboClient", purpose);
+        pick("cboAppr", "BELLO AMINA");
     }
-    void begin(const QString& name = "ADEYEMI") { begin(ws, name); }
-    void save() { ws.click("frmRecordsOffline.OKButton"); }
     void enter(const QString& name = "ADEYEMI") {
         begin(name);
-        fill(ws);
+        fill();
         save();
         EXPECT_BOXES(ui, {"Record Succesfully saved"});
     }
-    QString value(const QString& control) { return ws.value("frmRecordsOffline." + control); }
-    QString row(const QString& tsql) {
-        const Recordset found = ws.billing().run(tsql);
-        QStringList cells;
-        for (int column = 0; !found.eof() && column < found.columns().size(); ++column)
-            cells << found.text(column);
-        return cells.join("|");
-    }
+    QString caption() { return ws.form("frmRecordsOffline").caption(); }
 };
 
 ORVANE_ON_EACH_ENGINE(Attendance);
@@ -64,30 +55,30 @@ TEST_P(Attendance, NewVisitTakesWhatTheOfficerChose) {
                   value("lblCoy") + '|' + value("lblOld") + '|' + value("lblPolicy"),
               "001OFL0000001|P/0001|HMO|YES|CLEARWATER HMO|OLD7|GOLD");
     EXPECT_TRUE(ws.control("frmRecordsOffline.tmrBill").isEnabled());
-    fill(ws, "ANTENATAL", "FOLLOW-UP");
-    ws.set("frmRecordsOffline.cboRef", "NO");
-    ws.set("frmRecordsOffline.cboBilling", "NHIS");
+    fill("ANTENATAL", "FOLLOW-UP");
+    set("cboRef", "NO");
+    set("cboBilling", "NHIS");
     save();
     EXPECT_BOXES(ui, {"Record Succesfully saved"});
-    EXPECT_EQ(row("select consultID, PNo, recDate, htime, clientCat, clinicType, Remarks, referal, empID, coyName "
-                  "from hRecords"),
+    EXPECT_EQ(rows("select consultID, PNo, recDate, htime, clientCat, clinicType, Remarks, referal, empID, coyName "
+                   "from hRecords"),
               "001OFL0000001|P/0001|2026-03-14|09:30|NHIS|ANTENATAL|FOLLOW-UP|NO|E001|0201")
         << "the screen shows the client's name and stores his id";
-    EXPECT_EQ(row("select Price, Qty, SubTotal from BillAccum") + row("select attendedTo from hreferal"), "751|1|7511");
+    EXPECT_EQ(rows("select Price, Qty, SubTotal from BillAccum") + rows("select attendedTo from hreferal"),
+              "751|1|7511");
     EXPECT_EQ(value("lblBill") + value("lblCoy"), "");
-    EXPECT_EQ(ws.form("frmRecordsOffline").caption(), "OFFLINE ATTENDANCE:1");
+    EXPECT_EQ(caption(), "OFFLINE ATTENDANCE:1");
 }
 
 TEST_P(Attendance, SaveChecksInOrder) {
     // Neither his category nor his referral is offered.
     patient({.category = "GONE", .ref = "MAYBE"});
-    ws.open("frmRecordsOffline");
-    EXPECT_EQ(ws.form("frmRecordsOffline").caption(), "OFFLINE ATTENDANCE:");
+    open();
+    EXPECT_EQ(caption(), "OFFLINE ATTENDANCE:");
     save();
     EXPECT_BOXES(ui, {" Consultation ID is needed for this Patient, select Patient Name OR see the Administrator"});
-    ws.set("frmRecordsOffline.txtName", "ADEYEMI");
-    ws.click("frmRecordsOffline.cmdOK");
-    ws.click("frmRecordsOffline.cmdAdd");
+    search("ADEYEMI");
+    click("cmdAdd");
     expectChecksInOrder(ws, "frmRecordsOffline", "OKButton",
                         {{"dtDate", "", " please specify Attendance date", "dtDate"},
                          {"dtDate", "2026-03-14", " please specify Name of Patient", "cboVehNo"},
@@ -97,25 +88,23 @@ TEST_P(Attendance, SaveChecksInOrder) {
                          {"cboAppr", "BELLO AMINA [E001]", " please specify Whether Patient is on Referral", "cboRef"},
                          {"cboRef", "NO", "please specify Patient Billing Category", "cboBilling"}});
     EXPECT_EQ(ws.tableCount("hRecords"), 0);
-    ws.set("frmRecordsOffline.cboBilling", "PRIVATE");
+    set("cboBilling", "PRIVATE");
     save();
     EXPECT_BOXES(ui, {"Record Succesfully saved"});
 }
 
 TEST_P(Attendance, PickRefusesWithoutDateAndDuplicates) {
     patient();
-    ws.open("frmRecordsOffline");
-    ws.set("frmRecordsOffline.txtName", "NOBODY");
-    ws.click("frmRecordsOffline.cmdOK");
+    open();
+    search("NOBODY");
     EXPECT_EQ(value("lblFound"), "***");
     EXPECT_EQ(ws.rows("frmRecordsOffline.grdData").size(), 1);
 
-    ws.set("frmRecordsOffline.txtName", "adeyemi b");
-    ws.click("frmRecordsOffline.cmdOK");
-    EXPECT_EQ(ws.items("frmRecordsOffline.cboVehNo"), QStringList{"ADEYEMI BOLA [P/0001]"});
+    search("adeyemi b");
+    EXPECT_EQ(items("cboVehNo"), QStringList{"ADEYEMI BOLA [P/0001]"});
     EXPECT_TRUE(ws.rows("frmRecordsOffline.grdData").first().contains("Surname"));
     EXPECT_FALSE(ws.rows("frmRecordsOffline.grdData").first().split("\t").contains("expired"));
-    ws.pick("frmRecordsOffline.cboVehNo", 0);
+    pick("cboVehNo", 0);
     EXPECT_BOXES(ui, {"Specify Attendance Date"});
 
     visit({.consultID = "001OFL0000007"});
@@ -128,13 +117,13 @@ TEST_P(Attendance, PickRefusesWithoutDateAndDuplicates) {
     // Another workstation enters the same patient between the pick and the save.
     patient({.pno = "P/0002", .surname = "BAKARE"});
     begin("BAKARE");
-    fill(ws);
+    fill();
     const SecondHome secondHome(home);
     Workstation other{secondHome.folder()};
     ASSERT_TRUE(other.start());
-    begin(other, "BAKARE");
-    fill(other);
-    other.click("frmRecordsOffline.OKButton");
+    Hand hand = findPatient(other.program, "BAKARE", "P/0002");
+    completeAttendance(hand);
+    hand.click("OKButton");
     EXPECT_BOXES(other.ui, {"Record Succesfully saved"});
     save();
     EXPECT_BOXES(ui, {"Patient Attendance already entered!!! Duplicate not allowed"});
@@ -154,7 +143,7 @@ TEST_P(Attendance, CardExpiry) {
         begin(QString("CARD%1").arg(number));
         EXPECT_EQ(ui.takeBoxes(), card.refused ? QStringList{"Patient's Card has Expired"} : QStringList());
         EXPECT_EQ(value("lblNo"), pno) << "the screen is left filled";
-        fill(ws);
+        fill();
         save();
         EXPECT_EQ(ui.takeBoxes(),
                   QStringList(card.refused ? "Patient's Card has Expired" : "Record Succesfully saved"));
@@ -172,17 +161,17 @@ TEST_P(Attendance, ReviewIsRefusedAfterTwelveWholeHours) {
         ws.run("update hRecords set attendedto=1");
         ui.clock = QDateTime(Today, late ? QTime(13, 0) : QTime(12, 59));
         begin();
-        fill(ws, "OPD", "REVIEW");
+        fill("OPD", "REVIEW");
         EXPECT_EQ(ui.takeBoxes(), late ? QStringList{tooLate} : QStringList());
         save();
         ui.forgetBoxes();
-        EXPECT_EQ(row("select Remarks from hRecords where attendedto=0"), late ? "CONSULTATION" : "REVIEW");
+        EXPECT_EQ(rows("select Remarks from hRecords where attendedto=0"), late ? "CONSULTATION" : "REVIEW");
     }
-    EXPECT_EQ(row("select count(*), sum(SubTotal) from BillAccum"), "2|2000");
+    EXPECT_EQ(rows("select count(*), sum(SubTotal) from BillAccum"), "2|2000");
     // The purpose before the patient.
     ws.run("update hRecords set attendedto=1");
-    ws.click("frmRecordsOffline.cmdAdd");
-    ws.set("frmRecordsOffline.cboClient", "REVIEW");
+    click("cmdAdd");
+    set("cboClient", "REVIEW");
     EXPECT_BOXES(ui, {});
     begin();
     EXPECT_EQ(ui.takeBoxes(), QStringList{tooLate});
@@ -193,26 +182,25 @@ TEST_P(Attendance, EditChangesTheVisitOnly) {
     patient();
     patient({.pno = "P/0002", .surname = "O'NEILL [JNR]", .category = "HMO", .client = "0201"});
     enter();
-    ws.set("frmRecordsOffline.txtName", "ADE");
-    ws.click("frmRecordsOffline.cmdOK");
-    ws.row("frmRecordsOffline.grdData", 0);
-    ws.click("frmRecordsOffline.cmdEdit");
+    search("ADE");
+    row("grdData", 0);
+    click("cmdEdit");
     EXPECT_BOXES(ui, {"Search Result cannot be Edited, Only Attendance"});
 
-    ws.click("frmRecordsOffline.cmdRefresh");
-    ws.row("frmRecordsOffline.grdData", "001OFL0000001");
-    ws.click("frmRecordsOffline.cmdEdit");
+    click("cmdRefresh");
+    row("grdData", "001OFL0000001");
+    click("cmdEdit");
     EXPECT_EQ(value("cboVehNo") + '|' + value("lblBill") + '|' + value("dtDate") + '|' + value("lblCoy"),
               "ADEYEMI BOLA [P/0001]|001OFL0000001|2026-03-14|PRIVATE PATIENTS");
-    ws.set("frmRecordsOffline.dtDate", "2026-03-12");
-    ws.set("frmRecordsOffline.cboType", "ANTENATAL");
-    ws.pick("frmRecordsOffline.cboAppr", "OKAFOR");
+    set("dtDate", "2026-03-12");
+    set("cboType", "ANTENATAL");
+    pick("cboAppr", "OKAFOR");
     save();
     EXPECT_BOXES(ui, {"Record Succesfully Edited and Updated"});
     EXPECT_EQ(
-        row("select consultID, PNo, recDate, exitDate, clinicType, Remarks, clientCat, empID, coyName from hRecords"),
+        rows("select consultID, PNo, recDate, exitDate, clinicType, Remarks, clientCat, empID, coyName from hRecords"),
         "001OFL0000001|P/0001|2026-03-12|2026-03-12|ANTENATAL|CONSULTATION|PRIVATE|D001|0001");
-    EXPECT_EQ(row("select Price from BillAccum"), "2000");
+    EXPECT_EQ(rows("select Price from BillAccum"), "2000");
     enter("O'NEILL");
     EXPECT_EQ(ws.tableCount("hRecords where PNo='P/0002'"), 1) << "a new attendance after an edit is a new row";
 }
@@ -220,16 +208,16 @@ TEST_P(Attendance, EditChangesTheVisitOnly) {
 TEST_P(Attendance, DeleteAsksAndLeavesTheItems) {
     patient();
     enter();
-    ws.row("frmRecordsOffline.grdData", 0);
+    row("grdData", 0);
     for (const bool answer : {false, true}) {
         ui.answer(answer);
-        ws.click("frmRecordsOffline.cmdDel");
+        click("cmdDel");
         EXPECT_QUESTIONS(ui, {"Are you sure to Delete Record"});
         EXPECT_EQ(ws.tableCount("hRecords"), answer ? 0 : 1);
     }
     EXPECT_BOXES(ui, {" Record successfully deleted "});
     EXPECT_EQ(ws.tableCount("BillAccum"), 1);
-    EXPECT_EQ(ws.form("frmRecordsOffline").caption(), "OFFLINE ATTENDANCE:");
+    EXPECT_EQ(caption(), "OFFLINE ATTENDANCE:");
 }
 
 } // namespace

@@ -1,12 +1,12 @@
 // " Prompt": the visits that doctors have sent to billing; and the day's prompts.
-#include "support/Workstation.h"
+#include "support/ScreenTest.h"
 
 namespace orvane {
 namespace {
 
-class Worklist : public WorkstationTest {
+class Worklist : public ScreenTest {
 protected:
-    const QString head = "Fullname\tBillNo\tDate\tTime\tClient\tDebt\tClinic\tClientCat";
+    Worklist() : ScreenTest("frmFlash") {}
 
     void layVisits() {
         Connection billing = ws.billing();
@@ -24,14 +24,15 @@ protected:
         makeItem(billing, {});
         ws.run("update hRecords set BillDate='2026-03-14' where consultID='BILLED'");
     }
-    void open() { ws.open("frmFlash"); }
-    QStringList bills(const char* grid = "dGexp", int column = 1) {
+    /// A column of a grid, sorted.
+    QStringList bills(const char* grid = "frmFlash.dGexp", int column = 1) {
         QStringList numbers;
-        for (const QString& row : ws.rows(QStringLiteral("frmFlash.") + grid).mid(1))
+        for (const QString& row : ws.rows(grid).mid(1))
             numbers << row.section('\t', column, column);
+        numbers.sort();
         return numbers;
     }
-    QString caption() { return ws.value("frmFlash.lblShow"); }
+    QString caption() { return value("lblShow"); }
 };
 ORVANE_ON_EACH_ENGINE(Worklist);
 
@@ -39,19 +40,18 @@ TEST_P(Worklist, HandsAVisitToTheCollationScreen) {
     layVisits();
     open();
     EXPECT_EQ(ws.rows("frmFlash.dGexp").mid(0, 2),
-              QStringList({head, "ADEYEMI BOLA\t001OFL0000001\t14/03/2026\t09:00:00\tPRIVATE PATIENTS\t(1,500)\tOPD\t"
-                                 "PRIVATE"}));
+              QStringList({"Fullname\tBillNo\tDate\tTime\tClient\tDebt\tClinic\tClientCat",
+                           "ADEYEMI BOLA\t001OFL0000001\t14/03/2026\t09:00:00\tPRIVATE PATIENTS\t(1,500)\tOPD\t"
+                           "PRIVATE"}));
     EXPECT_EQ(bills(), QStringList({"001OFL0000001", "TODAY2"}));
     EXPECT_EQ(caption(), "Patients from Doctor");
-    ws.set("frmFlash.DTPicker1", "2026-03-01");
-    ws.click("frmFlash.cmdPat");
-    QStringList ofTheRange = bills();
-    ofTheRange.sort();
-    EXPECT_EQ(ofTheRange, QStringList({"001OFL0000001", "EARLIER", "TODAY2"}));
+    set("DTPicker1", "2026-03-01");
+    click("cmdPat");
+    EXPECT_EQ(bills(), QStringList({"001OFL0000001", "EARLIER", "TODAY2"}));
 
-    ws.row("frmFlash.dGexp", "001OFL0000001");
-    ws.dblClick("frmFlash.dGexp");
-    EXPECT_FALSE(ws.program.loadedForm("frmFlash"));
+    row("dGexp", "001OFL0000001");
+    dblClick("dGexp");
+    EXPECT_FALSE(isOpen());
     EXPECT_EQ(ws.value("frmBillingVerify.lblBill"), "001OFL0000001");
     EXPECT_EQ(ws.tableCount("BillingDetails where billNo='001OFL0000001'"), 1) << "the load collates";
     EXPECT_EQ(ws.program.session.gSearchBillNo, "");
@@ -61,21 +61,21 @@ TEST_P(Worklist, HandsAVisitToTheCollationScreen) {
 TEST_P(Worklist, ShowsTheHistoryOfThePatientInTheRange) {
     layVisits();
     open();
-    ws.row("frmFlash.dGexp", "001OFL0000001");
-    ws.click("frmFlash.cmdExpected");
-    EXPECT_EQ(ws.value("frmFlash.SSTab1"), "1");
+    row("dGexp", "001OFL0000001");
+    click("cmdExpected");
+    EXPECT_EQ(value("SSTab1"), "1");
     EXPECT_EQ(ws.rows("frmFlash.grdData"),
               QStringList({"Date\tTime\tBillNo\tFullname", "14/03/2026\t09:00:00\t001OFL0000001\tADEYEMI BOLA"}));
     EXPECT_EQ(caption(), "View Patient Attendance History for: ADEYEMI BOLA");
     // The tab is open already: the button asks anew.
-    ws.set("frmFlash.DTPicker1", "2026-03-01");
-    ws.click("frmFlash.cmdDoc");
-    EXPECT_EQ(bills("grdData", 2), QStringList({"001OFL0000001", "EARLIER"}));
-    ws.pick("frmFlash.SSTab1", 0);
+    set("DTPicker1", "2026-03-01");
+    click("cmdDoc");
+    EXPECT_EQ(bills("frmFlash.grdData", 2), QStringList({"001OFL0000001", "EARLIER"}));
+    pick("SSTab1", 0);
     EXPECT_EQ(caption(), "Patients from Doctor");
-    ws.set("frmFlash.DTPicker2", "2026-03-02");
-    ws.pick("frmFlash.SSTab1", 1);
-    EXPECT_EQ(bills("grdData"), QStringList()) << "no visit in the range";
+    set("DTPicker2", "2026-03-02");
+    pick("SSTab1", 1);
+    EXPECT_EQ(bills("frmFlash.grdData"), QStringList()) << "no visit in the range";
     EXPECT_EQ(caption(), "View Patient Attendance History for: ADEYEMI BOLA");
     EXPECT_BOXES(ui, {});
 }
@@ -83,33 +83,33 @@ TEST_P(Worklist, ShowsTheHistoryOfThePatientInTheRange) {
 TEST_P(Worklist, AsksForARowWhereThereIsNone) {
     open();
     EXPECT_EQ(bills(), QStringList());
-    ws.dblClick("frmFlash.dGexp");
+    dblClick("dGexp");
     EXPECT_BOXES(ui, {"Please select a row "});
-    ws.pick("frmFlash.SSTab1", 1);
+    pick("SSTab1", 1);
     EXPECT_BOXES(ui, {"Please select a row to view Attendance History for the Patient"});
-    EXPECT_EQ(ws.value("frmFlash.SSTab1"), "0");
-    ws.click("frmFlash.cmdPrint");
+    EXPECT_EQ(value("SSTab1"), "0");
+    click("cmdPrint");
     EXPECT_BOXES(ui, {"No record is displayed for printing"});
-    EXPECT_TRUE(ws.program.loadedForm("frmFlash"));
+    EXPECT_TRUE(isOpen());
 }
 
 TEST_P(Worklist, ListsOverdrawnDrugsAndPrintsWhatItLists) {
     open();
-    ws.click("frmFlash.cmdCPC");
+    click("cmdCPC");
     EXPECT_EQ(caption(), "---");
-    ws.run("update StockItemsRetail set UnitsInStock=-3 where ItemID='AMOXICILLIN 500MG'");
-    ws.run("update StockItemsRetail set UnitsInStock=-1 where ItemID='ARTEMETHER INJECTION'");
-    ws.run("update StockItemsRetail set UnitsInStock=0 where ItemID='PARACETAMOL 500MG'");
-    ws.click("frmFlash.cmdCPC");
+    for (const auto& [drug, stock] :
+         {std::pair("AMOXICILLIN 500MG", -3), {"ARTEMETHER INJECTION", -1}, {"PARACETAMOL 500MG", 0}})
+        ws.run(QString("update StockItemsRetail set UnitsInStock=%1 where ItemID='%2'").arg(stock).arg(drug));
+    click("cmdCPC");
     EXPECT_EQ(ws.rows("frmFlash.dGexp"), QStringList({"Drug\tCategory\tUnitsinStock", "AMOXICILLIN 500MG\tTABLETS\t-3",
                                                       "ARTEMETHER INJECTION\tINJECTIONS\t-1"}));
     EXPECT_EQ(caption(), "Overdrawn System Drugs");
-    ws.click("frmFlash.cmdPrint");
+    click("cmdPrint");
     ASSERT_EQ(ui.reports.size(), 1);
     EXPECT_EQ(ui.reports.first().title, "Overdrawn System Drugs");
     EXPECT_EQ(ui.reports.first().rows, 2);
     ws.run("update StockItemsRetail set UnitsInStock=5");
-    ws.click("frmFlash.cmdPrint");
+    click("cmdPrint");
     EXPECT_BOXES(ui, {"No info for this request : \nOverdrawn System Drugs"});
 }
 
@@ -118,18 +118,15 @@ TEST_P(Worklist, RemindsOfTheDaysAttendanceAndAppointments) {
     for (const char* values :
          {"('P/0001', '2026-03-14', 0)", "('P/0002', '2026-03-15', 0)", "('P/0002', '2026-03-14', 1)"})
         ws.run(QStringLiteral("insert into hreferal (PNo, ApptDate, attendedTo) values ") + values);
-    ws.open("frmReminder");
-    ws.click("frmReminder.cmdExpected");
-    QStringList visits;
-    for (const QString& row : ws.rows("frmReminder.dGexp").mid(1))
-        visits << row.section('\t', 3, 3);
-    visits.sort();
-    EXPECT_EQ(visits, QStringList({"001OFL0000001", "BILLED", "TODAY2", "WITH-DOCTOR"})) << "EARLIER is still open";
-    EXPECT_EQ(ws.value("frmReminder.lblShow"), "Hospital Attendance");
-    ws.click("frmReminder.cmdReorder");
-    EXPECT_EQ(ws.value("frmReminder.dGexp"), "1 rows");
+    open("frmReminder");
+    click("cmdExpected");
+    EXPECT_EQ(bills("frmReminder.dGexp", 3), QStringList({"001OFL0000001", "BILLED", "TODAY2", "WITH-DOCTOR"}))
+        << "EARLIER is still open";
+    EXPECT_EQ(value("lblShow"), "Hospital Attendance");
+    click("cmdReorder");
+    EXPECT_EQ(value("dGexp"), "1 rows");
     EXPECT_TRUE(ws.rows("frmReminder.dGexp").last().startsWith("P/0001"));
-    EXPECT_EQ(ws.value("frmReminder.lblShow"), "Patients Appt Date Due Today");
+    EXPECT_EQ(value("lblShow"), "Patients Appt Date Due Today");
 }
 
 } // namespace

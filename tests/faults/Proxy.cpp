@@ -1,5 +1,6 @@
 #include "Proxy.h"
 
+#include <algorithm>
 #include <arpa/inet.h>
 #include <netinet/tcp.h>
 #include <poll.h>
@@ -15,17 +16,12 @@ namespace {
 /// An open socket, closed with the object.
 class Socket {
 public:
-    explicit Socket(int number = -1) : m_number(number) {}
-    ~Socket() { close(); }
+    explicit Socket(int number) : m_number(number) {}
+    ~Socket() { close(m_number); }
     Socket(const Socket&) = delete;
     Socket& operator=(const Socket&) = delete;
 
     int number() const { return m_number; }
-    void close() {
-        if (m_number >= 0)
-            ::close(m_number);
-        m_number = -1;
-    }
     bool send(const std::string& text) const {
         size_t sent = 0;
         while (sent < text.size()) {
@@ -74,13 +70,6 @@ uint32_t lengthAt(const std::string& text, size_t at) {
     return length;
 }
 
-/// What only a transaction that saves an entry says; those before it take a number.
-constexpr auto kAdds = "insert into";
-
-bool startsWith(const std::string& text, const char* start) {
-    return text.rfind(start, 0) == 0;
-}
-
 } // namespace
 
 struct Proxy::Pair {
@@ -91,6 +80,8 @@ struct Proxy::Pair {
     bool started = false;       ///< the messages from now on begin with their kind
     bool inTransaction = false; ///< and what it has said so far:
     std::string said;
+    /// It saves an entry: those before it take a number.
+    bool adds() const { return said.find("insert into") != std::string::npos; }
 };
 
 Proxy::Proxy(int serverPort) : m_serverPort(serverPort) {
@@ -98,92 +89,63 @@ Proxy::Proxy(int serverPort) : m_serverPort(serverPort) {
     sockaddr_in address = local(0);
     socklen_t size = sizeof address;
     if (bind(m_listener, reinterpret_cast<sockaddr*>(&address), size) != 0 || listen(m_listener, 32) != 0 ||
-        getsockname(m_listener, reinterpret_cast<sockaddr*>(&address), &size) != 0 || pipe(m_wake) != 0)
+        getsockname(m_listener, reinterpret_cast<sockaddr*>(&address), &size) != 0)
         throw std::runtime_error("the proxy cannot listen");
     m_port = ntohs(address.sin_port);
     m_thread = std::thread([this] { run(); });
 }
 
 Proxy::~Proxy() {
-    order([this] { m_stop = true; });
+    m_stop = true;
     m_thread.join();
-    for (int number : {m_listener, m_wake[0], m_wake[1]})
-        close(number);
-}
-
-void Proxy::order(const std::function<void()>& change) {
-    const std::lock_guard lock(m_mutex);
-    change();
-    const char mark = '.';
-    if (write(m_wake[1], &mark, 1) != 1)
-        throw std::runtime_error("the proxy cannot be woken");
+    close(m_listener);
 }
 
 void Proxy::cutAtStatement(int number) {
-    order([&] {
-        m_statementsLeft = number;
-        m_hasCut = false;
-    });
+    const std::lock_guard lock(m_mutex);
+    m_statementsLeft = number;
+    m_hasCut = false;
 }
 
 void Proxy::loseCommit(Loss loss, bool thenAway) {
-    order([&] {
-        m_loss = loss;
-        m_thenAway = thenAway;
-        m_hasCut = false;
-        m_hasLost = false;
-    });
+    const std::lock_guard lock(m_mutex);
+    m_loss = loss;
+    m_thenAway = thenAway;
+    m_hasCut = false;
+    m_hasLost = false;
 }
 
 void Proxy::comeBack() {
-    order([this] { m_away = false; });
+    const std::lock_guard lock(m_mutex);
+    m_away = false;
 }
 
-void Proxy::letDelayedCommitGo() {
-    order([this] {
-        if (m_delayed && m_delayed->server.send(m_delayedCommit))
-            m_delayed->server.receive();
-        m_delayed.reset();
-    });
-}
-
-void Proxy::dropDelayedCommit() {
-    order([this] { m_delayed.reset(); });
+void Proxy::endDelayedCommit(bool arrives) {
+    const std::lock_guard lock(m_mutex);
+    if (arrives && m_delayed && m_delayed->server.send(m_delayedCommit))
+        m_delayed->server.receive();
+    m_delayed.reset();
 }
 
 void Proxy::run() {
-    for (;;) {
-        std::vector<pollfd> waiting;
-        {
-            const std::lock_guard lock(m_mutex);
-            if (m_stop)
-                return;
-            waiting = {{m_wake[0], POLLIN, 0}, {m_listener, POLLIN, 0}};
-            for (const auto& pair : m_pairs)
-                for (const Socket* socket : {&pair->program, &pair->server})
-                    waiting.push_back({socket->number(), POLLIN, 0});
-        }
-        if (poll(waiting.data(), waiting.size(), -1) < 0)
+    while (!m_stop) {
+        std::vector<pollfd> waiting = {{m_listener, POLLIN, 0}};
+        for (const auto& pair : m_pairs)
+            for (const Socket* socket : {&pair->program, &pair->server})
+                waiting.push_back({socket->number(), POLLIN, 0});
+        if (poll(waiting.data(), waiting.size(), 5) <= 0)
             continue;
         const auto ready = [&](const Socket& socket) {
-            for (const pollfd& one : waiting)
-                if (one.fd == socket.number() && one.revents != 0)
-                    return true;
-            return false;
+            return std::any_of(waiting.begin(), waiting.end(),
+                               [&](const pollfd& one) { return one.fd == socket.number() && one.revents != 0; });
         };
         const std::lock_guard lock(m_mutex);
-        char marks[64];
-        if (waiting[0].revents != 0 && read(m_wake[0], marks, sizeof marks) < 0)
-            return;
-        for (auto at = m_pairs.begin(); at != m_pairs.end();) {
-            Pair& pair = **at;
-            bool stays = !ready(pair.server) || passBack(pair);
-            stays = stays && (!ready(pair.program) || passOn(pair));
-            at = stays ? std::next(at) : m_pairs.erase(at);
-        }
+        std::erase_if(m_pairs, [&](const std::unique_ptr<Pair>& pair) {
+            return (ready(pair->server) && !passBack(*pair)) || (ready(pair->program) && !passOn(*pair));
+        });
         if (m_away)
             m_pairs.clear();
-        if (waiting[1].revents != 0)
+        if (waiting[0].revents != 0)
             accept();
     }
 }
@@ -227,17 +189,19 @@ bool Proxy::passMessage(Pair& pair, const std::string& message) {
         pair.started = message.size() > 8;
     else if (message[0] == 'Q') {
         const std::string text = message.substr(5);
-        pair.inTransaction = pair.inTransaction || startsWith(text, "begin isolation");
+        pair.inTransaction = pair.inTransaction || text.starts_with("begin isolation");
         pair.said += text;
         if (pair.inTransaction && m_statementsLeft > 0 && --m_statementsLeft == 0) {
             m_hasCut = true;
             return false;
         }
-        if (startsWith(text, "commit") && loses(pair, message))
-            return false;
-        if (startsWith(text, "commit") && pair.said.find(kAdds) != std::string::npos)
+        const bool commits = text.starts_with("commit");
+        if (commits && pair.adds()) {
+            if (m_loss != Loss::None)
+                return lose(pair, message), false;
             m_statementsLeft = 0;
-        if (startsWith(text, "commit") || startsWith(text, "rollback")) {
+        }
+        if (commits || text.starts_with("rollback")) {
             pair.inTransaction = false;
             pair.said.clear();
         }
@@ -245,10 +209,7 @@ bool Proxy::passMessage(Pair& pair, const std::string& message) {
     return pair.server.send(message);
 }
 
-/// True: the pair is to be cut now.
-bool Proxy::loses(Pair& pair, const std::string& commit) {
-    if (m_loss == Loss::None || pair.said.find(kAdds) == std::string::npos)
-        return false;
+void Proxy::lose(Pair& pair, const std::string& commit) {
     const Loss loss = std::exchange(m_loss, Loss::None);
     m_away = m_away || (m_thenAway && loss != Loss::Answer);
     m_hasCut = true;
@@ -263,7 +224,6 @@ bool Proxy::loses(Pair& pair, const std::string& commit) {
         m_delayedCommit = commit;
         m_delayed = std::make_unique<Pair>(-1, dup(pair.server.number()));
     }
-    return true;
 }
 
 } // namespace orvane

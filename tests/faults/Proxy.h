@@ -1,7 +1,6 @@
 #pragma once
 
 #include <atomic>
-#include <functional>
 #include <list>
 #include <memory>
 #include <mutex>
@@ -19,7 +18,7 @@ public:
         None,
         Request, ///< the server never gets it, and sees the connection close
         Answer,  ///< the server commits, and its answer is thrown away
-        Delay    ///< the program's side closes; the server waits, until letDelayedCommitGo or dropDelayedCommit
+        Delay    ///< the program's side closes; the server waits, until endDelayedCommit
     };
 
     explicit Proxy(int serverPort);
@@ -34,8 +33,7 @@ public:
     /// Loses the next commit of rows. With `thenAway` the server cannot be reached from that moment on, until comeBack.
     void loseCommit(Loss loss, bool thenAway);
     void comeBack();
-    void letDelayedCommitGo();
-    void dropDelayedCommit();
+    void endDelayedCommit(bool arrives);
     bool hasCut() const { return m_hasCut; }   ///< since the last order
     bool hasLost() const { return m_hasLost; } ///< a commit, since the last order
 
@@ -47,14 +45,12 @@ private:
     bool passOn(Pair& pair); ///< what the program has sent; false: cut
     bool passMessage(Pair& pair, const std::string& message);
     bool passBack(Pair& pair); ///< what the server has sent; false: cut
-    bool loses(Pair& pair, const std::string& commit);
-    void order(const std::function<void()>& change);
+    void lose(Pair& pair, const std::string& commit);
 
     int m_listener = -1;
     int m_port = 0;
     int m_serverPort;
-    int m_wake[2] = {-1, -1};
-    std::mutex m_mutex; ///< guards all below
+    std::mutex m_mutex; ///< guards all below that is not atomic; the pairs are the thread's own
     std::list<std::unique_ptr<Pair>> m_pairs;
     std::unique_ptr<Pair> m_delayed;
     std::string m_delayedCommit;
@@ -62,7 +58,7 @@ private:
     Loss m_loss = Loss::None;
     bool m_thenAway = false;
     bool m_away = false;
-    bool m_stop = false;
+    std::atomic<bool> m_stop = false;
     std::atomic<bool> m_hasCut = false;
     std::atomic<bool> m_hasLost = false;
     std::thread m_thread;

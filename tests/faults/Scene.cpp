@@ -3,6 +3,7 @@
 #include "support/Check.h"
 
 #include <QDir>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -71,19 +72,12 @@ QString Beside::run(const QString& statement) {
 }
 
 SmallDisk::SmallDisk(const QString& folder) : m_folder(folder) {
-    QHash<QString, QByteArray> files;
-    for (const QString& name : QDir(folder).entryList(QDir::Files)) {
-        QFile file(folder + '/' + name);
-        if (!file.open(QIODevice::ReadOnly))
-            throw std::runtime_error("cannot read " + name.toStdString());
-        files.insert(name, file.readAll());
-    }
+    const QTemporaryDir kept;
+    if (QProcess::execute("cp", {"-a", folder + "/.", kept.path()}) != 0)
+        throw std::runtime_error("the databases cannot be copied");
     m_mounted = mount("tmpfs", folder.toUtf8().constData(), "tmpfs", 0, "size=24m") == 0;
-    for (auto file = files.begin(); m_mounted && file != files.end(); ++file) {
-        QFile copy(folder + '/' + file.key());
-        if (!copy.open(QIODevice::WriteOnly) || copy.write(file.value()) != file.value().size())
-            throw std::runtime_error("cannot copy " + file.key().toStdString());
-    }
+    if (m_mounted && QProcess::execute("cp", {"-a", kept.path() + "/.", folder}) != 0)
+        throw std::runtime_error("the databases cannot be copied back");
 }
 
 SmallDisk::~SmallDisk() {
@@ -118,11 +112,6 @@ Scene::Scene(Engine tested, const MoneyAction& played) : engine(tested), action(
         throw std::runtime_error("the program does not start");
     action.enter(*ws);
     takeShown(ws->ui);
-}
-
-Scene::~Scene() {
-    beside.reset();
-    ws.reset();
 }
 
 Scene::Told Scene::press() {

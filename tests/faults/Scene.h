@@ -45,12 +45,12 @@ private:
 class Scene {
 public:
     Scene(Engine engine, const MoneyAction& action);
-    ~Scene();
 
     /// What the user was shown after a press.
     struct Told {
         QStringList boxes;
         bool reported = false; ///< as saved
+        QString text() const { return boxes.join('\n'); }
     };
     Told press();
 

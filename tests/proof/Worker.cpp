@@ -22,12 +22,6 @@ QString naira(double amount) {
     return QString::number(amount, 'f', 2);
 }
 
-/// A box that no step allows: the save did not come to its end.
-struct Refusal {
-    QString step;
-    QString text;
-};
-
 /// Sees each box while the screen still holds what it has saved.
 class WorkerUi : public QuietUi {
 public:
@@ -39,20 +33,6 @@ public:
     }
 };
 
-/// Which patients a worker enters in turn and which visits it bills.
-struct Field {
-    QStringList patients, visits;
-};
-
-Field sharedField() {
-    Field field;
-    for (int i = 0; i < sharedPatients; ++i)
-        field.patients << patientOfWorkers(i);
-    for (int i = 0; i < sharedVisits; ++i)
-        field.visits << visitOfWorkers(i);
-    return field;
-}
-
 class Worker {
 public:
     Worker(const QString& home, const QStringList& options) : m_options(options), m_program(home, m_ui) {
@@ -63,7 +43,12 @@ public:
         if (!Main(m_program, "amina.b"))
             throw DataError(m_ui.takeBoxes().join(QLatin1Char('\n')));
         m_ui.takeBoxes();
-        setHook();
+        // A balance that was read is out of date for a while, and a transaction lasts long enough for the others.
+        if (m_options.contains("linger"))
+            m_program.data().setStatementHook([](const QString& tsql) {
+                if (tsql == "commit transaction" || tsql.startsWith("insert into [Tranxaction]"))
+                    QThread::msleep(3);
+            });
     }
 
     /// Waits until everybody is there, so that the work overlaps, and does it.
@@ -76,34 +61,24 @@ public:
     void workRounds(const QStringList& numbers, int rounds) {
         for (const QString& number : numbers) {
             m_number = number.toInt();
-            m_field = m_options.contains("own") ? Field{{patientOfWorkers(m_number)}, {visitOfWorkers(m_number)}}
-                                                : sharedField();
             for (int round = 0; round < rounds; ++round)
                 workRound(round);
         }
     }
 
 private:
-    void setHook() {
-        // A balance that was read is out of date for a while, and a transaction lasts long enough for the others.
-        if (m_options.contains("linger"))
-            m_program.data().setStatementHook([](const QString& tsql) {
-                if (tsql == QLatin1String("commit transaction") ||
-                    tsql.startsWith(QLatin1String("insert into [Tranxaction]")))
-                    QThread::msleep(3);
-            });
-    }
+    bool ownsItsRows() const { return m_options.contains("own"); }
 
     void workRound(int round) {
-        const qsizetype turn = (m_number + round) % m_field.visits.size();
-        const QString& shared = m_field.visits.at(turn);
+        const int turn = ownsItsRows() ? m_number : (m_number + round) % sharedVisits;
+        const QString shared = visitOfWorkers(turn);
         QString visit;
         attempt([&] { visit = attend(); });
         if (!visit.isEmpty()) {
             attempt([&] { deposit(visit, 500.5); });
             attempt([&] { collate(visit, 700.25); });
         }
-        order(shared, m_field.patients.at(turn), 40 + m_number);
+        order(shared, patientOfWorkers(turn), 40 + m_number);
         attempt([&] { collate(shared, 0); });
         attempt([&] { receiveAndReverse(shared, 300.1 + m_number); });
     }
@@ -112,10 +87,8 @@ private:
     void attempt(Step step) {
         try {
             step();
-        } catch (const Refusal& refusal) {
-            tell({"trouble", refusal.step, refusal.text});
         } catch (const DataError& fault) {
-            tell({"trouble", "fault", fault.description()});
+            tell({"trouble", fault.description()});
         }
         for (const char* name : {"frmRecordsOffline", "frmReceiptDeposit", "frmBillingVerify", "frmReceiptTemp"})
             if (Form* form = m_program.loadedForm(QLatin1String(name)))
@@ -135,15 +108,16 @@ private:
         tell({kind, number, bill, naira(amount)});
     }
 
+    /// A box that a step does not allow: the save did not come to its end.
     void expectBoxes(const QString& step, const QStringList& expected) {
         if (const QStringList boxes = m_ui.takeBoxes(); boxes != expected)
-            throw Refusal{step, boxes.join(" / ")};
+            throw DataError(step + ": " + boxes.join(" / "));
     }
 
     /// Enters the next patient who has no open visit: the other workers enter the same ones. Gives the visit.
     QString attend() {
         for (int attempts = 0; attempts < 200; ++attempts) {
-            const QString pno = m_field.patients.at(m_next++ % m_field.patients.size());
+            const QString pno = patientOfWorkers(ownsItsRows() ? m_number : m_next++ % sharedPatients);
             Hand hand = findPatient(m_program, "PROOF", pno);
             QStringList boxes = m_ui.takeBoxes();
             if (boxes.isEmpty()) {
@@ -157,10 +131,10 @@ private:
                 }
             }
             if (boxes != QStringList{attendedAlready})
-                throw Refusal{"visit", boxes.join(" / ")};
+                throw DataError("visit: " + boxes.join(" / "));
             QThread::msleep(5);
         }
-        throw Refusal{"visit", "every patient is in"};
+        throw DataError("every patient is in");
     }
 
     QString saveVisit(Hand& hand, QStringList& boxes) {
@@ -210,7 +184,7 @@ private:
         // The screen leaves the saved receipt selected.
         const auto& grid = static_cast<const Grid&>(*m_program.form("frmReceiptTemp").find("grdData"));
         if (grid.text("ReceiptNo") != number)
-            throw Refusal{"reversal", "another receipt is selected"};
+            throw DataError("another receipt is selected");
         enterReversal(m_program).click("OKButton");
         expectBoxes("reversal", {saved});
         tellReceipt("reversal", grid.text("ReceiptNo"), bill, -amount);
@@ -218,8 +192,7 @@ private:
 
     QStringList m_options;
     int m_number = 0;
-    Field m_field;
-    qsizetype m_next = 0; ///< patient
+    int m_next = 0; ///< patient
     WorkerUi m_ui;
     Program m_program;
     QTextStream m_out{stdout};

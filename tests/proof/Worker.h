@@ -26,7 +26,7 @@ inline const QStringList savesOfARound = {"visit", "deposit", "paidbill", "bill"
 /// Writes "ready" and begins when a line comes in. Then it writes a line of words apart by tabs for each save that the
 /// screen reported (amounts in naira, minus for a reversal):
 ///   visit NUMBER PATIENT, bill NUMBER, and deposit | paidbill | receipt | reversal RECEIPT BILL AMOUNT
-/// further "item BILL PRICE" for each item that it laid, and "trouble STEP TEXT" for each save that was refused or
+/// further "item BILL PRICE" for each item that it laid, and "trouble TEXT" for each save that was refused or
 /// faulty. Gives the exit code. `around` is given the running program and the work, which it must do.
 using AroundWork = std::function<void(Program&, const std::function<void()>& work)>;
 int runWorker(

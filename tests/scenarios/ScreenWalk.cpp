@@ -4,46 +4,22 @@
 #include "session/Main.h"
 #include "support/Hospital.h"
 
+#include <QRegularExpression>
+
 namespace orvane {
 
 namespace {
 
 bool speaksOfTheEngine(const QString& box) {
-    static const QStringList words = {"no such",
-                                      "syntax error",
-                                      "Item cannot be found",
-                                      "cannot be written",
-                                      "does not exist",
-                                      "constraint",
-                                      "violates",
-                                      "ambiguous",
-                                      "near \"",
-                                      "operator",
-                                      "invalid",
-                                      "misuse",
-                                      "Unable to fetch",
-                                      "unterminated",
-                                      "unrecognized token",
-                                      "escape",
-                                      "out of range",
-                                      "byte sequence",
-                                      "too big",
-                                      "Parameter count",
-                                      "index row",
-                                      "permission",
-                                      "maximum",
-                                      "convert"};
+    static const QRegularExpression words(
+        "no such|syntax error|Item cannot be found|cannot be written|does not exist|constraint|violates|ambiguous|"
+        "near \"|operator|invalid|misuse|Unable to fetch|unterminated|unrecognized token|escape|out of range|"
+        "byte sequence|too big|Parameter count|index row|permission|maximum|convert",
+        QRegularExpression::CaseInsensitiveOption);
     // These are the program's own.
-    static const QStringList own = {"Alert! Invalid Login details.",
-                                    "Invalid Login details",
-                                    "Invalid character detected!",
-                                    "Invalid RoleID.",
-                                    "Invalid Username.",
-                                    "Invalid Patient No",
-                                    "Invalid Bill No"};
-    return !own.contains(box) && std::any_of(words.begin(), words.end(), [&](const QString& word) {
-        return box.contains(word, Qt::CaseInsensitive);
-    });
+    static const QRegularExpression own("^(Alert! )?Invalid (Login details|RoleID|Username|Patient No|Bill No)\\.?$|"
+                                        "^Invalid character detected!$");
+    return box.contains(words) && !box.contains(own);
 }
 
 } // namespace

@@ -38,8 +38,12 @@ class HostileSave : public ScreenWalk {
 public:
     using ScreenWalk::program;
     void set(const QString& control, const QString& value) { setValue(driver, find(control), value); }
+    void fill(const QString& values) { ///< "CONTROL=VALUE|..."
+        for (const QString& one : values.split('|'))
+            set(one.section('=', 0, 0), one.section('=', 1));
+    }
     void pick(const QString& control, const QString& entry) { pickEntry(driver, find(control), entry, false); }
-    QString value(const QString& control) { return find(control).valueText(); }
+    void repeat(const QString& control, const QString& of) { set(control, find(of).valueText()); }
     void click(const QString& control) { clickControl(driver, find(control)); }
     /// A number that is another one each time.
     QString serial() const { return QString::number(m_round + 1000); }
@@ -101,7 +105,6 @@ protected:
         click(QLatin1String(save.button));
     }
 
-    QString stored(const Stored& field) { return scalar(QLatin1String(field.tsql)); }
     static QString expected(const Stored& field, const QString& text) {
         const QString kept = field.trimmed ? text.trimmed() : text;
         return QLatin1String(field.before) + (field.upper ? kept.toUpper() : kept);
@@ -118,21 +121,20 @@ protected:
             enter(save);
             finish(save, typed);
             for (const Stored& field : save.fields)
-                EXPECT_EQ(stored(field), expected(field, typed.value(field.field)))
+                EXPECT_EQ(scalar(field.tsql), expected(field, typed.value(field.field)))
                     << field.tsql << ui.boxes.join(" / ").left(200).toStdString();
             checkBoxes(m_form);
             closeAll();
         }
     }
 
-    /// What the screens keep from their user stands in this log.
-    qint64 logged() const { return QFileInfo(home.folder() + "/ServerErrorLog.txt").size(); }
-
     /// A text that no column holds, or too long for it, more than one line, or nothing but blanks.
     void saveOrRefuse(const Save& save, const Stored& field, const QString& text) {
         SCOPED_TRACE((m_form + '.' + field.field + " <" + text.left(20) + '>').toStdString());
         enter(save);
-        const QString before = stored(field);
+        const QString before = scalar(field.tsql);
+        // What the screens keep from their user stands there.
+        const auto logged = [&] { return QFileInfo(home.folder() + "/ServerErrorLog.txt").size(); };
         const qint64 log = logged();
         bool told = text.trimmed().isEmpty(); // such a field is empty
         try {
@@ -142,26 +144,20 @@ protected:
         }
         told = told || !ui.boxes.isEmpty() || logged() > log;
         checkBoxes(m_form);
-        const QString now = stored(field);
+        const QString now = scalar(field.tsql);
         EXPECT_TRUE((told && now == before) || now == expected(field, text)) << now.toStdString();
         closeAll();
     }
 
-    QStringList numberFields(const Save& save) {
-        enter(save);
-        QStringList fields;
-        for (const Control* control : program.loadedForm(m_form)->controls()) {
-            const auto* box = dynamic_cast<const TextBox*>(control);
-            if (box && box->isNumeric() && box->isUsable() && !box->isLocked())
-                fields << box->name();
-        }
-        closeAll();
-        return fields;
-    }
-
     /// What is no number, or no amount, in each field of numbers alone: saved or not, the books agree afterwards.
     void saveNumbers(const Save& save) {
-        for (const QString& field : numberFields(save))
+        enter(save);
+        QStringList fields;
+        for (const Control* control : program.loadedForm(m_form)->controls())
+            if (const auto* box = dynamic_cast<const TextBox*>(control);
+                box && box->isNumeric() && box->isUsable() && !box->isLocked())
+                fields << box->name();
+        for (const QString& field : std::as_const(fields))
             for (const char* text : {"1e999", "NaN", "inf", "0x10", "-1.5e-400", "-2", "+-1", "1,,5", "1'0", "=1+1",
                                      "null", "99999999999999999999", "   ", "\u0661\u0662"}) {
                 if (!isReady(field, QLatin1String(save.button)))
@@ -193,8 +189,7 @@ const QVector<Save>& saves() {
          [](HostileSave& at) {
              at.click("cmdInv");
              at.pick("cboVehNo", "O'NEILL");
-             at.set("cboBill", "CLAIMS");
-             at.set("txtApprv", "CODE");
+             at.fill("cboBill=CLAIMS|txtApprv=CODE");
          },
          {{"txtApprv", "select top 1 ApprvCode from hApprvCode order by SNO desc"},
           {"txtRem", "select top 1 Remarks from hApprvCode order by SNO desc"}},
@@ -205,23 +200,17 @@ const QVector<Save>& saves() {
           {"cboCat", "select top 1 drgName from BillingDetails order by detID desc"}},
          "OKButton"},
         {"frmBillPat",
-         [](HostileSave& at) {
-             at.set("cboCat", "SERVICE");
-             at.set("cboFFS2", "NO");
-             at.set("cboPat", "PRIVATE PATIENTS");
-         },
+         [](HostileSave& at) { at.fill("cboCat=SERVICE|cboFFS2=NO|cboPat=PRIVATE PATIENTS"); },
          {{"cboDrug", "select top 1 drgName from BillAccum order by SNo desc", false, true}},
          "OKButton",
          [](HostileSave& at) {
-             at.set("cboRev", "SERVICES");
-             at.set("txtQty", "1");
+             at.fill("cboRev=SERVICES|txtQty=1");
              at.set("txtPrice", at.price());
              at.click("cmdAdd");
          }},
         {"frmPriceAdjustVerify",
          [](HostileSave& at) {
-             at.set("cboRev", "DRUGS");
-             at.set("cboCap", "NO");
+             at.fill("cboRev=DRUGS|cboCap=NO");
              at.set("txtPrice", at.price());
          },
          {{"txtDrug", "select top 1 drgName from BillAccum order by SNo desc", true}},
@@ -263,16 +252,14 @@ const QVector<Save>& saves() {
         {"frmUsers",
          [](HostileSave& at) {
              at.run("delete from ApplicationUsers where Username<>'amina.b'");
-             at.set("txtUserName", "kemi");
-             at.set("cboAcctStatus", "Enabled");
-             at.set("cboBranchCode", "HQ");
+             at.fill("txtUserName=kemi|cboAcctStatus=Enabled|cboBranchCode=HQ");
          },
          {{"txtUserName", "select Username from ApplicationUsers where Username<>'amina.b'", true},
           {"txtFullName", "select Fullname from ApplicationUsers where Username<>'amina.b'"},
           {"txtPassword", "select Password from ApplicationUsers where Username<>'amina.b'", true},
           {"cboBranchCode", "select BranchCode from ApplicationUsers where Username<>'amina.b'"}},
          "cmdApply",
-         [](HostileSave& at) { at.set("txtConfirmPWD", at.value("txtPassword")); }},
+         [](HostileSave& at) { at.repeat("txtConfirmPWD", "txtPassword"); }},
         {"frmUserRole",
          [](HostileSave& at) {
              at.run("delete from UserRoles where Username<>'amina.b'");
@@ -286,12 +273,11 @@ const QVector<Save>& saves() {
          [](HostileSave& at) {
              at.run("delete from ApplicationUsers where Username<>'amina.b'");
              at.run("insert into ApplicationUsers (Username, Password) values ('musa', 'old')");
-             at.set("txtUser", "musa");
-             at.set("txtPass", "old");
+             at.fill("txtUser=musa|txtPass=old");
          },
          {{"txtPassN", "select Password from ApplicationUsers where Username='musa'"}},
          "OKButton",
-         [](HostileSave& at) { at.set("txtPassC", at.value("txtPassN")); }},
+         [](HostileSave& at) { at.repeat("txtPassC", "txtPassN"); }},
     };
     return all;
 }

@@ -1,12 +1,14 @@
-// The tour that ./run.sh shows, without its windows, and every action that moves money: they go through, leave books
-// that agree, and no screen writes a row by itself.
-#include "tool/Tool.h"
+// The tour that ./run.sh shows, without its windows, and every action that moves money: they go through with the rights
+// that are told to a server's owner, leave books that agree, and no screen writes a row by itself.
 #include "play/HeadlessDriver.h"
 #include "play/Player.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
+#include "support/Check.h"
+#include "support/LeastRights.h"
 #include "support/MoneyActions.h"
 #include "support/SourceTree.h"
+#include "tool/Tool.h"
 
 #include <QBuffer>
 #include <QRegularExpression>
@@ -85,18 +87,53 @@ TEST(Tour, GoesThroughByTheBooksAndTheyAgree) {
     runTool({"check", "--home", home}, 0);
 }
 
-TEST(MoneyActions, WriteByTheBooksAlone) {
+class Rights : public ::testing::TestWithParam<Engine> {};
+ORVANE_ON_EACH_ENGINE(Rights);
+
+TEST_P(Rights, AreEnoughForEveryActionAndItWritesByTheBooksAlone) {
     for (const MoneyAction& action : moneyActions()) {
-        const TestHome home;
+        if (action.brief && GetParam() == Engine::Postgresql)
+            continue; // every database costs seconds there
+        SCOPED_TRACE(action.name);
+        const TestHome home(GetParam());
         layAction(home.folder(), action);
+        const LeastRights login(home);
         Workstation ws(home.folder());
         ASSERT_TRUE(ws.start());
         const Eavesdropper listener(ws.program);
         action.enter(ws);
+        takeShown(ws.ui);
+        const QString before = moneyFigures(ws);
         action.press(ws);
         listener.expectSteps(action.name);
-        takeShown(ws.ui);
+        const QStringList shown = takeShown(ws.ui);
+        EXPECT_TRUE(action.isReportedBy(shown)) << shown.join(" / ").toStdString();
+        EXPECT_NE(moneyFigures(ws), before);
+        EXPECT_EQ(checkDatabases(ws.program).findings, QStringList());
     }
+}
+
+TEST_P(Rights, AreNoMoreThanTheProgramNeeds) {
+    if (GetParam() == Engine::Sqlite)
+        GTEST_SKIP() << "a database is its owner's file";
+    const TestHome home(GetParam());
+    const LeastRights login(home);
+    DataSource source(home.folder());
+    const std::pair<QString, QStringList> refused[] = {
+        {TestHome::billing(),
+         {"drop table Payments", "delete from Payments", "update Payments set AmountPaid=0", "delete from AuditTrail",
+          "update Tranxaction set Amount=0", "delete from hPatients", "insert into AppDefaults (ID) values ('X')",
+          "select * from banks", "create table mine (a int)"}},
+        {TestHome::accounting(),
+         {"delete from Tranxaction", "insert into Tranxaction (TranID, AccountNo) values ('X', 'X')"}}};
+    for (const auto& [database, statements] : refused)
+        for (const QString& statement : statements)
+            try {
+                source.open(database).run(statement);
+                ADD_FAILURE() << statement.toStdString();
+            } catch (const DataError& fault) {
+                EXPECT_TRUE(fault.code() == "42501") << statement.toStdString() << ": " << fault.what();
+            }
 }
 
 } // namespace

@@ -1,28 +1,28 @@
 // Accounts: making them, their status and their passwords, as their screens show them.
 #include "session/Scramble.h"
 #include "support/ChecksInOrder.h"
+#include "support/ScreenTest.h"
 
 #include <QFile>
 
 namespace orvane {
 namespace {
 
-class Accounts : public WorkstationTest {
+class Accounts : public ScreenTest {
 protected:
+    Accounts() : ScreenTest("frmUsers") {}
+
     static constexpr const char* unmatched = "Alert! Unmatched password. Kindly re-type to go on.";
     static constexpr const char* unknown = "Alert! Indicated username not found in the list of accredited users.";
 
-    void turnSecurityOn() {
+    void prepare() override {
         QFile ini(home.folder() + "/orvane.ini");
         ASSERT_TRUE(ini.open(QIODevice::Append));
         ini.write("\n[menu]\nmnusecurity = 1\n");
-    }
-    void prepare() override {
-        turnSecurityOn();
+        ini.close();
         ws.run("insert into LagosBranches (BranchCode) values ('ANNEX')");
         ws.run("insert into ApplicationUsers (Username, Fullname, Password) values ('musa', 'MUSA O''BRIEN', 'Pw''1')");
     }
-    void set(const char* control, const QString& value) { ws.set(QStringLiteral("frmUsers.") + control, value); }
     QString stored(const QString& user) {
         return ws.scalar("select Password from ApplicationUsers where Username='" + user + "'");
     }
@@ -33,29 +33,29 @@ TEST_P(Accounts, UsersAreAddedAndNeverChanged) {
     // Two persons of one name.
     ws.run("insert into ApplicationUsers (Username, Fullname, BranchCode) values ('musa2', 'MUSA O''BRIEN', 'ANNEX')");
     ws.menu("mnuUsers");
-    EXPECT_EQ(ws.items("frmUsers.cboBranchCode"), QStringList({"ANNEX", "HQ"}));
+    EXPECT_EQ(items("cboBranchCode"), QStringList({"ANNEX", "HQ"}));
     set("txtUserName", "  ");
-    EXPECT_EQ(ws.state("frmUsers.cmdApply"), "visible disabled");
-    const QStringList nodes = ws.items("frmUsers.TreeView1");
+    EXPECT_EQ(state("cmdApply"), "visible disabled");
+    const QStringList nodes = items("TreeView1");
     EXPECT_EQ(nodes.first(), "Zelmont Trust Bank Plc");
     QStringList shown; // in the order of the engine
     for (int node = 1; node < nodes.size(); ++node) {
-        ws.pick("frmUsers.TreeView1", node);
-        shown << nodes[node] + '|' + ws.value("frmUsers.txtUserName") + '|' + ws.value("frmUsers.txtPassword") + '|' +
-                     ws.value("frmUsers.cboAcctStatus") + '|' + ws.value("frmUsers.cboBranchCode");
+        pick("TreeView1", node);
+        shown << nodes[node] + '|' + value("txtUserName") + '|' + value("txtPassword") + '|' + value("cboAcctStatus") +
+                     '|' + value("cboBranchCode");
     }
     shown.sort();
     EXPECT_EQ(shown, QStringList({"AMINA BELLO|amina.b||Enabled|HQ", "MUSA O'BRIEN|musa2|||ANNEX",
                                   "MUSA O'BRIEN|musa|Pw'1||"}));
     EXPECT_TRUE(ws.control<TextBox>("frmUsers.txtPassword").isMasked());
 
-    ws.click("frmUsers.cmdRefresh");
+    click("cmdRefresh");
     set("txtUserName", " MUSA ");
     expectChecksInOrder(ws, "frmUsers", "cmdApply",
                         {{nullptr, "", "Alert! Account Status is required.", "cboAcctStatus"},
                          {"cboAcctStatus", "Disabled", "Alert! Branch Code is required.", "cboBranchCode"}});
     set("cboBranchCode", "HQ");
-    ws.click("frmUsers.cmdApply");
+    click("cmdApply");
     EXPECT_EQ(ui.takeBoxesWithTitles(),
               (QList<TestUi::Box>{{"Alert! Username already assigned to someone else.", {}, Icon::Critical}}));
 
@@ -65,18 +65,17 @@ TEST_P(Accounts, UsersAreAddedAndNeverChanged) {
     set("txtConfirmPWD", "S3cret");
     ws.key("frmUsers.txtConfirmPWD", "\n");
     EXPECT_EQ(ui.takeBoxesWithTitles(), (QList<TestUi::Box>{{unmatched, {}, Icon::Critical}}));
-    EXPECT_EQ(ws.form("frmUsers").focused()->name(), "txtConfirmPWD");
+    EXPECT_EQ(focused(), "txtConfirmPWD");
     set("txtConfirmPWD", " S3cret ");
     ws.key("frmUsers.txtConfirmPWD", "\n");
     EXPECT_BOXES(ui, {"Account creation succeeded."});
     EXPECT_EQ(ws.tableCount("ApplicationUsers where Username='kemi' and Fullname='KEMI ADE' and BranchCode='HQ' and "
                             "AccountStatus='Disabled' and Password='S3cret'"),
               1);
-    EXPECT_TRUE(ws.items("frmUsers.TreeView1").contains("KEMI ADE"));
-    EXPECT_EQ(ws.value("frmUsers.txtUserName") + ws.value("frmUsers.txtPassword") + ws.value("frmUsers.cboBranchCode"),
-              "");
-    EXPECT_EQ(ws.state("frmUsers.cmdApply"), "visible disabled");
-    EXPECT_EQ(ws.form("frmUsers").focused()->name(), "txtUserName");
+    EXPECT_TRUE(items("TreeView1").contains("KEMI ADE"));
+    EXPECT_EQ(value("txtUserName") + value("txtPassword") + value("cboBranchCode"), "");
+    EXPECT_EQ(state("cmdApply"), "visible disabled");
+    EXPECT_EQ(focused(), "txtUserName");
 }
 
 TEST_P(Accounts, AreEnabledAndDisabledByName) {
@@ -94,10 +93,7 @@ TEST_P(Accounts, AreEnabledAndDisabledByName) {
         {"mnuAcctDisable", "musa", {"Congrats! User Account diasbled successfully.", {}, Icon::None}, "Disabled"},
         {"mnuAcctDisable", nullptr, empty, "Disabled"}};
     for (const auto& test : cases) {
-        if (test.answer)
-            ui.answer(QString(test.answer));
-        else
-            ui.answerCancel();
+        test.answer ? ui.answer(QString(test.answer)) : ui.answerCancel();
         ws.menu(test.menu);
         EXPECT_QUESTIONS(ui, {"Kindly indicate the Account's Username."});
         EXPECT_EQ(ui.takeBoxesWithTitles(), QList<TestUi::Box>{test.box}) << test.menu;
@@ -107,6 +103,7 @@ TEST_P(Accounts, AreEnabledAndDisabledByName) {
 
 TEST_P(Accounts, APasswordIsChangedByWhoKnowsTheOldOne) {
     ws.menu("mnuChangePWD");
+    open("frmDialog");
     const struct {
         const char* user;
         const char* old;
@@ -119,22 +116,22 @@ TEST_P(Accounts, APasswordIsChangedByWhoKnowsTheOldOne) {
                  {"musa", "' or '1'='1", unknown, "Pw'1"},
                  {"musa", "Pw'1", "Congrats! User Account's Password changed.", "N'ew 2"}};
     for (const auto& test : cases) {
-        ws.set("frmDialog.txtUser", test.user);
-        ws.set("frmDialog.txtPass", test.old);
-        ws.set("frmDialog.txtPassN", "N'ew 2");
-        ws.set("frmDialog.txtPassC", "N'ew 2");
+        set("txtUser", test.user);
+        set("txtPass", test.old);
+        set("txtPassN", "N'ew 2");
+        set("txtPassC", "N'ew 2");
         ws.key("frmDialog.txtPassC", "\n");
         EXPECT_BOXES(ui, {test.box});
         EXPECT_EQ(stored("musa"), test.stored);
         for (const char* box : {"txtUser", "txtPass", "txtPassN", "txtPassC"})
-            EXPECT_EQ(ws.value(QStringLiteral("frmDialog.") + box), "");
+            EXPECT_EQ(value(box), "");
     }
     EXPECT_EQ(stored("amina.b"), "") << "somebody else's";
-    ws.set("frmDialog.txtPassN", "typed");
-    ws.set("frmDialog.txtPassC", "tpyed");
-    ws.leave("frmDialog.txtPassC");
+    set("txtPassN", "typed");
+    set("txtPassC", "tpyed");
+    leave("txtPassC");
     EXPECT_EQ(ui.takeBoxesWithTitles(), (QList<TestUi::Box>{{unmatched, {}, Icon::Critical}}));
-    EXPECT_EQ(ws.form("frmDialog").focused()->name(), "txtPassC");
+    EXPECT_EQ(focused(), "txtPassC");
 }
 
 TEST_P(Accounts, ScrambledTextMapsOneForOneAndDropsABlank) {

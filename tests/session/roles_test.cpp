@@ -1,7 +1,7 @@
 // Roles and who holds them.
 #include "session/Role.h"
 #include "session/UserRole.h"
-#include "support/Workstation.h"
+#include "support/ScreenTest.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -9,8 +9,10 @@
 namespace orvane {
 namespace {
 
-class Roles : public WorkstationTest {
+class Roles : public ScreenTest {
 protected:
+    Roles() : ScreenTest("frmRole") {}
+
     /// The messages of the users' log since the last look; each line stamped and signed.
     QStringList takeLog() {
         QFile file(home.folder() + "/ServerUserActivities.txt");
@@ -29,7 +31,6 @@ protected:
         file.remove();
         return messages;
     }
-    QString status() { return ws.value("frmRole.StatusBar1"); }
 };
 ORVANE_ON_EACH_ENGINE(Roles);
 
@@ -88,10 +89,7 @@ TEST_P(Roles, SubmitAndDeleteTellTheLogOnly) {
 }
 
 TEST_P(Roles, AFaultGoesToTheErrorLogWithoutItsStatement) {
-    ws.program.data().setStatementHook([](const QString& statement) {
-        if (statement.contains("Roles"))
-            throw DataError("line one\nline two");
-    });
+    breakAt("Roles");
     Role role(ws.program);
     role.setRoleID("205");
     role.Submit();
@@ -103,44 +101,45 @@ TEST_P(Roles, AFaultGoesToTheErrorLogWithoutItsStatement) {
     const QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 2);
     EXPECT_TRUE(lines[0].startsWith("14/03/2026 09:30:00  |  Submit  |  ")) << lines[0].toStdString();
-    EXPECT_TRUE(lines[0].contains("  |  line one line two  |  "));
+    EXPECT_TRUE(lines[0].contains("  |  disk full  |  "));
     EXPECT_TRUE(lines[1].contains("  |  LoadRoleID  |  "));
 }
 
 TEST_P(Roles, RoleCreationNarratesAndAddsARole) {
-    ws.open("frmRole");
-    EXPECT_EQ(status(), "Waiting for AMINA BELLO to key in RoleID");
+    open();
+    EXPECT_EQ(value("StatusBar1"), "Waiting for AMINA BELLO to key in RoleID");
     // Where nothing was ever accepted, what the class holds is submitted.
-    ws.click("frmRole.cmdSubmit");
-    ws.click("frmRole.cmdSubmit");
+    click("cmdSubmit");
+    click("cmdSubmit");
     EXPECT_EQ(takeLog(), QStringList({"Successfully created a new Role  0",
                                       "Attempted creating a RoleID 0 that already exists."}));
     EXPECT_EQ(ws.rows("frmRole.DataGrid1").filter(QRegularExpression("^0\t$")).size(), 1);
-    ws.key("frmRole.txtRID", "2x0");
-    EXPECT_EQ(ws.value("frmRole.txtRID"), "20");
-    EXPECT_EQ(status(), "Accepting RoleID from AMINA BELLO...");
-    ws.key("frmRole.txtRID", "-");
-    EXPECT_EQ(status(), "Numeric entries expected here.");
-    ws.leave("frmRole.txtRID");
-    EXPECT_EQ(status(), "Waiting to Accept new Role Name from AMINA BELLO...");
-    ws.set("frmRole.txtRName", "CASHIER");
-    EXPECT_EQ(status(), "Accepting Role Name from AMINA BELLO...");
-    ws.leave("frmRole.txtRName");
-    EXPECT_EQ(status(), "Ready to Submit New Role Profile.");
+    const struct {
+        std::function<void()> act;
+        const char* status;
+    } steps[] = {{[&] { ws.key("frmRole.txtRID", "2x0"); }, "Accepting RoleID from AMINA BELLO..."},
+                 {[&] { ws.key("frmRole.txtRID", "-"); }, "Numeric entries expected here."},
+                 {[&] { leave("txtRID"); }, "Waiting to Accept new Role Name from AMINA BELLO..."},
+                 {[&] { set("txtRName", "CASHIER"); }, "Accepting Role Name from AMINA BELLO..."},
+                 {[&] { leave("txtRName"); }, "Ready to Submit New Role Profile."},
+                 {[&] { ws.control("frmRole.cmdCancel").gotFocus(); }, "Click here to unload the form."}};
+    for (const auto& step : steps) {
+        step.act();
+        EXPECT_EQ(value("StatusBar1"), step.status);
+    }
+    EXPECT_EQ(value("txtRID"), "20");
     // A refused id leaves the one that was accepted before.
-    ws.set("frmRole.txtRID", "123456789");
-    ws.leave("frmRole.txtRID");
-    ws.click("frmRole.cmdSubmit");
+    set("txtRID", "123456789");
+    leave("txtRID");
+    click("cmdSubmit");
     EXPECT_EQ(ws.rows("frmRole.DataGrid1").filter("CASHIER"), QStringList("20\tCASHIER"));
-    EXPECT_EQ(ws.value("frmRole.txtRID") + ws.value("frmRole.txtRName"), "");
+    EXPECT_EQ(value("txtRID") + value("txtRName"), "");
     // Enter presses the button without leaving the box.
-    ws.set("frmRole.txtRID", "21");
-    ws.set("frmRole.txtRName", "MATRON");
+    set("txtRID", "21");
+    set("txtRName", "MATRON");
     ws.key("frmRole.txtRName", "\n");
     EXPECT_EQ(ws.tableCount("Roles where RoleID=21 and LoginRole='MATRON'"), 1);
     EXPECT_EQ(ws.tableCount("Roles"), 5);
-    ws.control("frmRole.cmdCancel").gotFocus();
-    EXPECT_EQ(status(), "Click here to unload the form.");
 }
 
 TEST_P(Roles, AllocationAnswersEachEventWithABox) {
@@ -148,8 +147,8 @@ TEST_P(Roles, AllocationAnswersEachEventWithABox) {
     ws.run("insert into ApplicationUsers (Username) values ('a.name.of.nineteen.c')");
     ws.run("insert into Roles (RoleID, LoginRole) values (7, 'WARD')");
     ws.run("insert into Roles (RoleID, LoginRole) values (1012, 'LONG')");
-    ws.open("frmUserRole");
-    QStringList nodes = ws.items("frmUserRole.TreeView1");
+    open("frmUserRole");
+    QStringList nodes = items("TreeView1");
     EXPECT_EQ(nodes.takeFirst(), "Available Roles");
     nodes.sort();
     EXPECT_EQ(nodes, QStringList({"101 : BILLING", "1012 : LONG", "102 : MANAGEMENT", "7 : WARD"}));
@@ -166,31 +165,27 @@ TEST_P(Roles, AllocationAnswersEachEventWithABox) {
                  {"102", "a.name.of.nineteen.c", {"Invalid Username.", "Invalid Username."}, 3},
                  {"7", "ngozi.o", {"Submission Successful."}, 4}};
     for (const auto& test : cases) {
-        ws.set("frmUserRole.cboRoleID", test.role);
-        ws.set("frmUserRole.cboUsername", test.user);
-        ws.click("frmUserRole.cmdSubmit");
-        const QList<TestUi::Box> boxes = ui.takeBoxesWithTitles();
-        QStringList texts;
-        for (const TestUi::Box& box : boxes)
-            texts << box.text;
-        EXPECT_EQ(texts, test.boxes) << test.role << ' ' << test.user;
-        if (*test.user)
-            EXPECT_EQ(boxes.last().icon, Icon::Information);
+        set("cboRoleID", test.role);
+        set("cboUsername", test.user);
+        click("cmdSubmit");
+        EXPECT_EQ(ui.takeBoxes(), test.boxes) << test.role << ' ' << test.user;
         EXPECT_EQ(ws.tableCount("UserRoles"), test.rows);
     }
-    ws.set("frmUserRole.cboUsername", "");
-    ws.leave("frmUserRole.cboUsername");
+    set("cboUsername", "");
+    leave("cboUsername");
     EXPECT_BOXES(ui, {"Username cannot be empty."});
 
-    const QStringList head{"Username\tFullname\tAccount Status"};
-    ws.pick("frmUserRole.TreeView1", "102 : MANAGEMENT");
-    EXPECT_EQ(ws.rows("frmUserRole.ListView1"), head + QStringList("amina.b\tAMINA BELLO\tEnabled"));
-    ws.pick("frmUserRole.TreeView1", "7 : WARD");
-    EXPECT_EQ(ws.rows("frmUserRole.ListView1"), head + QStringList("ngozi.o\t\tEnabled"));
-    ws.pick("frmUserRole.TreeView1", "1012 : LONG");
-    EXPECT_EQ(ws.value("frmUserRole.ListView1"), "2 rows") << "matched by its first three digits";
-    ws.pick("frmUserRole.TreeView1", "Available Roles");
-    EXPECT_EQ(ws.value("frmUserRole.ListView1"), "0 rows");
+    const QString amina = "amina.b\tAMINA BELLO\tEnabled", ngozi = "ngozi.o\t\tEnabled";
+    for (const auto& [role, users] : {
+             std::pair("102 : MANAGEMENT", QStringList{amina}),
+             {"7 : WARD", {ngozi}},
+             {"1012 : LONG", {amina, ngozi}}, // matched by its first three digits
+         }) {
+        pick("TreeView1", role);
+        EXPECT_EQ(ws.rows("frmUserRole.ListView1"), QStringList("Username\tFullname\tAccount Status") + users);
+    }
+    pick("TreeView1", "Available Roles");
+    EXPECT_EQ(value("ListView1"), "0 rows");
 }
 
 } // namespace

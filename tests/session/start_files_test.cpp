@@ -81,9 +81,8 @@ TEST_F(StartFiles, onlyTheMenuSectionTurnsEntriesOn) {
 }
 
 TEST_F(StartFiles, aHomeThatCannotBeWrittenIsLockedElsewhere) {
-    const QString readOnly = "/proc";
-    auto first = std::make_unique<Program>(readOnly, ui);
-    Program second(readOnly, ui);
+    auto first = std::make_unique<Program>("/proc", ui);
+    Program second("/proc", ui);
     Program otherHome("/proc/self", ui);
     EXPECT_TRUE(first->lockInstance());
     EXPECT_TRUE(first->lockInstance());
@@ -94,9 +93,9 @@ TEST_F(StartFiles, aHomeThatCannotBeWrittenIsLockedElsewhere) {
 }
 
 TEST_F(StartFiles, aLockOfADeadProcessDoesNotBlock) {
-    const QString file = QStringLiteral(".orvane-billing-%1.lock").arg(QSysInfo::machineHostName());
+    const QString host = QSysInfo::machineHostName();
     // No process has this number.
-    write(file, "4194305\norvane-billing\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    write(".orvane-billing-" + host + ".lock", "4194305\norvane-billing\n" + host.toUtf8() + "\n");
     EXPECT_TRUE(program.lockInstance());
 }
 

@@ -1,5 +1,4 @@
 #include "session/Main.h"
-#include "support/TestHome.h"
 #include "support/Workstation.h"
 
 #include <QDir>
@@ -21,6 +20,11 @@ class Start : public ::testing::TestWithParam<Engine> {
 protected:
     Start() { owner.layHospital(); }
 
+    /// A row of AppDefaults, or the one row of AccountMonth.
+    void layDefault(const QString& id, const QString& value) {
+        owner.run(id == "AccountMonth" ? "insert into AccountMonth (Period) values ('" + value + "')"
+                                       : "insert into AppDefaults (ID, idval) values ('" + id + "', '" + value + "')");
+    }
     QString file(const char* name) const { return QDir(home.folder()).filePath(QLatin1String(name)); }
 
     TestHome home{GetParam()};
@@ -60,8 +64,7 @@ TEST_P(Start, refusalsComeInOrder) {
          [&] { owner.run("update Roles set LoginRole='BILLING' where LoginRole='RECORDS'"); }},
         {hospital, [&] { owner.run("update ApplicationUsers set hospID='001'"); }},
         {hospital, [&] { owner.run("update HospList set hname2='MAIN CLINIC'"); }},
-        {"System Default Value needed for Private Tariff",
-         [&] { owner.run("insert into AppDefaults (ID, idval) values ('PRIVATE', '0001')"); }},
+        {"System Default Value needed for Private Tariff", [&] { layDefault("PRIVATE", "0001"); }},
     };
     for (const auto& step : steps) {
         Attempt run(home.folder());
@@ -127,7 +130,7 @@ TEST_P(Start, theLogInWayTakesHospitalAndSettingsOver) {
         EXPECT_EQ(station.program.session.gHospID, "001");
         EXPECT_EQ(station.program.loadedForm("frmWelcome"), nullptr);
         if (!complete)
-            owner.run("insert into AppDefaults (ID, idval) values ('PRIVATE', '0001')");
+            layDefault("PRIVATE", "0001");
     }
 }
 
@@ -168,15 +171,15 @@ QStringList boxes(const QString& text) {
 }
 
 TEST_P(Start, eachSettingIsHeldOrMissed) {
-    const auto expectStart = [&](const Setting& setting, std::optional<QString> value, const char* box) {
-        Attempt run(home.folder());
-        EXPECT_EQ(run.started, value.has_value());
-        EXPECT_EQ(run.ui.takeBoxes(), boxes(box));
-        if (value && setting.variable)
-            EXPECT_EQ(run.session.*setting.variable, *value);
-    };
     for (const Setting& setting : settings) {
         SCOPED_TRACE(setting.id);
+        const auto expectStart = [&](const std::optional<QString>& value, const char* box) {
+            Attempt run(home.folder());
+            EXPECT_EQ(run.started, value.has_value());
+            EXPECT_EQ(run.ui.takeBoxes(), boxes(box));
+            if (value && setting.variable)
+                EXPECT_EQ(run.session.*setting.variable, *value);
+        };
         const bool isPeriod = QLatin1String(setting.id) == "AccountMonth";
         const QString table = isPeriod ? "AccountMonth" : "AppDefaults", column = isPeriod ? "Period" : "idval";
         const QString where = isPeriod ? QString() : QStringLiteral(" where ID='%1'").arg(setting.id);
@@ -189,17 +192,13 @@ TEST_P(Start, eachSettingIsHeldOrMissed) {
                 continue; // a number
             owner.run(QStringLiteral("update %1 set %2=%3").arg(table, column, stored) + where);
             if (value.isEmpty() && *setting.emptyBox)
-                expectStart(setting, std::nullopt, setting.emptyBox);
+                expectStart(std::nullopt, setting.emptyBox);
             else
-                expectStart(setting, value, "");
+                expectStart(value, "");
         }
         owner.run("delete from " + table + where);
-        expectStart(setting, setting.noRowValue ? std::optional<QString>(setting.noRowValue) : std::nullopt,
-                    setting.noRowBox);
-        owner.run(
-            isPeriod
-                ? QStringLiteral("insert into AccountMonth (Period) values ('%1')").arg(before)
-                : QStringLiteral("insert into AppDefaults (ID, idval) values ('%1', '%2')").arg(setting.id, before));
+        expectStart(setting.noRowValue ? std::optional<QString>(setting.noRowValue) : std::nullopt, setting.noRowBox);
+        layDefault(setting.id, before);
     }
 }
 
@@ -213,15 +212,13 @@ TEST_P(Start, settingsAreAskedInTheirOrder) {
         Attempt run(home.folder());
         EXPECT_FALSE(run.started);
         EXPECT_EQ(run.ui.takeBoxes(), boxes(setting.noRowBox));
-        owner.run(QLatin1String(setting.id) == "AccountMonth"
-                      ? QString("insert into AccountMonth (Period) values ('2026-03')")
-                      : QStringLiteral("insert into AppDefaults (ID, idval) values ('%1', '7')").arg(setting.id));
+        layDefault(setting.id, "7");
     }
     Attempt run(home.folder());
     EXPECT_TRUE(run.started);
     EXPECT_BOXES(run.ui, {"System Default Value needed for NHIS % Fee"});
     EXPECT_EQ(run.session.gCashAccountIndex * 10 + run.session.gARAccountIndex, 77);
-    EXPECT_EQ(run.session.gPeriod, "2026-03");
+    EXPECT_EQ(run.session.gPeriod, "7");
 }
 
 TEST_P(Start, postingIsAsked) {

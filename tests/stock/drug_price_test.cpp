@@ -1,28 +1,23 @@
 // The base private cost of drugs, worked out of the billing manual.
 #include "support/ChecksInOrder.h"
+#include "support/ScreenTest.h"
 
 namespace orvane {
 namespace {
 
-class DrugPrice : public WorkstationTest {
+class DrugPrice : public ScreenTest {
 protected:
+    DrugPrice() : ScreenTest("frmDrugPrice") {}
+
     void prepare() override {
         ws.run("insert into drugs (drgName, drgCatName, qtyPerUnit, Cost) values ('O''TOOLE''S 50% SYRUP', 'SYRUPS', "
                "100, 12.5)");
         ws.run("update billingPrice set pcent=20 where clientCatID='HMO'");
         ws.run("update billingPrice set pcent=-100 where clientCatID='NHIS'");
     }
-    void open() { ws.open("frmDrugPrice"); }
-    void set(const char* control, const QString& value) { ws.set(QStringLiteral("frmDrugPrice.") + control, value); }
-    void click(const char* control) { ws.click(QStringLiteral("frmDrugPrice.") + control); }
-    QString value(const char* control) { return ws.value(QStringLiteral("frmDrugPrice.") + control); }
-    QString focused() {
-        const Control* control = ws.form("frmDrugPrice").focused();
-        return control ? control->name() : QString();
-    }
     QString cost(const QString& drug) { return ws.scalar("select Cost from drugs where drgName='" + drug + "'"); }
     void edit(const QString& drug) {
-        ws.row("frmDrugPrice.grdData", drug);
+        row("grdData", drug);
         click("cmdEdit");
     }
 };
@@ -47,7 +42,7 @@ TEST_P(DrugPrice, ThePriceIsWorkedOnLeavingTheCost) {
         set("cboClient", test.client);
         set("txtCost", test.cost);
         EXPECT_EQ(value("lblPrice"), "") << "the cost was not left yet";
-        ws.leave("frmDrugPrice.txtCost");
+        leave("txtCost");
         EXPECT_EQ(ui.takeBoxes(), test.boxes);
         EXPECT_EQ(value("lblPrice") + '|' + value("lblWord"), test.shown);
         EXPECT_EQ(focused(), test.focus);
@@ -62,7 +57,7 @@ TEST_P(DrugPrice, EditAndSaveKeepTheCost) {
         std::function<void()> act;
         const char* cost;
     } cases[] = {{"nothing", [] {}, "120"},
-                 {"the cost looked at", [&] { ws.leave("frmDrugPrice.txtCost"); }, "120"},
+                 {"the cost looked at", [&] { leave("txtCost"); }, "120"},
                  {"the dosage typed", [&] { set("txtDosage", "2"); }, "120"},
                  {"the cost typed", [&] { set("txtCost", "100"); }, "80"},
                  {"the client type picked", [&] { set("cboClient", "HMO"); }, "66.67"}};

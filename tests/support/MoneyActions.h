@@ -17,7 +17,7 @@ struct MoneyAction {
     /// By which the user knows that it is saved: "box TEXT", "opened FORM" or "closed FORM". Empty: that nothing is
     /// said.
     const char* report;
-    bool brief = false; ///< killed at every third moment only, and on a server seen with one fault only
+    bool brief = false; ///< killed at every fifth moment only, and on a server seen with one fault only
     /// It is saved in steps, each of which stands; this does what is missing, as its user does the next time.
     void (*complete)(Workstation&) = nullptr;
 
