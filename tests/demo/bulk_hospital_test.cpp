@@ -34,30 +34,17 @@ void expectSound(const QString& home) {
 }
 
 /// Rows that the screens leave behind a saved visit; the others of the bulk load are written by shared routines.
-struct Trace {
-    const char* table;
-    const char* rows;
-};
-
-constexpr Trace traces[] = {
-    {"hRecords", "select * from hRecords where BillDate is not null"},
-    {"BillAccum", "select * from BillAccum where attendedto=1"},
-    {"BillingDetails", "select * from BillingDetails"},
-    {"Billing", "select * from Billing where admdate is null"},
-    {"Payments", "select * from Payments"},
-    {"PaymentTypes", "select * from PaymentTypes"},
-    {"PaymentDetails", "select * from PaymentDetails where snoID > 0"},
-    {"Tranxaction", "select * from Tranxaction"},
-    {"hApprvCode", "select * from hApprvCode"},
-    {"UserActivities", "select * from UserActivities"},
-};
+const QStringList traces = QString("hRecords where BillDate is not null|BillAccum where attendedto=1|BillingDetails|"
+                                   "Billing where admdate is null|Payments|PaymentTypes|PaymentDetails where snoID > 0|"
+                                   "Tranxaction|hApprvCode|UserActivities")
+                               .split(u'|');
 
 /// What the rows of a table have in common: which columns are empty, and the words of columns that hold states.
-QSet<QString> shapes(Connection& connection, const Trace& trace) {
+QSet<QString> shapes(Connection& connection, const QString& trace) {
     static const QStringList stateColumns = {"Capitated", "usage", "dosage", "PaymentFor", "referal"};
-    const Table& table = *Catalog::instance().table(QString::fromLatin1(trace.table));
+    const Table& table = *Catalog::instance().table(trace.section(u' ', 0, 0));
     QSet<QString> found;
-    for (Recordset row = connection.run(QString::fromLatin1(trace.rows)); !row.eof(); row.moveNext()) {
+    for (Recordset row = connection.run("select * from " + trace); !row.eof(); row.moveNext()) {
         QStringList cells;
         for (const Column& column : table.columns) {
             const bool state =
@@ -79,11 +66,11 @@ TEST(BulkHospitalShape, leavesNoRowThatTheScreensWouldNotHaveLeft) {
     makeHospital(ordinary.folder(), {"--patients", "80", "--days", "8"});
     DataSource bulkData(bulk.folder()), ordinaryData(ordinary.folder());
     Connection loaded = bulkData.open(TestHome::billing()), known = ordinaryData.open(TestHome::billing());
-    for (const Trace& trace : traces) {
+    for (const QString& trace : traces) {
         const QSet<QString> shapesLoaded = shapes(loaded, trace);
-        EXPECT_FALSE(shapesLoaded.isEmpty()) << trace.table;
+        EXPECT_FALSE(shapesLoaded.isEmpty()) << trace.toStdString();
         for (const QString& shape : shapesLoaded - shapes(known, trace))
-            ADD_FAILURE() << trace.table << ": " << shape.toStdString();
+            ADD_FAILURE() << trace.toStdString() << ": " << shape.toStdString();
     }
 }
 
@@ -102,8 +89,8 @@ protected:
     Program program{home.folder(), ui};
 
     QString scalar(const QString& tsql) {
-        const Recordset row = program.openBilling().run(tsql);
-        return row.eof() ? QString() : row.text(0);
+        Connection billing = program.openBilling();
+        return orvane::rowsOf(billing, tsql);
     }
 };
 

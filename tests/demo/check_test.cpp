@@ -6,6 +6,7 @@
 #include "support/TestHome.h"
 
 #include <QFile>
+#include <span>
 
 using namespace orvane;
 
@@ -55,11 +56,11 @@ const Rows soundRows[] = {
     {"hApprvCode (consultID,ApprvCode)", {"'001OFL0000003','OFH/1'", "'001OFL0000099','OFH/2'"}},
 };
 
-/// The program with the sound rows and what is done to them.
-void lay(Program& program, const QStringList& statements = {}, bool ofAccounting = false) {
+/// Lays rows and does to them what the statements say.
+void lay(Program& program, std::span<const Rows> laid, const QStringList& statements = {}, bool ofAccounting = false) {
     ASSERT_TRUE(prepareServer(program));
     Connection billing = program.openBilling();
-    for (const Rows& rows : soundRows)
+    for (const Rows& rows : laid)
         addRows(billing, rows.into, rows.rows);
     for (const QString& statement : statements)
         (ofAccounting ? program.openAccounting() : program.openBilling()).run(statement);
@@ -139,7 +140,7 @@ protected:
 };
 
 TEST_P(CheckTest, passesASoundHospital) {
-    lay(program);
+    lay(program, soundRows);
     EXPECT_EQ(checkDatabases(program).findings, QStringList());
 }
 
@@ -152,7 +153,7 @@ TEST_P(CheckTest, everyCheckFindsItsFault) {
             continue; // that engine refuses the sum that would make one
         TestHome fresh(GetParam());
         Program sick(fresh.folder(), ui);
-        lay(sick, plant.statements, plant.ofAccounting);
+        lay(sick, soundRows, plant.statements, plant.ofAccounting);
         const CheckReport report = checkDatabases(sick);
         const QStringList findings = report.findings + report.notices;
         EXPECT_FALSE(findings.filter(QString(plant.check) + ": ").isEmpty())
@@ -200,12 +201,7 @@ TEST_P(CheckTest, aNoticeTellsWhyAnAccountDiffersFromItsBills) {
         SCOPED_TRACE(test.statements.join(" / ").toStdString());
         const TestHome fresh(GetParam());
         Program owed(fresh.folder(), ui);
-        ASSERT_TRUE(prepareServer(owed));
-        Connection connection = owed.openBilling();
-        for (const Rows& rows : agreeing)
-            addRows(connection, rows.into, rows.rows);
-        for (const QString& statement : test.statements)
-            connection.run(statement);
+        lay(owed, agreeing, test.statements);
         const CheckReport report = checkDatabases(owed);
         EXPECT_EQ(report.findings.filter("account"), QStringList());
         const QString notices = report.notices.join('\n');
@@ -221,7 +217,7 @@ TEST(CheckOfFiles, tellsOfADamagedFile) {
     qint64 page = 0;
     {
         Program writer(home.folder(), ui);
-        lay(writer);
+        lay(writer, soundRows);
         Connection billing = writer.openBilling();
         page =
             billing.run("select rootpage from sqlite_master where name like 'ixPatientsSurname%'").integer("rootpage");

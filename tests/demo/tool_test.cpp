@@ -46,8 +46,8 @@ QString scalar(const QString& home, const QString& tsql) {
     QuietUi ui;
     Program program(home, ui);
     prepareServer(program);
-    const Recordset row = program.openBilling().run(tsql);
-    return row.eof() ? QString() : row.text(0);
+    Connection billing = program.openBilling();
+    return rowsOf(billing, tsql);
 }
 
 class Tool : public ::testing::Test {
