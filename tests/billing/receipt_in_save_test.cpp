@@ -32,8 +32,7 @@ TEST_P(VerifyReceipt, FullPaymentInCash) {
             "select ReceiptDate, ReceiptNo, ClinicID, billNo, PNo, PaymentFor, Amountbilled, AmountPaid, AmountInWord, "
             "ReceivedBy, PayType, ChequeNo, rTime, Remarks from Payments"),
         "2026-03-14|4712|OPD|001OFL0000001|P/0001|DRUGS|4031.5|4031.5|FOUR THOUSAND, THIRTY ONE NAIRA AND FIFTY KOBO "
-        "ONLY|E001|CASH||"
-        "09:30|PAYMENT");
+        "ONLY|E001|CASH||09:30|PAYMENT");
     EXPECT_EQ(rows("select ReceiptNo, AmountPaid, PayType, AccountNo, isPost from PaymentTypes"),
               "4712|4031.5|CASH|1001|0");
     EXPECT_EQ(rows("select BillItem, AmountPaid, AmountToPay, AccountNo, revType from PaymentDetails order by SNo"),
