@@ -259,13 +259,16 @@ TEST_F(WindowsTest, AnEntryUnderWayIsNotLostUnasked) {
 }
 
 TEST_F(WindowsTest, AReceiptOpensInFrontAndEscGoesBack) {
-    ui.show(second);
-    first.cmdSave.onClick = [this] {
+    second.cmdSave.onClick = [this] {
         ui.show(receipt);
-        first.txtCode.setFocus();
+        second.txtCode.setFocus();
     };
+    EntryForm third(ui, "frmThird");
+    ui.show(second);
+    ui.show(third);
     ui.show(first);
-    press(first.cmdSave);
+    ui.show(second);
+    press(second.cmdSave);
     EXPECT_EQ(front()->windowTitle(), "frmReceipt");
     // Esc from beside the page, where no field is.
     for (QPushButton* button : front()->findChildren<QPushButton*>())
@@ -275,8 +278,9 @@ TEST_F(WindowsTest, AReceiptOpensInFrontAndEscGoesBack) {
         }
     settleEvents();
     EXPECT_TRUE(receipt.isClosed());
-    EXPECT_EQ(front()->windowTitle(), "frmFirst") << "not the one that was shown last";
-    EXPECT_EQ(QApplication::focusWidget(), editor(first.txtCode));
+    EXPECT_EQ(front()->windowTitle(), "frmSecond") << "where he came from";
+    EXPECT_EQ(QApplication::focusWidget(), editor(second.txtCode));
+    third.unload();
 }
 
 TEST_F(WindowsTest, WindowsWithAListTakeTheRoomAndAreWhereTheirUserLeftThem) {
@@ -287,6 +291,7 @@ TEST_F(WindowsTest, WindowsWithAListTakeTheRoomAndAreWhereTheirUserLeftThem) {
     EXPECT_EQ(front()->size(), area().viewport()->size()) << "and goes on to fill it";
     ui.windows().shell()->resize(1366, 768);
     settleEvents();
+    EXPECT_EQ(front()->size(), room);
     first.unload();
 
     QString user = "amina.b";
