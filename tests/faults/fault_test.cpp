@@ -186,7 +186,9 @@ protected:
         EXPECT_EQ(scene.figures(), before);
     }
     void expectSaved(const Scene::Told& told) {
-        EXPECT_TRUE(told.reported) << told.text().toStdString();
+        // What reports by saying nothing still says what became of an unanswered save.
+        EXPECT_TRUE(told.reported || (!*action.report && told.boxes == QStringList(wasSaved)))
+            << told.text().toStdString();
         EXPECT_EQ(scene.figures(), after);
         EXPECT_EQ(scene.findings(), QStringList());
     }
