@@ -1,5 +1,6 @@
 #include "bench/Road.h"
 
+#include "data/rows/Transaction.h"
 #include "support/Hospital.h"
 
 namespace orvane {

@@ -182,14 +182,17 @@ TEST_P(ReceiptEntry, MoneyGoesToThePickedBill) {
     layBill(1000);
     layBill(2000, 0, "001OFL0000002", "P/0002");
     ws.run("insert into Payments (billNo, AmountPaid) values ('001OFL0000001', 0)");
-    for (const char* statement : {"qryhVisitsForAttend", "update  billing"}) {
-        SCOPED_TRACE(statement);
-        begin("001OFL0000002");
-        breakAt(statement, true);
-        pick("cboVehNo", billNo);
-        EXPECT_BOXES(ui, {"disk full"});
-        expectChecks({{"txtHt", "10", "Please enter Customer Name"}});
-    }
+    begin("001OFL0000002");
+    breakAt("qryhVisitsForAttend", true);
+    pick("cboVehNo", billNo);
+    EXPECT_BOXES(ui, {"disk full"});
+    expectChecks({{"txtHt", "10", "Please enter Customer Name"}});
+    // What was paid is summed up all the same when the bill's row cannot repeat it.
+    begin("001OFL0000002");
+    breakAt("update  billing", true);
+    pick("cboVehNo", billNo);
+    EXPECT_BOXES(ui, {});
+    EXPECT_EQ(value("txtEmp"), "1,000.00");
     receive("400");
     EXPECT_EQ(rows("select billNo, AmountPaid from Billing order by ID"), "001OFL0000001|400\n001OFL0000002|0");
     EXPECT_EQ(rows("select billNo, PNo from Payments where SNo>1"), "001OFL0000001|P/0001");
