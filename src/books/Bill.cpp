@@ -97,12 +97,13 @@ Given<double> enlargeBill(Books& books, const Bill& stated) {
 }
 
 void payBill(Books& books, const QString& billNo, double amount) {
-    std::optional<Bill> bill = readBill(books.connection, billNo);
-    if (!bill)
+    Recordset row = rowOf(books.connection, billNo);
+    if (row.eof())
         return;
-    bill->amountPaid = round2(bill->amountPaid + amount);
-    bill->isPaid = isPaidFlag(bill->amountPaid, bill->amountBilled) == 1;
-    changeBill(books, *bill);
+    const double paid = round2(row.number("AmountPaid") + amount);
+    row.set("AmountPaid", paid);
+    row.set("isPaid", isPaidFlag(paid, row.number("Amountbilled")));
+    row.update();
 }
 
 bool hasBill(Connection& connection, const QString& billNo) {
