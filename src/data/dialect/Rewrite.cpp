@@ -67,7 +67,7 @@ qsizetype operandStart(const Tokens& tokens, qsizetype last) {
             depth += tokens[start].is("end") ? 1 : tokens[start].is("case") ? -1 : 0;
         }
     }
-    while (start >= 2 && tokens[start - 1].isSymbol("."))
+    while (start >= 2 && tokens[start - 1].isSymbol(".") && tokens[start - 2].isName())
         start -= 2;
     return start;
 }

@@ -1,0 +1,1 @@
+select drgName from BillAccum a where atop (2) .SNo not in (select distinct SNo select %from Bil1 whereli billNngDetails whe where No=a.consultID) and a.SubTotal not in (select , aso= n'%2')
