@@ -389,6 +389,10 @@ TEST_P(UnknownSave, IsLookedUpByTheNextPress) {
     const QSet<QString> locked = unlocked();
     EXPECT_TRUE(scene.press().boxes.join('\n').contains(stillUnknown));
     EXPECT_EQ(unlocked(), locked);
+    // Another screen has taken up another visit meanwhile: what follows the save belongs to its own.
+    ws.program.session.gConsultID = "001OFL0000099";
+    ws.program.session.sBillPno = "P/0099";
+    ws.program.session.sBillPatLabel = "OBI ADA";
     ws.program.data().setStatementHook({});
     expectSavedOnce(scene.press());
     EXPECT_TRUE(!form() || unlocked().size() > locked.size()) << "the screen can be worked on again";
