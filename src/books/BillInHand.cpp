@@ -45,4 +45,8 @@ std::optional<Refusal> whyNotBilled(Connection& connection, const QString& consu
     return std::nullopt;
 }
 
+std::optional<Refusal> whyNotBilled(Connection& connection, const BillInHand& bill) {
+    return whyNotBilled(connection, bill.consultID, bill.pno, bill.retainID);
+}
+
 } // namespace orvane

@@ -35,5 +35,6 @@ Given<BilledVisit> readBilledVisit(Connection& connection, const QString& consul
 /// client's, since another user has deleted or moved it. Asked inside the transaction the answer stays so.
 std::optional<Refusal> whyNotBilled(Connection& connection, const QString& consultID, const QString& pno,
                                     const QString& retainID);
+std::optional<Refusal> whyNotBilled(Connection& connection, const BillInHand& bill);
 
 } // namespace orvane

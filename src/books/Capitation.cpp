@@ -50,8 +50,8 @@ void traceCapitation(Books& books, const BillInHand& bill, const Recordset& item
 } // namespace
 
 Given<Saved> capitateBill(Books& books, const BillInHand& bill) {
-    if (isBillProcessed(books.connection, bill.consultID))
-        return Refusal::BillProcessed;
+    if (const auto refusal = whyNotBilled(books.connection, bill))
+        return *refusal;
     const QHash<qlonglong, double> charges = chargesOf(books, bill.consultID);
     emptyBill(books.connection, bill.consultID);
     QVector<AccountEntry> credits;

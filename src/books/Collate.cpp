@@ -138,8 +138,8 @@ bool needsCollation(Connection& connection, const BillInHand& bill) {
 }
 
 Given<double> collateBillItems(Books& books, const BillInHand& bill) {
-    if (isBillProcessed(books.connection, bill.consultID))
-        return Refusal::BillProcessed;
+    if (const auto refusal = whyNotBilled(books.connection, bill))
+        return *refusal;
     repairItems(books.connection, bill);
     double billed = runPass(books, bill, cashAndCompany(bill));
     releaseFeeForService(books.connection, bill);

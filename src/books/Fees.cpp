@@ -38,8 +38,8 @@ double nhisFeeBase(Books& books, const QString& consultID) {
 } // namespace
 
 Given<double> addProfessionalFee(Books& books, const BillInHand& visit, const PercentFee& fee, double bill) {
-    if (isBillProcessed(books.connection, visit.consultID))
-        return Refusal::BillProcessed;
+    if (const auto refusal = whyNotBilled(books.connection, visit))
+        return *refusal;
     const double amount = round2(bill * fee.percent / 100);
     addItem(books, feeItem(visit, fee, amount));
     books.record(visit.consultID, amount);
@@ -57,8 +57,8 @@ double professionalFees(Connection& connection, const QString& billNo) {
 }
 
 Given<double> addNhisFee(Books& books, const BillInHand& visit, const PercentFee& fee) {
-    if (isBillProcessed(books.connection, visit.consultID))
-        return Refusal::BillProcessed;
+    if (const auto refusal = whyNotBilled(books.connection, visit))
+        return *refusal;
     const double amount = round2(nhisFeeBase(books, visit.consultID) * fee.percent / 100);
     BillItem item = feeItem(visit, fee, amount);
     item.revType = books.settings().nhisFeeBase == "DRUG" ? "CONSULTATION" : "DRUG";
