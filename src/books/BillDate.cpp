@@ -14,9 +14,9 @@ int yearMonth(QDate date) {
 
 } // namespace
 
-QDate billDateFor(QDate recDate, QDate billDate, int billEndDay, int newestBatch) {
-    QDate date = billDate;
-    if (!billDate.isValid() || billDate == recDate)
+QDate billDateFor(QDate recDate, QDate discharged, int billEndDay, int newestBatch) {
+    QDate date = discharged;
+    if (!discharged.isValid())
         date = billEndDay >= recDate.day() ? recDate : firstOfNextMonth(recDate);
     const QDate batchMonth(newestBatch / 100, newestBatch % 100, 1);
     if (date.isValid() && batchMonth.isValid() && yearMonth(date) <= newestBatch)
@@ -24,7 +24,7 @@ QDate billDateFor(QDate recDate, QDate billDate, int billEndDay, int newestBatch
     return date;
 }
 
-void settleBillDate(Books& books, const BillInHand& bill) {
+void settleBillDate(Books& books, const BillInHand& bill, bool isInPatient) {
     Connection& connection = books.connection;
     const Recordset visit(connection, Sql("select recDate,BillDate from vwhrecords where consultID = '")
                                           << bill.consultID << "'");
@@ -34,7 +34,9 @@ void settleBillDate(Books& books, const BillInHand& bill) {
                           Sql("select  top 1 batchVal,coyCode  from vwBillsForClientsBatchVal where coycode='")
                               << bill.retainCode << "' order by batchval desc ");
     const int newestBatch = batch.eof() ? 0 : int(batch.integer("batchVal"));
-    const QDate date = billDateFor(visit.date("recDate"), visit.date("BillDate"), bill.billEndDay, newestBatch);
+    // Until it is settled an out-patient's is the day of the visit.
+    const QDate discharged = isInPatient ? visit.date("BillDate") : QDate();
+    const QDate date = billDateFor(visit.date("recDate"), discharged, bill.billEndDay, newestBatch);
     connection.execute(Sql("update  hrecords set BillDate='")
                        << date << "'  where consultID = '" << bill.consultID << "'");
 }

@@ -67,14 +67,14 @@ void saveReceipt(Books& books, const ReceiptInSave& receipt) {
 
 Given<Saved> saveBill(Books& books, const BillToSave& bill) {
     const BillInHand& visit = bill.visit;
-    if (const auto refusal = whyNotBilled(books.connection, visit.consultID, visit.pno, visit.retainID))
+    if (const auto refusal = whyNotBilled(books.connection, visit))
         return *refusal;
     saveVisit(books.connection, bill);
     billWaitingItems(books, visit);
     saveBillRow(books, bill);
     if (bill.receipt)
         saveReceipt(books, *bill.receipt);
-    settleBillDate(books, visit);
+    settleBillDate(books, visit, bill.admitted.isValid());
     if (bill.receipt)
         books.record(bill.receipt->row.receiptNo, bill.receipt->row.amountPaid);
     else

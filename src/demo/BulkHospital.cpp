@@ -173,7 +173,7 @@ private:
     /// The bill of a visit, and the receipt of a private patient.
     void settle(BulkVisit& visit) {
         const DemoPatient& patient = *visit.patient;
-        visit.saved = billDateFor(m_day, m_day, m_billEndDays.value(patient.clientID), 0);
+        visit.saved = billDateFor(m_day, {}, m_billEndDays.value(patient.clientID), 0);
         visit.items.first().onBill = billsConsultation(visit);
         capture(visit, {linesOfNextBill(), m_random.below(3)});
         visit.dayCase = m_random.chance(2);
