@@ -231,8 +231,7 @@ EnteredItems ItemCapture::entered() const {
                      .category = lblClient.text(),
                      .feeForService = lblFFS.text(),
                      .date = dtDate.date(),
-                     .company = session.sAuditCoy,
-                     .screen = name()};
+                     .company = session.sAuditCoy};
     for (int row = 1; row < OrderGridDrug.rows() - 1; ++row)
         if (cellText(row, Status) == "NEW")
             all.items.append({.name = cellText(row, Item),

@@ -31,7 +31,6 @@ struct AuditEntry {
     QString action;
     QString document; ///< the number of the bill or receipt
     QString remarks;
-    QString source = {}; ///< where it was done; empty: the workstation
 };
 
 /// What the work is done with, the same for all that a user does at one moment.

@@ -45,8 +45,7 @@ BillLine lineOf(const BillItem& item, qlonglong sno) {
 }
 
 void audit(Books& books, const EnteredItems& entered, const QString& action, const BillItem& item) {
-    books.audit({action + entered.company, entered.consultID, item.name + ": " + formatTwoDecimals(item.subTotal),
-                 entered.screen});
+    books.audit({action + entered.company, entered.consultID, item.name + ": " + formatTwoDecimals(item.subTotal)});
 }
 
 /// The Billing row as the lines now come to; it is added with the first of them.
@@ -121,6 +120,8 @@ Given<Saved> addToCollatedBill(Books& books, const EnteredItems& entered) {
 void prepareItems(Books& books, const EnteredItems& visit, const QString& retainCode) {
     Connection& connection = books.connection;
     const QString& id = visit.consultID;
+    if (isBillProcessed(connection, id))
+        return;
     connection.execute(Sql("update BillAccum set capitated='NO' where capitated='BIL' and consultID = '") << id << "'");
     connection.execute(Sql("update BillAccum set CoyName='")
                        << visit.retainID << "' where coyName is null and consultID = '" << id << "'");

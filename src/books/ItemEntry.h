@@ -18,7 +18,6 @@ struct EnteredItems {
     QString category, feeForService; ///< of the visit
     QDate date;
     QString company; ///< as the audit trail names it
-    QString screen;  ///< and where the items were entered
     QVector<EnteredItem> items = {};
 };
 
@@ -30,7 +29,7 @@ Given<Saved> addToVisit(Books& books, const EnteredItems& entered);
 Given<Saved> addToCollatedBill(Books& books, const EnteredItems& entered);
 
 /// Repairs items of the visit that lack client, payer or capitation, and takes the capitation from those that can have
-/// none. `retainID` and `retainCode` are those of the visit's client.
+/// none. `retainID` and `retainCode` are those of the visit's client. The items of a processed bill stay as they are.
 void prepareItems(Books& books, const EnteredItems& visit, const QString& retainCode);
 
 /// Sets the visit and its patient to fee-for-service ("YES") or back ("NO"): all items of the visit flip at once.

@@ -150,22 +150,21 @@ void BulkRows::addBill(const BulkVisit& visit, DemoPatient& patient, const BulkU
                      {"PNo", patient.number},
                      {"ApprvCode", visit.approvalCode},
                      {"billType", "CLAIMS"}});
-    addTrail(QStringLiteral("insert Apprv Code for %1").arg(fullName(patient)), visit.consultID, visit.approvalCode,
-             workstation);
+    addTrail(QStringLiteral("insert Apprv Code for %1").arg(fullName(patient)), visit.consultID, visit.approvalCode);
 }
 
 void BulkRows::addLine(const BulkVisit& visit, const BulkItem& item, DemoPatient& patient) {
     const bool consultation = isConsultation(visit, item);
     const QString told = item.name + ": " + formatTwoDecimals(item.subTotal);
     if (consultation && item.onBill)
-        addTrail(QStringLiteral("insert Bill Item for %1").arg(fullName(patient)), visit.consultID, told, workstation);
+        addTrail(QStringLiteral("insert Bill Item for %1").arg(fullName(patient)), visit.consultID, told);
     const QString client = consultation ? QString() : m_hospital.clientName(patient.clientID);
     if (!consultation)
-        addTrail(QStringLiteral("insert BillAccum Item for %1").arg(client), visit.consultID, told, "frmBillPat");
+        addTrail(QStringLiteral("insert BillAccum Item for %1").arg(client), visit.consultID, told);
     if (!item.onBill)
         return;
     if (!consultation)
-        addTrail(QStringLiteral("insert BillDetails Item for %1").arg(client), visit.consultID, told, "frmBillPat");
+        addTrail(QStringLiteral("insert BillDetails Item for %1").arg(client), visit.consultID, told);
     m_lines.add({{"SNo", item.sno},
                  {"billNo", visit.consultID},
                  {"dtDate", visit.at.date()},
@@ -229,8 +228,8 @@ void BulkRows::addReceipt(const BulkVisit& visit, DemoPatient& patient) {
     const QString entry = QStringLiteral("%1 @%2 %3 - %4 [%5]#%6")
                               .arg(fullName(patient), m_now.toString("dd/MM/yyyy"), visit.purpose,
                                    m_hospital.clientName(patient.clientID), patient.number, visit.consultID);
-    addTrail("insert Bill Summ for: " + entry, visit.consultID, formatTwoDecimals(visit.total()), workstation);
-    addTrail("insert Payment for: " + entry, visit.consultID, formatTwoDecimals(visit.paid()), workstation);
+    addTrail("insert Bill Summ for: " + entry, visit.consultID, formatTwoDecimals(visit.total()));
+    addTrail("insert Payment for: " + entry, visit.consultID, formatTwoDecimals(visit.paid()));
 }
 
 void BulkRows::addShare(const BulkVisit& visit, const BulkItem& item, QDate billDate, double paid,
@@ -277,19 +276,19 @@ void BulkRows::addSession(const BulkUser& user, QDate day) {
                     {"LogoutTime", "20:30"},
                     {"Remarks", "BILLING"}});
     m_now.setTime(QTime(8, 0));
-    addTrail("Login Billing", {}, {}, workstation);
+    addTrail("Login Billing", {}, {});
     m_now.setTime(QTime(20, 30));
-    addTrail("Login Out", {}, {}, workstation);
+    addTrail("Login Out", {}, {});
 }
 
-void BulkRows::addTrail(const QString& action, const QString& tranCode, const QString& remarks, const char* source) {
+void BulkRows::addTrail(const QString& action, const QString& tranCode, const QString& remarks) {
     m_trail.add({{"userName", m_user.name},
                  {"userAction", action},
                  {"ActionDate", m_now.date()},
                  {"ActionTime", shortTime(m_now.time())},
                  {"TranCode", tranCode},
                  {"Remarks", remarks},
-                 {"Src", "BILLING: from " + QLatin1String(source)}});
+                 {"Src", "BILLING: from " + QLatin1String(workstation)}});
 }
 
 } // namespace orvane

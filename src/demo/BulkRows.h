@@ -60,7 +60,7 @@ private:
     void addReceipt(const BulkVisit& visit, DemoPatient& patient);
     void addShare(const BulkVisit& visit, const BulkItem& item, QDate billDate, double paid, const QString& account);
     void addAccountEntry(const BulkVisit& visit, DemoPatient& patient, double amount, const QString& remarks);
-    void addTrail(const QString& action, const QString& tranCode, const QString& remarks, const char* source);
+    void addTrail(const QString& action, const QString& tranCode, const QString& remarks);
 
     const DemoHospital& m_hospital;
     const PriceBook& m_prices;

@@ -16,14 +16,13 @@ void Program::writeAuditTrail(const AuditEntry& entry) {
     try {
         readEnvironmentIdentity();
         Connection connection = openBilling();
-        const QString source = entry.source.isEmpty() ? session.sComputerName : entry.source;
         connection.call("SpAudiTrail", {{"@userName", session.gUsername},
                                         {"@userAction", entry.action},
                                         {"@ActionDate", session.gServerDate},
                                         {"@ActionTime", session.gServerTime.toString("HH:mm")},
                                         {"@TranCode", entry.document},
                                         {"@Remarks", entry.remarks},
-                                        {"@Src", session.gModuleName + ": from " + source}});
+                                        {"@Src", session.gModuleName + ": from " + session.sComputerName}});
     } catch (const DataError& fault) {
         boxAfterTransaction(fault.description());
     }

@@ -234,8 +234,13 @@ TEST_P(BillPat, SaveChecksAndSaveWithoutNewLines) {
     ws.run("update Billing set isProcess=1");
     expectChecks({{nullptr, nullptr, "This Bill is already processed! to Modify, unProcess the Batch"}});
     EXPECT_EQ(ws.tableCount("BillAccum"), 0);
-    ws.run("update Billing set isProcess=0");
     close();
+    layItem({.capitated = "YES"});
+    open("frmBillPat");
+    EXPECT_EQ(ws.scalar("select Capitated from BillAccum"), "YES") << "a look changes nothing that was invoiced";
+    close();
+    ws.run("delete from BillAccum");
+    ws.run("update Billing set isProcess=0");
     layItem();
     ws.run("insert into BillingDetails (SNo, billNo, drgName, SubTotal) select SNo, consultID, drgName, SubTotal from "
            "BillAccum");

@@ -29,12 +29,15 @@ void fill(Connection& connection, const Master& master, SqlLiteral target, const
                                       << " is not null");
 }
 
+/// What was invoiced keeps the types that it was invoiced with.
+Sql isOpen(const QString& visit) {
+    return Sql("not exists (select 1 from Billing b where b.billNo='") << visit << "' and b.isProcess=1)";
+}
+
 void fillAll(Connection& connection, const QString& visit) {
     for (const Master& master : masters) {
-        fill(connection, master, "BillAccum", Sql("consultID='") << visit << "'");
-        fill(connection, master, "BillingDetails",
-             Sql("billNo='") << visit << "' and not exists (select 1 from Billing b where b.billNo='" << visit
-                             << "' and b.isProcess=1)");
+        fill(connection, master, "BillAccum", Sql("consultID='") << visit << "' and " << isOpen(visit));
+        fill(connection, master, "BillingDetails", Sql("billNo='") << visit << "' and " << isOpen(visit));
     }
 }
 
