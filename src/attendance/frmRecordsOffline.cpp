@@ -104,42 +104,42 @@ void frmRecordsOffline::cmdEdit_Click() {
     clearForm();
     const QScopedValueRollback filling(bFilling, true);
     lRecID = grdData.text("recID").toLongLong();
-    sPatientNo = sEditedPatientNo = grdData.text("patno");
+    edited = listedVisit();
+    sPatientNo = edited.pno;
     cboVehNo.clear();
     cboVehNo.addItem(grdData.text("fullname") + " [" + sPatientNo + "]", sPatientNo);
     cboVehNo.setListIndex(0);
     Connection connection = program.openBilling();
     showPatient(connection);
-    cboClient.setText(grdData.text("Remarks"));
-    cboRef.setText(grdData.text("Referal"));
-    cboType.setText(grdData.text("clinicType"));
     lblBill.setText(grdData.text("consultID"));
-    // A category that is no longer offered must not become the patient's own.
+    // What the visit lacks, or what is no longer offered, must not become the patient's own.
+    cboRef.setListIndex(-1);
     cboBilling.setListIndex(-1);
-    cboBilling.setText(grdData.text("clientCat"));
-    dtDate.setDate(grdData.date("Date"));
+    cboClient.setText(edited.purpose);
+    cboRef.setText(edited.referral);
+    cboType.setText(edited.clinic);
+    cboBilling.setText(edited.category);
+    dtDate.setDate(edited.date);
     setButtons(true);
 }
 
 void frmRecordsOffline::cmdDel_Click() {
-    save<Saved>({.button = cmdDel,
-                 .action = "DELETE VISIT",
-                 .allowed =
-                     [this] {
-                         return passes({{grdData.currentRow() < 0 || isSearchResult(),
-                                         "Select the attendance in the list first"}});
-                     },
-                 .question = "Are you sure to Delete Record",
-                 .title = "Delete",
-                 .step = [this](Books& books) -> Given<Saved> {
-                     deleteVisit(books, grdData.text("recID").toLongLong(), grdData.text("consultID"));
-                     return Saved{};
-                 },
-                 .follow =
-                     [this](const Saved&) {
-                         program.box(" Record successfully deleted ");
-                         cmdRefresh_Click();
-                     }});
+    save<Saved>(
+        {.button = cmdDel,
+         .action = "DELETE VISIT",
+         .allowed =
+             [this] {
+                 return passes(
+                     {{grdData.currentRow() < 0 || isSearchResult(), "Select the attendance in the list first"}});
+             },
+         .question = "Are you sure to Delete Record",
+         .title = "Delete",
+         .step = [this](Books& books) { return deleteVisit(books, grdData.text("recID").toLongLong(), listedVisit()); },
+         .follow =
+             [this](const Saved&) {
+                 program.box(" Record successfully deleted ");
+                 cmdRefresh_Click();
+             }});
 }
 
 void frmRecordsOffline::cmdCancel_Click() {

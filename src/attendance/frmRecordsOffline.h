@@ -45,6 +45,7 @@ private:
     void OKButton_Click();
     bool isComplete();
     Visit visitInHand() const;
+    Visit listedVisit() const;
     void saveEdited();
     void saveNew();
     void afterSave(const QString& message);
@@ -88,9 +89,9 @@ private:
     QString sOfficerEmpID;
     bool bCardExpired = false; ///< of the patient picked last: he cannot be saved
     bool bEditing = false;
-    bool bFilling = false;    ///< a row goes into the fields: their events are not the user's
-    qlonglong lRecID = 0;     ///< the visit under edit
-    QString sEditedPatientNo; ///< its patient
+    bool bFilling = false; ///< a row goes into the fields: their events are not the user's
+    qlonglong lRecID = 0;  ///< the visit under edit
+    Visit edited;          ///< and how it stood in the list
 };
 
 } // namespace orvane

@@ -24,7 +24,7 @@ void frmRecordsOffline::cboVehNo_Click() {
         return;
     }
     Connection connection = program.openBilling();
-    const bool ownVisit = bEditing && sPatientNo == sEditedPatientNo;
+    const bool ownVisit = bEditing && sPatientNo == edited.pno;
     if (!ownVisit && hasOpenVisit(connection, sPatientNo, dtDate.date())) {
         refuseDuplicate();
         return;

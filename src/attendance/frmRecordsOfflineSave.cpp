@@ -44,11 +44,23 @@ Visit frmRecordsOffline::visitInHand() const {
             .officer = sOfficerEmpID};
 }
 
+/// The visit of the list's current row.
+Visit frmRecordsOffline::listedVisit() const {
+    return {.date = grdData.date("Date"),
+            .pno = grdData.text("patno"),
+            .clientID = {},
+            .category = grdData.text("clientCat"),
+            .clinic = grdData.text("clinicType"),
+            .purpose = grdData.text("Remarks"),
+            .referral = grdData.text("Referal"),
+            .officer = {}};
+}
+
 void frmRecordsOffline::saveEdited() {
     save<Saved>({.button = OKButton,
                  .action = "CHANGE VISIT",
                  .allowed = [this] { return isComplete(); },
-                 .step = [this](Books& books) { return changeVisit(books, lRecID, visitInHand()); },
+                 .step = [this](Books& books) { return changeVisit(books, lRecID, edited, visitInHand()); },
                  .follow = [this](const Saved&) { afterSave("Record Succesfully Edited and Updated"); }});
 }
 

@@ -20,6 +20,7 @@ constexpr struct {
     {Refusal::NoNumber, "Unable to generate No!!! Function getIDNo Failed! Receipt"},
     {Refusal::VisitOpen, "Patient Attendance already entered!!! Duplicate not allowed"},
     {Refusal::VisitGone, "This attendance was deleted by another user."},
+    {Refusal::VisitMoved, "This attendance was changed or billed by another user."},
     {Refusal::NoDrug, "There is no Drug or Service of this name"},
     {Refusal::UserNameTaken, "Alert! Username already assigned to someone else."},
     {Refusal::UnknownUser, "Alert! Indicated username not found in the list of accredited users."},

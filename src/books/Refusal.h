@@ -16,6 +16,7 @@ enum class Refusal {
     NoNumber,      ///< no receipt number: the counter gave none
     VisitOpen,     ///< the patient's visit of that day is still open
     VisitGone,     ///< the visit under edit was deleted
+    VisitMoved,    ///< it is not any more as its officer saw it, or its bill was saved
     NoDrug,        ///< no drug or service bears the name
     UserNameTaken, ///< an account bears the name
     UnknownUser,   ///< no account bears the name, or not with this password

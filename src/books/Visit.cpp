@@ -1,5 +1,6 @@
 #include "books/Visit.h"
 
+#include "books/Bill.h"
 #include "books/Consultation.h"
 
 namespace orvane {
@@ -48,6 +49,24 @@ void joinWhatWaited(Books& books, const Visit& visit, const QString& consultID, 
                                                     << "where pno = '" << visit.pno << "'");
 }
 
+Recordset visitRow(Books& books, qlonglong recID) {
+    return Recordset(books.connection, Sql("select * from hRecords where recID=") << recID);
+}
+
+/// A visit on a bill is its bill's, and an officer changes only what he has seen.
+std::optional<Refusal> whyNotChanged(Books& books, const Recordset& row, const Visit& listed) {
+    if (row.eof())
+        return Refusal::VisitGone;
+    if (isBillProcessed(books.connection, row.text("consultID")))
+        return Refusal::BillProcessed;
+    const bool isAsListed = row.date("recDate") == listed.date && row.text("PNo") == listed.pno &&
+                            row.text("clientCat") == listed.category && row.text("clinicType") == listed.clinic &&
+                            row.text("Remarks") == listed.purpose && row.text("referal") == listed.referral;
+    if (!row.isNull("BillDate") || !isAsListed)
+        return Refusal::VisitMoved;
+    return std::nullopt;
+}
+
 } // namespace
 
 QString genConsultID(Connection& connection, const QString& hospital) {
@@ -82,10 +101,10 @@ Given<QString> enterVisit(Books& books, const Visit& visit, const QDateTime& at,
     return consultID;
 }
 
-Given<Saved> changeVisit(Books& books, qlonglong recID, const Visit& visit) {
-    Recordset row(books.connection, Sql("select * from hRecords where recID=") << recID);
-    if (row.eof())
-        return Refusal::VisitGone;
+Given<Saved> changeVisit(Books& books, qlonglong recID, const Visit& listed, const Visit& visit) {
+    Recordset row = visitRow(books, recID);
+    if (const auto refusal = whyNotChanged(books, row, listed))
+        return *refusal;
     setColumns(row, visit);
     row.set("exitDate", visit.date);
     row.update();
@@ -93,9 +112,13 @@ Given<Saved> changeVisit(Books& books, qlonglong recID, const Visit& visit) {
     return Saved{};
 }
 
-void deleteVisit(Books& books, qlonglong recID, const QString& consultID) {
+Given<Saved> deleteVisit(Books& books, qlonglong recID, const Visit& listed) {
+    const Recordset row = visitRow(books, recID);
+    if (const auto refusal = whyNotChanged(books, row, listed))
+        return *refusal;
     books.connection.execute(Sql("delete from hrecords where recID = '") << recID << "'");
-    books.record(consultID, 0);
+    books.record(row.text("consultID"), 0);
+    return Saved{};
 }
 
 } // namespace orvane

@@ -31,10 +31,11 @@ bool hasOpenVisit(Connection& connection, const QString& pno, QDate day);
 /// Refuses a patient whose visit of that day is still open.
 Given<QString> enterVisit(Books& books, const Visit& visit, const QDateTime& at, const QString& followUpOf);
 
-/// Changes the visit and nothing that hangs on it: its items stay. Refuses a visit that is gone.
-Given<Saved> changeVisit(Books& books, qlonglong recID, const Visit& visit);
+/// Changes the visit and nothing that hangs on it: its items stay. `listed` is the visit as the officer saw it, without
+/// client and officer. Refuses a visit that is gone, that is not any more as he saw it, or whose bill was saved.
+Given<Saved> changeVisit(Books& books, qlonglong recID, const Visit& listed, const Visit& visit);
 
-/// Deletes the row of the visit; its items stay as they are.
-void deleteVisit(Books& books, qlonglong recID, const QString& consultID);
+/// Deletes the row of the visit; its items stay as they are. Refuses as changeVisit does.
+Given<Saved> deleteVisit(Books& books, qlonglong recID, const Visit& listed);
 
 } // namespace orvane

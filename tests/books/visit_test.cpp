@@ -105,16 +105,43 @@ TEST_P(VisitRules, AChangedOrDeletedVisitLeavesItsItems) {
     makeVisit(billing);
     makeItem(billing);
     const qlonglong recID = scalar("select recID from hRecords").toLongLong();
-    const auto change = [&] { return told<Saved>([&](Books& books) { return changeVisit(books, recID, visit); }); };
-    EXPECT_EQ(change(), "saved");
+    const Visit listed = {.date = QDate(2026, 3, 14),
+                          .pno = "P/0001",
+                          .clientID = {},
+                          .category = "PRIVATE",
+                          .clinic = "OPD",
+                          .purpose = "CONSULTATION",
+                          .referral = "NO",
+                          .officer = {}};
+    const auto change = [&](const Visit& seen) {
+        return told<Saved>([&](Books& books) { return changeVisit(books, recID, seen, visit); });
+    };
+    const auto remove = [&](const Visit& seen) {
+        return told<Saved>([&](Books& books) { return deleteVisit(books, recID, seen); });
+    };
+    // An old list: the bill was saved since, invoiced since, the visit changed since.
+    const QString moved = "This attendance was changed or billed by another user.";
+    const auto expectRefused = [&](const Visit& seen, const QString& text) {
+        EXPECT_EQ(change(seen), text);
+        EXPECT_EQ(remove(seen), text);
+        EXPECT_EQ(rows("select clientCat from hRecords"), "PRIVATE");
+    };
+    run("update hRecords set BillDate='2026-03-14'");
+    expectRefused(listed, moved);
+    run("update hRecords set BillDate=null");
+    run("insert into Billing (billNo, isProcess) values ('001OFL0000001', 1)");
+    expectRefused(listed, "This Bill is already processed! to Modify, unProcess the Batch");
+    run("delete from Billing");
+    Visit other = listed;
+    other.category = "HMO";
+    expectRefused(other, moved);
+
+    EXPECT_EQ(change(listed), "saved");
     EXPECT_EQ(recorded, "001OFL0000001|0");
     EXPECT_EQ(rows("select clientCat, coyName, exitDate from hRecords"), "NHIS|0201|2026-03-14");
-    save<Saved>([&](Books& books) -> Given<Saved> {
-        deleteVisit(books, recID, "001OFL0000001");
-        return Saved{};
-    });
+    EXPECT_EQ(remove(visit), "saved");
     EXPECT_EQ(recorded, "001OFL0000001|0");
-    EXPECT_EQ(change(), "This attendance was deleted by another user.");
+    EXPECT_EQ(change(visit), "This attendance was deleted by another user.");
     EXPECT_EQ(rows("select count(*), max(Price) from BillAccum"), "1|50");
 }
 
