@@ -12,7 +12,8 @@ Given<Saved> addUser(Books& books, const User& user) {
     account.addNew();
     account.set("Username", user.name);
     account.set("Fullname", user.fullName);
-    account.set("Password", user.password);
+    // Null equals nothing that is typed, so that nobody signs in without a password.
+    account.set("Password", nullIfEmpty(user.password));
     account.set("AccountStatus", user.status);
     account.set("BranchCode", user.branch);
     account.update();

@@ -32,7 +32,6 @@ bool proveUser(Program& program, Connection& connection) {
     session.gFullName = user.text("fullName");
     session.gHospName = user.text("hname");
     session.gHospID = user.text("hospID");
-    session.gHospIDName = session.gHospID;
     if (!session.gHospID.isEmpty())
         return true;
     program.box("Value needed for Hospital ID/Name");
@@ -88,7 +87,10 @@ bool prepareSession(Program& program) {
         if (!proveUser(program, connection) || !takeHospitalNames(program, connection))
             return false;
     }
-    return readSettings(program);
+    if (!readSettings(program))
+        return false;
+    program.session.gHospIDName = program.session.gHospID;
+    return true;
 }
 
 bool Main(Program& program, const std::optional<QString>& userName) {

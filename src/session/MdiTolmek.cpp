@@ -6,7 +6,7 @@ namespace orvane {
 
 namespace {
 
-constexpr unsigned restColor = 0xff8080;
+constexpr unsigned restColor = 0x8080ff;
 constexpr unsigned alarmColor = 0xff0000;
 
 } // namespace

@@ -31,7 +31,8 @@ bool frmDialog::txtPassC_LostFocus() {
 }
 
 void frmDialog::OKButton_Click() {
-    if (settlesSave())
+    // Its letter and Ctrl+S press the button without leaving the box.
+    if (settlesSave() || !txtPassC_LostFocus())
         return;
     save<Saved>(
         {.button = OKButton,

@@ -60,14 +60,14 @@ void frmLogin::refuse(const QString& loginName) {
 }
 
 void frmLogin::enter(const QString& loginName) {
-    program.box("You're welcome, " + session.gFullName + ".", Icon::Information);
-    program.openUserActivity(false, false, session.gModuleName);
-    writeTrail(trailLogonSuccess, loginName);
-    // Nobody may work before the hospital and the settings are known; a start by the launcher has them already.
+    // Nobody may work before the hospital and all settings are known; a start by the launcher has them already.
     if (session.gHospIDName.isEmpty() && !prepareSession(program)) {
         program.end();
         return;
     }
+    program.box("You're welcome, " + session.gFullName + ".", Icon::Information);
+    program.openUserActivity(false, false, session.gModuleName);
+    writeTrail(trailLogonSuccess, loginName);
     program.open("MdiTolmek");
     if (Form* welcome = program.loadedForm("frmWelcome"))
         welcome->unload();

@@ -87,31 +87,33 @@ bool frmUsers::txtConfirmPWD_LostFocus() {
 }
 
 void frmUsers::cmdApply_Click() {
-    save<Saved>({.button = cmdApply,
-                 .action = "USER",
-                 .allowed =
-                     [this] {
-                         return passes(
-                             {{cboAcctStatus.text().isEmpty(), "Alert! Account Status is required.", &cboAcctStatus},
-                              {cboBranchCode.text().isEmpty(), "Alert! Branch Code is required.", &cboBranchCode}});
-                     },
-                 .step =
-                     [this](Books& books) {
-                         return addUser(books, {.name = txtUserName.text().trimmed(),
-                                                .fullName = txtFullName.text(),
-                                                .password = txtPassword.text().trimmed(),
-                                                .status = cboAcctStatus.text(),
-                                                .branch = cboBranchCode.text()});
-                     },
-                 .follow =
-                     [this](const Saved&) {
-                         program.box("Account creation succeeded.");
-                         buildTree();
-                         clearFields();
-                         cmdApply.setEnabled(false);
-                         txtUserName.setFocus();
-                     },
-                 .refused = [this](Refusal refusal) { program.box(refusalText(refusal), Icon::Critical); }});
+    save<Saved>(
+        {.button = cmdApply,
+         .action = "USER",
+         .allowed =
+             [this] {
+                 // Its letter and Ctrl+S press the button without leaving the box.
+                 return txtConfirmPWD_LostFocus() &&
+                        passes({{cboAcctStatus.text().isEmpty(), "Alert! Account Status is required.", &cboAcctStatus},
+                                {cboBranchCode.text().isEmpty(), "Alert! Branch Code is required.", &cboBranchCode}});
+             },
+         .step =
+             [this](Books& books) {
+                 return addUser(books, {.name = txtUserName.text().trimmed(),
+                                        .fullName = txtFullName.text(),
+                                        .password = txtPassword.text().trimmed(),
+                                        .status = cboAcctStatus.text(),
+                                        .branch = cboBranchCode.text()});
+             },
+         .follow =
+             [this](const Saved&) {
+                 program.box("Account creation succeeded.");
+                 buildTree();
+                 clearFields();
+                 cmdApply.setEnabled(false);
+                 txtUserName.setFocus();
+             },
+         .refused = [this](Refusal refusal) { program.box(refusalText(refusal), Icon::Critical); }});
 }
 
 } // namespace orvane

@@ -133,7 +133,9 @@ TEST_F(Tool, loadsAndAddsAUserWhomTheProgramAdmits) {
     const Result onTheLine = user("no.pass", "X", {"BILLING", "--password", "Secret1!"});
     EXPECT_EQ(onTheLine.code, 2) << "every user of the machine sees a command line";
     EXPECT_FALSE(onTheLine.errors.contains("Secret1!"));
-    EXPECT_EQ(scalar(home, "select count(*) from ApplicationUsers"), "1");
+    EXPECT_EQ(user("no.word", "X", {"BILLING", "--password-file", written("empty", "\n")}).code, 0);
+    EXPECT_EQ(scalar(home, "select count(*) from ApplicationUsers where Username='no.word' and Password is null"), "1");
+    EXPECT_EQ(scalar(home, "select count(*) from ApplicationUsers"), "2");
     EXPECT_EQ(scalar(home, "select username from UsersForAccts"), "ada.o");
     EXPECT_NE(scalar(home, "select Password from ApplicationUsers"), "Secret1!");
 

@@ -63,9 +63,11 @@ TEST_P(Accounts, UsersAreAddedAndNeverChanged) {
     set("txtFullName", "KEMI ADE");
     set("txtPassword", " S3cret ");
     set("txtConfirmPWD", "S3cret");
-    ws.key("frmUsers.txtConfirmPWD", "\n");
-    EXPECT_EQ(ui.takeBoxesWithTitles(), (QList<TestUi::Box>{{unmatched, {}, Icon::Critical}}));
-    EXPECT_EQ(focused(), "txtConfirmPWD");
+    for (const bool byEnter : {true, false}) { // or by the button's letter, which leaves no field
+        byEnter ? ws.key("frmUsers.txtConfirmPWD", "\n") : click("cmdApply");
+        EXPECT_EQ(ui.takeBoxesWithTitles(), (QList<TestUi::Box>{{unmatched, {}, Icon::Critical}}));
+        EXPECT_EQ(focused(), "txtConfirmPWD");
+    }
     set("txtConfirmPWD", " S3cret ");
     ws.key("frmUsers.txtConfirmPWD", "\n");
     EXPECT_BOXES(ui, {"Account creation succeeded."});

@@ -56,7 +56,7 @@ TEST_P(Shell, alertFollowsTheVisitsThatWaitToday) {
     tick("Timer1");
     EXPECT_TRUE(alertIs(true));
 
-    for (const unsigned color : {0xff8080u, 0xff0000u, 0xff8080u}) {
+    for (const unsigned color : {0x8080ffu, 0xff0000u, 0x8080ffu}) {
         tick("tmrMDI");
         EXPECT_EQ(stripColor(), color);
     }
@@ -82,7 +82,7 @@ TEST_P(Shell, doubleClickOnTheStripSilencesUntilTheNextOne) {
         for (const char* timer : {"Timer1", "tmrMDI", "tmrSound"})
             EXPECT_EQ(isOn(timer), sounds) << timer;
         if (!sounds)
-            EXPECT_EQ(stripColor(), 0xff8080u);
+            EXPECT_EQ(stripColor(), 0x8080ffu);
         tick("tmrMDI");
         tick("tmrMDI"); // while it sounds, the strip is left red
     }
