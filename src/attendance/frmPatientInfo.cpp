@@ -124,8 +124,17 @@ void frmPatientInfo::TreeView1_NodeClick() {
     m_patient = *picked;
     Connection connection = program.openBilling();
     const Recordset patient(connection, Sql("SELECT * FROM hPatients WHERE pNo ='") << m_patient.pno << "'");
-    if (!patient.eof())
+    if (patient.eof())
+        clearCard(); // gone since the list was read
+    else
         showCard(connection, patient);
+}
+
+void frmPatientInfo::clearCard() {
+    for (const auto& field : m_fields)
+        field->clear();
+    lblHeading.clear();
+    txtAge.clear();
 }
 
 void frmPatientInfo::showCard(Connection& connection, const Recordset& patient) {

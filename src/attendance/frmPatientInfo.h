@@ -21,6 +21,7 @@ private:
     };
 
     void TreeView1_NodeClick();
+    void clearCard();
     void showCard(Connection& connection, const Recordset& patient);
     void cmdREpairs_Click();
     void cmdTyres_Click();

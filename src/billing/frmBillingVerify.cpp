@@ -18,11 +18,11 @@ void frmBillingVerify::Form_Load() {
     SSTab1.setTab(0);
     dtAdmit.clear();
     dtDisch.clear();
-    receipt.dtRctDate.clear();
     dtDate.setDate(session.gServerDate);
     visits.setDates(today());
     fillLists();
     enableFields();
+    receipt.dtRctDate.clear();
     SetButtons();
 }
 

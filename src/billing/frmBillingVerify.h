@@ -39,6 +39,7 @@ private:
     void getPatForBill(const Sql& visits);
     Sql visitsBetweenDates() const;
     void clearFields();
+    void clearVisit();
     void clearEntry();
     void loadVisit(QString consultID, QString pno, QString patient);
     bool readVisit(Connection& connection);

@@ -170,6 +170,10 @@ void frmBillingVerify::cmdAcct_Click() {
 void frmBillingVerify::cmdCoy_Click() {
     if (!hasPatient("No Patient is selected"))
         return;
+    takeInHand();
+    // One that is still open moves the bill that it was opened for.
+    if (Form* shown = program.loadedForm("frmCoyUpdate"))
+        shown->unload();
     program.openModal("frmCoyUpdate");
     cmdRefresh_Click();
 }

@@ -66,11 +66,17 @@ void frmBillingVerify::getPatForBill(const Sql& statement) {
     }
 }
 
-/// Empties everything that belongs to a visit.
 void frmBillingVerify::clearFields() {
-    m_bill = {};
     m_saved = false;
     visits.cboVehNo.setListIndex(-1);
+    clearVisit();
+    enableFields();
+    SetButtons();
+}
+
+/// Empties everything that belongs to a visit.
+void frmBillingVerify::clearVisit() {
+    m_bill = {};
     for (Label* label : {&lblBill, &lblCoy, &lblDate, &lblDisplay, &lblDate2, &lblDateLast, &lblGen, &lblBilled,
                          &lblPaid, &receipt.lblDep, &lblSub, &lblTotal, &lblCurr, &lblAmtDue})
         label->clear();
@@ -82,8 +88,6 @@ void frmBillingVerify::clearFields() {
     chkRct.setChecked(false);
     clearEntry();
     grdData.clear();
-    enableFields();
-    SetButtons();
 }
 
 /// What was entered for one bill is meant for no other one: nobody pays with it, and no fee is worked out from it.
@@ -172,14 +176,13 @@ void frmBillingVerify::showVisit(Connection& connection) {
     followReceiptBox();
 }
 
-/// What was read of a visit before the fault is not in hand; the buttons that a load locks are free again, but not
-/// those of a save that is open.
+/// What was read of a visit before the fault is not in hand, and nothing of the visit before it stays to be taken for
+/// this one's. The buttons that a load locks are free again, but not those of a save that is open.
 void frmBillingVerify::afterFault() {
     if (!m_loading)
         return;
     m_loading = false;
-    m_bill = {};
-    lblBill.clear();
+    clearVisit();
     cmdAddBill.setEnabled(true);
     cmdNHIS.setEnabled(true);
 }

@@ -181,17 +181,19 @@ bool frmReceiptDeposit::isComplete() {
     const bool hasAmount = !txtHt.text().trimmed().isEmpty();
     if (hasAmount && nairaIn(txtHt) > 0 && txtDue.text().trimmed().isEmpty())
         txtDue.setText("0");
-    return passes({{!hasAmount, "Please enter Receipt Amount", &txtHt},
-                   {nairaIn(txtHt) <= 0, "Receipt Amount Cannot be zero or less", &txtHt},
-                   {visits.cboVehNo.listIndex() < 0, "Please enter Patient No", &visits.cboVehNo},
-                   {cboClinic.text().isEmpty(), "Please Specify payment type", &cboClinic},
-                   {lblRct.text().isEmpty(), "Receipt No Required", &visits.cboVehNo},
-                   {cboPayFor.text().isEmpty(), "Please enter Payment Purpose", &cboPayFor},
-                   {cboPay.text().isEmpty(), "Please enter Payment type", &cboPay},
-                   {cboClinic.text().isEmpty(), "Please enter Clinic type", &cboClinic},
-                   {!statesNaira(txtDue), "Please enter Amount Due", &txtDue},
-                   // A receipt without a date would be in no day's cash.
-                   {dtDate.isEmpty(), "Please enter Receipt Date", &dtDate}});
+    return passes(
+        {{!hasAmount, "Please enter Receipt Amount", &txtHt},
+         {nairaIn(txtHt) <= 0, "Receipt Amount Cannot be zero or less", &txtHt},
+         {visits.cboVehNo.text().isEmpty(), "Please enter Patient No", &visits.cboVehNo},
+         {cboClinic.text().isEmpty(), "Please Specify payment type", &cboClinic},
+         // A name that was typed and not picked has no number.
+         {lblRct.text().isEmpty() || visits.cboVehNo.listIndex() < 0, "Receipt No Required", &visits.cboVehNo},
+         {cboPayFor.text().isEmpty(), "Please enter Payment Purpose", &cboPayFor},
+         {cboPay.text().isEmpty(), "Please enter Payment type", &cboPay},
+         {cboClinic.text().isEmpty(), "Please enter Clinic type", &cboClinic},
+         {!statesNaira(txtDue), "Please enter Amount Due", &txtDue},
+         // A receipt without a date would be in no day's cash.
+         {dtDate.isEmpty(), "Please enter Receipt Date", &dtDate}});
 }
 
 void frmReceiptDeposit::OKButton_Click() {

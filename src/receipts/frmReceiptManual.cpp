@@ -189,7 +189,7 @@ void frmReceiptManual::OKButton_Click() {
                            return true;
                        },
                    .step = [this](Books& books) { return saveEntry(books); },
-                   .follow = [this](const QString&) { showSaved(); }});
+                   .follow = [this](const QString& receiptNo) { showSaved(receiptNo); }});
 }
 
 Given<QString> frmReceiptManual::saveEntry(Books& books) const {
@@ -208,12 +208,24 @@ Given<QString> frmReceiptManual::saveEntry(Books& books) const {
                                       .receivedBy = receiver()});
 }
 
-void frmReceiptManual::showSaved() {
+void frmReceiptManual::showSaved(const QString& receiptNo) {
     // At once, so that no fault in what follows leaves an entry that could be saved again.
     resetFields();
     setEntry(false);
     program.box("Record Succesfully saved");
     refreshGrid();
+    selectNewest(receiptNo);
+}
+
+/// The row of the receipt, so that "Print Receipt" prints it: of two paper receipts of one number the later one.
+void frmReceiptManual::selectNewest(const QString& receiptNo) {
+    const int number = grdData.columnIndex("ReceiptNo"), key = grdData.columnIndex("SNo");
+    int newest = -1;
+    for (int row = 0; row < grdData.rowCount(); ++row)
+        if (grdData.value(row, number).toString() == receiptNo &&
+            (newest < 0 || grdData.value(row, key).toLongLong() > grdData.value(newest, key).toLongLong()))
+            newest = row;
+    grdData.selectRow(newest);
 }
 
 void frmReceiptManual::resetFields() {

@@ -30,7 +30,8 @@ private:
     bool isBillOpen();
     void OKButton_Click();
     Given<QString> saveEntry(Books& books) const;
-    void showSaved();
+    void showSaved(const QString& receiptNo);
+    void selectNewest(const QString& receiptNo);
     void resetFields();
     void clearPatient();
     void setEntry(bool entering);

@@ -86,16 +86,21 @@ TEST_P(Verify, LoadStopsWithoutVisitOrClient) {
     layVisit();
     layItem();
     open();
+    EXPECT_EQ(value("dtRctDate"), "");
+    click("cmdList");
+    pick("cboVehNo", 1);
+    EXPECT_NE(value("lblAmtDue"), "");
     click("cmdList");
     ws.run("update hRecords set coyName='GONE'");
     pick("cboVehNo", 1);
     EXPECT_BOXES(ui, {"BillTo Value Cannot be Empty!!! Check your Client Information"});
+    EXPECT_EQ(shown("lblBill lblCoy lblAmtDue lblScreen"), "|||Collate / Verify Bill") << "no other visit's amount";
     EXPECT_EQ(told("OKButton"), "Please Re-Select Patient Name! Bill No (StrCon needed");
     ws.run("delete from hRecords");
     pick("cboVehNo", 1);
     EXPECT_BOXES(ui, {"Patient does not Exist"});
     EXPECT_EQ(value("lblScreen"), "Process Bill");
-    EXPECT_EQ(lines(), "");
+    EXPECT_EQ(lines(), "PARACETAMOL 500MG|50") << "of the first load";
 
     // One that was read in half cannot be saved.
     layVisit({.pno = "P/0002"}, {.consultID = "001OFL0000002", .pno = "P/0002"});

@@ -80,6 +80,7 @@ TEST_P(Deposit, ChecksInOrder) {
                   {"txtHt", "0.004", "Receipt Amount Cannot be zero or less"},
                   {"txtHt", "500", "Please enter Patient No", "cboVehNo"}});
     EXPECT_EQ(value("txtDue"), "0");
+    expectChecks({{"cboVehNo", "ADEYEMI", "Receipt No Required", "cboVehNo"}});
     set("cboPay", "");
     pick("cboVehNo", billNo);
     EXPECT_BOXES(ui, {"Please enter Payment type"});

@@ -39,6 +39,8 @@ TEST_P(Manual, SavesWhatIsShownAndPrintsThePickedReceipt) {
     ui.forgetBoxes();
     EXPECT_EQ(bill(), "1600|1600|1");
     EXPECT_EQ(value("lblTotal"), "1,600.00");
+    click("cmdPrint");
+    EXPECT_EQ(ws.value("frmCashReceipt.txtAmount"), "600.00") << "the one just saved";
     // Two paper receipts of one number: each prints as itself.
     for (const char* paid : {"600.00", "1,000.00"}) {
         ws.row("frmReceiptManual.grdData", paid);
