@@ -17,16 +17,21 @@ namespace {
 
 using namespace orvane;
 
-constexpr QSize pictureSize(1366, 768); ///< of the main window in a script run
-
 struct Options {
     QString home;
     std::optional<QString> user;
     bool login = false;
     QString play;
     bool window = false;
+    QSize size; ///< of the main window in a script run; empty: its words cannot be read
     QString out;
 };
+
+/// "1366x768"
+QSize readSize(const QString& text) {
+    const QStringList sides = text.split(QLatin1Char('x'));
+    return {sides.value(0).toInt(), sides.value(1).toInt()};
+}
 
 /// The demonstration hospital beside the program, or where the program was started.
 QString usualHome() {
@@ -44,8 +49,9 @@ Options readOptions(const QCoreApplication& application) {
     const QCommandLineOption login("login", "Ask for the user's name and password.");
     const QCommandLineOption play("play", "Play a script ('-': standard input).", "FILE");
     const QCommandLineOption window("window", "Play the script on the real windows.");
+    const QCommandLineOption size("size", "The main window's size while a script plays on it.", "WxH", "1366x768");
     const QCommandLineOption out("out", "Where a script's pictures, prints and exports go.", "DIR");
-    parser.addOptions({home, user, login, play, window, out});
+    parser.addOptions({home, user, login, play, window, size, out});
     parser.process(application);
     Options options;
     options.home = parser.isSet(home) ? QDir(parser.value(home)).absolutePath() : usualHome();
@@ -54,6 +60,7 @@ Options readOptions(const QCoreApplication& application) {
     options.login = parser.isSet(login);
     options.play = parser.value(play);
     options.window = parser.isSet(window);
+    options.size = readSize(parser.value(size));
     options.out = parser.isSet(out) ? QDir(parser.value(out)).absolutePath() : QDir::currentPath();
     return options;
 }
@@ -75,10 +82,12 @@ int play(const Options& options, Driver* driver, Shower* shower) {
 }
 
 int playOnWindows(const Options& options) {
+    if (options.size.isEmpty())
+        return complain("--size takes a width and a height, such as 1366x768.");
     if (!QDir().mkpath(options.out))
         return complain(options.out + ": the folder cannot be made");
     DesktopUi desktop;
-    desktop.windows().setMainSize(pictureSize);
+    desktop.windows().setMainSize(options.size);
     desktop.windows().setScripted(true);
     desktop.windows().setPrintFolder(options.out);
     DesktopShower shower(desktop);

@@ -71,19 +71,20 @@ QDate frmBillingVerify::today() const {
 
 Layout frmBillingVerify::filterLayout() const {
     using namespace orvane::layout;
-    return row({field("Attendance bet&ween", visits.DTPicker1), field("and", visits.DTPicker2),
-                field("C&lient", cboHMO, 22), cell(chkAll), cell(visits.get), cell(cmdAdm), stretch(),
-                field("Searc&h by BillNo", txtSearch, 16), cell(cmdOK)});
+    return flow({field("Attendance bet&ween", visits.DTPicker1), field("and", visits.DTPicker2),
+                 field("C&lient", cboHMO, 22), cell(chkAll), cell(visits.get), cell(cmdAdm), stretch(),
+                 row({field("Searc&h by BillNo", txtSearch, 16), cell(cmdOK)})});
 }
 
+/// The fees stand below the grid, which gives way for them: the card keeps what is payable in sight.
 Layout frmBillingVerify::billLayout() const {
     using namespace orvane::layout;
-    return row(
-        {growing(cell(grdData)),
-         card({field("Amount Generated", lblGen), field("Amount Billed", lblBilled), field("Amount Paid", lblPaid),
-               field("Amount Billed:", lblSub), field("Fresh Bill:", lblTotal), field("Total Bill:", lblCurr),
-               large("Bill Payable:", lblAmtDue), cell(txtDuty), row({field("Prof Fee %", txtProf, 6), cell(cmdBill)}),
-               row({field("NHIS Fee %", txtNHIS, 6), cell(cmdNHIS)}), cell(cmdCap)})});
+    const Layout fees = flow({row({field("Prof Fee %", txtProf, 6), cell(cmdBill)}),
+                              row({field("NHIS Fee %", txtNHIS, 6), cell(cmdNHIS)}), stretch(), cell(cmdCap)});
+    return row({growing(column({growing(cell(grdData)), fees})),
+                card({field("Amount Generated", lblGen), field("Amount Billed", lblBilled),
+                      field("Amount Paid", lblPaid), field("Amount Billed:", lblSub), field("Fresh Bill:", lblTotal),
+                      field("Total Bill:", lblCurr), large("Bill Payable:", lblAmtDue), cell(txtDuty)})});
 }
 
 Layout frmBillingVerify::receiptLayout() const {
@@ -107,8 +108,8 @@ Layout frmBillingVerify::layout() const {
                           {"Fee for service", &lblDisplay},
                           {"Last Attnd Date:", &lblDate2},
                           {"Prev Attnd:", &lblDateLast}}),
-                   row({field("&Bill date", dtDate), field("Ad&mission", dtAdmit), field("Discharge", dtDisch),
-                        field("Approval code", txtApprv, 18), stretch()}),
+                   flow({field("&Bill date", dtDate), field("Ad&mission", dtAdmit), field("Discharge", dtDisch),
+                         field("Approval code", txtApprv, 18)}),
                    growing(tabs(SSTab1, {orvane::layout::page("Bill", {billLayout()}),
                                          orvane::layout::page("Receipt", {receiptLayout()}),
                                          orvane::layout::page("Diagnosis && Treatment", {diagnosisLayout()})})),

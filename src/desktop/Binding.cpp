@@ -3,7 +3,6 @@
 #include "desktop/FormView.h"
 #include "desktop/Look.h"
 
-#include <QAbstractButton>
 #include <QKeyEvent>
 
 namespace orvane {
@@ -80,15 +79,7 @@ void Binding::showState() {
             companion->setVisible(shown);
     const bool usable = m_control->isUsable() && !(m_control->kind() == ControlKind::Button && m_view.isBusy());
     m_widget->setEnabled(usable);
-    m_widget->setToolTip(look::plainHint(hint()));
-}
-
-/// What the control says of itself, and the key of a button whose words do not show it.
-QString Binding::hint() const {
-    const auto* button = qobject_cast<const QAbstractButton*>(m_widget.data());
-    const bool unmarked = button && !button->shortcut().isEmpty() && Mnemonics::asked(button->text()).isNull();
-    const QString key = unmarked ? button->shortcut().toString(QKeySequence::NativeText) : QString();
-    return QStringList({m_control->toolTip(), key}).join(QLatin1Char('\n')).trimmed();
+    m_widget->setToolTip(look::plainHint(m_control->toolTip()));
 }
 
 void Binding::takeFocus() {

@@ -55,7 +55,6 @@ protected:
 private:
     void schedule();
     void showState();
-    QString hint() const;
     void takeFocus();
     void readOn();
     void focusCame();

@@ -10,7 +10,9 @@ FlowLayout::FlowLayout(int horizontalSpacing, int verticalSpacing)
 }
 
 FlowLayout::~FlowLayout() {
-    qDeleteAll(m_items);
+    // A layout among them takes itself out as it goes.
+    while (!m_items.isEmpty())
+        delete m_items.takeLast();
 }
 
 void FlowLayout::addItem(QLayoutItem* item) {
@@ -20,6 +22,10 @@ void FlowLayout::addItem(QLayoutItem* item) {
 void FlowLayout::addLayout(QLayout* layout) {
     addChildLayout(layout);
     addItem(layout);
+}
+
+void FlowLayout::addStretch() {
+    addItem(new QSpacerItem(0, 0));
 }
 
 int FlowLayout::count() const {
@@ -35,7 +41,10 @@ QLayoutItem* FlowLayout::takeAt(int index) {
 }
 
 int FlowLayout::heightForWidth(int width) const {
-    return arrange(QRect(0, 0, width, 0), false);
+    int height = 0;
+    for (const Line& line : lines(width))
+        height += line.height + (height > 0 ? m_down : 0);
+    return height;
 }
 
 QSize FlowLayout::sizeHint() const {
@@ -60,26 +69,47 @@ QSize FlowLayout::minimumSize() const {
 
 void FlowLayout::setGeometry(const QRect& rect) {
     QLayout::setGeometry(rect);
-    arrange(rect, true);
+    int y = rect.y();
+    for (const Line& line : lines(rect.width())) {
+        place(line, QRect(rect.x(), y, rect.width(), line.height));
+        y += line.height + m_down;
+    }
 }
 
-int FlowLayout::arrange(const QRect& rect, bool apply) const {
-    int x = rect.x(), y = rect.y(), lineHeight = 0;
+QVector<FlowLayout::Line> FlowLayout::lines(int width) const {
+    QVector<Line> lines(1);
     for (QLayoutItem* item : m_items) {
+        if (item->spacerItem()) {
+            lines.last().items << item;
+            ++lines.last().stretches;
+            continue;
+        }
         if (item->isEmpty())
             continue;
         const QSize hint = item->sizeHint();
-        if (x > rect.x() && x + hint.width() > rect.x() + rect.width()) {
-            x = rect.x();
-            y += lineHeight + m_down;
-            lineHeight = 0;
-        }
-        if (apply)
-            item->setGeometry(QRect(QPoint(x, y), hint));
-        x += hint.width() + m_across;
-        lineHeight = std::max(lineHeight, hint.height());
+        const int before = lines.last().width;
+        if (before > 0 && before + m_across + hint.width() > width)
+            lines.append(Line());
+        Line& line = lines.last();
+        line.items << item;
+        line.width += hint.width() + (line.width > 0 ? m_across : 0);
+        line.height = std::max(line.height, hint.height());
     }
-    return y + lineHeight - rect.y();
+    return lines;
+}
+
+void FlowLayout::place(const Line& line, QRect room) const {
+    const int slack = std::max(0, room.width() - line.width) / std::max(1, line.stretches);
+    int x = room.x();
+    for (QLayoutItem* item : line.items) {
+        if (item->spacerItem()) {
+            x += slack;
+            continue;
+        }
+        const QSize hint = item->sizeHint();
+        item->setGeometry(QRect(QPoint(x, room.y() + (room.height() - hint.height()) / 2), hint));
+        x += hint.width() + m_across;
+    }
 }
 
 } // namespace orvane

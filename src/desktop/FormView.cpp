@@ -5,12 +5,14 @@
 #include "desktop/SmallBindings.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <algorithm>
 
 namespace orvane {
 
@@ -216,7 +218,9 @@ bool FormView::takesKey(const QKeyEvent& event) {
     const bool plain = event.modifiers() == Qt::NoModifier || event.modifiers() == Qt::KeypadModifier;
     if (!plain || !m_form)
         return false;
-    if (event.key() == Qt::Key_Escape)
+    if (event.key() == Qt::Key_F6)
+        goToNextList();
+    else if (event.key() == Qt::Key_Escape)
         escapePressed();
     else if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
         enterPressed();
@@ -228,6 +232,19 @@ bool FormView::takesKey(const QKeyEvent& event) {
 void FormView::keyPressEvent(QKeyEvent* event) {
     if (!takesKey(*event))
         QWidget::keyPressEvent(event);
+}
+
+/// Of those in sight, after the last one the first: a list has no words for a key of its own.
+void FormView::goToNextList() {
+    QVector<QAbstractItemView*> lists;
+    for (const Binding* binding : std::as_const(m_bindings))
+        if (auto* list = qobject_cast<QAbstractItemView*>(binding->widget());
+            list && list->isVisible() && list->isEnabled())
+            lists << list;
+    const auto here = std::find_if(lists.cbegin(), lists.cend(), [](const auto* list) { return list->hasFocus(); });
+    const bool atLast = here == lists.cend() || here + 1 == lists.cend();
+    if (!lists.isEmpty())
+        (atLast ? lists.first() : *(here + 1))->setFocus(Qt::ShortcutFocusReason);
 }
 
 void FormView::enterPressed() {

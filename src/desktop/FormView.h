@@ -46,7 +46,7 @@ public:
     /// Leaves the form as its user asked, unless he has an entry under way and wants to keep it; a script is not asked.
     /// While an event runs it waits.
     void leave(const std::function<void()>& go);
-    /// Enter, Esc, Ctrl+S (save) and F5 (refresh), wherever in the window the focus is.
+    /// Enter, Esc, Ctrl+S (save), F5 (refresh) and F6 (the next list), wherever in the window the focus is.
     bool takesKey(const QKeyEvent& event);
     void focusFirst();
     /// Code's wish for the focus: at once, or when the user comes back to this form if its window lies behind another
@@ -67,6 +67,7 @@ private:
     void enterPressed();
     Button* refreshButton() const;
     void escapePressed();
+    void goToNextList();
     void orderTabs();
 
     Form* m_form;

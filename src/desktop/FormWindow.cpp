@@ -1,7 +1,9 @@
 #include "desktop/FormWindow.h"
 
+#include "desktop/Keyed.h"
 #include "desktop/Look.h"
 #include "desktop/PagePreview.h"
+#include "desktop/PageScroll.h"
 #include "desktop/Printing.h"
 
 #include <QCloseEvent>
@@ -44,6 +46,7 @@ FormWindow::FormWindow(Form& form, const ViewSetting& setting, QWidget* parent, 
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setWidgetResizable(true);
     m_scroll->setFocusPolicy(Qt::NoFocus);
+    followFocus(*m_scroll);
     auto* box = new QVBoxLayout(this);
     box->setContentsMargins(0, 0, 0, 0);
     box->setSpacing(0);
@@ -71,8 +74,12 @@ FormWindow::FormWindow(Form& form, const ViewSetting& setting, QWidget* parent, 
 
 QWidget* FormWindow::pageButtons() {
     auto* row = new QWidget(this);
-    auto* preview = new QPushButton(QStringLiteral("Print Pre&view"), row);
-    auto* save = new QPushButton(QStringLiteral("&Save as PDF..."), row);
+    auto* preview = new WordButton(row);
+    auto* save = new WordButton(row);
+    Mnemonics& keys = m_view->mnemonics();
+    keys.add(Mnemonics::Press, QStringLiteral("Print Pre&view"), showKey(*preview));
+    keys.add(Mnemonics::Press, QStringLiteral("&Save as PDF..."), showKey(*save));
+    keys.assign();
     auto* box = new QHBoxLayout(row);
     box->setContentsMargins(look::margin, 0, 0, 0);
     box->addWidget(preview);

@@ -4,7 +4,9 @@
 #include "desktop/FlowLayout.h"
 #include "desktop/FormView.h"
 #include "desktop/GridBinding.h"
+#include "desktop/Keyed.h"
 #include "desktop/Look.h"
+#include "desktop/PageScroll.h"
 #include "desktop/SmallBindings.h"
 #include "desktop/TotalsLine.h"
 
@@ -48,7 +50,7 @@ bool growsDown(const Layout& item) {
     if (item.kind == Layout::Buttons || item.kind == Layout::Facts || item.kind == Layout::Card)
         return false;
     // Room between the items of a row is room across.
-    const bool row = item.kind == Layout::Row;
+    const bool row = item.kind == Layout::Row || item.kind == Layout::Flow;
     return std::any_of(item.children.cbegin(), item.children.cend(), [row](const Layout& child) {
         return growsDown(child) && !(row && child.kind == Layout::Stretch);
     });
@@ -85,8 +87,8 @@ bool isLabelled(const Layout& item) {
 
 /// A field, or a row that begins with one: its label stands in line with those above and below.
 bool isFieldLine(const Layout& item) {
-    return isLabelled(item) ||
-           (item.kind == Layout::Row && !item.children.isEmpty() && isLabelled(item.children.first()));
+    return isLabelled(item) || ((item.kind == Layout::Row || item.kind == Layout::Flow) && !item.children.isEmpty() &&
+                                isLabelled(item.children.first()));
 }
 
 bool isAllFields(const Layout& item) {
@@ -120,6 +122,8 @@ LayoutBuilder::Piece LayoutBuilder::piece(const Layout& item) {
     switch (item.kind) {
     case Layout::Row:
         return {nullptr, row(item)};
+    case Layout::Flow:
+        return {nullptr, flow(item.children)};
     case Layout::Column:
     case Layout::Page:
         return {nullptr, column(item.children)};
@@ -181,22 +185,30 @@ QWidget* LayoutBuilder::withTotals(GridBinding& grid) {
     return both;
 }
 
-/// The label of a field: its letter brings the focus to the field.
+namespace {
+
+/// A text that is only read needs no key that others lack.
+bool isOnlyRead(const Control& control) {
+    return control.kind() == ControlKind::TextBox && static_cast<const TextBox&>(control).isLocked();
+}
+
+} // namespace
+
+/// The label of a field: its key brings the focus to the field.
 QLabel* LayoutBuilder::label(const Layout& field, QWidget* buddy) {
-    auto* text = new QLabel(m_parent);
-    text->setTextFormat(Qt::PlainText);
+    auto* text = new KeyLabel(m_parent);
     look::mark(*text, "heading");
     text->setContentsMargins(0, 0, markedSlack, 0);
     Binding* binding = m_view.bindingOf(*field.control);
     binding->addCompanion(text);
     const bool reachable = buddy && buddy->focusPolicy() != Qt::NoFocus;
-    if (!reachable) {
+    if (!reachable || isOnlyRead(*field.control)) {
         text->setText(Mnemonics::plain(field.text));
         return text;
     }
     text->setBuddy(buddy);
     m_view.mnemonics().add(Mnemonics::Field, field.text,
-                           [text](const QString& marked, QChar) { text->setText(marked); });
+                           [text](const QString& words, Mnemonics::Key key) { text->setWords(words, key); });
     return text;
 }
 
@@ -258,7 +270,22 @@ QLayout* LayoutBuilder::fieldBlock(const QVector<Layout>& items) {
     return grid;
 }
 
+/// The rest goes on below the first field, not below its label.
+void LayoutBuilder::fieldFlow(QGridLayout& grid, int row, QVector<Layout> items, int columns) {
+    const Layout first = items.first();
+    items.first().kind = Layout::Cell;
+    grid.addLayout(flow(items), row, 1, 1, columns);
+    QLabel* text = label(first, m_view.bindingOf(*first.control)->editor());
+    text->setMinimumHeight(look::lineHeight);
+    grid.addWidget(text, row, 0, Qt::AlignTop);
+    grid.setColumnStretch(columns - 1, std::max(1, grid.columnStretch(columns - 1)));
+}
+
 void LayoutBuilder::fieldRow(QGridLayout& grid, int row, const Layout& item, int columns) {
+    if (item.kind == Layout::Flow) {
+        fieldFlow(grid, row, item.children, columns);
+        return;
+    }
     const QVector<Layout> fields = item.kind == Layout::Field ? QVector<Layout>{item} : item.children;
     const bool aligned = isAllFields(item);
     const qsizetype count = aligned ? fields.size() : 1;
@@ -314,6 +341,23 @@ QLayout* LayoutBuilder::row(const Layout& item) {
     if (std::none_of(item.children.cbegin(), item.children.cend(), growsAcross))
         box->addStretch(1);
     return box;
+}
+
+FlowLayout* LayoutBuilder::flow(const QVector<Layout>& items) {
+    auto* flow = new FlowLayout(look::spacing, look::rowSpacing);
+    for (const Layout& item : items) {
+        if (item.kind == Layout::Stretch) {
+            flow->addStretch();
+            continue;
+        }
+        // A field stays with its label.
+        const Piece made = item.kind == Layout::Field ? Piece{nullptr, row(layout::row({item}))} : piece(item);
+        if (made.widget)
+            flow->addWidget(made.widget);
+        else
+            flow->addLayout(made.layout);
+    }
+    return flow;
 }
 
 QLayout* LayoutBuilder::facts(const Layout& item) {
@@ -413,7 +457,8 @@ QWidget* LayoutBuilder::group(const Layout& item) {
 QWidget* LayoutBuilder::tabs(const Layout& item) {
     auto* tabs = new QTabWidget(m_parent);
     for (const Layout& page : item.children) {
-        auto* widget = new Compact<QWidget>(tabs);
+        auto* scroll = new PageScroll(tabs);
+        auto* widget = new Compact<QWidget>(scroll);
         const QScopedValueRollback<QWidget*> inside(m_parent, widget);
         const QScopedValueRollback<QString> named(m_heading, page.text);
         m_view.mnemonics().setPage(++m_pages);
@@ -421,9 +466,10 @@ QWidget* LayoutBuilder::tabs(const Layout& item) {
         m_view.mnemonics().setPage(0);
         content->setContentsMargins(look::spacing, look::spacing, look::spacing, look::spacing);
         widget->setLayout(content);
-        const int index = tabs->addTab(widget, page.text);
+        scroll->setPage(widget);
+        const int index = tabs->addTab(scroll, page.text);
         m_view.mnemonics().add(Mnemonics::First, page.text,
-                               [tabs, index](const QString& marked, QChar) { tabs->setTabText(index, marked); });
+                               [tabs, index](const QString& words, Mnemonics::Key) { tabs->setTabText(index, words); });
     }
     ORVANE_ASSERT(item.control);
     new TabBinding(m_view, static_cast<TabStrip&>(*item.control), tabs);

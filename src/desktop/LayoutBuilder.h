@@ -10,6 +10,7 @@ class QLayout;
 
 namespace orvane {
 
+class FlowLayout;
 class GridBinding;
 
 /// Turns a form's layout in words into widgets and Qt layouts inside its view.
@@ -32,8 +33,10 @@ private:
     QLayout* column(const QVector<Layout>& items);
     QLayout* fieldBlock(const QVector<Layout>& items);
     void fieldRow(QGridLayout& grid, int row, const Layout& item, int columns);
+    void fieldFlow(QGridLayout& grid, int row, QVector<Layout> items, int columns);
     void fillRow(QBoxLayout& row, const QVector<Layout>& items, qsizetype first);
     QLayout* row(const Layout& item);
+    FlowLayout* flow(const QVector<Layout>& items);
     QLayout* facts(const Layout& item);
     QWidget* card(const Layout& item);
     void cardItem(QBoxLayout& box, const Layout& item);

@@ -51,117 +51,110 @@ QChar Mnemonics::asked(const QString& caption) {
     return {};
 }
 
-QString Mnemonics::marked(const QString& text, QChar letter) {
+qsizetype Mnemonics::placeOf(const QString& text, QChar letter) {
     qsizetype place = -1;
     for (qsizetype i = 0; i < text.size() && !letter.isNull(); ++i) {
         if (text.at(i).toUpper() != letter)
             continue;
-        const bool initial = i == 0 || !text.at(i - 1).isLetterOrNumber();
-        if (place < 0 || initial)
+        if (i == 0 || !text.at(i - 1).isLetterOrNumber())
+            return i;
+        if (place < 0)
             place = i;
-        if (initial)
-            break;
     }
+    return place;
+}
+
+QString Mnemonics::marked(const QString& text, QChar letter) {
+    const qsizetype place = placeOf(text, letter);
     QString marked;
     for (qsizetype i = 0; i < text.size(); ++i) {
         if (i == place || text.at(i) == QLatin1Char('&'))
             marked += QLatin1Char('&');
         marked += text.at(i);
     }
-    return marked;
+    return place < 0 && !letter.isNull() ? marked + QStringLiteral(" (&%1)").arg(letter) : marked;
 }
 
 QVector<Mnemonics::Item*> Mnemonics::holders(QChar letter, const Item& item) {
     QVector<Item*> found;
     for (Item& other : m_items) {
         const bool together = other.page == item.page || other.page == 0 || item.page == 0;
-        if (&other != &item && together && other.letter == letter)
+        if (&other != &item && together && other.key == Key{letter, item.key.shifted})
             found << &other;
     }
     return found;
 }
 
+/// The reserved letters answer to Alt alone.
+bool Mnemonics::isFree(QChar letter, const Item& item) {
+    return (item.key.shifted || !m_reserved.contains(letter)) && holders(letter, item).isEmpty();
+}
+
 QChar Mnemonics::freeLetter(const Item& item) {
     for (const QChar letter : candidates(plain(item.caption)))
-        if (!m_reserved.contains(letter) && holders(letter, item).isEmpty())
+        if (isFree(letter, item))
             return letter;
     return {};
 }
 
-QChar Mnemonics::sharedLetter(const Item& field) {
-    QChar best;
-    qsizetype fewest = 0;
-    for (const QChar letter : candidates(plain(field.caption))) {
-        const QVector<Item*> others = holders(letter, field);
-        const bool pressed =
-            std::any_of(others.cbegin(), others.cend(), [](const Item* other) { return other->kind != Field; });
-        if (!m_reserved.contains(letter) && !pressed && (best.isNull() || others.size() < fewest)) {
-            best = letter;
-            fewest = others.size();
-        }
-    }
-    return best;
-}
-
 bool Mnemonics::takeOver(Item& item, QString& tried, bool wishedToo) {
-    item.letter = freeLetter(item);
-    if (item.letter.isNull() && item.kind == Field)
-        item.letter = sharedLetter(item);
-    if (!item.letter.isNull())
+    item.key.letter = freeLetter(item);
+    if (!item.key.letter.isNull())
         return true;
+    const auto yields = [this](const Item* owner) { return m_fieldsYield && owner->kind == Field; };
     for (const QChar letter : candidates(plain(item.caption))) {
-        if (m_reserved.contains(letter) || tried.contains(letter))
+        if ((m_reserved.contains(letter) && !item.key.shifted) || tried.contains(letter))
             continue;
         tried += letter;
         const QVector<Item*> owners = holders(letter, item);
-        if (!wishedToo && std::any_of(owners.cbegin(), owners.cend(), [](const Item* owner) { return owner->wished; }))
+        if (!wishedToo && std::any_of(owners.cbegin(), owners.cend(),
+                                      [&](const Item* owner) { return owner->wished && !yields(owner); }))
             continue;
-        const QVector<QChar> before = lettersNow();
-        item.letter = letter;
+        const QVector<Key> before = keysNow();
+        item.key.letter = letter;
         const bool found = std::all_of(owners.cbegin(), owners.cend(), [&](Item* owner) {
-            owner->letter = {};
-            return takeOver(*owner, tried, wishedToo);
+            owner->key.letter = {};
+            return yields(owner) || takeOver(*owner, tried, wishedToo);
         });
         if (found)
             return true;
         for (qsizetype i = 0; i < m_items.size(); ++i)
-            m_items[i].letter = before.at(i);
+            m_items[i].key = before.at(i);
     }
     return false;
 }
 
-void Mnemonics::assignTo(Item& item) {
-    if (!item.letter.isNull())
-        return;
-    QString tried, triedAgain;
-    if (takeOver(item, tried, false) || (item.kind == First && takeOver(item, triedAgain, true)))
-        return;
-    if (item.kind != Field && !candidates(plain(item.caption)).isEmpty())
-        item.letter = foreignLetter(item);
-    if (item.letter.isNull() && !takeOver(item, triedAgain, true) && item.kind != Field)
-        displaceFields(item);
-}
-
-void Mnemonics::displaceFields(Item& pressed) {
-    for (const QChar letter : candidates(plain(pressed.caption))) {
-        const QVector<Item*> owners = holders(letter, pressed);
-        if (m_reserved.contains(letter) ||
-            std::any_of(owners.cbegin(), owners.cend(), [](const Item* owner) { return owner->kind != Field; }))
-            continue;
-        for (Item* owner : owners)
-            owner->letter = {};
-        pressed.letter = letter;
-        return;
+/// A key with a letter of its words.
+bool Mnemonics::takeOwn(Item& item) {
+    for (const bool shifted : {false, true}) {
+        QString tried, triedAgain;
+        item.key = {{}, shifted};
+        if (shifted > mayShift(item))
+            break;
+        if (takeOver(item, tried, false) || (item.kind == First && takeOver(item, triedAgain, true)))
+            return true;
     }
+    return false;
 }
 
-QChar Mnemonics::foreignLetter(const Item& item) {
-    // Those first that few words need.
-    const QString all = QStringLiteral("JQXZ0123456789KVYGUHBMWFPOLNDTICRSEA");
-    for (const QChar letter : all)
-        if (!m_reserved.contains(letter) && holders(letter, item).isEmpty())
-            return letter;
-    return {};
+bool Mnemonics::takeForeign(Item& item) {
+    // Those first that few words need. With Shift a digit is another key on another keyboard.
+    const QString letters = QStringLiteral("JQXZKVYGUHBMWFPOLNDTICRSEA"), digits = QStringLiteral("1234567890");
+    for (const bool shifted : {false, true}) {
+        item.key = {{}, shifted};
+        for (const QChar letter : shifted ? letters : digits + letters)
+            if (shifted <= mayShift(item) && isFree(letter, item)) {
+                item.key.letter = letter;
+                return true;
+            }
+    }
+    item.key = {};
+    return false;
+}
+
+void Mnemonics::assignTo(Item& item) {
+    if (item.key.letter.isNull() && !candidates(plain(item.caption)).isEmpty() && !takeOwn(item))
+        takeForeign(item);
 }
 
 void Mnemonics::assignAll(Kind kind, bool onPages) {
@@ -170,32 +163,42 @@ void Mnemonics::assignAll(Kind kind, bool onPages) {
             assignTo(item);
 }
 
-QVector<QChar> Mnemonics::lettersNow() const {
-    QVector<QChar> letters;
+QVector<Mnemonics::Key> Mnemonics::keysNow() const {
+    QVector<Key> keys;
     for (const Item& item : m_items)
-        letters << item.letter;
-    return letters;
+        keys << item.key;
+    return keys;
 }
 
 void Mnemonics::grantWishes(Kind kind) {
     for (Item& item : m_items) {
         const QChar wish = asked(item.caption);
-        if (item.kind != kind || wish.isNull() || m_reserved.contains(wish) || !holders(wish, item).isEmpty())
+        if (item.kind != kind || wish.isNull() || !isFree(wish, item))
             continue;
-        item.letter = wish;
+        item.key.letter = wish;
         item.wished = true;
     }
 }
 
 void Mnemonics::assign() {
-    for (const Kind kind : {First, Press, Field})
+    const auto kinds = {First, Press, Field, Entry};
+    for (const Kind kind : kinds)
         grantWishes(kind);
     // What is always in sight has fewer letters to choose from than what is on a page.
-    for (const Kind kind : {First, Press, Field})
+    for (const Kind kind : kinds) {
+        m_fieldsYield = kind != Field;
         for (const bool onPages : {false, true})
             assignAll(kind, onPages);
+    }
     for (const Item& item : m_items)
-        item.show(marked(plain(item.caption), item.letter), item.letter);
+        show(item);
+}
+
+void Mnemonics::show(const Item& item) {
+    const QString words = plain(item.caption);
+    const bool strange = item.key.shifted && placeOf(words, item.key.letter) < 0;
+    const QString behind = strange ? QStringLiteral(" (%1)").arg(item.key.letter) : QString();
+    item.show(marked(words + behind, item.key.shifted ? QChar() : item.key.letter), item.key);
 }
 
 void Mnemonics::captionChanged(int handle, const QString& caption) {
@@ -203,17 +206,17 @@ void Mnemonics::captionChanged(int handle, const QString& caption) {
     if (item.caption == caption)
         return;
     item.caption = caption;
-    if (!candidates(plain(caption)).contains(item.letter))
+    if (!candidates(plain(caption)).contains(item.key.letter))
         if (const QChar letter = freeLetter(item); !letter.isNull())
-            item.letter = letter;
-    item.show(marked(plain(caption), item.letter), item.letter);
+            item.key.letter = letter;
+    show(item);
 }
 
 QString Mnemonics::letters() const {
     QString all = m_reserved;
     for (const Item& item : m_items)
-        if (!item.letter.isNull())
-            all += item.letter;
+        if (!item.key.letter.isNull() && !item.key.shifted)
+            all += item.key.letter;
     return all;
 }
 

@@ -23,7 +23,7 @@ QString topLetters(const Form& form) {
     Mnemonics letters;
     for (const Control* control : form.controls())
         if (control->kind() == ControlKind::Menu && !static_cast<const MenuItem*>(control)->menu())
-            letters.add(Mnemonics::Press, control->caption(), [](const QString&, QChar) {});
+            letters.add(Mnemonics::Entry, control->caption(), [](const QString&, Mnemonics::Key) {});
     letters.assign();
     return letters.letters();
 }
@@ -91,7 +91,8 @@ void ShellWindow::buildMenus() {
         auto& item = static_cast<MenuItem&>(*control);
         QMenu* menu = menuBar()->addMenu(item.caption());
         (new MenuBinding(*m_strip, item, menu->menuAction(), menu))->refreshNow();
-        letters.add(Mnemonics::Press, item.caption(), [menu](const QString& marked, QChar) { menu->setTitle(marked); });
+        letters.add(Mnemonics::Entry, item.caption(),
+                    [menu](const QString& words, Mnemonics::Key) { menu->setTitle(words); });
         fillMenu(*menu, item);
     }
     letters.assign();
@@ -108,8 +109,8 @@ void ShellWindow::fillMenu(QMenu& menu, const MenuItem& item) {
         QMenu* inner = entry->entries().isEmpty() ? nullptr : menu.addMenu(entry->caption());
         QAction* action = inner ? inner->menuAction() : menu.addAction(entry->caption());
         (new MenuBinding(*m_strip, *entry, action, inner))->refreshNow();
-        letters.add(Mnemonics::Press, entry->caption().trimmed(),
-                    [action](const QString& marked, QChar) { action->setText(marked); });
+        letters.add(Mnemonics::Entry, entry->caption().trimmed(),
+                    [action](const QString& words, Mnemonics::Key) { action->setText(words); });
         if (inner)
             fillMenu(*inner, *entry);
     }

@@ -2,6 +2,7 @@
 
 #include "desktop/DateEdit.h"
 #include "desktop/FormView.h"
+#include "desktop/Keyed.h"
 #include "desktop/ListModels.h"
 #include "desktop/Look.h"
 #include "desktop/TreeModel.h"
@@ -27,23 +28,8 @@ void raiseMouse(Binding& binding, QEvent* event) {
         binding.press([control] { control->dblClick(); });
 }
 
-constexpr int narrowestButton = 76; ///< pixels
-
-/// A button is never narrower than its words, nor than its neighbours with few words.
-class WordButton : public QPushButton {
-public:
-    using QPushButton::QPushButton;
-    QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo({narrowestButton, look::lineHeight}); }
-    QSize minimumSizeHint() const override { return sizeHint(); }
-};
-
-Mnemonics::Show showLetter(QAbstractButton& button) {
-    return [&button](const QString& marked, QChar letter) {
-        button.setText(marked);
-        if (!letter.isNull() && Mnemonics::asked(marked).isNull())
-            button.setShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(letter)));
-    };
-}
+using TickBox = Keyed<QCheckBox, QStyle::SE_CheckBoxContents, QStyleOptionButton>;
+using OptionCircle = Keyed<QRadioButton, QStyle::SE_RadioButtonContents, QStyleOptionButton>;
 
 bool isEnter(const QEvent* event) {
     if (event->type() != QEvent::KeyPress)
@@ -86,8 +72,8 @@ bool LabelBinding::eventFilter(QObject* watched, QEvent* event) {
 }
 
 CheckBinding::CheckBinding(FormView& view, CheckBox& box, QWidget* parent)
-    : Binding(view, box, new QCheckBox(parent)), m_box(&box), m_tick(static_cast<QCheckBox*>(widget())),
-      m_mnemonic(view.mnemonics().add(Mnemonics::Press, box.caption(), showLetter(*m_tick))) {
+    : Binding(view, box, new TickBox(parent)), m_box(&box), m_tick(static_cast<QCheckBox*>(widget())),
+      m_mnemonic(view.mnemonics().add(Mnemonics::Press, box.caption(), showKey(static_cast<TickBox&>(*m_tick)))) {
     m_tick->setAccessibleName(Mnemonics::plain(box.caption()));
     connect(m_tick, &QCheckBox::clicked, this,
             [this](bool checked) { user([this, checked] { m_box->setChecked(checked); }); });
@@ -99,8 +85,9 @@ void CheckBinding::refresh() {
 }
 
 OptionBinding::OptionBinding(FormView& view, OptionButton& option, QWidget* parent)
-    : Binding(view, option, new QRadioButton(parent)), m_option(&option), m_radio(static_cast<QRadioButton*>(widget())),
-      m_mnemonic(view.mnemonics().add(Mnemonics::Press, option.caption(), showLetter(*m_radio))) {
+    : Binding(view, option, new OptionCircle(parent)), m_option(&option), m_radio(static_cast<QRadioButton*>(widget())),
+      m_mnemonic(
+          view.mnemonics().add(Mnemonics::Press, option.caption(), showKey(static_cast<OptionCircle&>(*m_radio)))) {
     m_radio->setAccessibleName(Mnemonics::plain(option.caption()));
     // Which options exclude each other the form model knows; the widgets only show it.
     m_radio->setAutoExclusive(false);
@@ -115,7 +102,7 @@ void OptionBinding::refresh() {
 ButtonBinding::ButtonBinding(FormView& view, Button& button, QWidget* parent)
     : Binding(view, button, new WordButton(parent)), m_button(&button), m_push(static_cast<QPushButton*>(widget())),
       m_mnemonic(view.mnemonics().add(&button == view.form()->saveButton() ? Mnemonics::First : Mnemonics::Press,
-                                      button.caption(), showLetter(*m_push))) {
+                                      button.caption(), showKey(static_cast<WordButton&>(*m_push)))) {
     m_push->setAutoDefault(false);
     connect(m_push, &QPushButton::clicked, this, [this] {
         if (m_button)

@@ -34,6 +34,10 @@ Layout row(std::initializer_list<Layout> items) {
     return container(Layout::Row, {}, items);
 }
 
+Layout flow(std::initializer_list<Layout> items) {
+    return container(Layout::Flow, {}, items);
+}
+
 Layout column(std::initializer_list<Layout> items) {
     return container(Layout::Column, {}, items);
 }

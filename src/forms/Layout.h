@@ -16,6 +16,7 @@ class TabStrip;
 struct Layout {
     enum Kind {
         Row,    ///< children side by side
+        Flow,   ///< as a row, going on in a further line where the room across ends
         Column, ///< children below each other; successive fields align their labels
         Field,  ///< label text left of the control
         Cell,   ///< the control alone
@@ -39,6 +40,7 @@ struct Layout {
 namespace layout {
 
 Layout row(std::initializer_list<Layout> items);
+Layout flow(std::initializer_list<Layout> items);
 Layout column(std::initializer_list<Layout> items);
 Layout field(const QString& label, const Control& control, int characters = 0);
 Layout cell(const Control& control, int characters = 0);

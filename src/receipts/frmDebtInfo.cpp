@@ -22,7 +22,7 @@ frmDebtInfo::frmDebtInfo(Program& owner) : Screen(owner, "frmDebtInfo", "Debt In
 
 Layout frmDebtInfo::layout() const {
     using namespace orvane::layout;
-    return column({row({field("Search by Surname", txtName, 28), cell(cboGroup, 10), cell(OKButton), stretch(),
+    return column({row({field("Search by Surname", txtName, 28), field("by", cboGroup, 10), cell(OKButton), stretch(),
                         field("Attendance Between", DTPicker1), field("And", DTPicker2), cell(chkAll), cell(cmdList)}),
                    cell(Label5), cell(grdData),
                    buttons({&cmdRpt, &cmdDebtOnly, &chkDebt}, {&cmdExport, &CancelButton})});

@@ -9,7 +9,8 @@ rptPanelSummary::rptPanelSummary(Program& owner) : Screen(owner, "rptPanelSummar
 Layout rptPanelSummary::layout() const {
     using namespace orvane::layout;
     return column({row({field("Receipt Date between", DTPicker1), field("and", DTPicker2), cell(cmdInv), stretch()}),
-                   cell(lblPanel), cell(cboVehNo, 60), stretch(), buttons({}, {&CancelButton, &OKButton})});
+                   cell(lblPanel), row({field("Select", cboVehNo, 60), stretch()}), stretch(),
+                   buttons({}, {&CancelButton, &OKButton})});
 }
 
 void rptPanelSummary::Form_Load() {

@@ -1,15 +1,15 @@
 // Every screen of the program on a small monitor: whole, reachable by keys, nothing forgotten.
 #include "desktop/FormWindow.h"
+#include "desktop/Keyed.h"
 #include "desktop/ShellWindow.h"
 #include "support/Workstation.h"
 
 #include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabWidget>
+#include <QTest>
 
 namespace orvane {
 namespace {
@@ -44,11 +44,16 @@ protected:
         }
         EXPECT_GT(shown, 20);
     }
-    void expectOwnLetters(FormWindow& window);
+    void expectOwnKeys(FormWindow& window);
 
     QString reserved; ///< letters of the main window
 };
 INSTANTIATE_TEST_SUITE_P(OnSqlite, ScreensTest, ::testing::Values(Engine::Sqlite));
+
+bool isOnlyRead(const Binding& binding) {
+    const auto* box = dynamic_cast<const TextBox*>(binding.control());
+    return box && box->isLocked();
+}
 
 bool isSeen(ControlKind kind) {
     // A label's words may stand in the layout itself, as the name of a field.
@@ -72,58 +77,59 @@ TEST_P(ScreensTest, NoScreenIsCutOffOrLeavesAControlOut) {
     });
 }
 
-/// Of every page, as a field on none of them is in sight with all.
-QString pressedLetters(const FormWindow& window) {
-    QString letters;
-    for (const QTabWidget* tabs : window.findChildren<QTabWidget*>())
-        for (int tab = 0; tab < tabs->count(); ++tab)
-            letters += Mnemonics::asked(tabs->tabText(tab));
-    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>())
-        if (!button->shortcut().isEmpty())
-            letters += button->shortcut().toString().back();
-    return letters;
-}
-
-/// What can be pressed has a letter for itself, and none of the main window's.
-void ScreensTest::expectOwnLetters(FormWindow& window) {
-    QMap<QChar, QString> owners;
-    const QString pressed = pressedLetters(window);
-    const auto take = [&](const QString& text, QChar letter) {
-        EXPECT_FALSE(letter.isNull() || reserved.contains(letter)) << qPrintable(text);
-        EXPECT_FALSE(owners.contains(letter)) << qPrintable(text) << " and " << qPrintable(owners.value(letter));
-        owners.insert(letter, text);
+/// What can be pressed and the fields that can be used have a key each, and none of the main window's.
+void ScreensTest::expectOwnKeys(FormWindow& window) {
+    QMap<QString, QString> owners;
+    const auto take = [&](const QString& words, const QKeySequence& key) {
+        const QString name = key.toString();
+        EXPECT_FALSE(name.isEmpty()) << qPrintable(words);
+        EXPECT_FALSE(name.size() == 5 && reserved.contains(name.back())) << qPrintable(words);
+        EXPECT_FALSE(owners.contains(name)) << qPrintable(words) << " and " << qPrintable(owners.value(name));
+        owners.insert(name, words);
     };
     for (const QTabWidget* tabs : window.findChildren<QTabWidget*>())
         for (int tab = 0; tab < tabs->count(); ++tab)
-            take(tabs->tabText(tab), Mnemonics::asked(tabs->tabText(tab)));
-    for (const QAbstractButton* button : window.view()->findChildren<QAbstractButton*>())
+            take(tabs->tabText(tab), QKeySequence::mnemonic(tabs->tabText(tab)));
+    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>())
         if (button->isVisible() && !button->text().isEmpty())
-            take(button->text(), button->shortcut().isEmpty() ? QChar() : button->shortcut().toString().back());
-    // The collation screen has more to press than there are letters; its fields are reached by Tab.
-    constexpr int letters = 26 + 10;
-    if (pressed.size() + reserved.size() >= letters)
-        return;
-    for (const QLabel* label : window.findChildren<QLabel*>())
-        for (const QChar letter : label->text().toUpper())
-            EXPECT_FALSE(label->buddy() && label->isVisible() && Mnemonics::asked(label->text()).isNull() &&
-                         letter.isLetterOrNumber() && !reserved.contains(letter) && !pressed.contains(letter))
-                << qPrintable(label->text()) << " could have " << qPrintable(QString(letter));
+            take(button->text(), button->shortcut());
+    for (const Binding* binding : window.findChildren<Binding*>()) {
+        const ControlKind kind = binding->control()->kind();
+        const bool field =
+            kind == ControlKind::TextBox || kind == ControlKind::ComboBox || kind == ControlKind::DatePicker;
+        if (!field || !binding->widget()->isVisible() || isOnlyRead(*binding))
+            continue;
+        const auto labels = window.findChildren<KeyLabel*>();
+        const auto own = std::find_if(labels.cbegin(), labels.cend(),
+                                      [&](const KeyLabel* label) { return label->buddy() == binding->editor(); });
+        const QString name = binding->control()->name();
+        ASSERT_NE(own, labels.cend()) << qPrintable(name) << " has no name beside it";
+        const QString keys = (*own)->key().shifted ? "Alt+Shift+" : "Alt+";
+        take(name, QKeySequence((*own)->key().letter.isNull() ? QString() : keys + (*own)->key().letter));
+        if (!binding->editor()->isEnabled())
+            continue;
+        const bool shifted = (*own)->key().shifted;
+        QTest::keyClick(&window, Qt::Key((*own)->key().letter.unicode()),
+                        shifted ? Qt::AltModifier | Qt::ShiftModifier : Qt::AltModifier);
+        EXPECT_TRUE(binding->editor()->hasFocus() || binding->widget()->hasFocus()) << qPrintable(name);
+    }
 }
 
-TEST_P(ScreensTest, EveryFieldIsReachedByKeysAndEveryButtonHasItsOwnLetter) {
+TEST_P(ScreensTest, EveryFieldIsReachedByKeysAndEveryButtonHasItsOwn) {
     forEachScreen([this](Form&, FormWindow& window) {
+        window.activateWindow();
         auto* tabs = window.findChild<QTabWidget*>();
         for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
             if (tabs)
                 tabs->setCurrentIndex(page);
-            expectOwnLetters(window);
+            QApplication::processEvents();
+            expectOwnKeys(window);
         }
         for (const Binding* binding : window.findChildren<Binding*>()) {
             const Control* control = binding->control();
             const bool field = control->kind() == ControlKind::TextBox || control->kind() == ControlKind::ComboBox ||
                                control->kind() == ControlKind::DatePicker || control->kind() == ControlKind::Button;
-            const auto* line = qobject_cast<const QLineEdit*>(binding->editor());
-            EXPECT_TRUE(!field || (binding->editor()->focusPolicy() & Qt::TabFocus) || (line && line->isReadOnly()))
+            EXPECT_TRUE(!field || (binding->editor()->focusPolicy() & Qt::TabFocus) || isOnlyRead(*binding))
                 << qPrintable(control->name());
         }
     });

@@ -308,34 +308,34 @@ TEST_F(ViewTest, ACaptionThatChangesKeepsALetterOfItsOwn) {
     EXPECT_FALSE(Mnemonics::asked(extra->text()).isNull());
 }
 
-TEST(MnemonicsTest, AsksForFreeLettersAndSharesThemOnlyAmongFields) {
-    // Page, to press or a field, caption, and what is shown, with a letter behind it that is pressed without being in
-    // it.
-    const QStringList cases{
-        "0 press|&Find|Fi&nd", "0 press|&OK|&OK", "0 press|OK|O&K",   "0 press|OK|OKJ",
-        "0 field|OK|OK",       "0 field|AA|&AA",  "0 field|A A|&A A", "0 press|Profit && &Loss|Profit && &Loss",
-        "0 field|12 %|&12 %",  "1 press|X|&X",    "2 press|X|&X",     "2 field|Xi|X&i",
-        "0 press|Ze|Z&e",      "0 field|Z|&Z",    "0 field|U|U",      "0 press|U|&U"};
+TEST(MnemonicsTest, GivesEachAKeyOfItsOwnAmongWhatIsInSight) {
+    // Page, what it is, its words, and its key ("!": with Shift) with the words that show it.
+    const QStringList cases{"0 first|Off|O: &Off", "0 press|&Find|I: F&ind", "0 press|OK|K: O&K",
+                            "0 press|OK|O!: OK",   "0 press|OK|K!: OK",      "0 press|OK|1: OK (&1)",
+                            "0 field|AA|A: &AA",   "0 field|A A|A!: A A",    "0 field|A && A|2: A && A (&2)",
+                            "0 press|%|: %",       "1 press|X|X: &X",        "2 press|X|X: &X",
+                            "2 field|X|X!: X",     "0 press|Ze|E: Z&e",      "0 field|&Z|Z: &Z",
+                            "0 field|U|U!: U",     "0 press|U|U: &U"};
+    const QHash<QString, Mnemonics::Kind> kinds{
+        {"first", Mnemonics::First}, {"press", Mnemonics::Press}, {"field", Mnemonics::Field}};
     Mnemonics letters("F");
     QStringList shown(cases.size());
     QVector<int> ids;
     for (int place = 0; place < cases.size(); ++place) {
-        const auto& words = cases.at(place);
-        letters.setPage(words.left(1).toInt());
-        ids << letters.add(words.contains("press") ? Mnemonics::Press : Mnemonics::Field, words.section('|', 1, 1),
-                           [&shown, place](const QString& text, QChar letter) {
-                               shown[place] = text;
-                               if (Mnemonics::asked(text).isNull() && !letter.isNull())
-                                   shown[place] += letter;
-                           });
+        const QStringList parts = cases.at(place).split('|');
+        letters.setPage(parts[0].left(1).toInt());
+        ids << letters.add(kinds[parts[0].mid(2)], parts[1], [&shown, place](const QString& words, Mnemonics::Key key) {
+            shown[place] =
+                (key.letter.isNull() ? QString() : key.letter + QString(key.shifted ? "!" : "")) + ": " + words;
+        });
     }
     letters.assign();
     for (int place = 0; place < shown.size(); ++place)
         EXPECT_EQ(shown.at(place), cases.at(place).section('|', 2)) << place;
-    letters.captionChanged(ids.at(3), "Other");
-    EXPECT_EQ(shown.at(3), "O&ther");
-    letters.captionChanged(ids.at(1), "Go on");
-    EXPECT_EQ(shown.at(1), "Go &on") << "its letter goes along";
+    letters.captionChanged(ids.at(2), "Other");
+    EXPECT_EQ(shown.at(2), "T: O&ther");
+    letters.captionChanged(ids.at(1), "Go in");
+    EXPECT_EQ(shown.at(1), "I: Go &in") << "its letter goes along";
 }
 
 TEST_F(ViewTest, ATimerTicksWhileItIsEnabledAndItsFormRests) {
