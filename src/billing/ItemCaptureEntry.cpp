@@ -187,7 +187,7 @@ void ItemCapture::OrderGridDrug_DblClick() {
         program.box("This row cannot be Deleted! Already in the Database");
         return;
     }
-    if (!program.question("Are you sure to Delete?", "Check before Delete"))
+    if (!program.question("Are you sure to Delete?", "Check before Delete", Consent::Destroys))
         return;
     total -= amountIn(row, SubTotal);
     OrderGridDrug.removeRow(row);

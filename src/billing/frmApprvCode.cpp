@@ -111,7 +111,9 @@ void frmApprvCode::afterSave() {
     program.box("Record Succesfully saved");
     program.writeAuditTrail({"Add Apprv Code for " + m_visit.patient, m_visit.consultID, txtApprv.text()});
     fillGrid();
+    grdData.selectRow(grdData.findRow("ApprvCode", txtApprv.text()));
     clearCode();
+    txtApprv.setFocus();
 }
 
 void frmApprvCode::clearCode() {
@@ -140,6 +142,7 @@ void frmApprvCode::cmdDel_Click() {
                  .action = "APPROVAL DELETE",
                  .question = "Are you sure to Delete Record",
                  .title = "Delete",
+                 .consent = Consent::Destroys,
                  .step = [this, sno = qlonglong(grdData.number("SNO"))](Books& books) -> Given<Saved> {
                      deleteApprovalCode(books, m_visit.consultID, sno);
                      return Saved{};

@@ -85,6 +85,7 @@ void frmBillingVerify::cmdCap_Click() {
                  .allowed = [this] { return hasPatient("No Patient is selected") && isManager() && isBillOpen(); },
                  .question = "Are you sure to Capitate all Items in this Bill",
                  .title = "Capitation",
+                 .consent = Consent::Destroys,
                  .step = [this](Books& books) { return capitateBill(books, m_bill); },
                  .follow =
                      [this](const Saved&) {

@@ -127,6 +127,7 @@ void frmPriceAdjustVerify::cmdCancel_Click() {
                  .allowed = [this] { return isBillOpen(); },
                  .question = "Are you sure to Remove Bill Item",
                  .title = "Adjustment",
+                 .consent = Consent::Destroys,
                  .step = [this](Books& books) { return removeItem(books, m_row); },
                  .follow = [this, gone = m_row](const Saved&) { afterRemoval(gone); }});
 }

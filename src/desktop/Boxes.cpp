@@ -55,10 +55,10 @@ void message(QWidget* parent, const QString& text, Icon icon, const QString& tit
     box.exec();
 }
 
-bool question(QWidget* parent, const QString& text, const QString& title) {
+bool question(QWidget* parent, const QString& text, const QString& title, Consent consent) {
     QMessageBox box(QMessageBox::Question, titleOf(title), {}, QMessageBox::Yes | QMessageBox::No, parent);
     setWords(box, text);
-    box.setDefaultButton(QMessageBox::Yes);
+    box.setDefaultButton(consent == Consent::Destroys ? QMessageBox::No : QMessageBox::Yes);
     box.setEscapeButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
 }

@@ -43,9 +43,9 @@ void DesktopUi::box(const QString& text, Icon icon, const QString& title) {
     boxes::message(m_windows.boxParent(), text, icon, title);
 }
 
-bool DesktopUi::question(const QString& text, const QString& title) {
+bool DesktopUi::question(const QString& text, const QString& title, Consent consent) {
     const PointerPause pause;
-    return boxes::question(m_windows.boxParent(), text, title);
+    return boxes::question(m_windows.boxParent(), text, title, consent);
 }
 
 std::optional<QString> DesktopUi::inputBox(const QString& prompt, const QString& title, const QString& initial) {

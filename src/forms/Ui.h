@@ -14,6 +14,9 @@ class Recordset;
 
 enum class Icon { None, Information, Exclamation, Critical, Question };
 
+/// What a Yes to a question does: the answer that Enter gives is No where something is destroyed by it.
+enum class Consent { Keeps, Destroys };
+
 /// The one port of the screens to the outside. Two implementations: the desktop and the script player.
 class Ui {
 public:
@@ -21,7 +24,7 @@ public:
 
     /// A message with an OK button; an empty title shows the program's name. Returns when it was read.
     virtual void box(const QString& text, Icon icon = Icon::None, const QString& title = {}) = 0;
-    virtual bool question(const QString& text, const QString& title = {}) = 0;
+    virtual bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps) = 0;
     /// Empty optional: cancelled.
     virtual std::optional<QString> inputBox(const QString& prompt, const QString& title = {},
                                             const QString& initial = {}) = 0;

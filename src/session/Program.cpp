@@ -137,9 +137,9 @@ void Program::flushBoxes() {
         box(text);
 }
 
-bool Program::question(const QString& text, const QString& title) {
+bool Program::question(const QString& text, const QString& title, Consent consent) {
     ORVANE_ASSERT(!isInTransaction());
-    return m_ui.question(text, title);
+    return m_ui.question(text, title, consent);
 }
 
 } // namespace orvane

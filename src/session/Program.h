@@ -60,7 +60,7 @@ public:
     /// As box, but a message that comes up while a transaction is open shows after it has ended, from flushBoxes.
     void boxAfterTransaction(const QString& text);
     void flushBoxes();
-    bool question(const QString& text, const QString& title = {});
+    bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps);
 
     // Shared routines of the session (session/*.cpp).
     /// The server's date and time from qrySysDateTime; invalid when the view is empty. A fault is shown and gives the

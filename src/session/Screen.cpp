@@ -43,7 +43,7 @@ bool Screen::passes(std::initializer_list<Check> checks) {
 bool Screen::saveErased(const AnySave& wanted) {
     if (settlesSave() || (wanted.allowed && !wanted.allowed()))
         return false;
-    if (!wanted.question.isEmpty() && !program.question(wanted.question, wanted.title))
+    if (!wanted.question.isEmpty() && !program.question(wanted.question, wanted.title, wanted.consent))
         return false;
     if (wanted.prepare && !wanted.prepare())
         return false;

@@ -20,6 +20,7 @@ struct Save {
     QString action;                     ///< its name in SavedActions
     std::function<bool()> allowed = {}; ///< the checks in their order; says itself what fails
     QString question = {}, title = {};  ///< asked when all checks have passed; no question without a text
+    Consent consent = Consent::Keeps;   ///< what a Yes to it does
     std::function<bool()> prepare = {}; ///< what comes between the answer and the transaction; false stops
     std::function<Given<Result>(Books&)> step; ///< what is written, in one transaction
     std::function<void(const Result&)> follow; ///< once it is saved. It must live off what it is given and holds
@@ -46,6 +47,7 @@ protected:
                            .allowed = wanted.allowed,
                            .question = wanted.question,
                            .title = wanted.title,
+                           .consent = wanted.consent,
                            .prepare = wanted.prepare,
                            .step = [this, &wanted, result]() -> std::optional<Refusal> {
                                const auto kept = [&](Books& books) {
@@ -76,6 +78,7 @@ private:
         Control& button;
         std::function<bool()> allowed;
         QString question, title;
+        Consent consent;
         std::function<bool()> prepare;
         std::function<std::optional<Refusal>()> step;
         std::function<void()> follow;

@@ -55,7 +55,7 @@ public:
     void box(const QString& text, Icon icon = Icon::None, const QString& title = {}) override {
         m_boxes.append({text, title, icon});
     }
-    bool question(const QString& text, const QString& title = {}) override;
+    bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& title = {},
                                     const QString& initial = {}) override;
     void show(Form& form) override { opened << form.name(); }
