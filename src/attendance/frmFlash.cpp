@@ -36,10 +36,12 @@ void frmFlash::Form_Load() {
                  "vwhConsultingVisitsForBilling where date='")
                  << session.gServerDate << "' order by fullname asc ",
              patientsFromDoctor);
+    dGexp.setFocus();
 }
 
 void frmFlash::cmdPat_Click() {
     SSTab1.setTab(0);
+    dGexp.setFocus();
     showList(Sql("SELECT pno,Fullname,ConsultID as BillNo,Date,Time,Client,Debt,Clinic,ClientCatID as ClientCat from "
                  "vwhConsultingVisitsForBilling where date between '")
                  << DTPicker1.date() << "' and '" << DTPicker2.date() << "'   order by fullname asc ",

@@ -70,6 +70,8 @@ void frmRecordsOffline::cmdOK_Click() {
     cboVehNo.fill(found, [](const Recordset& row) {
         return ComboBox::Entry{row.text("fullName") + " [" + row.text("PNo") + "]", row.text("PNo")};
     });
+    if (!found.eof())
+        grdData.setFocus();
 }
 
 void frmRecordsOffline::cmdRefresh_Click() {
@@ -134,6 +136,7 @@ void frmRecordsOffline::cmdDel_Click() {
              },
          .question = "Are you sure to Delete Record",
          .title = "Delete",
+         .consent = Consent::Destroys,
          .step = [this](Books& books) { return deleteVisit(books, grdData.text("recID").toLongLong(), listedVisit()); },
          .follow =
              [this](const Saved&) {

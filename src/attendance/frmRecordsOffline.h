@@ -31,6 +31,7 @@ private:
 
     // The patient in hand (frmRecordsOfflinePatient.cpp).
     void cboVehNo_Click();
+    void takeFound();
     void cboClient_Click();
     void cboRef_Click();
     void cboAppr_Click();
@@ -48,7 +49,7 @@ private:
     Visit listedVisit() const;
     void saveEdited();
     void saveNew();
-    void afterSave(const QString& message);
+    void afterSave(const QString& message, const QString& consultID);
 
     using Me = frmRecordsOffline;
     TextBox txtName{*this, "txtName"};
@@ -73,7 +74,7 @@ private:
     Label LblOccup{*this, "LblOccup"};
     Label lblExpire{*this, "lblExpire"};
     Picture piX{*this, "piX"};
-    Grid grdData{*this, "grdData"};
+    Grid grdData{*this, "grdData", &Me::takeFound};
     Timer tmrBill{*this, "tmrBill", 500, false, &Me::tmrBill_Timer};
     Button cmdAdd{*this, "cmdAdd", "Add", &Me::cmdAdd_Click};
     Button cmdEdit{*this, "cmdEdit", "Edit", &Me::cmdEdit_Click};

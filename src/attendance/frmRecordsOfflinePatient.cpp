@@ -40,6 +40,15 @@ void frmRecordsOffline::cboVehNo_Click() {
     checkReview(); // the purpose may have been chosen first, or for the patient before
 }
 
+/// The patient of the row; the list of the patients found has the same order.
+void frmRecordsOffline::takeFound() {
+    if (grdData.currentRow() < 0 || grdData.columnIndex("recID") >= 0)
+        return;
+    cboVehNo.setListIndex(grdData.currentRow());
+    if (!lblNo.text().isEmpty())
+        cboType.setFocus();
+}
+
 void frmRecordsOffline::refuseDuplicate() {
     program.box(refusalText(Refusal::VisitOpen));
     setButtons(false);

@@ -9,11 +9,13 @@ void frmRecordsOffline::OKButton_Click() {
         saveNew();
 }
 
-void frmRecordsOffline::afterSave(const QString& message) {
+void frmRecordsOffline::afterSave(const QString& message, const QString& consultID) {
     program.box(message);
     setButtons(false);
     clearForm();
     cmdRefresh_Click();
+    grdData.selectRow(grdData.findRow("consultID", consultID));
+    cmdAdd.setFocus();
 }
 
 bool frmRecordsOffline::isComplete() {
@@ -57,11 +59,12 @@ Visit frmRecordsOffline::listedVisit() const {
 }
 
 void frmRecordsOffline::saveEdited() {
-    save<Saved>({.button = OKButton,
-                 .action = "CHANGE VISIT",
-                 .allowed = [this] { return isComplete(); },
-                 .step = [this](Books& books) { return changeVisit(books, lRecID, edited, visitInHand()); },
-                 .follow = [this](const Saved&) { afterSave("Record Succesfully Edited and Updated"); }});
+    save<Saved>(
+        {.button = OKButton,
+         .action = "CHANGE VISIT",
+         .allowed = [this] { return isComplete(); },
+         .step = [this](Books& books) { return changeVisit(books, lRecID, edited, visitInHand()); },
+         .follow = [this](const Saved&) { afterSave("Record Succesfully Edited and Updated", lblBill.text()); }});
 }
 
 void frmRecordsOffline::saveNew() {
@@ -79,7 +82,7 @@ void frmRecordsOffline::saveNew() {
          .follow =
              [this](const QString& consultID) {
                  lblBill.setText(consultID); // another workstation may have taken the one that was shown
-                 afterSave("Record Succesfully saved");
+                 afterSave("Record Succesfully saved", consultID);
              },
          .refused = [this](Refusal) { refuseDuplicate(); }});
 }

@@ -21,6 +21,7 @@ ItemCapture::ItemCapture(Program& owner, const QString& formName, const QString&
         "|-------EntryType----|--------Status-----------|----------BillTo---------"
         "|----------CoyName----------|----------RevenueType----------");
     OrderGridDrug.setMoney({Price, Units, SubTotal});
+    OrderGridDrug.onDelete = OrderGridDrug.onDblClick;
     // A typed item has no price of its own, and must not take the one of the item picked before.
     cboDrug.onChange = [this] { resetTariffFields(); };
     if (kind.asksRevenueType) {

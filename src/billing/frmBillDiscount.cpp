@@ -105,6 +105,7 @@ void frmBillDiscount::OKButton_Click() {
                      [this](const Saved&) {
                          clearFields();
                          program.box("Record Succesfully saved");
+                         bills.cboVehNo.setFocus();
                      }});
 }
 

@@ -2,9 +2,9 @@
 #include "books/ApprovalCode.h"
 #include "books/Bill.h"
 #include "books/ReceiptNumber.h"
+#include "books/VisitFacts.h"
 #include "books/Words.h"
 #include "data/words/Money.h"
-#include "books/VisitFacts.h"
 #include "receipts/frmCashReceipt.h"
 
 namespace orvane {
@@ -131,6 +131,7 @@ void frmBillingVerify::afterSave(const QString& receiptNo) {
     OKButton.setEnabled(false);
     saveApprvCode();
     cmdCancel.setEnabled(true);
+    visits.cboVehNo.setFocus();
     if (receiptNo.isEmpty())
         program.box("Record Succesfully saved");
     else

@@ -29,6 +29,8 @@ int GridBinding::currentRow() const {
 }
 
 void GridBinding::refresh() {
+    const bool anew = m_seen != control()->contentRevision();
+    const int rows = m_model->rowCount();
     // An entry grid's cells change one by one and are few.
     if (m_seen != control()->contentRevision() || control()->kind() == ControlKind::EntryGrid)
         m_table->reload();
@@ -36,6 +38,17 @@ void GridBinding::refresh() {
         m_model->catchUp();
     m_seen = control()->contentRevision();
     m_table->showCurrent(m_model->viewRow(currentRow()));
+    // What has come last, or was chosen among rows that were read anew, is not left out of sight.
+    if (control()->kind() == ControlKind::EntryGrid && m_model->rowCount() > rows)
+        m_table->showRow(m_model->rowCount() - 1);
+    else if (anew && currentRow() > 0)
+        m_table->showRow(m_model->viewRow(currentRow()));
+}
+
+EntryGrid* GridBinding::linesToDelete() const {
+    auto* lines =
+        control() && control()->kind() == ControlKind::EntryGrid ? static_cast<EntryGrid*>(control()) : nullptr;
+    return lines && lines->onDelete ? lines : nullptr;
 }
 
 void GridBinding::pick(int viewRow) {
@@ -59,8 +72,13 @@ void GridBinding::open(int viewRow) {
 }
 
 bool GridBinding::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && control() && control()->onDblClick) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+    if (EntryGrid* lines = linesToDelete()) {
+        if (key == Qt::Key_Delete) {
+            press([lines] { lines->pressDelete(); });
+            return true;
+        }
+    } else if (key != 0 && control() && control()->onDblClick) {
         if ((key == Qt::Key_Return || key == Qt::Key_Enter) && m_table->currentIndex().isValid()) {
             open(m_table->currentIndex().row());
             return true;

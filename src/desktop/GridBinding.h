@@ -27,6 +27,7 @@ private:
     int currentRow() const;
     void pick(int viewRow);
     void open(int viewRow);
+    EntryGrid* linesToDelete() const; ///< null: its lines cannot be deleted
 
     TableModel* m_model;
     TableView* m_table;

@@ -29,6 +29,9 @@ QPalette palette() {
     palette.setColor(QPalette::Highlight, accent());
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, accent());
+    // A list that has not the focus shows its chosen row faintly.
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0xcf, 0xe3, 0xe1));
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, ink);
     const QColor faded(0x92, 0x9c, 0xa4);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, faded);
@@ -45,6 +48,8 @@ QFrame[card="true"] { background: white; border: 1px solid #d3dade; border-radiu
 QFrame[rule="true"] { background: #1f2930; border: none; max-height: 1px; min-height: 1px; }
 QLineEdit[flat="true"] { border: none; background: transparent; font-weight: bold; padding: 0; }
 QLineEdit[invalid="true"] { border: 1px solid #c0392b; border-radius: 2px; background: #fdecea; padding: 2px; }
+QTableView, QTreeView, QListView { border: 1px solid #c4cdd2; padding: 1px; }
+QTableView:focus, QTreeView:focus, QListView:focus { border: 2px solid #1f6f6b; padding: 0; }
 QPushButton { padding: 4px 7px; }
 QPushButton[primary="true"] { background: #1f6f6b; color: white; border: 1px solid #185a57; border-radius: 3px;
     padding: 4px 10px; font-weight: bold; }

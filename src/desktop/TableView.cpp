@@ -95,6 +95,15 @@ void TableView::showCurrent(int row) {
     viewport()->update();
 }
 
+void TableView::showRow(int row) {
+    // How far the view can be scrolled is only worked out when it is shown next.
+    executeDelayedItemsLayout();
+    updateGeometries();
+    const int across = horizontalScrollBar()->value();
+    scrollTo(m_table->index(row, 0));
+    horizontalScrollBar()->setValue(across);
+}
+
 /// The heads and the chosen row as a spreadsheet takes them.
 void TableView::copyRow() const {
     QStringList heads, cells;

@@ -16,6 +16,7 @@ public:
     void setTable(TableModel* model);
     void reload();             ///< rereads the model; the place scrolled to stays where the list is still the same one
     void showCurrent(int row); ///< as the control has it; -1: none. Raises nothing.
+    void showRow(int row);     ///< scrolls down or up to it
     QSize sizeHint() const override;
 
 Q_SIGNALS:

@@ -74,7 +74,10 @@ public:
     int rows() const { return int(m_cells.size()) + 1; }                 ///< head row included
     void addRow();
     void removeRow(int row); ///< row 1 is the first below the head
-    void clear();            ///< leaves the head and one empty row
+    /// The Delete key takes the current line away; unset: lines stay. Enter then opens none.
+    Handler onDelete;
+    void pressDelete() { raise(onDelete); }
+    void clear(); ///< leaves the head and one empty row
     QString cell(int row, int column) const;
     void setCell(int row, int column, const QString& text);
     int currentRow() const { return m_row; } ///< -1 when none

@@ -83,7 +83,10 @@ void frmDebtInfo::search() {
         sql << "select  * from vwhpatients where fullname like '" << text << "%'  order by fullname";
     }
     beginSearch();
-    grdData.load(Recordset::paged(program.openBilling(), sql));
+    const Recordset found = Recordset::paged(program.openBilling(), sql);
+    grdData.load(found);
+    if (!found.eof())
+        grdData.setFocus();
 }
 
 /// The grid shows patients, not the statement of one.

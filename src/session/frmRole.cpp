@@ -51,6 +51,7 @@ void frmRole::cmdSubmit_Click() {
     txtRID.clear();
     txtRName.clear();
     waitForRoleID();
+    txtRID.setFocus();
 }
 
 } // namespace orvane

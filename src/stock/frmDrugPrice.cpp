@@ -70,7 +70,7 @@ void frmDrugPrice::cmdEdit_Click() {
 }
 
 void frmDrugPrice::cmdDel_Click() {
-    if (program.question("Are you sure to Delete Record", "Delete"))
+    if (program.question("Are you sure to Delete Record", "Delete", Consent::Destroys))
         program.box(" Sorry cannot delete record, see the store Officer ");
 }
 
@@ -127,7 +127,10 @@ void frmDrugPrice::OKButton_Click() {
                  .follow =
                      [this](const Saved&) {
                          program.box("Record Succesfully updated");
+                         const QString drug = txtDrug.text();
                          cmdRefresh_Click();
+                         grdData.selectRow(grdData.findRow("service", drug));
+                         grdData.setFocus();
                      },
                  .refused =
                      [this](Refusal refusal) {
