@@ -174,6 +174,34 @@ TEST_F(GridViewTest, ARefreshKeepsThePlaceAndAnotherListStartsAtItsTop) {
     EXPECT_FALSE(table()->currentIndex().isValid());
 }
 
+TEST_F(GridViewTest, WhatWasSavedOrEnteredLastIsInSightAndDeleteTakesALineAway) {
+    const auto inSight = [](TableView* view, int row) {
+        return view->viewport()->rect().contains(view->visualRect(view->model()->index(row, 0)));
+    };
+    form.grdRows.load(lines(40));
+    form.grdRows.selectRow(150);
+    settleEvents();
+    EXPECT_TRUE(inSight(table(), 150));
+
+    form.strip.setTab(1);
+    settleEvents();
+    TableView* entries = tableOf(form.grdEntry);
+    for (int line = 0; line < 40; ++line)
+        form.grdEntry.addRow();
+    settleEvents();
+    EXPECT_TRUE(inSight(entries, 40));
+    form.takeEvents();
+    form.grdEntry.selectRow(3);
+    key(form.grdEntry, Qt::Key_Delete);
+    EXPECT_FALSE(events().contains("grdEntry DblClick")) << "not where a double click opens a line";
+    int deleted = 0;
+    form.grdEntry.onDelete = [&] { ++deleted; };
+    key(form.grdEntry, Qt::Key_Delete);
+    key(form.grdEntry, Qt::Key_Return);
+    EXPECT_EQ(deleted, 1);
+    EXPECT_FALSE(events().contains("grdEntry DblClick")) << "Enter would take the line away";
+}
+
 TEST_F(GridViewTest, ALongListShowsAtOnceAndIsReadOn) {
     for (int times = 1; times <= 256; times *= 2)
         billing.run(QStringLiteral("insert into Lines select SNo + %1, Service, Amount, Paid, Secret from Lines")

@@ -435,8 +435,10 @@ TEST_F(WindowsTest, BoxesShowPlainWordsAndEscIsNo) {
     };
     answering<QMessageBox>(
         escape, [&] { EXPECT_FALSE(ui.question("Exit?", "Exit Application")); });
-    const auto yes = [](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); };
-    answering<QMessageBox>(yes, [&] { EXPECT_TRUE(ui.question("Exit?")); });
+    const auto enter = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); };
+    answering<QMessageBox>(
+        enter, [&] { EXPECT_TRUE(ui.question("Are you sure to save?")); });
+    answering<QMessageBox>(enter, [&] { EXPECT_FALSE(ui.question("Are you sure to Delete?", {}, Consent::Destroys)); });
     const auto given = [](QInputDialog& dialog) {
         EXPECT_EQ(dialog.textValue(), "5");
         dialog.setTextValue("7");
