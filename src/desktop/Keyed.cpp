@@ -21,10 +21,6 @@ void underlineTwice(QWidget& widget, QRect words, const QString& text, QChar let
         painter.drawLine(left, below, right, below);
 }
 
-QKeySequence shiftedSequence(Mnemonics::Key key) {
-    return QKeySequence(key.shifted ? QStringLiteral("Alt+Shift+%1").arg(key.letter) : QString());
-}
-
 KeyLabel::KeyLabel(QWidget* parent) : QLabel(parent), m_shifted(new QShortcut(this)) {
     setTextFormat(Qt::PlainText);
     connect(m_shifted, &QShortcut::activated, this, [this] {
@@ -36,7 +32,7 @@ KeyLabel::KeyLabel(QWidget* parent) : QLabel(parent), m_shifted(new QShortcut(th
 void KeyLabel::setWords(const QString& words, Mnemonics::Key key) {
     m_key = key;
     // A label itself answers to Alt alone.
-    m_shifted->setKey(shiftedSequence(key));
+    m_shifted->setKey(key.shifted ? key.sequence() : QKeySequence());
     setText(words);
 }
 

@@ -13,8 +13,6 @@ namespace orvane {
 
 /// How words show their key: Qt underlines the letter of an Alt key, these underline that of an Alt+Shift key, twice.
 void underlineTwice(QWidget& widget, QRect words, const QString& text, QChar letter);
-/// The key that Qt does not find in the words by itself; empty: none.
-QKeySequence shiftedSequence(Mnemonics::Key key);
 
 /// The name of a field, which is its buddy: the key of the name brings the focus there.
 class KeyLabel : public QLabel {
@@ -42,7 +40,7 @@ public:
         m_key = key;
         this->setText(words);
         if (key.shifted)
-            this->setShortcut(shiftedSequence(key));
+            this->setShortcut(key.sequence());
     }
 
 protected:

@@ -5,6 +5,7 @@
 #include "desktop/FormView.h"
 #include "desktop/GridBinding.h"
 #include "desktop/Keyed.h"
+#include "desktop/LayoutRules.h"
 #include "desktop/Look.h"
 #include "desktop/PageScroll.h"
 #include "desktop/SmallBindings.h"
@@ -23,15 +24,6 @@ constexpr int markedSlack = 2; ///< pixels; an underlined letter parts its neigh
 constexpr int narrowestList = 160;
 constexpr int narrowestField = 110; ///< of a field without a width of its own, pixels
 
-bool isMultiline(const Control& control) {
-    return control.kind() == ControlKind::TextBox && static_cast<const TextBox&>(control).isMultiline();
-}
-
-bool isList(const Control& control) {
-    return control.kind() == ControlKind::Grid || control.kind() == ControlKind::EntryGrid ||
-           control.kind() == ControlKind::ListBox || control.kind() == ControlKind::Tree;
-}
-
 /// A widget that asks for the height it needs and not for the height it would like: what grows in it has its stretch
 /// for that.
 template <typename Base>
@@ -40,60 +32,6 @@ public:
     using Base::Base;
     int heightForWidth(int width) const override { return this->layout()->totalMinimumHeightForWidth(width); }
 };
-
-/// Whether the item takes height that is left over.
-bool growsDown(const Layout& item) {
-    if (item.grows || item.kind == Layout::Stretch)
-        return true;
-    if (item.control && (item.kind == Layout::Field || item.kind == Layout::Cell))
-        return isList(*item.control) || isMultiline(*item.control);
-    if (item.kind == Layout::Buttons || item.kind == Layout::Facts || item.kind == Layout::Card)
-        return false;
-    // Room between the items of a row is room across.
-    const bool row = item.kind == Layout::Row || item.kind == Layout::Flow;
-    return std::any_of(item.children.cbegin(), item.children.cend(), [row](const Layout& child) {
-        return growsDown(child) && !(row && child.kind == Layout::Stretch);
-    });
-}
-
-/// Whether the item takes width that is left over.
-bool growsAcross(const Layout& item) {
-    if (item.grows || item.kind == Layout::Stretch)
-        return true;
-    if (item.control && (item.kind == Layout::Field || item.kind == Layout::Cell)) {
-        const ControlKind kind = item.control->kind();
-        const bool text = kind == ControlKind::TextBox || kind == ControlKind::ComboBox;
-        const bool navigates = kind == ControlKind::Tree && item.characters > 0; // a tree beside what it leads to
-        return (isList(*item.control) && !navigates) || kind == ControlKind::ProgressBar ||
-               (text && (item.characters == 0 || isMultiline(*item.control)));
-    }
-    if (item.kind == Layout::Card)
-        return false;
-    if (item.kind == Layout::Tabs)
-        return true;
-    return std::any_of(item.children.cbegin(), item.children.cend(), growsAcross);
-}
-
-/// A row's share of the width: lists take most of it.
-int shareAcross(const Layout& item) {
-    if (!growsAcross(item))
-        return 0;
-    return growsDown(item) && item.kind != Layout::Stretch ? 3 : 1;
-}
-
-bool isLabelled(const Layout& item) {
-    return item.kind == Layout::Field && !item.text.isEmpty();
-}
-
-/// A field, or a row that begins with one: its label stands in line with those above and below.
-bool isFieldLine(const Layout& item) {
-    return isLabelled(item) || ((item.kind == Layout::Row || item.kind == Layout::Flow) && !item.children.isEmpty() &&
-                                isLabelled(item.children.first()));
-}
-
-bool isAllFields(const Layout& item) {
-    return isLabelled(item) || std::all_of(item.children.cbegin(), item.children.cend(), isLabelled);
-}
 
 void spread(QBoxLayout& layout, int margin = 0) {
     layout.setContentsMargins(margin, margin, margin, margin);
@@ -184,15 +122,6 @@ QWidget* LayoutBuilder::withTotals(GridBinding& grid) {
     grid.addCompanion(both);
     return both;
 }
-
-namespace {
-
-/// A text that is only read needs no key that others lack.
-bool isOnlyRead(const Control& control) {
-    return control.kind() == ControlKind::TextBox && static_cast<const TextBox&>(control).isLocked();
-}
-
-} // namespace
 
 /// The label of a field: its key brings the focus to the field.
 QLabel* LayoutBuilder::label(const Layout& field, QWidget* buddy) {

@@ -30,6 +30,11 @@ int Mnemonics::add(Kind kind, const QString& caption, const Show& show) {
     return int(m_items.size()) - 1;
 }
 
+QKeySequence Mnemonics::Key::sequence() const {
+    const QString held = shifted ? QStringLiteral("Alt+Shift+") : QStringLiteral("Alt+");
+    return QKeySequence(letter.isNull() ? QString() : held + letter);
+}
+
 QString Mnemonics::plain(const QString& caption) {
     QString text;
     for (qsizetype i = 0; i < caption.size(); ++i) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QString>
 #include <QVector>
 #include <functional>
@@ -21,6 +22,7 @@ public:
         QChar letter;         ///< null: none
         bool shifted = false; ///< with Alt+Shift, not with Alt alone
         bool operator==(const Key&) const = default;
+        QKeySequence sequence() const; ///< empty: none
     };
     /// Shows the words of a caption as a widget takes them: the letter behind "&", but that of an Alt+Shift key
     /// unmarked.
