@@ -121,13 +121,11 @@ void ScreensTest::expectOwnKeys(FormWindow& window) {
                                       [&](const KeyLabel* label) { return label->buddy() == binding->editor(); });
         const QString name = binding->control()->name();
         ASSERT_NE(own, labels.cend()) << qPrintable(name) << " has no name beside it";
-        const QString keys = (*own)->key().shifted ? "Alt+Shift+" : "Alt+";
-        take(name, QKeySequence((*own)->key().letter.isNull() ? QString() : keys + (*own)->key().letter));
-        if (!binding->editor()->isEnabled())
+        const QKeySequence key = (*own)->key().sequence();
+        take(name, key);
+        if (key.isEmpty() || !binding->editor()->isEnabled())
             continue;
-        const bool shifted = (*own)->key().shifted;
-        QTest::keyClick(&window, Qt::Key((*own)->key().letter.unicode()),
-                        shifted ? Qt::AltModifier | Qt::ShiftModifier : Qt::AltModifier);
+        QTest::keyClick(&window, key[0].key(), key[0].keyboardModifiers());
         EXPECT_TRUE(binding->editor()->hasFocus() || binding->widget()->hasFocus()) << qPrintable(name);
     }
 }
