@@ -15,7 +15,7 @@ namespace {
 // The page is painted in hundredths of a millimetre, in which a letter is some hundred units high: so its outline does
 // not depend on the dots of the device, and a text breaks at the same word everywhere.
 constexpr double unitsPerMm = 100;
-constexpr double mmPerPoint = 25.4 / 72;
+constexpr double mmPerInch = 25.4, mmPerPoint = mmPerInch / 72;
 constexpr double smallestShare = 0.4; ///< a text is made smaller down to this share of its size
 
 QFont fontOf(const PageText& text, double share) {
@@ -90,14 +90,18 @@ void paintPage(QPainter& painter, const Page& page, const QRectF& target) {
     painter.restore();
 }
 
-bool paintDocument(QPagedPaintDevice& device, const Document& document, double width, double height) {
+bool paintDocument(QPagedPaintDevice& device, const Document& document) {
     QPainter painter;
     if (!painter.begin(&device))
         return false;
     for (int number = 0; number < document.count; ++number) {
         if (number > 0 && !device.newPage())
             return false;
-        paintPage(painter, document.page(number), QRectF(0, 0, width, height));
+        const Page page = document.page(number);
+        const double dotsPerMm = device.logicalDpiX() / mmPerInch;
+        paintPage(painter, page,
+                  QRectF(0, 0, std::min<double>(device.width(), page.widthMm * dotsPerMm),
+                         std::min<double>(device.height(), page.heightMm * dotsPerMm)));
     }
     return painter.end();
 }
@@ -111,7 +115,7 @@ bool renderPdf(const Document& document, const QString& file) {
     const Page first = document.page(0);
     writer.setPageSize(QPageSize(QSizeF(first.widthMm, first.heightMm), QPageSize::Millimeter));
     writer.setPageMargins(QMarginsF());
-    return paintDocument(writer, document, writer.width(), writer.height()) && output.error() == QFile::NoError;
+    return paintDocument(writer, document) && output.error() == QFile::NoError;
 }
 
 } // namespace orvane

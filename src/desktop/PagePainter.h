@@ -23,9 +23,9 @@ struct Document {
     }
 };
 
-/// Paints the sheets on a printer or into a PDF whose page size is set. `width` and `height`: of a sheet in the
-/// device's dots. False: the device has refused.
-bool paintDocument(QPagedPaintDevice& device, const Document& document, double width, double height);
+/// Paints the sheets on a printer or into a PDF whose page size is set: in their own size from the upper left corner,
+/// smaller where the paper is. False: the device has refused.
+bool paintDocument(QPagedPaintDevice& device, const Document& document);
 
 /// Writes the document as a PDF with sheets of its size. False: the file cannot be written.
 bool renderPdf(const Document& document, const QString& file);

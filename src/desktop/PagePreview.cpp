@@ -9,8 +9,13 @@ namespace orvane {
 
 namespace {
 
-constexpr int usualWidth = 620; ///< of the paper, pixels
+constexpr int sheetWidth = 620; ///< of an A4 sheet, pixels
+constexpr int rollWidth = 330;  ///< of the narrowest paper, pixels: its letters are as small as those of a sheet
 constexpr int edge = 16;        ///< around the paper, pixels
+
+int usualWidth(const Page& page) {
+    return std::max(rollWidth, int(sheetWidth * std::min(1.0, page.widthMm / Page().widthMm)));
+}
 
 } // namespace
 
@@ -27,7 +32,8 @@ void PagePreview::setPage(const Page& page) {
 }
 
 QSize PagePreview::sizeHint() const {
-    return {usualWidth + 2 * edge, int(usualWidth * m_page.heightMm / m_page.widthMm) + 2 * edge};
+    const int width = usualWidth(m_page);
+    return {width + 2 * edge, int(width * m_page.heightMm / m_page.widthMm) + 2 * edge};
 }
 
 QRect PagePreview::paper() const {

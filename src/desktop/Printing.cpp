@@ -98,7 +98,7 @@ QSizeF sheetFor(const QPixmap& picture) {
 void print(const Document& document, const Job& job) {
     QPrinter printer(QPrinter::HighResolution);
     setSheet(printer, sheetOf(document));
-    if (choosePrinter(printer, job) && !paintDocument(printer, document, printer.width(), printer.height()))
+    if (choosePrinter(printer, job) && !paintDocument(printer, document))
         sayFailed(job.parent);
 }
 
@@ -107,7 +107,7 @@ void preview(const Document& document, QWidget* parent) {
     setSheet(printer, sheetOf(document));
     QPrintPreviewDialog dialog(&printer, parent);
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&](QPrinter* target) { paintDocument(*target, document, target->width(), target->height()); });
+                     [&](QPrinter* target) { paintDocument(*target, document); });
     dialog.exec();
 }
 

@@ -72,7 +72,10 @@ ReceiptText ReceiptScreen::Copy::text(const QString& copyName) const {
     return text;
 }
 
-ReceiptScreen::ReceiptScreen(Program& owner, const QString& formName) : Screen(owner, formName, "Cash Receipt") {}
+ReceiptScreen::ReceiptScreen(Program& owner, const QString& formName) : Screen(owner, formName, "Cash Receipt") {
+    optA4.onClick = [this] { choosePaper(false); };
+    optRoll.onClick = [this] { choosePaper(true); };
+}
 
 void ReceiptScreen::Form_Load() {
     Connection connection = program.openBilling();
@@ -91,8 +94,15 @@ void ReceiptScreen::Form_Load() {
         copy->fill(receipt);
         copy->fillHeading(session);
     }
+    m_patientNo = receipt.text("PNo");
+    m_paid = {.sno = receipt.integer("SNo"),
+              .receiptNo = receipt.text("ReceiptNo"),
+              .billNo = receipt.text("BillNO"),
+              .due = receipt.number("Amountbilled"),
+              .paid = receipt.number("AmountPaid")};
     session.sPrintBillNo.clear();
     session.lWorkSNo = 0;
+    (session.bRollPaper ? optRoll : optA4).setChecked(true);
 }
 
 /// The receipt that was picked; of several with its number the newest where no key was given.
@@ -125,11 +135,31 @@ void ReceiptScreen::loadHeading(Connection& connection, const QString& code) {
 
 Layout ReceiptScreen::layout() const {
     using namespace orvane::layout;
-    return column({row({customer.layout("Customer's copy"), office.layout("Office copy")}), buttons({}, {&cmdPrint})});
+    return column({row({customer.layout("Customer's copy"), office.layout("Office copy")}),
+                   buttons({&optA4, &optRoll}, {&cmdPrint})});
 }
 
 std::optional<Page> ReceiptScreen::page() const {
+    if (optRoll.isChecked())
+        return receiptRoll(customer.text("Customer's copy"), rollText());
     return receiptPage(customer.text("Customer's copy"), office.text("Office copy"));
+}
+
+void ReceiptScreen::choosePaper(bool roll) {
+    if (roll && m_lines.isEmpty()) {
+        Connection connection = program.openBilling();
+        m_lines = linesPaidFor(connection, m_paid);
+    }
+    session.bRollPaper = roll;
+}
+
+RollText ReceiptScreen::rollText() const {
+    RollText roll{.patientNo = m_patientNo, .billNo = m_paid.billNo, .lines = {}, .credit = {}};
+    for (const PaidLine& line : m_lines)
+        roll.lines.append({line.item, formatTwoDecimals(line.amount)});
+    if (const double credit = overpaid(m_paid); credit > 0)
+        roll.credit = formatTwoDecimals(credit);
+    return roll;
 }
 
 QString ReceiptScreen::documentName() const {

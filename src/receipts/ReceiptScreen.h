@@ -1,13 +1,15 @@
 #pragma once
 
-#include "receipts/ReceiptPage.h"
+#include "receipts/ReceiptLines.h"
+#include "receipts/ReceiptRoll.h"
 #include "session/Screen.h"
 
 namespace orvane {
 
 /// "Cash Receipt": the receipt of session.sPrintBillNo, twice on one page. Two paper receipts may bear one number:
 /// session.lWorkSNo is then the key of the one that was picked. What the screen shows is what is printed.
-/// The two receipt screens differ in where they find the receipt and in whose heading it bears.
+/// The two receipt screens differ in where they find the receipt and in whose heading it bears. Its paper is A4 or a
+/// roll, as orvane.ini says until its user chooses; his choice holds for the receipts that follow.
 class ReceiptScreen : public Screen {
 public:
     ReceiptScreen(Program& program, const QString& name);
@@ -44,11 +46,19 @@ private:
     Recordset readReceipt(Connection& connection) const;
     void refuse(const QString& reason);
     void loadHeading(Connection& connection, const QString& code);
+    void choosePaper(bool roll);
+    RollText rollText() const;
     void cmdPrint_Click();
 
     Copy customer{*this, {}, {}};
     Copy office{*this, "2", "Copy"};
+    OptionButton optA4{*this, "optA4", "A4, two copies"};
+    OptionButton optRoll{*this, "optRoll", "80 mm roll"};
     Button cmdPrint{*this, "cmdPrint", "&Print", &ReceiptScreen::cmdPrint_Click};
+
+    PaidReceipt m_paid;
+    QString m_patientNo;
+    QVector<PaidLine> m_lines; ///< read when a roll is asked for
 };
 
 /// Shows the receipt of this number on the receipt screen `form`, in place of one that is still on the screen. `sno`:

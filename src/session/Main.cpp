@@ -74,6 +74,7 @@ bool prepareServer(Program& program) {
     session.gConnStr = connectionString(session.gServerName, "Dunmarch");
     session.gAcctConnStr = connectionString(session.gServerName, "Accounting");
     session.bReceiptHeadLoaded = false;
+    session.bRollPaper = readRollPaper(program.homeFolder());
     session.gPatientsFolder = "\\\\" + session.gServerName + "\\Patients\\";
     session.bFirstShow = true;
     session.bAutoLogoff = false;

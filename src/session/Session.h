@@ -28,6 +28,7 @@ struct Session {
 
     // The shell's state.
     bool bFirstShow = false, bAutoLogoff = false, bReceiptHeadLoaded = false;
+    bool bRollPaper = false; ///< receipts come on a roll of 80 mm, else on A4
     QDate dPostDate;
     QDate gServerDate; ///< the date of the shell's clock
     QTime gServerTime; ///< the time of the shell's clock

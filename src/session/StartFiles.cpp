@@ -1,5 +1,6 @@
 #include "session/StartFiles.h"
 
+#include "data/words/ShownText.h"
 #include "data/words/TextFile.h"
 
 #include <QDir>
@@ -35,21 +36,57 @@ bool readSysDoc(Program& program) {
     return true;
 }
 
-QSet<QString> readMenuEntriesTurnedOn(const QString& homeFolder) {
-    QSet<QString> turnedOn;
+namespace {
+
+/// One "key = value" of orvane.ini; the value is empty where the line has none.
+struct IniLine {
+    QString key, value;
+    QString place; ///< file and line, for what is said of it
+};
+
+/// The lines of one section. None without the file.
+QVector<IniLine> linesOf(const QString& homeFolder, const QString& section) {
+    QVector<IniLine> lines;
     const QString path = QDir(homeFolder).filePath("orvane.ini");
     if (!QFile::exists(path))
-        return turnedOn;
-    bool inMenu = false;
+        return lines;
     static const QRegularExpression comment("[;#].*");
+    bool inside = false;
+    int number = 0;
     for (QString line : readTextLines(path)) {
         line = line.remove(comment).trimmed();
+        ++number;
         if (line.startsWith(QLatin1Char('[')))
-            inMenu = line.compare(QLatin1String("[menu]"), Qt::CaseInsensitive) == 0;
-        else if (inMenu && line.section(QLatin1Char('='), 1).trimmed() == QLatin1String("1"))
-            turnedOn.insert(line.section(QLatin1Char('='), 0, 0).trimmed().toLower());
+            inside = line.mid(1, line.size() - 2).trimmed().compare(section, Qt::CaseInsensitive) == 0;
+        else if (inside && !line.isEmpty())
+            lines.append({line.section(QLatin1Char('='), 0, 0).trimmed(), line.section(QLatin1Char('='), 1).trimmed(),
+                          QStringLiteral("%1, line %2").arg(path).arg(number)});
     }
+    return lines;
+}
+
+} // namespace
+
+QSet<QString> readMenuEntriesTurnedOn(const QString& homeFolder) {
+    QSet<QString> turnedOn;
+    for (const IniLine& line : linesOf(homeFolder, "menu"))
+        if (line.value == QLatin1String("1"))
+            turnedOn.insert(line.key.toLower());
     return turnedOn;
+}
+
+bool readRollPaper(const QString& homeFolder) {
+    bool roll = false;
+    for (const IniLine& line : linesOf(homeFolder, "print")) {
+        if (line.key.compare(QLatin1String("paper"), Qt::CaseInsensitive) != 0)
+            throw DataError(QStringLiteral("%1: the key \"%2\" is not known; [print] has paper = A4 or 80mm.")
+                                .arg(line.place, shownText(line.key)));
+        roll = line.value.compare(QLatin1String("80mm"), Qt::CaseInsensitive) == 0;
+        if (!roll && line.value.compare(QLatin1String("A4"), Qt::CaseInsensitive) != 0)
+            throw DataError(QStringLiteral("%1: the paper \"%2\" is not known; it is A4 or 80mm.")
+                                .arg(line.place, shownText(line.value)));
+    }
+    return roll;
 }
 
 } // namespace orvane

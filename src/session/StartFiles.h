@@ -19,4 +19,8 @@ bool readSysDoc(Program& program);
 /// without the file. Raises DataError when the file cannot be read as text.
 QSet<QString> readMenuEntriesTurnedOn(const QString& homeFolder);
 
+/// Whether the section [print] of orvane.ini has receipts on a roll of 80 mm ("paper = 80mm"). Without it, or with
+/// "paper = A4", they come on A4. Raises DataError for anything else there.
+bool readRollPaper(const QString& homeFolder);
+
 } // namespace orvane

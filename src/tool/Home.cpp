@@ -21,6 +21,10 @@ constexpr const char* menuSection = "[menu]\n"
                                     "mnuDisc = 1\n"
                                     "mnusecurity = 0\n";
 
+constexpr const char* printSection = "\n[print]\n"
+                                     "; what receipts come on: A4 or 80mm\n"
+                                     "paper = A4\n";
+
 void writeFile(const QString& path, const QByteArray& content) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || file.write(content) != content.size() || !file.flush())
@@ -38,7 +42,7 @@ QByteArray iniFile(const HomeOptions& options) {
         if (!options.prefix.isEmpty())
             text += QStringLiteral("prefix = %1\n").arg(options.prefix);
     }
-    return (text + QLatin1Char('\n') + QLatin1String(menuSection)).toUtf8();
+    return (text + QLatin1Char('\n') + QLatin1String(menuSection) + QLatin1String(printSection)).toUtf8();
 }
 
 QByteArray resource(const QString& name) {

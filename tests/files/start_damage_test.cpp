@@ -23,7 +23,7 @@ QByteArray iniContent(const QByteArray& own) {
                    "\nengine = postgresql\nhost = 10.0.0." + QByteArray::number(i) +
                    "\nport = 5432\nprefix = h_\n[server OLD" + QByteArray::number(i) +
                    "]\nengine = sqlserver\ndriver = ODBC Driver 18\n\n";
-    return content + "[menu]\nmnuRct = 1\nmnuDisc = 0\n";
+    return content + "[menu]\nmnuRct = 1\nmnuDisc = 0\n[print]\npaper = 80mm\n";
 }
 
 /// Calls `use` with the content cut off at each `step` bytes, and then with `flipped` copies in which one to four bits
@@ -111,6 +111,7 @@ TEST(StartDamage, IsReadOrRefusedWhole) {
              const ServerEntry entry = ServerList(home).entry("HALL1");
              EXPECT_TRUE(entry.port >= 0 && entry.port <= 65535);
              readMenuEntriesTurnedOn(home);
+             readRollPaper(home);
          }}};
     const QByteArray asked = qgetenv("ORVANE_FILES_COUNT");
     for (const auto& file : cases) {

@@ -50,6 +50,52 @@ TEST_P(CashReceipt, ShowsBothCopiesAndPrintsWithoutItsButton) {
     EXPECT_EQ(state("cmdPrint"), "visible enabled");
 }
 
+TEST_P(CashReceipt, ARollBearsTheLinesThatWerePaidAndTheCredit) {
+    layVisit();
+    for (const char* line :
+         {"1,'SCAN',1000", "2,'LONG NAMED DRUG OF MANY WORDS 500MG TABLETS',500", "3,'DISCOUNT',-50", "4,'GAUZE',250"})
+        ws.run(
+            QString("insert into BillingDetails (billNo, SNo, drgName, SubTotal) values ('%1',%2)").arg(billNo, line));
+    layReceipt("21", 1700, 1200);
+    layReceipt("22", 500, 700);
+    layReceipt("23", -500, -700);
+    layReceipt("24", 900, 900);
+    ws.run("insert into PaymentDetails (snoID, ReceiptNo, billNo, BillItem, AmountPaid) values "
+           "(4,'24','001OFL0000001','GAUZE',250), (0,'24','001OFL0000001','BALANCE_PAYMENT',650)");
+    const struct {
+        const char* number;
+        const char* words; ///< of the lines and the amounts below them
+    } receipts[] = {
+        {"21", "1,000.00|SCAN|200.00|LONG NAMED DRUG OF MANY|WORDS 500MG TABLETS|1,700.00|Bill|1,200.00|Amount "
+               "paid|500.00|Balance"},
+        {"22",
+         "300.00|LONG NAMED DRUG OF MANY|WORDS 500MG TABLETS|-50.00|DISCOUNT|250.00|GAUZE|500.00|Bill|700.00|Amount "
+         "paid|200.00|Credit"},
+        {"23", "-500.00|Bill|-700.00|Amount paid|200.00|Balance"},
+        {"24", "250.00|GAUZE|650.00|On account|900.00|Bill|900.00|Amount paid|0.00|Balance"},
+    };
+    QHash<QString, double> heights;
+    for (const auto& receipt : receipts) {
+        showCashReceipt(ws.program, receipt.number);
+        set("optRoll", "yes"); // the first time; it stays chosen
+        const Page page = ws.form("frmCashReceipt").page().value();
+        QStringList words;
+        for (const PageText& item : page.texts) {
+            words << item.text;
+            EXPECT_TRUE(item.x >= 4 && item.x + item.width <= 76 && item.y < page.heightMm) << item.text.toStdString();
+        }
+        EXPECT_EQ(page.widthMm, 80);
+        heights[receipt.number] = page.heightMm;
+        for (const QString& fact : {QString("P/0001"), QString(billNo), QString("ADEYEMI BOLA")})
+            EXPECT_TRUE(words.contains(fact)) << fact.toStdString();
+        const auto from = words.indexOf("CASH") + 1;
+        EXPECT_EQ(words.mid(from, words.indexOf("THE WORDS") - from).join('|'), receipt.words);
+    }
+    EXPECT_GT(heights["21"], heights["23"]) << "as long as what it says";
+    set("optA4", "yes");
+    EXPECT_EQ(ws.form("frmCashReceipt").page()->heightMm, 297);
+}
+
 TEST_P(CashReceipt, UnknownReceiptClosesAndANewOneTakesTheOldOnesPlace) {
     showCashReceipt(ws.program, "NONE");
     EXPECT_BOXES(ui, {"No Receipt to Generate!"});

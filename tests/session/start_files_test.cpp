@@ -1,4 +1,7 @@
 #include "session/StartFiles.h"
+
+#include "data/engine/ServerList.h"
+#include "session/Main.h"
 #include "support/TestUi.h"
 
 #include <QFile>
@@ -78,6 +81,35 @@ TEST_F(StartFiles, onlyTheMenuSectionTurnsEntriesOn) {
     write("orvane.ini", "mnuA = 1\n[server SERVER]\nmnuB = 1\n[Menu]\r\n; mnuC = 1\nmnuRct = 1 ; on\n"
                         "mnuDisc=0\nmnuBanks\nmnuMixed=1\n[server X]\nmnuD=1\n");
     EXPECT_EQ(readMenuEntriesTurnedOn(home.path()), (QSet<QString>{"mnurct", "mnumixed"}));
+}
+
+TEST_F(StartFiles, thePaperIsOneOfTwo) {
+    const struct {
+        const char* content;
+        const char* said; ///< "roll", "A4", or what the refusal says behind the file's name
+    } cases[] = {
+        {"", "A4"},
+        {"[Print]\nPaper = 80MM ; the till\n", "roll"},
+        {"[ print ]\npaper=80mm\n[menu]\npaper = A5\n", "roll"},
+        {"[print]\npaper = A4\n", "A4"},
+        {"[print]\npaper = A5\n", ", line 2: the paper \"A5\" is not known; it is A4 or 80mm."},
+        {"\n[print]\npapper = A4", ", line 3: the key \"papper\" is not known; [print] has paper = A4 or 80mm."},
+    };
+    for (const auto& each : cases) {
+        write("orvane.ini", each.content);
+        write("made.sys", "SVR=HALL1\n");
+        QString said;
+        try {
+            said = readRollPaper(home.path()) ? "roll" : "A4";
+            EXPECT_NO_THROW(ServerList{home.path()});
+        } catch (const DataError& fault) {
+            said = fault.description();
+            said.remove(home.filePath("orvane.ini"));
+            EXPECT_FALSE(Main(program, "amina.b"));
+            EXPECT_BOXES(ui, {fault.description()});
+        }
+        EXPECT_EQ(said, each.said);
+    }
 }
 
 TEST_F(StartFiles, aHomeThatCannotBeWrittenIsLockedElsewhere) {

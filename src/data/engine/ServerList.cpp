@@ -53,7 +53,7 @@ ServerList::ServerList(const QString& homeFolder) : m_homeFolder(homeFolder) {
         return;
     m_file = path;
     ServerEntry* entry = nullptr;
-    bool inMenu = false; // the section of the shell, which reads it by itself
+    bool elsewhere = false; // in a section that the program reads by itself
     int number = 0;
     for (const QString& raw : readTextLines(path)) {
         const QString line = withoutComment(raw);
@@ -62,14 +62,15 @@ ServerList::ServerList(const QString& homeFolder) : m_homeFolder(homeFolder) {
             continue;
         if (line.startsWith(u'[')) {
             const QString name = line.mid(1, line.size() - 2).trimmed();
-            inMenu = name.compare("menu", Qt::CaseInsensitive) == 0;
-            if (inMenu)
+            elsewhere =
+                name.compare("menu", Qt::CaseInsensitive) == 0 || name.compare("print", Qt::CaseInsensitive) == 0;
+            if (elsewhere)
                 continue;
             if (!line.endsWith(u']') || !name.startsWith("server ", Qt::CaseInsensitive))
                 throw DataError(QStringLiteral("%1: a section is written [server NAME].").arg(place));
             entry = &m_entries[name.mid(7).trimmed().toLower()];
             m_names += name.mid(7).trimmed();
-        } else if (inMenu) {
+        } else if (elsewhere) {
             continue;
         } else if (!entry || !line.contains(u'=')) {
             throw DataError(QStringLiteral("%1: \"key = value\" below a [server NAME] is expected.").arg(place));
