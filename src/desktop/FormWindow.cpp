@@ -88,7 +88,7 @@ QWidget* FormWindow::pageButtons() {
         preview, &QPushButton::clicked, this,
         [this] {
             if (m_form && m_form->page())
-                printing::preview(Document::of(*m_form->page()), this);
+                printing::preview(Document::of(*m_form->page()), {m_form->documentName(), this, m_view->memory()});
         });
     connect(save, &QPushButton::clicked, this, [this] {
         if (m_form && m_form->page())

@@ -2,6 +2,8 @@
 
 #include "desktop/Boxes.h"
 
+#include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QPainter>
@@ -39,11 +41,15 @@ QString proposedFile(const Job& job) {
 
 /// Empty: cancelled.
 QString askFile(const Job& job) {
-    QString file = QFileDialog::getSaveFileName(job.parent, "Save as PDF", proposedFile(job), "PDF (*.pdf)");
-    if (file.isEmpty())
-        return file;
+    QFileDialog dialog(job.parent, "Save as PDF", proposedFile(job), "PDF (*.pdf)");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // By the dialog itself, so that it asks about a file that is there.
+    dialog.setDefaultSuffix("pdf");
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    const QString file = dialog.selectedFiles().value(0);
     job.memory.keep(folderKey, QFileInfo(file).absolutePath());
-    return file.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive) ? file : file + ".pdf";
+    return file;
 }
 
 bool askPrinter(QPrinter& printer, const Job& job) {
@@ -102,13 +108,22 @@ void print(const Document& document, const Job& job) {
         sayFailed(job.parent);
 }
 
-void preview(const Document& document, QWidget* parent) {
+void preview(const Document& document, const Job& job) {
     QPrinter printer(QPrinter::HighResolution);
     setSheet(printer, sheetOf(document));
-    QPrintPreviewDialog dialog(&printer, parent);
+    QPrintPreviewDialog dialog(&printer, job.parent);
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
                      [&](QPrinter* target) { paintDocument(*target, document); });
-    dialog.exec();
+    const QString printText = QCoreApplication::translate("QPrintPreviewDialog", "Print");
+    for (QAction* action : dialog.findChildren<QAction*>()) {
+        if (action->text() != printText)
+            continue;
+        // The dialog's own way knows no proposed file and says nothing where no printer is set up.
+        QObject::disconnect(action, &QAction::triggered, nullptr, nullptr);
+        QObject::connect(action, &QAction::triggered, &dialog, &QDialog::accept);
+    }
+    if (dialog.exec() == QDialog::Accepted)
+        print(document, job);
 }
 
 void savePdf(const Document& document, const Job& job) {

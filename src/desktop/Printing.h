@@ -15,7 +15,8 @@ struct Job {
 };
 
 void print(const Document& document, const Job& job);
-void preview(const Document& document, QWidget* parent);
+/// Shows the sheets; printed from there as by print().
+void preview(const Document& document, const Job& job);
 void savePdf(const Document& document, const Job& job);
 
 /// Prints the picture of a window, as large as the paper allows.

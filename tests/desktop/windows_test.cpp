@@ -18,6 +18,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPrintPreviewDialog>
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QThread>
@@ -325,20 +326,33 @@ TEST_F(WindowsTest, WithoutAPrinterAPdfIsOfferedWhereTheLastOneWent) {
         GTEST_SKIP() << "this machine has a printer";
     QDir().mkpath(folder.filePath("receipts"));
     ui.windows().memory().keep("printing/folder", folder.filePath("receipts"));
+    QFile(folder.filePath("receipts/old.pdf")).open(QIODevice::WriteOnly);
     QStringList said;
     const auto answer = [&](QDialog& dialog) {
-        if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
-            said << box->text();
-            box->button(QMessageBox::Yes)->click();
-        } else if (auto* files = qobject_cast<QFileDialog*>(&dialog)) {
-            said << files->selectedFiles().value(0);
-            files->reject();
+        if (qobject_cast<QPrintPreviewDialog*>(&dialog)) {
+            for (QAction* action : dialog.findChildren<QAction*>())
+                if (action->text() == "Print")
+                    action->trigger();
+        } else if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
+            said << box->text().section('\n', 0, 0);
+            box->button(said.size() == 1 ? QMessageBox::Yes : QMessageBox::No)->click();
+        } else if (said.size() == 1) {
+            said << qobject_cast<QFileDialog*>(&dialog)->selectedFiles().value(0);
+            dialog.findChild<QLineEdit*>()->setText("old");
+            QMetaObject::invokeMethod(&dialog, &QDialog::accept, Qt::QueuedConnection);
+        } else if (said.size() == 3) {
+            dialog.reject();
         }
     };
     ui.show(receipt);
-    answering<QDialog>(answer, [&] { ui.printForm(receipt); });
+    const QList<QPushButton*> buttons = front()->findChildren<QPushButton*>();
+    answering<QDialog>(answer, [&] {
+        for (QPushButton* button : buttons)
+            if (button->text().contains("Print"))
+                button->click();
+    });
     EXPECT_EQ(said, (QStringList{"No printer is set up on this computer. Save the document as a PDF instead?",
-                                 folder.filePath("receipts/12-3 ADE.pdf")}));
+                                 folder.filePath("receipts/12-3 ADE.pdf"), "old.pdf already exists."}));
 }
 
 TEST_F(WindowsTest, MenusFollowTheirFormAndKeepTheirLetters) {
