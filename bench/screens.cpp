@@ -103,7 +103,7 @@ void heading(const QString& text) {
 class UnattendedDesktop : public DesktopUi {
 public:
     void box(const QString& text, Icon, const QString&) override { boxes << text; }
-    bool question(const QString&, const QString&, Consent) override { return false; }
+    bool question(const QString&, const QString&, Consent, const QString&) override { return false; }
     std::optional<QString> inputBox(const QString&, const QString&, const QString&) override { return {}; }
     void showModal(Form& form) override { windows().show(form); }
     void playSound(const QString&) override {}

@@ -137,6 +137,10 @@ void frmRecordsOffline::cmdDel_Click() {
          .question = "Are you sure to Delete Record",
          .title = "Delete",
          .consent = Consent::Destroys,
+         .detail =
+             [this] {
+                 return aboutLines({grdData.text("fullname"), "Visit " + grdData.text("consultID")});
+             },
          .step = [this](Books& books) { return deleteVisit(books, grdData.text("recID").toLongLong(), listedVisit()); },
          .follow =
              [this](const Saved&) {

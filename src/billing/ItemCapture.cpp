@@ -221,6 +221,13 @@ void ItemCapture::OKButton_Click() {
                  .allowed = [this] { return areLinesReady() && isBillOpen(); },
                  .question = "Are you sure to save?",
                  .title = "About to save",
+                 .detail =
+                     [this] {
+                         double amount = 0;
+                         for (const auto& item : entered().items)
+                             amount += item.subTotal;
+                         return aboutLines({session.sBillPatName, "Bill " + lblBill.text(), nairaText(amount)});
+                     },
                  .step = [this](Books& books) { return m_kind.save(books, entered()); },
                  .follow = [this](const Saved&) { unload(); }});
 }

@@ -187,7 +187,8 @@ void ItemCapture::OrderGridDrug_DblClick() {
         program.box("This row cannot be Deleted! Already in the Database");
         return;
     }
-    if (!program.question("Are you sure to Delete?", "Check before Delete", Consent::Destroys))
+    if (!program.question("Are you sure to Delete?", "Check before Delete", Consent::Destroys,
+                          aboutLines({cellText(row, Item), nairaText(amountIn(row, SubTotal))})))
         return;
     total -= amountIn(row, SubTotal);
     OrderGridDrug.removeRow(row);

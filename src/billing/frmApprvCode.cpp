@@ -143,6 +143,10 @@ void frmApprvCode::cmdDel_Click() {
                  .question = "Are you sure to Delete Record",
                  .title = "Delete",
                  .consent = Consent::Destroys,
+                 .detail =
+                     [this] {
+                         return aboutLines({m_visit.patient, "Code " + grdData.text("ApprvCode")});
+                     },
                  .step = [this, sno = qlonglong(grdData.number("SNO"))](Books& books) -> Given<Saved> {
                      deleteApprovalCode(books, m_visit.consultID, sno);
                      return Saved{};

@@ -100,6 +100,11 @@ void frmBillDiscount::OKButton_Click() {
                  .allowed = [this] { return isComplete() && isBillOpen(); },
                  .question = "Are you sure to save?",
                  .title = "About to save",
+                 .detail =
+                     [this] {
+                         return aboutLines({m_bill.patient, "Bill " + m_bill.consultID,
+                                            cboClinic.text() + ' ' + nairaText(amount())});
+                     },
                  .step = [this](Books& books) { return addBillDiscount(books, entered()); },
                  .follow =
                      [this](const Saved&) {

@@ -57,6 +57,7 @@ private:
     // Saving, with the receipt (frmBillingVerifySave.cpp).
     void OKButton_Click();
     bool isReadyToSave();
+    QString aboutBill() const; ///< for the question before a save
     bool isBillOpen();
     bool areDatesGiven();
     bool isReceiptComplete();

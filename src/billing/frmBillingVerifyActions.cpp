@@ -86,6 +86,7 @@ void frmBillingVerify::cmdCap_Click() {
                  .question = "Are you sure to Capitate all Items in this Bill",
                  .title = "Capitation",
                  .consent = Consent::Destroys,
+                 .detail = [this] { return aboutBill(); },
                  .step = [this](Books& books) { return capitateBill(books, m_bill); },
                  .follow =
                      [this](const Saved&) {

@@ -13,10 +13,11 @@ void frmBillingVerify::OKButton_Click() {
     // What follows may come when another receipt is in the frame.
     const auto receiptNo = std::make_shared<QString>();
     save<Saved>({.button = OKButton,
-                 .action = "COLLATED BILL",
+                 .action = chkRct.isChecked() ? "BILL WITH RECEIPT" : "COLLATED BILL",
                  .allowed = [this] { return isReadyToSave(); },
                  .question = "Are you sure to save?",
                  .title = "About to save",
+                 .detail = [this] { return aboutBill(); },
                  .prepare =
                      [this, receiptNo] {
                          const bool ready = prepareSave();
@@ -25,6 +26,12 @@ void frmBillingVerify::OKButton_Click() {
                      },
                  .step = [this](Books& books) { return saveBill(books, billToSave()); },
                  .follow = [this, receiptNo](const Saved&) { afterSave(*receiptNo); }});
+}
+
+QString frmBillingVerify::aboutBill() const {
+    return aboutLines({m_bill.patient, "Bill " + m_bill.consultID,
+                       "Bill payable " + nairaText(parseAmount(lblAmtDue.text()).value_or(0)),
+                       chkRct.isChecked() ? "Receipt " + nairaText(receipt.paid()) : QString()});
 }
 
 bool frmBillingVerify::isReadyToSave() {

@@ -128,6 +128,11 @@ void frmPriceAdjustVerify::cmdCancel_Click() {
                  .question = "Are you sure to Remove Bill Item",
                  .title = "Adjustment",
                  .consent = Consent::Destroys,
+                 .detail =
+                     [this] {
+                         return aboutLines(
+                             {session.sBillPatName, "Bill " + m_row.billNo, m_row.oldItem, nairaText(m_oldAmount)});
+                     },
                  .step = [this](Books& books) { return removeItem(books, m_row); },
                  .follow = [this, gone = m_row](const Saved&) { afterRemoval(gone); }});
 }

@@ -47,6 +47,13 @@ void setWords(QMessageBox& box, const QString& text) {
         box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
 
+/// A name of the database is no markup here either, which the box's own format leaves out.
+void setDetail(QMessageBox& box, const QString& detail) {
+    box.setInformativeText(detail);
+    for (QLabel* label : box.findChildren<QLabel*>())
+        label->setTextFormat(Qt::PlainText);
+}
+
 } // namespace
 
 void message(QWidget* parent, const QString& text, Icon icon, const QString& title) {
@@ -55,9 +62,10 @@ void message(QWidget* parent, const QString& text, Icon icon, const QString& tit
     box.exec();
 }
 
-bool question(QWidget* parent, const QString& text, const QString& title, Consent consent) {
+bool question(QWidget* parent, const QString& text, const QString& title, Consent consent, const QString& detail) {
     QMessageBox box(QMessageBox::Question, titleOf(title), {}, QMessageBox::Yes | QMessageBox::No, parent);
     setWords(box, text);
+    setDetail(box, detail);
     box.setDefaultButton(consent == Consent::Destroys ? QMessageBox::No : QMessageBox::Yes);
     box.setEscapeButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;

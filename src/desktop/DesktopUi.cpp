@@ -43,9 +43,9 @@ void DesktopUi::box(const QString& text, Icon icon, const QString& title) {
     boxes::message(m_windows.boxParent(), text, icon, title);
 }
 
-bool DesktopUi::question(const QString& text, const QString& title, Consent consent) {
+bool DesktopUi::question(const QString& text, const QString& title, Consent consent, const QString& detail) {
     const PointerPause pause;
-    return boxes::question(m_windows.boxParent(), text, title, consent);
+    return boxes::question(m_windows.boxParent(), text, title, consent, detail);
 }
 
 std::optional<QString> DesktopUi::inputBox(const QString& prompt, const QString& title, const QString& initial) {

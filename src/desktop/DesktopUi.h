@@ -17,7 +17,8 @@ public:
     Windows& windows() { return m_windows; }
 
     void box(const QString& text, Icon icon = Icon::None, const QString& title = {}) override;
-    bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps) override;
+    bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps,
+                  const QString& detail = {}) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& title = {},
                                     const QString& initial = {}) override;
     void show(Form& form) override;

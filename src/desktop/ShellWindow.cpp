@@ -50,6 +50,7 @@ void MenuBinding::refresh() {
     m_action->setVisible(m_item->isShown());
     m_action->setEnabled(m_item->isUsable());
     m_action->setToolTip(look::plainHint(m_item->toolTip()));
+    m_action->setStatusTip(m_item->toolTip());
 }
 
 bool ShellWindow::isShell(const Form& form) {
@@ -159,7 +160,9 @@ void ShellWindow::buildStatusBar() {
         auto* box = new QHBoxLayout(row);
         box->setContentsMargins(0, 0, look::spacing, 0);
         box->setSpacing(2 * look::spacing);
-        (new StatusBinding(*m_strip, static_cast<StatusBar&>(*control), row))->refreshNow();
+        auto* binding = new StatusBinding(*m_strip, static_cast<StatusBar&>(*control), row);
+        binding->refreshNow();
+        statusBar()->addWidget(binding->message(), 1);
         statusBar()->addPermanentWidget(row);
     }
 }

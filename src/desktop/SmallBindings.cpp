@@ -269,6 +269,11 @@ StatusBinding::StatusBinding(FormView& view, StatusBar& bar, QWidget* row) : Bin
         row->layout()->addWidget(label);
         m_panels << label;
     }
+    m_message = new QLabel(row);
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setAccessibleDescription("What was saved last");
+    // A long text must not push the main window wider.
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
 void StatusBinding::refresh() {
@@ -277,6 +282,8 @@ void StatusBinding::refresh() {
         m_panels.at(panel)->setText(text);
         m_panels.at(panel)->setVisible(!text.isEmpty());
     }
+    m_message->setText(m_bar->message());
+    m_message->setToolTip(look::plainHint(m_bar->message()));
 }
 
 TimerBinding::TimerBinding(FormView& view, Timer& timer) : Binding(view, timer, nullptr), m_timer(&timer) {

@@ -214,6 +214,7 @@ class StatusBinding : public Binding {
 public:
     /// `row`: the widget in whose layout the panels stand.
     StatusBinding(FormView& view, StatusBar& bar, QWidget* row);
+    QLabel* message() const { return m_message; } ///< stands where its owner puts it
 
 protected:
     void refresh() override;
@@ -222,6 +223,7 @@ protected:
 private:
     StatusBar* m_bar;
     QVector<QLabel*> m_panels;
+    QLabel* m_message;
 };
 
 class TimerBinding : public Binding {

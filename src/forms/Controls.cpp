@@ -244,6 +244,11 @@ void StatusBar::setPanel(int number, const QString& text) {
     touch();
 }
 
+void StatusBar::setMessage(const QString& text) {
+    m_message = text;
+    touch();
+}
+
 void Timer::tick() {
     if (isEnabled())
         raise(onTimer);

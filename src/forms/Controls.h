@@ -331,10 +331,14 @@ public:
     int panels() const { return int(m_panels.size()); }
     QString panel(int number) const { return m_panels.at(number - 1); }
     void setPanel(int number, const QString& text);
+    /// What has just happened, beside the panels and no part of the value.
+    const QString& message() const { return m_message; }
+    void setMessage(const QString& text);
     QString valueText() const override { return m_panels.join(QLatin1Char('|')); }
 
 private:
     QStringList m_panels;
+    QString m_message;
 };
 
 /// Raises onTimer each interval while enabled; the desktop ticks it, the script player on demand.

@@ -24,7 +24,9 @@ public:
 
     /// A message with an OK button; an empty title shows the program's name. Returns when it was read.
     virtual void box(const QString& text, Icon icon = Icon::None, const QString& title = {}) = 0;
-    virtual bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps) = 0;
+    /// `detail`: whose and how much the question is about, shown below its text.
+    virtual bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps,
+                          const QString& detail = {}) = 0;
     /// Empty optional: cancelled.
     virtual std::optional<QString> inputBox(const QString& prompt, const QString& title = {},
                                             const QString& initial = {}) = 0;

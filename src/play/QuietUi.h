@@ -16,7 +16,9 @@ public:
     void setClock(const QDateTime& at) { m_clock = at; }
 
     void box(const QString& text, Icon icon = Icon::None, const QString& title = {}) override;
-    bool question(const QString&, const QString& = {}, Consent = Consent::Keeps) override { return true; }
+    bool question(const QString&, const QString& = {}, Consent = Consent::Keeps, const QString& = {}) override {
+        return true;
+    }
     std::optional<QString> inputBox(const QString&, const QString& = {}, const QString& = {}) override { return {}; }
     void show(Form&) override {}
     void showModal(Form& form) override;

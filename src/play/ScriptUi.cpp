@@ -13,7 +13,7 @@ void ScriptUi::box(const QString& text, Icon icon, const QString& title) {
     m_log.box(icon, title, text);
 }
 
-bool ScriptUi::question(const QString& text, const QString& title, Consent) {
+bool ScriptUi::question(const QString& text, const QString& title, Consent, const QString&) {
     const std::optional<Answer> answer = takeAnswer(Answer::Yes, Answer::No, "question " + EventLog::quoted(text));
     if (!answer)
         return false;

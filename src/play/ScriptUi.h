@@ -34,7 +34,8 @@ public:
     Form* modalForm() const { return m_modal.isEmpty() ? nullptr : m_modal.last(); }
 
     void box(const QString& text, Icon icon = Icon::None, const QString& title = {}) override;
-    bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps) override;
+    bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps,
+                  const QString& detail = {}) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& title = {},
                                     const QString& initial = {}) override;
     void show(Form& form) override;

@@ -202,6 +202,10 @@ void frmReceiptDeposit::OKButton_Click() {
                    .allowed = [this] { return isComplete(); },
                    .question = "Are you sure to save?",
                    .title = "About to save",
+                   .detail =
+                       [this] {
+                           return aboutLines({Label5.text(), "Bill " + lblBill.text(), nairaText(nairaIn(txtHt))});
+                       },
                    .prepare =
                        [this] {
                            session.gConsultID = lblBill.text();

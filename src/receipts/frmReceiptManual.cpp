@@ -183,6 +183,12 @@ void frmReceiptManual::OKButton_Click() {
                    .allowed = [this] { return isComplete() && isBillOpen(); },
                    .question = "Are you sure to save? Please Confirm Receipt Date before Saving",
                    .title = "About to save",
+                   .detail =
+                       [this] {
+                           const auto visit = visits.cboVehNo.picked<ListedVisit>().value_or(ListedVisit{});
+                           return aboutLines({visit.patient, "Bill " + lblBill.text(),
+                                              "Receipt " + txtRct.text().trimmed(), nairaText(nairaIn(txtHt))});
+                       },
                    .prepare =
                        [this] {
                            session.gConsultID = lblBill.text();

@@ -282,6 +282,10 @@ void frmReceiptTemp::OKButton_Click() {
                    .allowed = [this] { return isComplete(); },
                    .question = "Are you sure to save?",
                    .title = "About to save",
+                   .detail =
+                       [this] {
+                           return aboutLines({Label5.text(), "Bill " + m_billNo, nairaText(nairaIn(txtHt))});
+                       },
                    .prepare =
                        [this] {
                            session.gConsultID = m_billNo;

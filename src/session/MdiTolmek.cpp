@@ -15,6 +15,11 @@ MdiTolmek::MdiTolmek(Program& owner) : Screen(owner, "MdiTolmek", "Billing : Orv
     Frame1.holds({&lblServer, &lblDate, &lblTime});
     buildMenus();
     Picture1.onDblClick = [this] { Picture1_DblClick(); };
+    program.onSaved = [this](const QString& words) { SbrTolmek.setMessage(words); };
+}
+
+MdiTolmek::~MdiTolmek() {
+    program.onSaved = {};
 }
 
 /// The hospital is named at the left; the clock stands in the middle of the strip, cmdView at its right edge.

@@ -11,6 +11,7 @@ namespace orvane {
 class MdiTolmek : public Screen {
 public:
     explicit MdiTolmek(Program& owner);
+    ~MdiTolmek() override;
 
     Layout layout() const override;
     void Form_Load() override;

@@ -137,9 +137,9 @@ void Program::flushBoxes() {
         box(text);
 }
 
-bool Program::question(const QString& text, const QString& title, Consent consent) {
+bool Program::question(const QString& text, const QString& title, Consent consent, const QString& detail) {
     ORVANE_ASSERT(!isInTransaction());
-    return m_ui.question(text, title, consent);
+    return m_ui.question(text, title, consent, detail);
 }
 
 } // namespace orvane

@@ -60,7 +60,11 @@ public:
     /// As box, but a message that comes up while a transaction is open shows after it has ended, from flushBoxes.
     void boxAfterTransaction(const QString& text);
     void flushBoxes();
-    bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps);
+    /// As Ui::question. Asserts that no transaction is open.
+    bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps,
+                  const QString& detail = {});
+    /// Hears what was saved last, in words; the shell shows it.
+    std::function<void(const QString& words)> onSaved;
 
     // Shared routines of the session (session/*.cpp).
     /// The server's date and time from qrySysDateTime; invalid when the view is empty. A fault is shown and gives the

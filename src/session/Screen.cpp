@@ -43,7 +43,8 @@ bool Screen::passes(std::initializer_list<Check> checks) {
 bool Screen::saveErased(const AnySave& wanted) {
     if (settlesSave() || (wanted.allowed && !wanted.allowed()))
         return false;
-    if (!wanted.question.isEmpty() && !program.question(wanted.question, wanted.title, wanted.consent))
+    if (!wanted.question.isEmpty() &&
+        !program.question(wanted.question, wanted.title, wanted.consent, wanted.detail ? wanted.detail() : QString()))
         return false;
     if (wanted.prepare && !wanted.prepare())
         return false;
@@ -64,12 +65,19 @@ std::optional<Refusal> Screen::runStep(const AnySave& wanted) {
         const std::optional<Refusal> refusal = wanted.step();
         ui().setBusy(false);
         if (!refusal)
-            entrySaved();
+            keepSaved(wanted.words());
         return refusal;
     } catch (const CommitUnknown& fault) {
-        m_openSave = {fault.ticket(), wanted.follow, lockAllBut(wanted.button)};
+        m_openSave = {fault.ticket(), wanted.words, wanted.follow, lockAllBut(wanted.button)};
         throw CommitUnknown(unknownText, fault.statement(), fault.ticket());
     }
+}
+
+/// What was entered is in the database, and its words stay readable whatever follows.
+void Screen::keepSaved(const QString& words) {
+    entrySaved();
+    if (program.onSaved && !words.isEmpty())
+        program.onSaved(words);
 }
 
 bool Screen::settlesSave() {
@@ -85,7 +93,7 @@ bool Screen::settlesSave() {
         control->setEnabled(true);
     program.box(outcome == CommitOutcome::Saved ? savedText : notSavedText);
     if (outcome == CommitOutcome::Saved) {
-        entrySaved();
+        keepSaved(settled.words());
         doAfterSave(settled.follow);
     }
     return true;

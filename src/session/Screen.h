@@ -2,6 +2,7 @@
 
 #include "books/Desk.h"
 #include "session/Program.h"
+#include "session/SaveWords.h"
 
 namespace orvane {
 
@@ -21,7 +22,8 @@ struct Save {
     std::function<bool()> allowed = {}; ///< the checks in their order; says itself what fails
     QString question = {}, title = {};  ///< asked when all checks have passed; no question without a text
     Consent consent = Consent::Keeps;   ///< what a Yes to it does
-    std::function<bool()> prepare = {}; ///< what comes between the answer and the transaction; false stops
+    std::function<QString()> detail = {};      ///< whose, which document, how much: below the question
+    std::function<bool()> prepare = {};        ///< what comes between the answer and the transaction; false stops
     std::function<Given<Result>(Books&)> step; ///< what is written, in one transaction
     std::function<void(const Result&)> follow; ///< once it is saved. It must live off what it is given and holds
     std::function<void(Refusal)> refused = {}; ///< when the step refused; unset: its words in a box
@@ -42,23 +44,32 @@ protected:
     /// press looks it up. True: it was saved now.
     template <typename Result>
     bool save(const Save<Result>& wanted) {
-        const auto result = std::make_shared<std::optional<Given<Result>>>();
-        return saveErased({.button = wanted.button,
-                           .allowed = wanted.allowed,
-                           .question = wanted.question,
-                           .title = wanted.title,
-                           .consent = wanted.consent,
-                           .prepare = wanted.prepare,
-                           .step = [this, &wanted, result]() -> std::optional<Refusal> {
-                               const auto kept = [&](Books& books) {
-                                   result->emplace(wanted.step(books));
-                                   return **result;
-                               };
-                               const Given<Result> given = program.desk().template save<Result>(wanted.action, kept);
-                               return given ? std::nullopt : std::optional(given.refusal());
-                           },
-                           .follow = [follow = wanted.follow, result] { follow(***result); },
-                           .refused = wanted.refused});
+        struct Outcome {
+            std::optional<Given<Result>> given;
+            QString document;
+            double amount = 0;
+        };
+        const auto result = std::make_shared<Outcome>();
+        return saveErased(
+            {.button = wanted.button,
+             .allowed = wanted.allowed,
+             .question = wanted.question,
+             .title = wanted.title,
+             .detail = wanted.detail,
+             .prepare = wanted.prepare,
+             .step = [this, &wanted, result]() -> std::optional<Refusal> {
+                 const auto kept = [&](Books& books) {
+                     result->given.emplace(wanted.step(books));
+                     result->document = books.document();
+                     result->amount = books.amount();
+                     return *result->given;
+                 };
+                 const Given<Result> given = program.desk().template save<Result>(wanted.action, kept);
+                 return given ? std::nullopt : std::optional(given.refusal());
+             },
+             .words = [action = wanted.action, result] { return savedWords(action, result->document, result->amount); },
+             .follow = [follow = wanted.follow, result] { follow(**result->given); },
+             .refused = wanted.refused});
     }
 
     /// Says the first check that failed and puts the focus there. True: none did.
@@ -79,20 +90,24 @@ private:
         std::function<bool()> allowed;
         QString question, title;
         Consent consent;
+        std::function<QString()> detail;
         std::function<bool()> prepare;
         std::function<std::optional<Refusal>()> step;
+        std::function<QString()> words; ///< what was saved
         std::function<void()> follow;
         std::function<void(Refusal)> refused;
     };
     /// A save of which nobody knows whether the database has it.
     struct OpenSave {
         CommitTicket ticket;
+        std::function<QString()> words;
         std::function<void()> follow;
         QList<Control*> locked; ///< until it is known
     };
 
     bool saveErased(const AnySave& wanted);
     std::optional<Refusal> runStep(const AnySave& wanted);
+    void keepSaved(const QString& words);
     QList<Control*> lockAllBut(const Control& button);
 
     std::optional<OpenSave> m_openSave;

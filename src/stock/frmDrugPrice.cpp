@@ -118,6 +118,10 @@ void frmDrugPrice::OKButton_Click() {
                  .allowed = [this] { return isComplete(); },
                  .question = "Are you sure to update",
                  .title = "Check before updating",
+                 .detail =
+                     [this] {
+                         return aboutLines({txtDrug.text(), nairaText(parseAmount(lblPrice.text()).value_or(0))});
+                     },
                  .step =
                      [this](Books& books) {
                          return changeDrugPrice(books, {.drug = txtDrug.text(),

@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -367,6 +368,12 @@ TEST_F(WindowsTest, MenusFollowTheirFormAndKeepTheirLetters) {
     for (const QPushButton* button : front()->findChildren<QPushButton*>())
         EXPECT_FALSE(reserved.contains(Mnemonics::asked(button->text()))) << qPrintable(button->text());
 
+    const QList<QLabel*> labels = ui.windows().shell()->findChildren<QLabel*>();
+    shell.status.setMessage("Receipt 12 of N5.00 saved");
+    settleEvents();
+    EXPECT_TRUE(std::any_of(labels.cbegin(), labels.cend(), [](const QLabel* label) {
+        return label->isVisible() && label->text() == "Receipt 12 of N5.00 saved";
+    }));
     MenuBinding* entry = menu(shell.mnuRct);
     const QString shown = entry->action()->text();
     EXPECT_FALSE(Mnemonics::asked(shown).isNull());
@@ -453,6 +460,13 @@ TEST_F(WindowsTest, BoxesShowPlainWordsAndEscIsNo) {
     answering<QMessageBox>(
         enter, [&] { EXPECT_TRUE(ui.question("Are you sure to save?")); });
     answering<QMessageBox>(enter, [&] { EXPECT_FALSE(ui.question("Are you sure to Delete?", {}, Consent::Destroys)); });
+    const auto yes = [](QMessageBox& box) {
+        EXPECT_EQ(box.informativeText(), "<i>ADE</i>\nN5.00");
+        for (const QLabel* label : box.findChildren<QLabel*>())
+            EXPECT_EQ(label->textFormat(), Qt::PlainText) << qPrintable(label->text());
+        box.button(QMessageBox::Yes)->click();
+    };
+    answering<QMessageBox>(yes, [&] { EXPECT_TRUE(ui.question("Exit?", {}, Consent::Keeps, "<i>ADE</i>\nN5.00")); });
     const auto given = [](QInputDialog& dialog) {
         EXPECT_EQ(dialog.textValue(), "5");
         dialog.setTextValue("7");

@@ -116,6 +116,8 @@ TEST_P(ReceiptEntry, AnOverpaidBillTakesNoMore) {
     layVisit();
     layBill(1000);
     receive("1200");
+    EXPECT_EQ(ui.details, QStringList{"ADEYEMI BOLA\nBill 001OFL0000001\nN1,200.00"});
+    EXPECT_EQ(ws.control<StatusBar>("MdiTolmek.SbrTolmek").message(), "Receipt 1 of N1,200.00 saved");
     begin();
     EXPECT_EQ(value("txtEmp"), "-200.00");
     expectChecks({{"txtHt", "10", noRefund}, {"chkRev", "yes", noRecord}, {"txtHt", "-200", noRecord}});

@@ -19,7 +19,7 @@ public:
 
     WalkUi() { setClock(QDateTime(QDate(2026, 3, 14), QTime(9, 30))); }
     void box(const QString& text, Icon, const QString&) override { boxes << text; }
-    bool question(const QString&, const QString&, Consent) override { return yes(); }
+    bool question(const QString&, const QString&, Consent, const QString&) override { return yes(); }
     std::optional<QString> inputBox(const QString&, const QString&, const QString&) override { return answer(); }
     void showModal(Form& form) override;
     QString exportFolder() const override { return m_documents.path(); }

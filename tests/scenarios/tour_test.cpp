@@ -1,5 +1,6 @@
 // The tour that ./run.sh shows, without its windows, and every action that moves money: they go through with the rights
 // that are told to a server's owner, leave books that agree, and no screen writes a row by itself.
+#include "data/words/Money.h"
 #include "play/HeadlessDriver.h"
 #include "play/Player.h"
 #include "screens/Screens.h"
@@ -87,6 +88,26 @@ TEST(Tour, GoesThroughByTheBooksAndTheyAgree) {
     runTool({"check", "--home", home}, 0);
 }
 
+/// The status bar names what the action has saved, and how much; the question before it said whose.
+void expectTold(Workstation& ws, const MoneyAction& action) {
+    static const QStringList withoutSave = {"Collation", "Role", "RoleOfUser"};
+    if (withoutSave.contains(action.name))
+        return;
+    const QString words = ws.control<StatusBar>("MdiTolmek.SbrTolmek").message();
+    bool told = false;
+    Connection billing = ws.billing();
+    for (Recordset saved(billing, Sql("select document, amount from SavedActions")); !saved.eof(); saved.moveNext()) {
+        const double amount = saved.number("amount");
+        const QString document = saved.text("document");
+        told = told || (words.contains(document) && !words.startsWith(document) &&
+                        (amount == 0 || words.contains('N' + formatTwoDecimals(std::abs(amount)))));
+    }
+    EXPECT_TRUE(told) << words.toStdString();
+    if (action.asks == QLatin1String("yes"))
+        EXPECT_TRUE(ws.ui.details.value(ws.ui.details.size() - 1).contains('\n'))
+            << ws.ui.details.join('|').toStdString();
+}
+
 class Rights : public ::testing::TestWithParam<Engine> {};
 ORVANE_ON_EACH_ENGINE(Rights);
 
@@ -109,6 +130,7 @@ TEST_P(Rights, AreEnoughForEveryActionAndItWritesByTheBooksAlone) {
         const QStringList shown = takeShown(ws.ui);
         EXPECT_TRUE(action.isReportedBy(shown)) << shown.join(" / ").toStdString();
         EXPECT_NE(moneyFigures(ws), before);
+        expectTold(ws, action);
         EXPECT_EQ(checkDatabases(ws.program).findings, QStringList());
     }
 }

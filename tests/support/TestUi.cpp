@@ -33,7 +33,8 @@ std::optional<TestUi::Answer> TestUi::takeAnswer(const QString& asked) {
     return answer;
 }
 
-bool TestUi::question(const QString& text, const QString&, Consent) {
+bool TestUi::question(const QString& text, const QString&, Consent, const QString& detail) {
+    details << detail;
     const std::optional<Answer> answer = takeAnswer(text);
     if (answer && answer->kind != Answer::Yes && answer->kind != Answer::No)
         ADD_FAILURE() << "a question is answered yes or no: " << text.toStdString();

@@ -48,6 +48,7 @@ public:
     QStringList printed; ///< names of forms printed
     QList<Report> reports;
     QStringList sounds;
+    QStringList details; ///< of the questions
     QStringList exports;
     bool hasQuit = false;
     QDateTime clock = QDateTime(QDate(2026, 3, 14), QTime(9, 30)); ///< the workstation's
@@ -55,7 +56,8 @@ public:
     void box(const QString& text, Icon icon = Icon::None, const QString& title = {}) override {
         m_boxes.append({text, title, icon});
     }
-    bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps) override;
+    bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps,
+                  const QString& detail = {}) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& title = {},
                                     const QString& initial = {}) override;
     void show(Form& form) override { opened << form.name(); }
