@@ -406,7 +406,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
     QApplication application(argc, argv);
-    orvane::look::apply(application);
+    orvane::look::apply(application, false);
     QApplication::setQuitOnLastWindowClosed(false);
     QCommandLineParser parser;
     parser.setApplicationDescription("Measures the windows on a large hospital.");

@@ -134,9 +134,10 @@ int main(int argc, char** argv) {
     }
     QApplication application(argc, argv);
     nameProgram();
-    look::apply(application);
     // The program ends when its last form has closed, not in the moment between two of them.
     QApplication::setQuitOnLastWindowClosed(false);
     const Options options = readOptions(application);
+    // The pictures of a script are alike on every desktop.
+    look::apply(application, options.play.isEmpty() && look::isDesktopDark());
     return options.play.isEmpty() ? runDesktop(options) : playOnWindows(options);
 }

@@ -181,7 +181,7 @@ void ComboBinding::refresh() {
     m_combo->lineEdit()->setReadOnly(m_box->isLocked());
     QPalette palette;
     if (m_box->isLocked())
-        palette.setColor(QPalette::Base, look::readOnly());
+        palette.setColor(QPalette::Base, look::color(look::Tone::ReadOnly));
     m_combo->setPalette(palette);
     if (m_searching)
         return;

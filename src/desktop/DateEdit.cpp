@@ -49,12 +49,12 @@ std::optional<QDate> DateEdit::parse(const QString& text) {
 DateEdit::DateEdit(QWidget* parent) : QWidget(parent), m_line(new QLineEdit(this)), m_button(new QToolButton(this)) {
     m_line->setPlaceholderText("dd/mm/yyyy");
     m_line->setMaxLength(10);
-    m_line->setFixedSize(look::charactersWidth(*m_line, 14), look::lineHeight);
+    m_line->setFixedSize(look::charactersWidth(*m_line, 14), look::lineHeight());
     m_line->installEventFilter(this);
     m_button->setArrowType(Qt::DownArrow);
     m_button->setFocusPolicy(Qt::NoFocus);
     m_button->setAccessibleName("Calendar");
-    m_button->setFixedHeight(look::lineHeight);
+    m_button->setFixedHeight(look::lineHeight());
     auto* box = new QHBoxLayout(this);
     box->setContentsMargins(0, 0, 0, 0);
     box->setSpacing(0);

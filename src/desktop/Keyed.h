@@ -66,7 +66,7 @@ private:
 class WordButton : public Keyed<QPushButton, QStyle::SE_PushButtonContents, QStyleOptionButton> {
 public:
     using Keyed::Keyed;
-    QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo({narrowest, look::lineHeight}); }
+    QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo({narrowest, look::lineHeight()}); }
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 private:

@@ -91,7 +91,7 @@ QWidget* LayoutBuilder::control(const Layout& item, Place place) {
     const bool line = item.control->kind() == ControlKind::ComboBox ||
                       (item.control->kind() == ControlKind::TextBox && !isMultiline(*item.control));
     if (line)
-        widget->setMinimumHeight(place == Place::Plain ? look::lineHeight : 0);
+        widget->setMinimumHeight(place == Place::Plain ? look::lineHeight() : 0);
     if (line && place == Place::Plain) {
         if (item.characters > 0)
             widget->setFixedWidth(look::charactersWidth(*widget, item.characters) + 22);
@@ -205,7 +205,7 @@ void LayoutBuilder::fieldFlow(QGridLayout& grid, int row, QVector<Layout> items,
     items.first().kind = Layout::Cell;
     grid.addLayout(flow(items), row, 1, 1, columns);
     QLabel* text = label(first, m_view.bindingOf(*first.control)->editor());
-    text->setMinimumHeight(look::lineHeight);
+    text->setMinimumHeight(look::lineHeight());
     grid.addWidget(text, row, 0, Qt::AlignTop);
     grid.setColumnStretch(columns - 1, std::max(1, grid.columnStretch(columns - 1)));
 }

@@ -1,5 +1,6 @@
 #include "desktop/PagePreview.h"
 
+#include "desktop/Look.h"
 #include "desktop/PagePainter.h"
 
 #include <QPainter>
@@ -46,7 +47,7 @@ QRect PagePreview::paper() const {
 
 void PagePreview::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(0xdf, 0xe4, 0xe8));
+    painter.fillRect(rect(), look::color(look::Tone::Around));
     const QRect sheet = paper();
     const double ratio = devicePixelRatioF();
     if (m_drawn.size() != sheet.size() * ratio) {

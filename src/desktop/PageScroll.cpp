@@ -10,7 +10,9 @@ namespace orvane {
 
 namespace {
 
-constexpr int lowestPage = 5 * look::lineHeight;
+int lowestPage() {
+    return 5 * look::lineHeight();
+}
 
 } // namespace
 
@@ -44,7 +46,7 @@ QSize PageScroll::sizeHint() const {
 
 QSize PageScroll::minimumSizeHint() const {
     const QSize least = widget()->minimumSizeHint();
-    return {least.width() + verticalScrollBar()->sizeHint().width(), std::min(least.height(), lowestPage)};
+    return {least.width() + verticalScrollBar()->sizeHint().width(), std::min(least.height(), lowestPage())};
 }
 
 } // namespace orvane

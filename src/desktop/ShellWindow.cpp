@@ -76,7 +76,7 @@ ShellWindow::ShellWindow(Form& form, bool scripted, int timerSpeed) : m_form(&fo
     box->addWidget(m_strip);
     box->addWidget(m_area, 1);
     setCentralWidget(middle);
-    m_area->setBackground(QColor(0xdf, 0xe4, 0xe8));
+    m_area->setBackground(look::color(look::Tone::Around));
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     buildMenus();

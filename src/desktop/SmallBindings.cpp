@@ -60,8 +60,10 @@ void LabelBinding::refresh() {
     if (text.size() > m_longestLine)
         m_text->setWordWrap(true);
     QPalette palette;
-    if (const auto color = m_label->color())
+    if (const auto color = m_label->color()) {
         palette.setColor(QPalette::Window, QColor(QRgb(*color)));
+        palette.setColor(QPalette::WindowText, look::inkOn(QColor(QRgb(*color))));
+    }
     m_text->setPalette(palette);
     m_text->setAutoFillBackground(m_label->color().has_value());
 }

@@ -22,7 +22,7 @@ namespace {
 void showLocked(QWidget& widget, bool locked) {
     QPalette palette;
     if (locked)
-        palette.setColor(QPalette::Base, look::readOnly());
+        palette.setColor(QPalette::Base, look::color(look::Tone::ReadOnly));
     widget.setPalette(palette);
 }
 

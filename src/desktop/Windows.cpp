@@ -360,7 +360,9 @@ bool Windows::savePicture(const QString& file) {
     if (!main)
         return false;
     refreshNow();
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    // What was refreshed may lay itself out anew, which only the next round does.
+    for (int round = 0; round < 2; ++round)
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     QPixmap picture = main->grab();
     QPainter painter(&picture);
     for (const Entry& entry : std::as_const(m_entries)) {

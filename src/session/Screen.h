@@ -55,6 +55,7 @@ protected:
              .allowed = wanted.allowed,
              .question = wanted.question,
              .title = wanted.title,
+             .consent = wanted.consent,
              .detail = wanted.detail,
              .prepare = wanted.prepare,
              .step = [this, &wanted, result]() -> std::optional<Refusal> {
