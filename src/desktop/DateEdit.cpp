@@ -1,6 +1,7 @@
 #include "desktop/DateEdit.h"
 
 #include "desktop/Look.h"
+#include "desktop/UnreadMark.h"
 
 #include <QCalendarWidget>
 #include <QFrame>
@@ -20,6 +21,10 @@ namespace orvane {
 namespace {
 
 const QString dateFormat = "dd/MM/yyyy";
+QString notADate(const QString& text) {
+    return QStringLiteral("“%1” is not a date (day/month/year).").arg(text);
+}
+
 const QDate firstDate(1900, 1, 1), lastDate(2199, 12, 31);
 
 } // namespace
@@ -84,7 +89,7 @@ bool DateEdit::settle() {
 
 void DateEdit::typed(const QString& text) {
     const std::optional<QDate> date = parse(text);
-    look::mark(*m_line, "invalid", !date && text.size() == m_line->maxLength());
+    markUnread(*m_line, !date && text.size() == m_line->maxLength() ? notADate(text) : QString());
     // A shorter one, and an emptied field, is only taken over when its user is done with it: he may be about to type
     // on.
     static const QRegularExpression whole("[-/. ][0-9]{4}\\s*$");
@@ -96,11 +101,10 @@ void DateEdit::finish() {
     if (m_line->isReadOnly())
         return;
     const std::optional<QDate> date = parse(m_line->text());
-    look::mark(*m_line, "invalid", !date);
+    const QString fault = date ? QString() : notADate(m_line->text());
+    markUnread(*m_line, fault);
     if (!date) {
-        QToolTip::showText(m_line->mapToGlobal(QPoint(0, m_line->height())),
-                           look::plainHint(QStringLiteral("“%1” is not a date (day/month/year).").arg(m_line->text())),
-                           m_line);
+        QToolTip::showText(m_line->mapToGlobal(QPoint(0, m_line->height())), look::plainHint(fault), m_line);
         return;
     }
     take(*date);
@@ -115,7 +119,7 @@ void DateEdit::take(QDate date) {
 }
 
 void DateEdit::showText() {
-    look::mark(*m_line, "invalid", false);
+    markUnread(*m_line, {});
     const QString text = m_date.toString(dateFormat);
     if (m_line->text() != text)
         m_line->setText(text);

@@ -73,7 +73,7 @@ QLabel[large="true"], QLineEdit[large="true"] { font-weight: bold; color: @figur
 QFrame[card="true"] { background: @card; border: 1px solid @edge; border-radius: 5px; }
 QFrame[rule="true"] { background: @ink; border: none; max-height: 1px; min-height: 1px; }
 QLineEdit[flat="true"] { border: none; background: transparent; font-weight: bold; padding: 0; }
-QLineEdit[invalid="true"] { border: 1px solid @error; border-radius: 2px; background: @errorBack; padding: 2px; }
+QLineEdit[invalid="true"] { border: 2px dashed @error; background: @errorBack; padding: 1px; }
 QTableView, QTreeView, QListView { border: 1px solid @headEdge; padding: 1px; }
 QTableView:focus, QTreeView:focus, QListView:focus { border: 2px solid @accent; padding: 0; }
 QPushButton { padding: 4px 7px; }

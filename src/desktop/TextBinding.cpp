@@ -3,6 +3,7 @@
 #include "data/words/Money.h"
 #include "desktop/FormView.h"
 #include "desktop/Look.h"
+#include "desktop/UnreadMark.h"
 #include "desktop/WorkedOut.h"
 
 #include <QKeyEvent>
@@ -62,7 +63,8 @@ void LineBinding::typed(const QString& text) {
 void LineBinding::refresh() {
     // A number that cannot be read is marked at once, as a date is.
     const QString number = m_box->isNumeric() && !m_box->isLocked() ? m_box->text().trimmed() : QString();
-    look::mark(*m_line, "invalid", !number.isEmpty() && !parseAmount(number) && !workedOut(number));
+    const bool unread = !number.isEmpty() && !parseAmount(number) && !workedOut(number);
+    markUnread(*m_line, unread ? QStringLiteral("“%1” is not a number.").arg(number) : QString());
 
     const bool flat = m_place != Place::Plain && m_box->isLocked();
     look::mark(*m_line, "flat", flat);

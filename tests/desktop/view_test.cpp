@@ -137,6 +137,7 @@ TEST_F(ViewTest, ADateCanBeEmptyAndNeverBecomesWhatIsNoDate) {
     type(form.dtDate, "31/02/2026");
     EXPECT_EQ(form.dtDate.date(), QDate(2026, 3, 4));
     EXPECT_TRUE(line(form.dtDate)->property("invalid").toBool());
+    EXPECT_EQ(line(form.dtDate)->accessibleDescription(), "“31/02/2026” is not a date (day/month/year).");
     focus(form.txtName);
     EXPECT_EQ(line(form.dtDate)->text(), "31/02/2026") << "the mistake stays in sight";
     events();
@@ -173,6 +174,7 @@ TEST_F(ViewTest, ANumberThatCannotBeReadIsMarkedAtOnceAndEasyToTypeOver) {
         type(form.txtAmt0, QString::fromLatin1(typed));
         const bool number = QStringList{"5,000.50", "", "-3"}.contains(QLatin1String(typed));
         EXPECT_EQ(widget(form.txtAmt0)->property("invalid").toBool(), !number) << typed;
+        EXPECT_EQ(!widget(form.txtAmt0)->toolTip().isEmpty(), !number) << "words beside the colour";
     }
     form.cmdSave.onClick = [this] { form.txtAmt0.setFocus(); };
     press(form.cmdSave);
