@@ -113,8 +113,9 @@ ButtonBinding::ButtonBinding(FormView& view, Button& button, QWidget* parent)
 }
 
 void ButtonBinding::refresh() {
-    view().mnemonics().captionChanged(m_mnemonic, m_button->caption());
-    m_push->setAccessibleName(Mnemonics::plain(m_button->caption()));
+    const QString waiting = m_button->count() > 0 ? QStringLiteral(" (%L1)").arg(m_button->count()) : QString();
+    view().mnemonics().captionChanged(m_mnemonic, m_button->caption() + waiting);
+    m_push->setAccessibleName(Mnemonics::plain(m_button->caption()) + waiting);
 }
 
 FrameBinding::FrameBinding(FormView& view, Frame& frame, QGroupBox* box)
@@ -246,6 +247,7 @@ PictureBinding::PictureBinding(FormView& view, Picture& picture, QWidget* parent
     : Binding(view, picture, new PictureBox(parent)), m_picture(&picture), m_box(static_cast<PictureBox*>(widget())) {}
 
 void PictureBinding::refresh() {
+    m_box->setAccessibleName(m_picture->toolTip());
     m_box->setColor(m_picture->color());
     m_box->setFile(m_picture->file());
 }

@@ -254,6 +254,13 @@ void Timer::tick() {
         raise(onTimer);
 }
 
+void Button::setCount(int count) {
+    if (m_count == count)
+        return;
+    m_count = count;
+    touch();
+}
+
 MenuItem::MenuItem(Form& form, const QString& name, const QString& caption, MenuItem* menu)
     : Control(form, ControlKind::Menu, name), m_menu(menu) {
     setCaption(caption);

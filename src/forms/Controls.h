@@ -232,6 +232,12 @@ public:
         : Button(form, name, caption) {
         onClick = handlerOf(form, handler);
     }
+    int count() const { return m_count; }
+    /// How many wait behind the button, which a window shows after its caption; 0: nothing to say.
+    void setCount(int count);
+
+private:
+    int m_count = 0;
 };
 
 /// A box around controls; its enabled and visible flags reach them. Controls join by Frame::holds.

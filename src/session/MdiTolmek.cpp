@@ -15,6 +15,8 @@ MdiTolmek::MdiTolmek(Program& owner) : Screen(owner, "MdiTolmek", "Billing : Orv
     Frame1.holds({&lblServer, &lblDate, &lblTime});
     buildMenus();
     Picture1.onDblClick = [this] { Picture1_DblClick(); };
+    Picture1.setToolTip("Flashes while patients from the doctor wait. A double click silences the alert, or lets it "
+                        "sound again.");
     program.onSaved = [this](const QString& words) { SbrTolmek.setMessage(words); };
 }
 
@@ -85,6 +87,7 @@ void MdiTolmek::checkWaitingVisits() {
         const Recordset waiting(connection,
                                 Sql("SELECT Fullname,Date,Time,Client from vwhConsultingVisitsForBilling where date='")
                                     << session.gServerDate << "' order by fullname ");
+        cmdView.setCount(waiting.count());
         tmrMDI.setEnabled(!waiting.eof());
         tmrSound.setEnabled(!waiting.eof());
     }
@@ -109,8 +112,10 @@ void MdiTolmek::tmrSound_Timer() {
 void MdiTolmek::Picture1_DblClick() {
     const bool silence = session.bFirstShow;
     session.bFirstShow = !session.bFirstShow;
-    if (silence)
+    if (silence) {
         Picture1.setColor(restColor);
+        cmdView.setCount(0); // nobody counts any more
+    }
     Timer1.setEnabled(!silence);
     tmrMDI.setEnabled(!silence);
     tmrSound.setEnabled(!silence);

@@ -95,6 +95,11 @@ TEST(TimersTest, TheDoctorsAlertComesByItself) {
     const Control* alert = program.form("MdiTolmek").find("tmrMDI");
     EXPECT_FALSE(alert->isEnabled());
     EXPECT_TRUE(QTest::qWaitFor([&] { return alert->isEnabled(); }));
+    const FormView* strip = ui.windows().shell()->view();
+    const auto* button = strip->findChild<QPushButton*>("cmdView");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return button->accessibleName() == "Patients from Doctor (1)"; }));
+    EXPECT_EQ(Mnemonics::plain(button->text()), button->accessibleName());
+    EXPECT_FALSE(strip->findChild<QWidget*>("Picture1")->accessibleName().isEmpty());
     program.form("MdiTolmek").abandon();
 }
 
