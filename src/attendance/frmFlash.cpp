@@ -28,6 +28,7 @@ void frmFlash::Form_Load() {
     DTPicker2.setDate(session.gServerDate);
     dGexp.hide({"pno"});
     dGexp.setFormat("Debt", "#,##;(#,##0)");
+    dGexp.setSummed("Debt", true);
     dGexp.setWidth("Fullname", 36);
     dGexp.setWidth("Date", 12);
     dGexp.setWidth("Time", 8);

@@ -1,8 +1,10 @@
 #include "desktop/FormView.h"
 
 #include "desktop/Boxes.h"
+#include "desktop/GridBinding.h"
 #include "desktop/LayoutBuilder.h"
 #include "desktop/SmallBindings.h"
+#include "desktop/TableView.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -208,11 +210,30 @@ Button* FormView::refreshButton() const {
     return nullptr;
 }
 
+/// The one with the focus, or else the first in sight; null: there is none.
+TableView* FormView::listInHand() const {
+    TableView* first = nullptr;
+    for (Binding* binding : m_bindings) {
+        const auto* grid = qobject_cast<GridBinding*>(binding);
+        if (!grid || !grid->table()->isVisible())
+            continue;
+        if (grid->table()->hasFocus())
+            return grid->table();
+        first = first ? first : grid->table();
+    }
+    return first;
+}
+
 bool FormView::takesKey(const QKeyEvent& event) {
     const bool save = event.matches(QKeySequence::Save);
     if (m_form && (save || event.key() == Qt::Key_F5)) {
         if (Button* button = save ? m_form->saveButton() : refreshButton())
             press(*button);
+        return true;
+    }
+    if (m_form && event.matches(QKeySequence::Find)) {
+        if (TableView* list = listInHand())
+            Q_EMIT list->findWanted();
         return true;
     }
     const bool plain = event.modifiers() == Qt::NoModifier || event.modifiers() == Qt::KeypadModifier;

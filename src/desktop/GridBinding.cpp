@@ -1,12 +1,33 @@
 #include "desktop/GridBinding.h"
 
 #include "desktop/FormView.h"
+#include "desktop/GridMenu.h"
 #include "desktop/GridModel.h"
 #include "desktop/TableView.h"
+#include "forms/Form.h"
+#include "reports/Workbook.h"
 
 #include <QKeyEvent>
+#include <QMenu>
 
 namespace orvane {
+
+namespace {
+
+/// What is seen of the table, in the order of the view.
+Sheet sheetOf(const TableModel& table) {
+    Sheet sheet;
+    for (int column = 0; column < table.columnCount(); ++column)
+        if (!table.isColumnHidden(column))
+            sheet.columns.append(
+                {column, table.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), table.format(column)});
+    sheet.rows = table.rowCount();
+    sheet.value = [&table](int row, int column) { return table.value(row, column); };
+    sheet.shown = [&table](int row, int column) { return table.index(row, column).data().toString(); };
+    return sheet;
+}
+
+} // namespace
 
 GridBinding::GridBinding(FormView& view, Grid& grid, QWidget* parent)
     : GridBinding(view, grid, parent, new GridModel(grid, nullptr)) {}
@@ -16,11 +37,15 @@ GridBinding::GridBinding(FormView& view, EntryGrid& grid, QWidget* parent)
 
 GridBinding::GridBinding(FormView& view, Control& grid, QWidget* parent, TableModel* model)
     : Binding(view, grid, new TableView(parent)), m_model(model), m_table(static_cast<TableView*>(widget())),
-      m_seen(grid.contentRevision()) {
+      m_seen(grid.contentRevision()), m_memoryKey(grid.form().name() + '/' + grid.name() + "/columns") {
     m_model->setParent(this);
     m_table->setTable(m_model);
+    if (grid.onDblClick)
+        m_table->setAccessibleDescription("Enter opens the row");
+    m_table->columns().setChoice(ColumnChoice::of(view.memory().value(m_memoryKey)));
     connect(m_table, &TableView::rowPicked, this, &GridBinding::pick);
     connect(m_table, &TableView::rowOpened, this, &GridBinding::open);
+    connect(m_table, &TableView::menuWanted, this, &GridBinding::openMenu);
 }
 
 int GridBinding::currentRow() const {
@@ -69,6 +94,30 @@ void GridBinding::open(int viewRow) {
     if (m_model->controlRow(viewRow) != currentRow())
         pick(viewRow);
     press([this] { control()->dblClick(); });
+}
+
+void GridBinding::released() {
+    const ColumnChoice& choice = m_table->columns().choice();
+    if (choice != ColumnChoice::of(view().memory().value(m_memoryKey)))
+        view().memory().keep(m_memoryKey, choice.toVariant());
+}
+
+void GridBinding::openMenu(QPoint place) {
+    if (!control())
+        return;
+    QMenu* menu = makeGridMenu(*this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(place);
+}
+
+void GridBinding::exportRows() {
+    user([this] {
+        Ui& ui = control()->form().ui();
+        m_model->readAll();
+        const QString file = exportFileName(ui.exportFolder(), control()->form().caption(), ui.now());
+        exportWorkbook(sheetOf(*m_model), file);
+        ui.exported(file);
+    });
 }
 
 bool GridBinding::eventFilter(QObject* watched, QEvent* event) {

@@ -19,11 +19,16 @@ public:
     TableModel* model() const { return m_model; }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    /// Saves the rows as the view has them, in a workbook in the user's documents, and opens it.
+    void exportRows();
+
 protected:
     void refresh() override;
+    void released() override;
 
 private:
     GridBinding(FormView& view, Control& grid, QWidget* parent, TableModel* model);
+    void openMenu(QPoint place);
     int currentRow() const;
     void pick(int viewRow);
     void open(int viewRow);
@@ -32,6 +37,7 @@ private:
     TableModel* m_model;
     TableView* m_table;
     unsigned m_seen;
+    QString m_memoryKey;
 };
 
 } // namespace orvane

@@ -30,6 +30,18 @@ void sortByKey(std::vector<int>& order, const std::vector<Key>& keys, Qt::SortOr
 
 } // namespace
 
+bool TableModel::isColumnHidden(int column) const {
+    const auto seen = [this](int which) {
+        return !isHiddenByForm(which) && !m_hiddenByUser.contains(columnName(which));
+    };
+    if (isHiddenByForm(column) || seen(column))
+        return !seen(column);
+    for (int other = 0; other < columnCount(); ++other)
+        if (seen(other))
+            return true;
+    return false;
+}
+
 QString TableModel::spoken(int viewRow) const {
     QStringList words;
     for (int column = 0; column < columnCount(); ++column) {
@@ -47,9 +59,11 @@ GridModel::GridModel(Grid& grid, QObject* parent) : TableModel(parent), m_grid(&
 void GridModel::readColumns() {
     m_rows = m_grid->rowsRead();
     m_columns.clear();
+    m_names.clear();
     m_numbers.clear();
     for (int column = 0; column < m_grid->columnCount(); ++column) {
         m_columns << m_grid->columnHead(column);
+        m_names << m_grid->columnName(column).toLower();
         m_numbers.push_back(m_grid->isNumber(column));
     }
 }
@@ -135,8 +149,8 @@ int GridModel::viewRow(int controlRow) const {
     return m_places.empty() || controlRow < 0 ? controlRow : m_places.at(std::size_t(controlRow));
 }
 
-bool GridModel::isColumnHidden(int column) const {
-    return m_grid && m_grid->isHidden(column);
+bool GridModel::isHiddenByForm(int column) const {
+    return m_grid && column < m_grid->columnCount() && m_grid->isHidden(column);
 }
 
 int GridModel::wishedCharacters(int column) const {
@@ -168,15 +182,18 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     return text.size() > longText ? QVariant(look::plainHint(text)) : QVariant();
 }
 
-std::optional<double> GridModel::total(int column) const {
-    const bool amounts = m_grid && column < m_grid->columnCount() && m_numbers[std::size_t(column)] &&
-                         m_grid->format(column).contains(QLatin1String(".00"));
-    if (!amounts || m_grid->hasMore())
-        return std::nullopt;
-    double sum = 0;
-    for (int row = 0; row < m_grid->rowsRead(); ++row)
-        sum += m_grid->value(row, column).toDouble();
-    return round2(sum);
+bool GridModel::isSummed(int column) const {
+    return m_grid && column < m_grid->columnCount() && m_numbers[std::size_t(column)] && m_grid->isSummed(column);
+}
+
+QVariant GridModel::value(int viewRow, int column) const {
+    const int row = controlRow(viewRow);
+    const bool there = m_grid && row < m_grid->rowsRead() && column < m_grid->columnCount();
+    return there ? m_grid->value(row, column) : QVariant();
+}
+
+QString GridModel::format(int column) const {
+    return m_grid && column < m_grid->columnCount() ? m_grid->format(column) : QString();
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -220,13 +237,16 @@ QVariant EntryGridModel::data(const QModelIndex& index, int role) const {
     return {};
 }
 
-std::optional<double> EntryGridModel::total(int column) const {
-    if (!m_grid || !m_grid->isMoney(column))
-        return std::nullopt;
-    double sum = 0;
-    for (int row = 1; row < m_grid->rows(); ++row)
-        sum += parseAmount(m_grid->cell(row, column)).value_or(0);
-    return round2(sum);
+QString EntryGridModel::columnName(int column) const {
+    return m_grid && column < m_grid->columns() ? m_grid->head(column).toLower() : QString();
+}
+
+QVariant EntryGridModel::value(int viewRow, int column) const {
+    if (!m_grid || viewRow + 1 >= m_grid->rows() || column >= m_grid->columns())
+        return {};
+    const QString text = m_grid->cell(viewRow + 1, column);
+    const std::optional<double> amount = m_grid->isMoney(column) ? parseAmount(text) : std::nullopt;
+    return amount ? QVariant(*amount) : QVariant(text);
 }
 
 QVariant EntryGridModel::headerData(int section, Qt::Orientation orientation, int role) const {

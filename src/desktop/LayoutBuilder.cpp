@@ -1,6 +1,7 @@
 #include "desktop/LayoutBuilder.h"
 
 #include "data/Assert.h"
+#include "desktop/FindLine.h"
 #include "desktop/FlowLayout.h"
 #include "desktop/FormView.h"
 #include "desktop/GridBinding.h"
@@ -118,7 +119,8 @@ QWidget* LayoutBuilder::withTotals(GridBinding& grid) {
     box->setContentsMargins(0, 0, 0, 0);
     box->setSpacing(2);
     box->addWidget(grid.widget(), 1);
-    box->addWidget(new TotalsLine(*grid.model(), both));
+    box->addWidget(new FindLine(*grid.table(), both));
+    box->addWidget(new TotalsLine(*grid.table(), both));
     grid.addCompanion(both);
     return both;
 }

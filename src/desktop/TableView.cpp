@@ -4,26 +4,19 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QScopedValueRollback>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <algorithm>
 
 namespace orvane {
 
-namespace {
-
-constexpr int sampledRows = 60;
-constexpr int widestColumn = 340; ///< pixels; a remark of a page must not push the amounts out of sight
-constexpr int cellPadding = 12;
-
-} // namespace
-
 TableView::TableView(QWidget* parent) : QTableView(parent) {
     setSelectionBehavior(SelectRows);
-    setSelectionMode(SingleSelection);
+    setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setAlternatingRowColors(true);
     setShowGrid(false);
@@ -34,20 +27,15 @@ TableView::TableView(QWidget* parent) : QTableView(parent) {
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 7);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setMinimumSectionSize(24);
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] { m_widthsByHand |= !m_sizing; });
+    horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(horizontalHeader(), &QWidget::customContextMenuRequested, this,
+            [this](QPoint place) { Q_EMIT menuWanted(horizontalHeader()->mapToGlobal(place)); });
 }
 
 void TableView::setTable(TableModel* model) {
     m_table = model;
     setModel(model);
-    if (model->canSort()) {
-        horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-        setSortingEnabled(true);
-    }
-    hideColumns();
-    sizeColumns();
+    m_columns.setTable(*model);
 }
 
 QSize TableView::sizeHint() const {
@@ -61,13 +49,7 @@ void TableView::reload() {
         const QSignalBlocker quiet(selectionModel());
         m_table->reload();
     }
-    if (m_table->columnCount() != columns)
-        m_widthsByHand = false;
-    if (m_table->canSort() && !m_table->isSorted())
-        horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    hideColumns();
-    if (!m_widthsByHand)
-        sizeColumns();
+    m_columns.reload();
     const bool sameList = m_table->columnCount() == columns && std::abs(m_table->rowCount() - rows) <= 1;
     horizontalScrollBar()->setValue(sameList ? place.x() : 0);
     verticalScrollBar()->setValue(sameList ? place.y() : 0);
@@ -79,12 +61,9 @@ void TableView::showCurrent(int row) {
         clearSelection();
         selectionModel()->setCurrentIndex({}, QItemSelectionModel::Clear);
     } else if (row != currentIndex().row() || !selectionModel()->isRowSelected(row)) {
-        int column = 0;
-        while (column < m_table->columnCount() - 1 && isColumnHidden(column))
-            ++column;
         const QPoint place(horizontalScrollBar()->value(), verticalScrollBar()->value());
         const bool another = currentIndex().isValid() && row != currentIndex().row();
-        const QModelIndex index = m_table->index(row, column);
+        const QModelIndex index = m_table->index(row, m_columns.firstShown());
         selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         if (another)
             scrollTo(index);
@@ -93,6 +72,7 @@ void TableView::showCurrent(int row) {
         horizontalScrollBar()->setValue(place.x());
     }
     viewport()->update();
+    Q_EMIT markedChanged();
 }
 
 void TableView::showRow(int row) {
@@ -104,27 +84,59 @@ void TableView::showRow(int row) {
     horizontalScrollBar()->setValue(across);
 }
 
-/// The heads and the chosen row as a spreadsheet takes them.
-void TableView::copyRow() const {
-    QStringList heads, cells;
+void TableView::pick(const QModelIndex& index) {
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(index);
+    Q_EMIT rowPicked(index.row());
+}
+
+QVector<int> TableView::markedRows() const {
+    QVector<int> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows << row;
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+void TableView::copyRows() const {
+    const QVector<int> rows = markedRows();
+    if (rows.isEmpty())
+        return;
+    static const QRegularExpression breaks("[\t\n\r]");
+    QVector<QStringList> lines(rows.size() + 1);
     for (int column = 0; column < m_table->columnCount(); ++column) {
-        if (isColumnHidden(column))
+        if (m_table->isColumnHidden(column))
             continue;
-        heads << m_table->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        cells << m_table->index(currentIndex().row(), column).data().toString().replace(QLatin1Char('\t'), ' ');
+        lines[0] << m_table->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        for (qsizetype i = 0; i < rows.size(); ++i)
+            lines[i + 1] << m_table->index(rows.at(i), column).data().toString().replace(breaks, " ");
     }
-    QApplication::clipboard()->setText(heads.join('\t') + QLatin1Char('\n') + cells.join('\t') + QLatin1Char('\n'));
+    QString text;
+    for (const QStringList& line : std::as_const(lines))
+        text += line.join('\t') + QLatin1Char('\n');
+    QApplication::clipboard()->setText(text);
+}
+
+/// The current row is always one of the marked ones: what a screen would act on is never out of sight.
+void TableView::keepCurrentMarked() {
+    const QVector<int> rows = markedRows();
+    if (rows.isEmpty() || rows.contains(currentIndex().row()))
+        return;
+    selectionModel()->setCurrentIndex(m_table->index(rows.last(), m_columns.firstShown()),
+                                      QItemSelectionModel::NoUpdate);
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
-        if (currentIndex().isValid())
-            copyRow();
+        copyRows();
         return;
     }
     const int row = currentIndex().row();
     const bool plain = event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier;
-    if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if ((plain && enter) || event->matches(QKeySequence::Find)) {
         // Who shows this view says whether Enter opens a row or presses the form's default button.
         event->ignore();
         return;
@@ -135,19 +147,27 @@ void TableView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QTableView::keyPressEvent(event);
+    keepCurrentMarked();
     if (currentIndex().isValid() && currentIndex().row() != row)
         Q_EMIT rowPicked(currentIndex().row());
 }
 
 void TableView::mousePressEvent(QMouseEvent* event) {
     m_opened = false;
+    m_rowBefore = currentIndex().row();
     QTableView::mousePressEvent(event);
+    // What the menu of a right click acts on is the row that the screen acts on.
+    if (event->button() == Qt::RightButton && currentIndex().isValid() && currentIndex().row() != m_rowBefore)
+        Q_EMIT rowPicked(currentIndex().row());
 }
 
 void TableView::mouseReleaseEvent(QMouseEvent* event) {
     QTableView::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && !m_opened && currentIndex().isValid() &&
-        indexAt(event->position().toPoint()).isValid())
+    if (event->button() != Qt::LeftButton || m_opened)
+        return;
+    keepCurrentMarked();
+    const bool onRow = indexAt(event->position().toPoint()).isValid();
+    if (currentIndex().isValid() && (onRow || currentIndex().row() != m_rowBefore))
         Q_EMIT rowPicked(currentIndex().row());
 }
 
@@ -158,57 +178,28 @@ void TableView::mouseDoubleClickEvent(QMouseEvent* event) {
         Q_EMIT rowOpened(index.row());
 }
 
+void TableView::contextMenuEvent(QContextMenuEvent* event) {
+    const QPoint cell = visualRect(currentIndex()).bottomLeft();
+    Q_EMIT menuWanted(event->reason() == QContextMenuEvent::Keyboard ? viewport()->mapToGlobal(cell)
+                                                                     : event->globalPos());
+}
+
 void TableView::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
-    if (!m_widthsByHand)
-        shareSlack();
+    m_columns.fillWidth();
 }
 
-int TableView::contentWidth(int column) const {
-    QFont bold = font();
-    bold.setBold(true);
-    const QString head = m_table->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-    int width = QFontMetrics(bold).horizontalAdvance(head) + cellPadding;
-    if (const int characters = m_table->wishedCharacters(column))
-        return std::max(width, fontMetrics().averageCharWidth() * characters + cellPadding);
-    const int rows = std::min(m_table->rowCount(), sampledRows);
-    for (int row = 0; row < rows; ++row) {
-        const QString text = m_table->data(m_table->index(row, column), Qt::DisplayRole).toString();
-        width = std::max(width, fontMetrics().horizontalAdvance(text) + cellPadding);
-    }
-    return std::min(width, widestColumn);
+/// Ctrl with a key that moves, as Ctrl+End, goes there as the key alone does.
+QItemSelectionModel::SelectionFlags TableView::selectionCommand(const QModelIndex& index, const QEvent* event) const {
+    const auto* key = event && event->type() == QEvent::KeyPress ? static_cast<const QKeyEvent*>(event) : nullptr;
+    if (key && key->modifiers() == Qt::ControlModifier && key->key() != Qt::Key_Space)
+        return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    return QTableView::selectionCommand(index, event);
 }
 
-/// The header tells of a hidden column as of one that was dragged to nothing.
-void TableView::hideColumns() {
-    const QScopedValueRollback<bool> sizing(m_sizing, true);
-    for (int column = 0; column < m_table->columnCount(); ++column)
-        setColumnHidden(column, m_table->isColumnHidden(column));
-}
-
-void TableView::sizeColumns() {
-    m_widths.clear();
-    for (int column = 0; column < m_table->columnCount(); ++column)
-        m_widths << (isColumnHidden(column) ? 0 : contentWidth(column));
-    shareSlack();
-}
-
-void TableView::shareSlack() {
-    const QScopedValueRollback<bool> sizing(m_sizing, true);
-    int total = 0, widest = -1;
-    for (int column = 0; column < int(m_widths.size()); ++column) {
-        if (isColumnHidden(column))
-            continue;
-        total += m_widths.at(column);
-        const QVariant side = m_table->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
-        const bool text = (side.toInt() & Qt::AlignRight) == 0;
-        if (text && (widest < 0 || m_widths.at(column) > m_widths.at(widest)))
-            widest = column;
-    }
-    const int slack = std::max(0, viewport()->width() - total);
-    for (int column = 0; column < int(m_widths.size()); ++column)
-        if (!isColumnHidden(column))
-            setColumnWidth(column, m_widths.at(column) + (column == widest ? slack : 0));
+void TableView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTableView::selectionChanged(selected, deselected);
+    Q_EMIT markedChanged();
 }
 
 } // namespace orvane

@@ -2,41 +2,60 @@
 
 #include "data/words/Money.h"
 #include "desktop/GridModel.h"
+#include "desktop/TableView.h"
+
+#include <numeric>
 
 namespace orvane {
 
-namespace {
-
-/// A price and a number of units come to nothing in sum.
-bool isSummed(const QString& head) {
-    static const QStringList never = {"UnitPrice", "Price", "No Of Units", "Qty"};
-    return !never.contains(head, Qt::CaseInsensitive);
-}
-
-} // namespace
-
-TotalsLine::TotalsLine(TableModel& model, QWidget* parent) : QLabel(parent), m_model(model) {
+TotalsLine::TotalsLine(TableView& table, QWidget* parent) : QLabel(parent), m_table(table) {
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setWordWrap(true);
     setAccessibleName("Totals");
-    connect(&model, &QAbstractItemModel::modelReset, this, &TotalsLine::sumUp);
-    connect(&model, &QAbstractItemModel::rowsInserted, this, &TotalsLine::sumUp);
-    sumUp();
+    connect(table.table(), &QAbstractItemModel::rowsInserted, this, &TotalsLine::sumUpAll);
+    connect(&table.columns(), &GridColumns::arranged, this, &TotalsLine::sumUpAll);
+    connect(&table, &TableView::markedChanged, this, &TotalsLine::sumUpMarked);
+    sumUpAll();
 }
 
-void TotalsLine::sumUp() {
-    QStringList totals;
-    for (int column = 0; column < m_model.columnCount(); ++column) {
-        const QString head = m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        if (m_model.isColumnHidden(column) || !isSummed(head))
+/// "Bill 7,500.00     AmountPaid 900.00" for what is seen; empty without a column of amounts.
+QString TotalsLine::sums(const QVector<int>& rows) const {
+    const TableModel& model = *m_table.table();
+    QStringList sums;
+    for (int column = 0; column < model.columnCount(); ++column) {
+        if (model.isColumnHidden(column) || !model.isSummed(column))
             continue;
-        if (const std::optional<double> total = m_model.total(column))
-            totals << head + ' ' + formatTwoDecimals(*total);
+        const double sum = std::accumulate(rows.cbegin(), rows.cend(), 0.0,
+                                           [&](double so, int row) { return so + model.amount(row, column); });
+        sums << model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString() + ' ' +
+                    formatTwoDecimals(round2(sum));
     }
-    const bool any = !totals.isEmpty() && m_model.rowCount() > 0;
-    setText(any ? QStringLiteral("Total of all %L1 rows:   %2").arg(m_model.rowCount()).arg(totals.join("     "))
-                : QString());
-    setVisible(any);
+    return sums.join("     ");
+}
+
+void TotalsLine::sumUpAll() {
+    const TableModel& model = *m_table.table();
+    m_all.clear();
+    if (model.hasMore() && !sums({}).isEmpty()) {
+        m_all = QStringLiteral("%L1 rows so far; the total comes when all are read").arg(model.rowCount());
+    } else if (model.rowCount() > 0) {
+        QVector<int> rows(model.rowCount());
+        std::iota(rows.begin(), rows.end(), 0);
+        m_all = sums(rows);
+        if (!m_all.isEmpty())
+            m_all.prepend(QStringLiteral("Total of all %L1 rows:   ").arg(model.rowCount()));
+    }
+    sumUpMarked();
+}
+
+void TotalsLine::sumUpMarked() {
+    const QVector<int> rows = m_all.isEmpty() ? QVector<int>() : m_table.markedRows();
+    QString text = m_all;
+    if (rows.size() > 1)
+        text.prepend(QStringLiteral("%L1 marked:   %2     |     ").arg(rows.size()).arg(sums(rows)));
+    setText(text);
+    setVisible(!text.isEmpty());
 }
 
 } // namespace orvane

@@ -4,20 +4,23 @@
 
 namespace orvane {
 
-class TableModel;
+class TableView;
 
-/// The line below a list with amounts: how many rows it has and what its amounts come to. Hidden for any other list, and
-/// while rows are still to come.
+/// The line below a list with amounts: how many rows it has and what its amounts come to, and the same of several rows
+/// that are marked. Hidden for any other list; while rows are still to come it says so and gives no sum of a part.
 class TotalsLine : public QLabel {
     Q_OBJECT
 
 public:
-    TotalsLine(TableModel& model, QWidget* parent);
+    TotalsLine(TableView& table, QWidget* parent);
 
 private:
-    void sumUp();
+    void sumUpAll();
+    void sumUpMarked();
+    QString sums(const QVector<int>& rows) const;
 
-    TableModel& m_model;
+    TableView& m_table;
+    QString m_all; ///< what is said of all rows
 };
 
 } // namespace orvane

@@ -27,6 +27,12 @@ QString asPeopleReadDates(const QString& text) {
     return text;
 }
 
+/// A price and a number of units come to nothing in sum.
+bool addsUp(const QString& head) {
+    static const QStringList never = {"UnitPrice", "Price", "Cost", "No Of Units", "Qty"};
+    return !never.contains(head, Qt::CaseInsensitive);
+}
+
 } // namespace
 
 void Grid::load(const Recordset& rows) {
@@ -104,6 +110,16 @@ void Grid::setWidth(const QString& column, int characters) {
 
 int Grid::width(int column) const {
     return m_looks.value(columnName(column).toLower()).width;
+}
+
+bool Grid::isSummed(int column) const {
+    const bool amounts = format(column).contains(QLatin1String(".00")) && addsUp(columnName(column));
+    return m_looks.value(columnName(column).toLower()).summed.value_or(amounts);
+}
+
+void Grid::setSummed(const QString& column, bool summed) {
+    m_looks[column.toLower()].summed = summed;
+    touchContent();
 }
 
 bool Grid::isNumber(int column) const {
@@ -240,6 +256,10 @@ bool EntryGrid::isMoney(int column) const {
 void EntryGrid::setMoney(const QList<int>& columns) {
     m_money = columns;
     touchContent();
+}
+
+bool EntryGrid::isSummed(int column) const {
+    return isMoney(column) && addsUp(head(column));
 }
 
 QString EntryGrid::valueText() const {

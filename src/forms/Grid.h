@@ -34,6 +34,10 @@ public:
     QString format(int column) const;
     void setWidth(const QString& column, int characters); ///< 0: from the content
     int width(int column) const;
+    /// Whether the column's amounts come to something in sum: those with two decimals do, but for a price of one unit;
+    /// a screen that knows better says so.
+    bool isSummed(int column) const;
+    void setSummed(const QString& column, bool summed);
     bool isNumber(int column) const; ///< right aligned: every value of the first rows is a number
 
     int currentRow() const { return m_row; }
@@ -53,6 +57,7 @@ private:
         QString format;
         int width = 0;
         QString head;
+        std::optional<bool> summed;
     };
     Recordset m_rows;
     QHash<QString, ColumnLook> m_looks; ///< by lower-cased name
@@ -84,6 +89,7 @@ public:
     void selectRow(int row);                 ///< as the user's click
     bool isMoney(int column) const;
     void setMoney(const QList<int>& columns); ///< shown right aligned
+    bool isSummed(int column) const;          ///< money, but no price of one unit and no number of units
     QString valueText() const override;
 
 private:

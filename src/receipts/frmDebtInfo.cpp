@@ -83,6 +83,7 @@ void frmDebtInfo::search() {
         sql << "select  * from vwhpatients where fullname like '" << text << "%'  order by fullname";
     }
     beginSearch();
+    grdData.setSummed("Debt", true);
     const Recordset found = Recordset::paged(program.openBilling(), sql);
     grdData.load(found);
     if (!found.eof())
@@ -118,6 +119,7 @@ void frmDebtInfo::loadStatement() {
     }
     const bool whole = !m_isAuto || chkAll.isChecked();
     Connection connection = program.openBilling();
+    grdData.setSummed("Debt", false); // each row has what was owed by then
     grdData.load(Recordset(connection, whole ? searchStatement() : autoStatement()));
 }
 

@@ -24,7 +24,7 @@ lxw_format* columnFormat(lxw_workbook* book, const QString& look) {
 }
 
 struct SheetColumn {
-    int gridColumn;
+    int number;
     lxw_format* format;
     int width; ///< characters
 };
@@ -39,12 +39,10 @@ QDate cellDate(const QVariant& value) {
 }
 
 /// Writes one cell; gives the characters that it shows.
-int writeCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t column, const Grid& grid, int gridRow,
+int writeCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t column, const QVariant& value, const QString& shown,
               const SheetColumn& look, lxw_format* dateFormat) {
-    const QVariant value = grid.value(gridRow, look.gridColumn);
     if (value.isNull())
         return 0;
-    const QString shown = grid.cellText(gridRow, look.gridColumn);
     const QDate date = cellDate(value);
     if (date.isValid()) {
         lxw_datetime day = {date.year(), date.month(), date.day(), 0, 0, 0};
@@ -58,39 +56,57 @@ int writeCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t column, const Grid&
     return int(shown.size());
 }
 
-QVector<SheetColumn> writeHeads(lxw_workbook* book, lxw_worksheet* sheet, const Grid& grid) {
+QVector<SheetColumn> writeHeads(lxw_workbook* book, lxw_worksheet* page, const Sheet& sheet) {
     lxw_format* bold = workbook_add_format(book);
     format_set_bold(bold);
     QVector<SheetColumn> columns;
-    for (int column = 0; column < grid.columnCount(); ++column) {
-        if (grid.isHidden(column))
-            continue;
-        const QString name = grid.columnName(column);
-        worksheet_write_string(sheet, 0, lxw_col_t(columns.size()), name.toUtf8().constData(), bold);
-        columns.append({column, columnFormat(book, grid.format(column)), int(name.size())});
+    for (const Sheet::Column& column : sheet.columns) {
+        worksheet_write_string(page, 0, lxw_col_t(columns.size()), column.head.toUtf8().constData(), bold);
+        columns.append({column.number, columnFormat(book, column.format), int(column.head.size())});
     }
     return columns;
+}
+
+void writeRows(lxw_workbook* book, lxw_worksheet* page, const Sheet& sheet, QVector<SheetColumn>& columns) {
+    lxw_format* dateFormat = workbook_add_format(book);
+    format_set_num_format(dateFormat, "dd/mm/yyyy");
+    for (int row = 0; row < sheet.rows; ++row)
+        for (qsizetype i = 0; i < columns.size(); ++i) {
+            SheetColumn& column = columns[i];
+            const int shown = writeCell(page, lxw_row_t(row + 1), lxw_col_t(i), sheet.value(row, column.number),
+                                        sheet.shown(row, column.number), column, dateFormat);
+            column.width = std::max(column.width, shown);
+        }
+}
+
+Sheet sheetOf(const Grid& grid) {
+    Sheet sheet;
+    for (int column = 0; column < grid.columnCount(); ++column)
+        if (!grid.isHidden(column))
+            sheet.columns.append({column, grid.columnName(column), grid.format(column)});
+    sheet.rows = grid.rowCount();
+    sheet.value = [&grid](int row, int column) { return grid.value(row, column); };
+    sheet.shown = [&grid](int row, int column) { return grid.cellText(row, column); };
+    return sheet;
 }
 
 } // namespace
 
 void exportWorkbook(const Grid& grid, const QString& file) {
+    exportWorkbook(sheetOf(grid), file);
+}
+
+void exportWorkbook(const Sheet& sheet, const QString& file) {
     lxw_workbook* book = workbook_new(QFile::encodeName(file).constData());
     if (!book)
         throw DataError(QStringLiteral("%1 cannot be written.").arg(file));
-    lxw_worksheet* sheet = workbook_add_worksheet(book, "Sheet1");
-    QVector<SheetColumn> columns = writeHeads(book, sheet, grid);
-    lxw_format* dateFormat = workbook_add_format(book);
-    format_set_num_format(dateFormat, "dd/mm/yyyy");
-    for (int row = 0; row < grid.rowCount(); ++row)
-        for (qsizetype i = 0; i < columns.size(); ++i) {
-            const int shown = writeCell(sheet, lxw_row_t(row + 1), lxw_col_t(i), grid, row, columns.at(i), dateFormat);
-            columns[i].width = std::max(columns.at(i).width, shown);
-        }
+    lxw_worksheet* page = workbook_add_worksheet(book, "Sheet1");
+    QVector<SheetColumn> columns = writeHeads(book, page, sheet);
+    writeRows(book, page, sheet, columns);
     for (qsizetype i = 0; i < columns.size(); ++i)
-        worksheet_set_column(sheet, lxw_col_t(i), lxw_col_t(i), std::min(columns.at(i).width, widestColumn) + 2,
+        worksheet_set_column(page, lxw_col_t(i), lxw_col_t(i), std::min(columns.at(i).width, widestColumn) + 2,
                              nullptr);
-    worksheet_freeze_panes(sheet, 1, 0);
+    worksheet_freeze_panes(page, 1, 0);
     const lxw_error failure = workbook_close(book);
     if (failure != LXW_NO_ERROR) {
         QFile::remove(file);

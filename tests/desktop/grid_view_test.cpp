@@ -1,6 +1,7 @@
 // Grids on the screen: sorting, choosing and keeping the place.
 #include "desktop/GridBinding.h"
 #include "desktop/GridModel.h"
+#include "desktop/Mnemonics.h"
 #include "desktop/TableView.h"
 #include "desktop/TotalsLine.h"
 #include "desktop/ViewTest.h"
@@ -8,6 +9,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTreeView>
@@ -84,6 +86,12 @@ TEST_F(GridViewTest, TellsItsTotalsItsRowsAndCopiesThem) {
     const auto* line = table()->parentWidget()->findChild<TotalsLine*>();
     ASSERT_TRUE(line && line->isVisible());
     EXPECT_EQ(line->text(), "Total of all 5 rows:   Amount 9,249.50") << "and no hidden or plain column";
+    form.grdRows.setSummed("SNo", true);
+    form.grdRows.setSummed("Amount", false);
+    settleEvents();
+    EXPECT_EQ(line->text(), "Total of all 5 rows:   SNo 15.00") << "as the screen says";
+    form.grdRows.setSummed("SNo", false);
+    form.grdRows.setSummed("Amount", true);
     form.grdRows.load(lines(400));
     EXPECT_TRUE(QTest::qWaitFor([&] {
         return line->text().startsWith("Total of all 2,000 rows:   Amount 3,699,800.00");
@@ -98,6 +106,113 @@ TEST_F(GridViewTest, TellsItsTotalsItsRowsAndCopiesThem) {
               "SNo 2, Service Consultation, Amount 7,500.00, Paid 31/12/2025");
     QTest::keyClick(table(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), "SNo\tService\tAmount\tPaid\n2\tConsultation\t7,500.00\t31/12/2025\n");
+}
+
+TEST_F(GridViewTest, RowsMarkedBesideTheCurrentOneAreSummedAndCopied) {
+    const auto* line = table()->parentWidget()->findChild<TotalsLine*>();
+    const QString all = "Total of all 5 rows:   Amount 9,249.50";
+    table()->setFocus();
+    clickRow(1);
+    const struct {
+        int row;
+        Qt::KeyboardModifier with;
+        const char* marked;
+        int current;
+    } cases[] = {{3, Qt::ShiftModifier, "3 marked:   Amount 8,400.00     |     ", 3},
+                 {4, Qt::ControlModifier, "4 marked:   Amount 8,349.50     |     ", 4},
+                 {4, Qt::ControlModifier, "3 marked:   Amount 8,400.00     |     ", 3}, // taken away again
+                 {0, Qt::NoModifier, "", 0}};
+    for (const auto& [row, with, marked, current] : cases) {
+        QTest::mouseClick(table()->viewport(), Qt::LeftButton, with,
+                          table()->visualRect(table()->model()->index(row, 0)).center());
+        settleEvents();
+        EXPECT_EQ(line->text(), marked + all);
+        EXPECT_EQ(form.grdRows.currentRow(), current) << "one of the marked ones";
+        EXPECT_EQ(shownRow(), current);
+    }
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_C})
+        QTest::keyClick(table(), key, key == Qt::Key_C ? Qt::ControlModifier : Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(),
+              "SNo\tService\tAmount\tPaid\n1\tdressing\t900.00\t14/03/2026\n2\tConsultation\t7,500.00\t31/12/2025\n");
+}
+
+TEST_F(GridViewTest, FindsWhatItsCellsShowRoundTheEnd) {
+    focus(form.txtName);
+    QTest::keyClick(editor(form.txtName), Qt::Key_F, Qt::ControlModifier);
+    auto* text = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_TRUE(text && text->isVisible());
+    events();
+    const struct {
+        const char* typed;
+        QVector<Qt::KeyboardModifiers> enters;
+        int found;
+    } cases[] = {{"dr", {{}}, 3},
+                 {"DR", {{}}, 0}, // from the top again
+                 {"2025", {{}}, 1},
+                 {"900", {Qt::ShiftModifier, Qt::ShiftModifier}, 3},
+                 {"x\n", {{}}, 2}};
+    for (const auto& [typed, enters, found] : cases) {
+        text->clear();
+        QTest::keyClicks(text, QString(typed).trimmed());
+        for (const Qt::KeyboardModifiers with : enters)
+            QTest::keyClick(text, Qt::Key_Return, with);
+        settleEvents();
+        EXPECT_EQ(form.grdRows.currentRow(), found) << typed;
+    }
+    EXPECT_FALSE(form.takeEvents().contains("cmdSave Click")) << "Enter is the line's own";
+    QTest::keyClicks(text, "y");
+    QTest::keyClick(text, Qt::Key_Return);
+    EXPECT_EQ(form.grdRows.currentRow(), 2);
+    QTest::keyClick(text, Qt::Key_Escape);
+    EXPECT_TRUE(table()->hasFocus() && !text->isVisible() && !form.isClosed());
+}
+
+TEST_F(GridViewTest, ARightClickExportsAndChoosesColumnsWhichAreRemembered) {
+    Memory memory;
+    memory.setFile(QDir(home.folder()).filePath("desk.ini"));
+    const auto reopen = [&] {
+        if (window)
+            window->release();
+        window = std::make_unique<FormWindow>(form, ViewSetting{{}, false, 1, &memory});
+        window->resize(1100, 640);
+        window->show();
+        settleEvents();
+    };
+    const auto choose = [&](const QString& entry) {
+        const QPoint place = table()->visualRect(table()->model()->index(2, 0)).center();
+        QTest::mouseClick(table()->viewport(), Qt::RightButton, {}, place);
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, place, table()->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(table()->viewport(), &asked);
+        for (QAction* action : QApplication::activePopupWidget()->findChildren<QAction*>())
+            if (Mnemonics::plain(action->text()) == entry)
+                action->trigger();
+        QApplication::activePopupWidget()->close();
+        settleEvents();
+    };
+    reopen();
+    choose("Service");
+    EXPECT_EQ(form.grdRows.currentRow(), 2) << "the row under the pointer";
+    EXPECT_TRUE(table()->isColumnHidden(1));
+    clickHead(2);
+    table()->horizontalHeader()->resizeSection(3, 177);
+    choose("Export to Workbook");
+    EXPECT_EQ(ui.exports.size(), 1);
+
+    reopen();
+    EXPECT_TRUE(table()->isColumnHidden(1) && table()->isColumnHidden(4));
+    EXPECT_EQ(column(0), (QStringList{"3", "5", "1", "4", "2"}));
+    EXPECT_EQ(table()->columnWidth(3), 177);
+    // Other columns: what they do not have says nothing, and never is the last one hidden.
+    load(billing.run("select Service from Lines order by SNo"));
+    EXPECT_FALSE(table()->isColumnHidden(0));
+    EXPECT_EQ(column(0).first(), "dressing");
+    load(lines());
+    EXPECT_EQ(column(0).first(), "3");
+    choose("As at first");
+    reopen();
+    EXPECT_FALSE(table()->isColumnHidden(1));
+    EXPECT_EQ(column(0).first(), "1");
+    window->release();
 }
 
 TEST_F(GridViewTest, AClickOnAHeadSortsAndKeepsTheCurrentRow) {
@@ -215,8 +330,11 @@ TEST_F(GridViewTest, ALongListShowsAtOnceAndIsReadOn) {
             QApplication::processEvents();
         settleEvents();
     };
+    form.grdRows.setFormat("Amount", "#,##0.00");
     load(list());
     EXPECT_LT(table()->model()->rowCount(), all);
+    EXPECT_TRUE(
+        table()->parentWidget()->findChild<TotalsLine*>()->text().endsWith("the total comes when all are read"));
     EXPECT_EQ(column(1).first(), "dressing");
     readOn(form.grdRows);
     EXPECT_EQ(table()->model()->rowCount(), all);
