@@ -68,6 +68,21 @@ void addPaymentTypes(Books& books, const Receipt& receipt, const QVector<WayOfPa
     }
 }
 
+QMap<QString, double> incomeByWay(Connection& connection, QDate day) {
+    QMap<QString, double> income;
+    Recordset shares(connection, Sql("select PayType, AmountPaid from PaymentTypes where ReceiptDate = '")
+                                     << day
+                                     << "' union all select y.PayType, y.AmountPaid from Payments y where "
+                                        "y.ReceiptDate = '"
+                                     << day
+                                     << "' and not exists (select 1 from PaymentTypes t where t.ReceiptNo = "
+                                        "y.ReceiptNo and t.ReceiptDate = y.ReceiptDate)");
+    for (; !shares.eof(); shares.moveNext())
+        income[shares.text("PayType").trimmed().toUpper()] += shares.number("AmountPaid");
+    erase_if(income, [](std::pair<const QString&, double&> way) { return round2(way.second) == 0; });
+    return income;
+}
+
 void distributePayment(Books& books, const Receipt& receipt) {
     Recordset lines(
         books.connection,

@@ -2,6 +2,8 @@
 
 #include "books/Receipt.h"
 
+#include <QMap>
+
 namespace orvane {
 
 /// One means of payment of a receipt and the ledger account that it goes to.
@@ -12,6 +14,10 @@ struct WayOfPayment {
 
 /// One row of PaymentTypes for each way with an amount above zero.
 void addPaymentTypes(Books& books, const Receipt& receipt, const QVector<WayOfPayment>& ways);
+
+/// What came in on the day by each way of payment, in naira by its capital name: a receipt split over several ways
+/// counts by its shares, any other by its pay type, a reversal against it. Ways that come to nothing are left out.
+QMap<QString, double> incomeByWay(Connection& connection, QDate day);
 
 /// Spreads the receipt over the lines of its bill that no receipt covers yet, in their order, as rows of
 /// PaymentDetails, and marks the lines by their name as covered. A bill without such lines takes the whole as

@@ -27,7 +27,7 @@ public:
     void setBusy(bool busy) override;
     void processEvents() override;
     void printForm(Form& form) override;
-    void viewReport(const QString& file, const QString& title, const Recordset& rows) override;
+    void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) override;
     void exported(const QString& file) override;
     void playSound(const QString& file) override;
     QDateTime now() const override;
@@ -49,7 +49,7 @@ public:
     void setBusy(bool busy) override;
     void processEvents() override;
     void printForm(Form& form) override;
-    void viewReport(const QString& file, const QString& title, const Recordset& rows) override;
+    void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) override;
 
 private:
     Windows& m_windows;

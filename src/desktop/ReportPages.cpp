@@ -8,7 +8,7 @@ namespace {
 
 // Millimetres, but for the letter sizes.
 constexpr double shortSide = 210, longSide = 297, edge = 12;
-constexpr double titleHeight = 9, headHeight = 6, rowHeight = 5, footHeight = 7, columnGap = 2;
+constexpr double titleHeight = 9, headHeight = 6, rowHeight = 5, footHeight = 7, columnGap = 2, pageNumberWidth = 25;
 constexpr double charWidth = 1.75; ///< of a letter of 8 points, rounded up
 constexpr double titlePoints = 13, textPoints = 8;
 constexpr int sampledRows = 200, widestText = 45; ///< characters
@@ -22,7 +22,8 @@ int widestCharacters(const Grid& grid, int column) {
 
 } // namespace
 
-ReportPages::ReportPages(const Grid& grid, const QString& title) : m_grid(grid), m_title(title) {
+ReportPages::ReportPages(const Grid& grid, const QString& title, const QString& sums)
+    : m_grid(grid), m_title(title), m_sums(sums) {
     placeColumns();
     const double height = (m_landscape ? shortSide : longSide) - 2 * edge - titleHeight - headHeight - footHeight;
     m_rowsPerPage = std::max(1, int(height / rowHeight));
@@ -75,6 +76,10 @@ Page ReportPages::page(int number) const {
     for (int row = number * m_rowsPerPage; row < end; ++row, y += rowHeight)
         addRow(page, y, row);
     const QString foot = QStringLiteral("Page %1 of %2").arg(number + 1).arg(count());
+    // The foot has room for them however many rows the last page has.
+    if (end == m_grid.rowCount() && !m_sums.isEmpty())
+        page.texts << PageText{edge, bottom - 4, right - edge - pageNumberWidth, 0, m_sums, textPoints, PageAlign::Left,
+                               true, false};
     page.texts << PageText{edge, bottom - 4, right - edge, 0, foot, textPoints, PageAlign::Right, false, false};
     return page;
 }

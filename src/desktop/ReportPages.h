@@ -9,8 +9,9 @@ namespace orvane {
 /// time, so that a list of any length can be printed.
 class ReportPages {
 public:
-    /// `grid` must live as long as its pages are asked for; its hidden columns are left out.
-    ReportPages(const Grid& grid, const QString& title);
+    /// `grid` must live as long as its pages are asked for; its hidden columns are left out. `sums` stand below the
+    /// last row.
+    ReportPages(const Grid& grid, const QString& title, const QString& sums = {});
 
     int count() const;           ///< at least 1
     Page page(int number) const; ///< from 0
@@ -25,7 +26,7 @@ private:
     void addRow(Page& page, double y, int row) const;
 
     const Grid& m_grid;
-    QString m_title;
+    QString m_title, m_sums;
     QVector<Column> m_columns;
     bool m_landscape = false;
     int m_rowsPerPage = 1;

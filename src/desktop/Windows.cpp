@@ -311,7 +311,7 @@ namespace {
 /// What a form prints: its page, a report's list; nothing for a form that is printed as it looks.
 std::optional<Document> documentOf(const Form& form) {
     if (const auto* report = dynamic_cast<const ReportForm*>(&form)) {
-        const auto pages = std::make_shared<ReportPages>(report->rows(), report->caption());
+        const auto pages = std::make_shared<ReportPages>(report->rows(), report->caption(), report->sums());
         return Document{pages->count(), [pages](int number) { return pages->page(number); }};
     }
     const std::optional<Page> page = form.page();
@@ -346,8 +346,8 @@ QString Windows::nextPrintFile(const Form& form) const {
     return file;
 }
 
-void Windows::viewReport(const QString& file, const QString& title, const Recordset& rows) {
-    m_reports.push_back(std::make_unique<ReportForm>(m_ui, file, title, rows));
+void Windows::viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) {
+    m_reports.push_back(std::make_unique<ReportForm>(m_ui, file, title, rows, sums));
     ReportForm& report = *m_reports.back();
     report.load();
     show(report);

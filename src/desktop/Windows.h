@@ -40,7 +40,7 @@ public:
     void closed(Form& form);
     void setBusy(bool busy);
     void print(Form& form);
-    void viewReport(const QString& file, const QString& title, const Recordset& rows);
+    void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums = {});
 
     FormView* viewOf(const Form& form) const; ///< null: not shown
     QWidget* windowOf(const Form& form) const;

@@ -38,8 +38,10 @@ public:
     virtual void processEvents() = 0;
 
     virtual void printForm(Form& form) = 0; ///< the form as it stands, on the default printer, or a dialog's choice
-    /// A list report: `file` is the layout's name, `title` the window title.
-    virtual void viewReport(const QString& file, const QString& title, const Recordset& rows) = 0;
+    /// A list report: `file` is the layout's name, `title` the window title, `sums` what is said below the list beside
+    /// the totals of its amounts.
+    virtual void viewReport(const QString& file, const QString& title, const Recordset& rows,
+                            const QString& sums = {}) = 0;
     /// Where workbooks are saved: the user's documents.
     virtual QString exportFolder() const { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }
     /// A saved workbook is opened with the desktop's program.

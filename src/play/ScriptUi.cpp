@@ -91,9 +91,9 @@ void ScriptUi::printForm(Form& form) {
     m_shower.printForm(form);
 }
 
-void ScriptUi::viewReport(const QString& file, const QString& title, const Recordset& rows) {
+void ScriptUi::viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) {
     m_log.write(QStringLiteral("report %1 %2").arg(file).arg(rows.count()));
-    m_shower.viewReport(file, title, rows);
+    m_shower.viewReport(file, title, rows, sums);
 }
 
 void ScriptUi::exported(const QString& file) {

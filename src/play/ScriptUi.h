@@ -44,7 +44,7 @@ public:
     void setBusy(bool busy) override;
     void processEvents() override;
     void printForm(Form& form) override;
-    void viewReport(const QString& file, const QString& title, const Recordset& rows) override;
+    void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) override;
     QString exportFolder() const override { return m_exportFolder; }
     void exported(const QString& file) override;
     void playSound(const QString& file) override;

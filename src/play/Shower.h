@@ -16,7 +16,8 @@ public:
     virtual void setBusy(bool) {}
     virtual void processEvents() {}
     virtual void printForm(Form&) {} ///< writes the document where scripted prints go
-    virtual void viewReport(const QString& /*file*/, const QString& /*title*/, const Recordset& /*rows*/) {}
+    virtual void viewReport(const QString& /*file*/, const QString& /*title*/, const Recordset& /*rows*/,
+                            const QString& /*sums*/) {}
 };
 
 } // namespace orvane

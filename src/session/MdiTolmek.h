@@ -61,7 +61,8 @@ private:
     void mnuAcctEnable_Click();
     void mnuAcctDisable_Click();
     void preparePanel(const QString& mode, const QString& label);
-    void viewToday(const Sql& sql, const QString& emptyMessage, const QString& report, const QString& title);
+    void viewToday(const Sql& sql, const QString& emptyMessage, const QString& report, const QString& title,
+                   const QString& sums = {});
 
     using Me = MdiTolmek;
     Picture Picture1{*this, "Picture1"};

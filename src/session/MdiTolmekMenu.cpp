@@ -1,5 +1,7 @@
 #include "session/MdiTolmek.h"
 
+#include "books/Payment.h"
+#include "data/words/Money.h"
 #include "session/Accounts.h"
 #include "session/StartFiles.h"
 
@@ -181,11 +183,19 @@ void MdiTolmek::mnuBFT_Click() {
               "No Bills for Today", "rptCompanyBill", "Unpaid Bills for Today");
 }
 
-/// Receipts are those of the workstation's today.
+/// Receipts are those of the workstation's today; by the sums of their ways of payment a till is closed.
 void MdiTolmek::mnuINC_Click() {
-    viewToday(Sql("select * from qryhBillingIncome where receiptdate = '")
-                  << program.ui().now().date() << "' order by receiptNo",
-              "No Income between these two dates", "rptBillingIncome", "Income for Today");
+    const QDate today = program.ui().now().date();
+    QStringList ways;
+    {
+        Connection connection = program.openBilling();
+        const QMap<QString, double> income = incomeByWay(connection, today);
+        for (auto way = income.cbegin(); way != income.cend(); ++way)
+            ways << (way.key().isEmpty() ? "(none)" : way.key()) + ' ' + formatTwoDecimals(way.value());
+    }
+    viewToday(Sql("select * from qryhBillingIncome where receiptdate = '") << today << "' order by receiptNo",
+              "No Income between these two dates", "rptBillingIncome", "Income for Today",
+              "By way of payment:   " + ways.join("     "));
 }
 
 void MdiTolmek::mnuCR_Click() {
@@ -194,7 +204,8 @@ void MdiTolmek::mnuCR_Click() {
               "No Cancelled Receipts", "rptCancelledReceipt", "Cancelled Receipts");
 }
 
-void MdiTolmek::viewToday(const Sql& sql, const QString& emptyMessage, const QString& report, const QString& title) {
+void MdiTolmek::viewToday(const Sql& sql, const QString& emptyMessage, const QString& report, const QString& title,
+                          const QString& sums) {
     Recordset rows;
     {
         Connection connection = program.openBilling();
@@ -203,7 +214,7 @@ void MdiTolmek::viewToday(const Sql& sql, const QString& emptyMessage, const QSt
     if (rows.eof())
         program.box(emptyMessage);
     else
-        program.ui().viewReport(report, title, rows);
+        program.ui().viewReport(report, title, rows, sums);
 }
 
 void MdiTolmek::mnuAcctEnable_Click() {

@@ -105,7 +105,7 @@ TEST(PageTest, AListPrintsEachRowOnceUnderItsHeads) {
     grid.hide({"Secret"});
     grid.setFormat("Amount", "#,###.00");
     grid.load(billing.run(text));
-    const ReportPages pages(grid, "Income for Today");
+    const ReportPages pages(grid, "Income for Today", "CASH 5.00");
     ASSERT_EQ(pages.count(), 3);
     QStringList numbers;
     for (int number = 0; number < pages.count(); ++number) {
@@ -121,6 +121,7 @@ TEST(PageTest, AListPrintsEachRowOnceUnderItsHeads) {
                                                    QStringLiteral("Page %1 of 3").arg(number + 1), "1,234.50"})
             EXPECT_TRUE(words.contains(expected)) << qPrintable(expected);
         EXPECT_FALSE(words.contains("x")) << "a hidden column";
+        EXPECT_EQ(words.contains("CASH 5.00"), number == 2) << "below the last row";
     }
     ASSERT_EQ(numbers.size(), 130);
     EXPECT_EQ(numbers.first(), "1");

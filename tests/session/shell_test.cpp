@@ -196,13 +196,19 @@ TEST_P(Shell, reportsOfTodayTakeTheirOwnDate) {
     viewAll();
     EXPECT_EQ(ui.takeBoxes(), nothing);
     layDay("B2", "2026-03-14", "2026-03-15");
+    ws.run("update Payments set PayType='cash' where AmountPaid < 0");
+    ws.run("insert into Payments (ReceiptNo, ReceiptDate, billNo, PNo, AmountPaid, PayType) values "
+           "('S', '2026-03-15', 'B2', 'P/0001', 700, 'CASH/POS')");
+    ws.run("insert into PaymentTypes (ReceiptNo, ReceiptDate, AmountPaid, PayType) values "
+           "('S', '2026-03-15', 400, 'CASH'), ('S', '2026-03-15', 300, 'POS'), ('T', '2026-03-14', 9, 'POS')");
     viewAll();
     EXPECT_BOXES(ui, {});
     QStringList reports;
     for (const TestUi::Report& report : ui.reports)
         reports << report.file + '|' + report.title + '|' + QString::number(report.rows);
-    EXPECT_EQ(reports, QStringList({"rptCompanyBill|Unpaid Bills for Today|1", "rptBillingIncome|Income for Today|2",
+    EXPECT_EQ(reports, QStringList({"rptCompanyBill|Unpaid Bills for Today|1", "rptBillingIncome|Income for Today|3",
                                     "rptCancelledReceipt|Cancelled Receipts|1"}));
+    EXPECT_EQ(ui.reports.at(1).sums, "By way of payment:   (none) 500.00     CASH -100.00     POS 300.00");
 }
 
 TEST_P(Shell, printsTheActiveScreen) {

@@ -65,8 +65,8 @@ void TestUi::showModal(Form& form) {
     }
 }
 
-void TestUi::viewReport(const QString& file, const QString& title, const Recordset& rows) {
-    reports.append({file, title, rows.count()});
+void TestUi::viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) {
+    reports.append({file, title, rows.count(), sums});
 }
 
 } // namespace orvane

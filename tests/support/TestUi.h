@@ -24,6 +24,7 @@ public:
         QString file;
         QString title;
         int rows = 0;
+        QString sums;
     };
 
     ~TestUi() override;
@@ -66,7 +67,7 @@ public:
     void setBusy(bool) override {}
     void processEvents() override {}
     void printForm(Form& form) override { printed << form.name(); }
-    void viewReport(const QString& file, const QString& title, const Recordset& rows) override;
+    void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) override;
     QString exportFolder() const override { return m_documents.path(); }
     void exported(const QString& file) override { exports << file; }
     void playSound(const QString& file) override { sounds << file; }
