@@ -171,6 +171,8 @@ void ListBinding::refresh() {
 DateBinding::DateBinding(FormView& view, DatePicker& picker, QWidget* parent)
     : Binding(view, picker, new DateEdit(parent)), m_picker(&picker), m_edit(static_cast<DateEdit*>(widget())) {
     watch(m_edit->lineEdit());
+    if (picker.rangeEnd())
+        m_range.emplace(picker, view.memory());
     connect(m_edit, &DateEdit::dateEdited, this,
             [this](QDate date) { user([this, date] { m_picker->setDate(date); }); });
 }
@@ -181,6 +183,12 @@ QWidget* DateBinding::editor() const {
 
 bool DateBinding::settle() {
     return m_edit->settle();
+}
+
+void DateBinding::released() {
+    if (m_range)
+        m_range->keep();
+    m_picker = nullptr;
 }
 
 void DateBinding::refresh() {

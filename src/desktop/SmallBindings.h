@@ -2,6 +2,7 @@
 
 #include "desktop/Binding.h"
 #include "desktop/PictureBox.h"
+#include "desktop/RangeMemory.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -146,11 +147,12 @@ public:
 
 protected:
     void refresh() override;
-    void released() override { m_picker = nullptr; }
+    void released() override;
 
 private:
     DatePicker* m_picker;
     DateEdit* m_edit;
+    std::optional<RangeMemory> m_range; ///< of a date that begins one
 };
 
 class TreeBinding : public Binding {

@@ -80,7 +80,7 @@ void TableView::showRow(int row) {
     executeDelayedItemsLayout();
     updateGeometries();
     const int across = horizontalScrollBar()->value();
-    scrollTo(m_table->index(row, 0));
+    scrollTo(m_table->index(row, m_columns.firstShown()));
     horizontalScrollBar()->setValue(across);
 }
 

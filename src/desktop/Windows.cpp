@@ -78,7 +78,11 @@ void Windows::showShell(Form& form) {
         m_shell->show();
     } else {
         m_shell->resize(1280, 720);
-        m_shell->showMaximized();
+        restorePlace(*m_shell, form, m_shell->screen()->availableGeometry());
+        if (m_memory.value(form.name() + "/place").isValid())
+            m_shell->show();
+        else
+            m_shell->showMaximized();
     }
 }
 
@@ -168,6 +172,8 @@ void Windows::restorePlace(QWidget& frame, const Form& form, QRect room) {
 /// A window that its user has not touched opens again as large as there is room then.
 void Windows::keepPlace(const Entry& entry) {
     const QWidget* frame = frameOf(entry);
+    if (entry.window == m_shell && frame->isMaximized())
+        m_memory.keep(entry.form->name() + "/place", {});
     if (entry.child)
         m_memory.keep(entry.form->name() + "/maximized", frame->isMaximized() ? QVariant(true) : QVariant());
     if (!frame->isMaximized() && !frame->isMinimized() && frame->geometry() != entry.place)

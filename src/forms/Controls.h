@@ -213,12 +213,16 @@ public:
     bool isEmpty() const { return !m_date.isValid(); }
     bool isLocked() const { return m_locked; }
     void setLocked(bool locked);
+    /// The other end of the range of days that this date begins; null: it begins none.
+    DatePicker* rangeEnd() const { return m_rangeEnd; }
+    void setRangeEnd(DatePicker* end) { m_rangeEnd = end; }
     QString valueText() const override { return m_date.toString(Qt::ISODate); }
 
     Handler onChange;
 
 private:
     QDate m_date;
+    DatePicker* m_rangeEnd = nullptr;
     bool m_locked = false;
 };
 

@@ -20,7 +20,9 @@ public:
                 PickResult (Class::*pick)())
         : DTPicker1(form, "DTPicker1"), DTPicker2(form, "DTPicker2"),
           get(form, words.buttonName, words.buttonCaption, list), cboVehNo(form, "cboVehNo", style, pick),
-          m_range(words.range) {}
+          m_range(words.range) {
+        DTPicker1.setRangeEnd(&DTPicker2);
+    }
 
     DatePicker DTPicker1, DTPicker2;
     Button get;

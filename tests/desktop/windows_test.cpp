@@ -3,6 +3,7 @@
 #include "desktop/ShellWindow.h"
 #include "desktop/ViewTest.h"
 #include "desktop/WindowDriver.h"
+#include "forms/RangePicker.h"
 #include "play/Play.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
@@ -103,6 +104,46 @@ TEST(TimersTest, TheDoctorsAlertComesByItself) {
     program.form("MdiTolmek").abandon();
 }
 
+class RangeForm : public Form {
+public:
+    RangeForm(Ui& ui, QDate today) : Form(ui, "frmRange", "Range") { visits.setDates(today); }
+    Layout layout() const override { return layout::column({visits.layout()}); }
+    void list() {}
+    RangePicker visits{*this, {"between", "cmdGet", "&Get"}, &RangeForm::list, ComboBox::FreeText, &RangeForm::list};
+};
+
+TEST(RangeTest, AnUpToDateRangeMovesOnAndAnotherLastsTheDay) {
+    TestHome home;
+    Memory memory;
+    TestUi ui;
+    const QDate today(2026, 3, 14), tomorrow(2026, 3, 15);
+    const struct {
+        QDate first, last, opened, expectedFirst, expectedLast;
+    } cases[] = {{today.addDays(-6), today, tomorrow, tomorrow.addDays(-6), tomorrow},
+                 {today.addDays(-40), today.addDays(-10), tomorrow, tomorrow, tomorrow},
+                 {today.addDays(-40), today.addDays(-10), today, today.addDays(-40), today.addDays(-10)}};
+    const auto dates = [&](QDate day, QDate first, QDate last) {
+        RangeForm form(ui, day);
+        FormWindow window(form, ViewSetting{{}, false, 1, &memory});
+        const auto seen = std::pair(form.visits.DTPicker1.date(), form.visits.DTPicker2.date());
+        if (first.isValid()) {
+            form.visits.DTPicker1.setDate(first);
+            form.visits.DTPicker2.setDate(last);
+        }
+        window.release();
+        return seen;
+    };
+    for (const auto& test : cases) {
+        for (const bool remembers : {false, true}) {
+            memory.setFile(remembers ? QDir(home.folder()).filePath("desk.ini") : QString());
+            dates(today, test.first, test.last);
+            const auto expected =
+                remembers ? std::pair(test.expectedFirst, test.expectedLast) : std::pair(test.opened, test.opened);
+            EXPECT_EQ(dates(test.opened, {}, {}), expected);
+        }
+    }
+}
+
 class ShellForm : public Form {
 public:
     explicit ShellForm(Ui& ui) : Form(ui, "frmShell", "Shell") {
@@ -149,6 +190,32 @@ public:
     Button cmdSave{*this, "cmdSave", "&Save"};
     bool refuses = false;
 };
+
+TEST(MainWindowTest, FillsTheScreenUnlessItWasLeftSmaller) {
+    const QTemporaryDir folder;
+    DesktopUi ui;
+    ui.windows().memory().setFile(folder.filePath("desk.ini"));
+    const QRect smaller(30, 40, 700, 500);
+    for (const bool leftSmaller : {false, true, false, false}) {
+        ShellForm shell(ui);
+        const bool wasSmaller = ui.windows().memory().value("frmShell/place").isValid();
+        ui.show(shell);
+        settleEvents();
+        QWidget* window = ui.windows().shell();
+        EXPECT_EQ(window->isMaximized(), !wasSmaller);
+        EXPECT_TRUE(!wasSmaller || window->geometry().size() == smaller.size());
+        if (leftSmaller) {
+            window->showNormal();
+            window->setGeometry(smaller);
+        } else {
+            window->showMaximized();
+        }
+        settleEvents();
+        shell.unload();
+        settleEvents();
+        EXPECT_EQ(ui.windows().memory().value("frmShell/place").isValid(), leftSmaller);
+    }
+}
 
 /// The main window with one form in it.
 class WindowsTest : public ::testing::Test {
