@@ -26,6 +26,13 @@ void frmFind::searchByName() {
                              << txtName.text() << "%'"));
 }
 
+Screen::PatientTaker frmFind::patientTaker() {
+    return [this](const QString& pno) {
+        TxtID.setText(pno);
+        cmdID_Click();
+    };
+}
+
 void frmFind::cmdID_Click() {
     Connection connection = program.openBilling();
     grdData.load(Recordset(

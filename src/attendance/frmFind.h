@@ -13,6 +13,9 @@ public:
     Button* defaultButton() override { return &cmdID; }
     Button* cancelButton() override { return &cmdClose; }
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
     void searchByName();
     void cmdID_Click();

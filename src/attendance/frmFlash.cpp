@@ -66,6 +66,22 @@ void frmFlash::showList(const Sql& sql, const QString& caption) {
     lblShow.setText(caption);
 }
 
+/// His row in the list of those who wait.
+Screen::PatientTaker frmFlash::patientTaker() {
+    if (dGexp.columnIndex("pno") < 0)
+        return {};
+    return [this](const QString& pno) {
+        const int row = dGexp.findRow("pno", pno);
+        if (row < 0) {
+            program.box("This patient is not in the list");
+            return;
+        }
+        SSTab1.setTab(0);
+        dGexp.selectRow(row);
+        dGexp.setFocus();
+    };
+}
+
 void frmFlash::dGexp_DblClick() {
     if (dGexp.currentRow() < 0 || dGexp.columnIndex("BillNo") < 0) {
         program.box("Please select a row ");

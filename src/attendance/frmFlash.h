@@ -15,6 +15,9 @@ public:
     Button* defaultButton() override { return &cmdPat; }
     Button* cancelButton() override { return &cmdClose; }
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
     void cmdPat_Click();
     void cmdCPC_Click();

@@ -2,7 +2,9 @@
 
 namespace orvane {
 
-frmPatList::frmPatList(Program& owner) : Screen(owner, "frmPatList", "Patient List for Printing of Bills") {}
+frmPatList::frmPatList(Program& owner) : Screen(owner, "frmPatList", "Patient List for Printing of Bills") {
+    cboVehNo.setToolTip("F3 finds any patient");
+}
 
 Layout frmPatList::layout() const {
     using namespace orvane::layout;
@@ -18,6 +20,24 @@ void frmPatList::Form_Load() {
     for (; !bills.eof(); bills.moveNext())
         cboVehNo.addItem(bills.text("fullname") + " @ " + bills.text("clientID") + "  [" + bills.text("billNo") + "]",
                          bills.text("billNo"));
+}
+
+/// The first of his bills in the list.
+Screen::PatientTaker frmPatList::patientTaker() {
+    return [this](const QString& pno) {
+        QStringList his;
+        {
+            Connection connection = program.openBilling();
+            for (Recordset bills(connection, Sql("select billno from qryBillingBalanceDueForPrivate where pno='")
+                                                 << pno << "'");
+                 !bills.eof(); bills.moveNext())
+                his << bills.text("billno");
+        }
+        for (int i = 0; i < cboVehNo.count(); ++i)
+            if (his.contains(cboVehNo.itemData(i).toString()))
+                return cboVehNo.setListIndex(i);
+        program.box("This patient has no private bill that is due");
+    };
 }
 
 // The list names a bill; its patient's other bills with a balance are listed behind it.

@@ -14,6 +14,9 @@ public:
     Button* defaultButton() override { return &OKButton; }
     Button* cancelButton() override { return &CancelButton; }
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
     void cboVehNo_Click();
     void OKButton_Click();

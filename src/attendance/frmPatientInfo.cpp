@@ -118,10 +118,21 @@ void frmPatientInfo::Form_Load() {
 }
 
 void frmPatientInfo::TreeView1_NodeClick() {
-    const auto picked = TreeView1.picked<ListedPatient>();
-    if (!picked)
-        return;
-    m_patient = *picked;
+    if (const auto picked = TreeView1.picked<ListedPatient>())
+        showPatient(*picked);
+}
+
+Screen::PatientTaker frmPatientInfo::patientTaker() {
+    return [this](const QString& pno) {
+        Connection connection = program.openBilling();
+        const Recordset name(connection, Sql("select fullname from hPatients where PNo='") << pno << "'");
+        if (!name.eof())
+            showPatient({pno, name.text("fullname")});
+    };
+}
+
+void frmPatientInfo::showPatient(const ListedPatient& listed) {
+    m_patient = listed;
     Connection connection = program.openBilling();
     const Recordset patient(connection, Sql("SELECT * FROM hPatients WHERE pNo ='") << m_patient.pno << "'");
     if (patient.eof())

@@ -14,12 +14,16 @@ public:
     void Form_Load() override;
     Button* cancelButton() override { return &CancelButton; }
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
     /// What a node of the tree stands for.
     struct ListedPatient {
         QString pno, name;
     };
 
+    void showPatient(const ListedPatient& listed);
     void TreeView1_NodeClick();
     void clearCard();
     void showCard(Connection& connection, const Recordset& patient);

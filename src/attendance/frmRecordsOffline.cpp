@@ -12,6 +12,7 @@ constexpr int manyFound = 200; ///< a longer list is not counted: that would be 
 
 frmRecordsOffline::frmRecordsOffline(Program& owner) : Screen(owner, "frmRecordsOffline", "OFFLINE ATTENDANCE :") {
     txtName.onEnter = [this] { cmdOK_Click(); };
+    cboVehNo.setToolTip("F3 finds any patient");
 }
 
 Layout frmRecordsOffline::layout() const {
@@ -60,8 +61,18 @@ void frmRecordsOffline::cmdOK_Click() {
     if (txtName.text().isEmpty())
         return;
     // The view has one row a patient: "distinct" would only sort them all before the first one shows.
-    const Recordset found = Recordset::paged(
-        program.openBilling(), Sql("select * from vwhpatients where fullname like '") << txtName.text() << "%'");
+    showFound(Sql("select * from vwhpatients where fullname like '") << txtName.text() << "%'");
+}
+
+Screen::PatientTaker frmRecordsOffline::patientTaker() {
+    return [this](const QString& pno) {
+        showFound(Sql("select * from vwhpatients where PNo='") << pno << "'");
+        takeOnly(cboVehNo, "This patient is not registered");
+    };
+}
+
+void frmRecordsOffline::showFound(const Sql& patients) {
+    const Recordset found = Recordset::paged(program.openBilling(), patients);
     grdData.showAllColumns();
     grdData.load(found);
     grdData.hide({"expired"});

@@ -16,10 +16,14 @@ public:
     Button* defaultButton() override { return &OKButton; }
     Button* cancelButton() override { return &CancelButton; }
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
     // The list (frmRecordsOffline.cpp).
     void fillLists();
     void cmdOK_Click();
+    void showFound(const Sql& patients);
     void cmdRefresh_Click();
     void cmdAdd_Click();
     void cmdEdit_Click();

@@ -27,13 +27,26 @@ void frmApprvCode::Form_Load() {
 }
 
 void frmApprvCode::cmdInv_Click() {
+    listVisits(Sql("Date between '") << visits.DTPicker1.date() << "' and '" << visits.DTPicker2.date()
+                                     << "' and  clientCatID <> '" << session.gPrivateTariff << "' order by fullname ");
+}
+
+/// His visits that a scheme bears, the newest first.
+Screen::PatientTaker frmApprvCode::patientTaker() {
+    return [this](const QString& pno) {
+        listVisits(Sql("pno='") << pno << "' and  clientCatID <> '" << session.gPrivateTariff
+                                << "' order by Date desc");
+        takeOnly(visits.cboVehNo, "This patient has no visit that a scheme bears");
+    };
+}
+
+void frmApprvCode::listVisits(const Sql& which) {
     resetFields();
     visits.cboVehNo.clear();
     Connection connection = program.openBilling();
     Recordset rows(connection, Sql("select distinct  CoyName,Fullname,Date,consultID as billNo from "
-                                   "vwhConsultingVisits where   Date between '")
-                                   << visits.DTPicker1.date() << "' and '" << visits.DTPicker2.date()
-                                   << "' and  clientCatID <> '" << session.gPrivateTariff << "' order by fullname ");
+                                   "vwhConsultingVisits where   ")
+                                   << which);
     for (; !rows.eof(); rows.moveNext()) {
         const ListedVisit visit{rows.text("billNo"), {}, rows.text("Fullname")};
         visits.cboVehNo.addItem(visit.patient + " @" + rows.date("Date").toString("dd/MM/yyyy") + " [" +

@@ -17,7 +17,11 @@ public:
     Button* defaultButton() override { return &OKButton; }
     Button* cancelButton() override { return &CancelButton; }
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
+    void listVisits(const Sql& which);
     void cmdInv_Click();
     void cboVehNo_Click();
     void showVisit(const Recordset& visit);

@@ -37,11 +37,22 @@ void frmBillDiscount::cboClinic_Click() {
 }
 
 void frmBillDiscount::cmdInv_Click() {
+    listBills(Sql("date between '") << bills.DTPicker1.date() << "' and '" << bills.DTPicker2.date() << " '");
+}
+
+/// His bills, the newest first.
+Screen::PatientTaker frmBillDiscount::patientTaker() {
+    return [this](const QString& pno) {
+        listBills(Sql("pno='") << pno << "' order by date desc");
+        takeOnly(bills.cboVehNo, "This patient has no bill");
+    };
+}
+
+void frmBillDiscount::listBills(const Sql& which) {
     bills.cboVehNo.clear();
     clearFields();
     Connection connection = program.openBilling();
-    Recordset rows(connection, Sql("select distinct date,pno,fullname,billno from vwBilling where  date between '")
-                                   << bills.DTPicker1.date() << "' and '" << bills.DTPicker2.date() << " '");
+    Recordset rows(connection, Sql("select distinct date,pno,fullname,billno from vwBilling where  ") << which);
     for (; !rows.eof(); rows.moveNext()) {
         const ListedVisit bill{rows.text("billNo"), rows.text("PNo"), rows.text("fullname")};
         bills.cboVehNo.addItem(bill.patient + " [" + bill.pno + "]#" + bill.consultID, QVariant::fromValue(bill));

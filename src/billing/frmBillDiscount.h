@@ -17,7 +17,11 @@ public:
     Button* defaultButton() override { return &OKButton; }
     Button* cancelButton() override { return &CancelButton; }
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
+    void listBills(const Sql& which);
     void cboClinic_Click();
     void cmdInv_Click();
     void cboVehNo_Click();

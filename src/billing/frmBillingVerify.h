@@ -18,6 +18,9 @@ public:
     Button* defaultButton() override { return &OKButton; }
     void afterFault() override;
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
     // Opening (frmBillingVerify.cpp).
     void fillLists();

@@ -34,6 +34,21 @@ void frmBillingVerify::cmdOK_Click() {
         visits.cboVehNo.setListIndex(1);
 }
 
+/// His visits, the newest first: those not billed yet, as in the list of a day.
+Screen::PatientTaker frmBillingVerify::patientTaker() {
+    return [this](const QString& pno) {
+        Sql his(
+            "select distinct  Date,Remarks,coyname,pno,fullname,consultID from vwhConsultingVisitsList where pno='");
+        his << pno << "'";
+        if (!chkAll.isChecked())
+            his << " and isbilled=0";
+        getPatForBill(his << " order by Date desc");
+        takeOnly(visits.cboVehNo, chkAll.isChecked()
+                                      ? "This patient has no visit"
+                                      : "This patient has no visit to bill; tick Show All for the others");
+    };
+}
+
 void frmBillingVerify::cmdAdd_Click() {
     chkRct.setChecked(false);
     dtDate.setDate(session.gServerDate);

@@ -236,6 +236,10 @@ bool FormView::takesKey(const QKeyEvent& event) {
             Q_EMIT list->findWanted();
         return true;
     }
+    if (m_form && event.key() == Qt::Key_F3 && event.modifiers() == Qt::NoModifier) {
+        findPatient();
+        return true;
+    }
     const bool plain = event.modifiers() == Qt::NoModifier || event.modifiers() == Qt::KeypadModifier;
     if (!plain || !m_form)
         return false;
@@ -248,6 +252,17 @@ bool FormView::takesKey(const QKeyEvent& event) {
     else
         return false;
     return true;
+}
+
+/// Behind the key's own event: the finder stays up for longer than this view may.
+void FormView::findPatient() {
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_form && !m_form->isRunning() && !m_form->findPatient())
+                QApplication::beep();
+        },
+        Qt::QueuedConnection);
 }
 
 void FormView::keyPressEvent(QKeyEvent* event) {

@@ -84,6 +84,8 @@ void LineBinding::refresh() {
         if (m_line->hasFocus() && !typing)
             m_line->end(false);
     }
+    if (m_box->takeTypeOver())
+        m_line->selectAll();
     if (m_place == Place::Facts && flat) {
         QFont bold = m_line->font();
         bold.setBold(true);
@@ -111,16 +113,16 @@ bool LineBinding::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonRelease && std::exchange(m_clickSelects, false) &&
         !m_line->hasSelectedText())
         m_line->selectAll();
-    if (event->type() == QEvent::KeyPress && m_box && m_box->onEnter) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            settle();
-            press([this] {
-                const Control::Handler entered = m_box->onEnter;
-                entered();
-            });
-            return true;
-        }
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    const Control::Handler handler = !m_box                ? nullptr
+                                     : enter               ? m_box->onEnter
+                                     : key == Qt::Key_Down ? m_box->onDown
+                                                           : nullptr;
+    if (handler) {
+        settle();
+        press([handler] { handler(); });
+        return true;
     }
     return Binding::eventFilter(watched, event);
 }

@@ -30,6 +30,12 @@ void TextBox::setText(const QString& text) {
     raise(onChange);
 }
 
+void TextBox::typeOver() {
+    m_typeOver = true;
+    setFocus();
+    touch();
+}
+
 void TextBox::setLocked(bool locked) {
     m_locked = locked;
     touch();

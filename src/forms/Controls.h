@@ -6,6 +6,7 @@
 #include <QVariant>
 #include <QVector>
 #include <optional>
+#include <utility>
 
 namespace orvane {
 
@@ -60,14 +61,19 @@ public:
     } ///< shown right aligned
     int maxLength() const { return m_maxLength; }
     void setMaxLength(int length) { m_maxLength = length; } ///< 0: no limit
+    /// Asks for the focus with the whole text selected, so that what is typed next takes its place.
+    void typeOver();
+    bool takeTypeOver() { return std::exchange(m_typeOver, false); } ///< for its view, which selects the text
     QString valueText() const override { return m_text; }
 
     Handler onChange;
     Handler onEnter; ///< the Enter key inside the box; unset: the form's default button
+    Handler onDown;  ///< the Down key inside the box, such as into the list that it fills
 
 private:
     QString m_text;
     bool m_locked = false, m_masked = false, m_multiline = false, m_upper = false, m_numeric = false;
+    bool m_typeOver = false;
     int m_maxLength = 0;
 };
 

@@ -43,6 +43,9 @@ public:
     /// The button that keeps what the user has entered: the first whose caption begins with "Save". Null: nothing is
     /// entered here.
     virtual Button* saveButton();
+    /// Finds a patient among all for this form, which takes him as if its user had picked him in its own way. False: it
+    /// takes none.
+    virtual bool findPatient() { return false; }
     /// What a file with the form's page is called, without its ending.
     virtual QString documentName() const { return m_caption; }
 

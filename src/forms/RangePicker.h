@@ -22,6 +22,7 @@ public:
           get(form, words.buttonName, words.buttonCaption, list), cboVehNo(form, "cboVehNo", style, pick),
           m_range(words.range) {
         DTPicker1.setRangeEnd(&DTPicker2);
+        cboVehNo.setToolTip("F3 finds any patient");
     }
 
     DatePicker DTPicker1, DTPicker2;

@@ -14,6 +14,7 @@ const QString modeSearch = "SEARCH";
 frmDebtInfo::frmDebtInfo(Program& owner) : Screen(owner, "frmDebtInfo", "Debt Info") {
     cboGroup.addItems({"Name", "CardNo", "SysNo"});
     txtName.onEnter = [this] { search(); };
+    txtName.setToolTip("F3 finds any patient");
     grdData.setToolTip("Double Click a row to Get the Debt Info of a Patient");
     grdData.setFormat("Debt", "#,##;(#,##0)");
     for (const char* column : {"Bill", "AmountPaid"})
@@ -82,12 +83,23 @@ void frmDebtInfo::search() {
     } else {
         sql << "select  * from vwhpatients where fullname like '" << text << "%'  order by fullname";
     }
+    showPatients(sql);
+}
+
+void frmDebtInfo::showPatients(const Sql& sql) {
     beginSearch();
     grdData.setSummed("Debt", true);
     const Recordset found = Recordset::paged(program.openBilling(), sql);
     grdData.load(found);
     if (!found.eof())
         grdData.setFocus();
+}
+
+Screen::PatientTaker frmDebtInfo::patientTaker() {
+    return [this](const QString& pno) {
+        showPatients(Sql("select  * from vwhpatients where Pno = '") << pno << "'");
+        grdData_DblClick();
+    };
 }
 
 /// The grid shows patients, not the statement of one.

@@ -16,10 +16,14 @@ public:
     Button* defaultButton() override { return &OKButton; }
     Button* cancelButton() override { return &CancelButton; }
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
     void showPatientInHand();
     void beginSearch();
     void search();
+    void showPatients(const Sql& sql);
     void grdData_DblClick();
     void cmdList_Click();
     bool showsPatients() const;

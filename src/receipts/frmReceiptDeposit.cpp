@@ -55,12 +55,24 @@ void frmReceiptDeposit::setEntry(bool entering) {
 }
 
 void frmReceiptDeposit::cmdInv_Click() {
+    listVisits(Sql("recdate between '") << visits.DTPicker1.date() << "' and '" << visits.DTPicker2.date() << " '");
+}
+
+/// His visits, the newest first; with "Add" first where no deposit is under way.
+Screen::PatientTaker frmReceiptDeposit::patientTaker() {
+    return [this](const QString& pno) {
+        if (!visits.cboVehNo.isUsable())
+            cmdAdd_Click();
+        listVisits(Sql("pno='") << pno << "' order by recID desc");
+        takeOnly(visits.cboVehNo, "This patient has no visit");
+    };
+}
+
+void frmReceiptDeposit::listVisits(const Sql& which) {
     visits.cboVehNo.clear();
     Connection connection = program.openBilling();
-    Recordset rows(
-        connection,
-        Sql("select distinct recID,pno,fullname,consultID as billno from qryhVisits where  recdate between '")
-            << visits.DTPicker1.date() << "' and '" << visits.DTPicker2.date() << " '");
+    Recordset rows(connection, Sql("select distinct recID,pno,fullname,consultID as billno from qryhVisits where  ")
+                                   << which);
     for (; !rows.eof(); rows.moveNext()) {
         const ListedVisit visit{rows.text("billno"), rows.text("pno"), rows.text("fullname")};
         visits.cboVehNo.addItem(visit.patient + " [" + visit.pno + "]#" + visit.consultID, QVariant::fromValue(visit));

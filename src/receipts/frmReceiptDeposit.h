@@ -17,7 +17,11 @@ public:
     Button* defaultButton() override { return OKButton.isEnabled() ? &OKButton : nullptr; }
     Button* cancelButton() override { return &CancelButton; }
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
+    void listVisits(const Sql& which);
     void cmdInv_Click();
     void cmdAdd_Click();
     void cmdCancel_Click();

@@ -72,11 +72,23 @@ void frmReceiptManual::setEntry(bool entering) {
 }
 
 void frmReceiptManual::cmdList_Click() {
+    listVisits(Sql("recdate between '") << visits.DTPicker1.date() << "' and '" << visits.DTPicker2.date() << " '");
+}
+
+/// His visits, the newest first; with "Add" first where no receipt is under way.
+Screen::PatientTaker frmReceiptManual::patientTaker() {
+    return [this](const QString& pno) {
+        if (!visits.cboVehNo.isUsable())
+            cmdAdd_Click();
+        listVisits(Sql("pno='") << pno << "' order by recdate desc");
+        takeOnly(visits.cboVehNo, "This patient has no visit");
+    };
+}
+
+void frmReceiptManual::listVisits(const Sql& which) {
     visits.cboVehNo.clear();
     Connection connection = program.openBilling();
-    Recordset rows(connection,
-                   Sql("select distinct recdate,pno,fullname,consultID from qryhVisits where  recdate between '")
-                       << visits.DTPicker1.date() << "' and '" << visits.DTPicker2.date() << " '");
+    Recordset rows(connection, Sql("select distinct recdate,pno,fullname,consultID from qryhVisits where  ") << which);
     for (; !rows.eof(); rows.moveNext()) {
         const ListedVisit visit{rows.text("consultID"), rows.text("pno"), rows.text("fullname"), rows.date("recdate")};
         visits.cboVehNo.addItem(visit.patient + " @ " + visit.date.toString("dd/MM/yyyy") + " [" + visit.pno + "]#" +

@@ -16,7 +16,11 @@ public:
     Button* defaultButton() override { return OKButton.isEnabled() ? &OKButton : nullptr; }
     Button* cancelButton() override { return &CancelButton; }
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
+    void listVisits(const Sql& which);
     void loadLists();
     void cmdList_Click();
     void cmdAdd_Click();

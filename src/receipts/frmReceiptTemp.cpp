@@ -73,12 +73,27 @@ void frmReceiptTemp::setEntry(bool entering) {
 }
 
 void frmReceiptTemp::cmdInv_Click() {
+    listBills(Sql("where  date between '")
+              << bills.DTPicker1.date() << "' and '" << bills.DTPicker2.date() << "' order by fullname");
+}
+
+/// His bills that are due, whatever their dates; with "Add" first where no receipt is under way.
+Screen::PatientTaker frmReceiptTemp::patientTaker() {
+    if (!bills.cboVehNo.isUsable() && !cmdAdd.isUsable())
+        return {};
+    return [this](const QString& pno) {
+        if (!bills.cboVehNo.isUsable())
+            cmdAdd_Click();
+        listBills(Sql("where pno='") << pno << "' order by billno desc");
+        takeOnly(bills.cboVehNo, "This patient has no private bill that is due");
+    };
+}
+
+void frmReceiptTemp::listBills(const Sql& which) {
     bills.cboVehNo.clear();
     bills.cboVehNo.addItem({});
     Connection connection = program.openBilling();
-    Recordset due(connection,
-                  Sql("select distinct billno,fullname from qryBillingBalanceDueForPrivate  where  date between '")
-                      << bills.DTPicker1.date() << "' and '" << bills.DTPicker2.date() << "' order by fullname");
+    Recordset due(connection, Sql("select distinct billno,fullname from qryBillingBalanceDueForPrivate  ") << which);
     for (; !due.eof(); due.moveNext()) {
         const ListedVisit visit{.consultID = due.text("billno"), .pno = {}, .patient = due.text("fullname")};
         bills.cboVehNo.addItem(visit.patient + " [" + visit.consultID + "]", QVariant::fromValue(visit));

@@ -16,8 +16,12 @@ public:
     Button* defaultButton() override { return OKButton.isEnabled() ? &OKButton : nullptr; }
     Button* cancelButton() override { return &CancelButton; }
 
+protected:
+    PatientTaker patientTaker() override;
+
 private:
     void cmdInv_Click();
+    void listBills(const Sql& which);
     void cboVehNo_Click();
     void loadBill(const QString& billNo);
     double refreshPaid(const QString& billNo);

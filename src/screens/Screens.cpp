@@ -4,6 +4,7 @@
 #include "attendance/frmFind.h"
 #include "attendance/frmFlash.h"
 #include "attendance/frmPatList.h"
+#include "attendance/frmPatientFinder.h"
 #include "attendance/frmPatientInfo.h"
 #include "attendance/frmRecordsOffline.h"
 #include "attendance/frmReminder.h"
@@ -62,6 +63,7 @@ constexpr struct {
     {"frmFind", make<frmFind>},
     {"frmFlash", make<frmFlash>},
     {"frmPatList", make<frmPatList>},
+    {"frmPatientFinder", make<frmPatientFinder>},
     {"frmPatientInfo", make<frmPatientInfo>},
     {"frmRecordsOffline", make<frmRecordsOffline>},
     {"frmReminder", make<frmReminder>},

@@ -1,5 +1,7 @@
 #include "session/MdiTolmek.h"
 
+#include "patients/PatientDirectory.h"
+
 #include <QDir>
 
 namespace orvane {
@@ -92,6 +94,13 @@ void MdiTolmek::checkWaitingVisits() {
         tmrSound.setEnabled(!waiting.eof());
     }
     program.ui().processEvents();
+}
+
+/// A page of them in each pause, for the patient finder. A fault is shown once and ends it; the finder goes on.
+void MdiTolmek::readPatients() {
+    tmrPatients.setEnabled(false);
+    Connection connection = program.openBilling();
+    tmrPatients.setEnabled(program.patients().readOn(connection));
 }
 
 void MdiTolmek::tmrMDI_Timer() {

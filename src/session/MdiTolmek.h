@@ -43,6 +43,7 @@ private:
     void cmdView_Click() { program.open("frmFlash"); }
     void refreshServerClock();
     void checkWaitingVisits();
+    void readPatients();
     void tmrMDI_Timer();
     void tmrSound_Timer();
     void Picture1_DblClick();
@@ -76,6 +77,7 @@ private:
     StatusBar SbrTolmek{*this, "SbrTolmek", 3};
     Timer Timer2{*this, "Timer2", 60000, true, &Me::refreshServerClock};
     Timer Timer1{*this, "Timer1", 60000, true, &Me::checkWaitingVisits};
+    Timer tmrPatients{*this, "tmrPatients", 40, true, &Me::readPatients};
     Timer tmrMDI{*this, "tmrMDI", 500, false, &Me::tmrMDI_Timer};
     Timer tmrSound{*this, "tmrSound", 60000, false, &Me::tmrSound_Timer};
     Timer tmrIdle{*this, "tmrIdle", 10000, false}; ///< the hook of an idle rule; it does nothing

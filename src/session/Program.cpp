@@ -2,10 +2,12 @@
 
 #include "books/Words.h"
 #include "data/Assert.h"
+#include "patients/PatientDirectory.h"
 
 namespace orvane {
 
-Program::Program(const QString& homeFolder, Ui& ui) : m_homeFolder(homeFolder), m_ui(ui) {}
+Program::Program(const QString& homeFolder, Ui& ui)
+    : m_homeFolder(homeFolder), m_ui(ui), m_patients(std::make_unique<PatientDirectory>()) {}
 
 Program::~Program() = default;
 

@@ -9,6 +9,7 @@
 
 namespace orvane {
 
+class PatientDirectory;
 class Program;
 
 /// Makes a form of its class; registered under the form's own name.
@@ -36,7 +37,8 @@ public:
 
     /// Where this user saves, by the shell's clock as it stands now.
     Desk desk();
-    int openSteps() const { return m_openSteps; } ///< of the books, that run now; for tests
+    PatientDirectory& patients() { return *m_patients; } ///< one for all screens
+    int openSteps() const { return m_openSteps; }        ///< of the books, that run now; for tests
 
     void registerForm(const QString& name, FormFactory factory);
     bool isRegistered(const QString& name) const;
@@ -92,6 +94,7 @@ private:
     Ui& m_ui;
     std::unique_ptr<DataSource> m_data; ///< made on first use, so that its faults show where the program starts
     std::unique_ptr<QLockFile> m_lock;
+    std::unique_ptr<PatientDirectory> m_patients;
     std::map<QString, FormFactory> m_factories;       ///< by lower-cased name
     std::map<QString, std::unique_ptr<Form>> m_forms; ///< loaded, by lower-cased name
     std::vector<std::unique_ptr<Form>> m_closedForms;

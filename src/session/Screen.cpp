@@ -1,5 +1,7 @@
 #include "session/Screen.h"
 
+#include <QPointer>
+
 namespace orvane {
 
 namespace {
@@ -27,6 +29,35 @@ void doAfterSave(const std::function<void()>& follow) {
 }
 
 } // namespace
+
+bool Screen::findPatient() {
+    // An entry of which nobody knows whether it was saved stays as it is.
+    if (m_openSave || !patientTaker())
+        return false;
+    const QPointer<Screen> self(this);
+    session.sFoundPNo.clear();
+    program.openModal("frmPatientFinder");
+    // While the finder was in front the program may have ended.
+    if (self && !session.sFoundPNo.isEmpty())
+        userEvent([this] {
+            if (const PatientTaker take = patientTaker())
+                take(session.sFoundPNo);
+        });
+    return true;
+}
+
+void Screen::takeOnly(ComboBox& list, const QString& nothing) {
+    QVector<int> entries; // without a blank one
+    for (int i = 0; i < list.count(); ++i)
+        if (list.itemData(i).isValid())
+            entries << i;
+    if (entries.isEmpty())
+        program.box(nothing);
+    else if (entries.size() == 1)
+        list.setListIndex(entries.first());
+    else
+        list.setFocus();
+}
 
 bool Screen::passes(std::initializer_list<Check> checks) {
     for (const Check& check : checks) {

@@ -36,8 +36,17 @@ public:
         : Form(owner.ui(), name, caption), program(owner), session(owner.session) {}
     void afterEvent() override { program.flushBoxes(); }
     bool Form_Unload() override;
+    bool findPatient() override;
 
 protected:
+    /// How this screen takes a patient that was found for it, by his number, which stands for one picked in the
+    /// screen's own way. Unset: it takes none, or none now.
+    using PatientTaker = std::function<void(const QString& pno)>;
+    virtual PatientTaker patientTaker() { return {}; }
+    /// After a list was filled with what one patient has: takes the only entry as its user would; of several he
+    /// chooses, and `nothing` is said where there is none.
+    void takeOnly(ComboBox& list, const QString& nothing);
+
     /// The one way to save: an earlier save that was not answered is settled first, and nothing else is done then; the
     /// checks; the question; the step in its transaction; what follows. When nobody can say whether the commit came
     /// through, CommitUnknown is raised, the entry stays on the screen and is locked but for the button, whose next

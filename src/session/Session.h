@@ -40,6 +40,10 @@ struct Session {
     double dBillTotal = 0; ///< naira; what amountToUpperWords words
     QString sAmountWords;
 
+    // The patient finder.
+    QString sFoundPNo;      ///< handed to the screen that asked for a patient; empty: none was taken
+    QString sPatientSearch; ///< what was searched last
+
     // The bill in hand.
     QString gConsultID, sBillPno, sBillPatName, sBillCoy, sBillPatLabel;
     double dAmountGen = 0, dAmountBal = 0, dAmountPaid = 0; ///< naira
