@@ -8,6 +8,7 @@
 #include "desktop/GridBinding.h"
 #include "desktop/Look.h"
 #include "desktop/TableView.h"
+#include "patients/PatientDirectory.h"
 #include "session/Main.h"
 
 #include <QApplication>
@@ -125,6 +126,8 @@ public:
 private:
     void close(const QString& name);
     void searchAsTyped();
+    void readPatients();
+    void findPatients();
     void searchByButton(const QString& form, const QString& what, const QString& where);
     void showGrid(const Recordset& rows);
     void showEntryGrid(const Recordset& rows);
@@ -268,11 +271,51 @@ void Screens::searchByButton(const QString& form, const QString& what, const QSt
     close(form);
 }
 
+/// What the main window reads in its pauses, at once.
+void Screens::readPatients() {
+    auto& timer = control<Timer>("MdiTolmek", "tmrPatients");
+    Times pages;
+    const Stopwatch watch;
+    while (timer.isEnabled())
+        pages.add(painted([&] { timer.tick(); }));
+    line("patient finder, a page of the patients read", pages);
+    line("patient finder, all of them", watch.time(),
+         QStringLiteral("%1 MB").arg(double(m_program.patients().bytes()) / 1e6, 0, 'f', 1));
+    showMemory("with all patients read");
+}
+
+/// The patient finder: a key at a time, each painted before the next.
+void Screens::findPatients() {
+    readPatients();
+    m_program.open("frmPatientFinder");
+    QApplication::processEvents();
+    auto& text = control<TextBox>("frmPatientFinder", "txtFind");
+    QWidget& editor = *bindingOf(text).editor();
+    const std::pair<const char*, QStringList> kinds[] = {
+        {"surname", surnames},
+        {"any part of the name", {"BISI", "KAFO", "UNDE", "LADE", "INIYI"}},
+        {"two words in any order", {"BOLA ADEBISI", "EKENE OKOYE", "ADE OLA", "MILA SHEHU"}},
+        {"number or telephone", {"123456", "001/001", "0800000", "H4898", "7777", "002002/001"}},
+        {"nobody has it", {"XQZ", "QX", "ZZZ", "O X", "8 9 X"}}};
+    for (const auto& [kind, texts] : kinds) {
+        Times times;
+        for (const QString& typed : texts) {
+            text.clear();
+            QApplication::processEvents();
+            for (const QChar letter : typed)
+                times.add(painted([&] { press(editor, 0, letter); }));
+        }
+        line(QStringLiteral("frmPatientFinder, a letter: %1").arg(QLatin1String(kind)), times);
+    }
+    close("frmPatientFinder");
+}
+
 void Screens::searchPatients() {
     heading("patient search, first page painted");
     searchAsTyped();
     searchByButton("frmRecordsOffline", "txtName", "cmdOK");
     searchByButton("frmDebtInfo", "txtName", "OKButton");
+    findPatients();
 }
 
 Sql longStatement() {
