@@ -271,17 +271,22 @@ void Screens::searchByButton(const QString& form, const QString& what, const QSt
     close(form);
 }
 
-/// What the main window reads in its pauses, at once.
+/// What the main window reads in its pauses, at once; it may be ready by now.
 void Screens::readPatients() {
-    auto& timer = control<Timer>("MdiTolmek", "tmrPatients");
+    PatientDirectory patients;
+    Connection connection = m_program.openBilling();
     Times pages;
     const Stopwatch watch;
-    while (timer.isEnabled())
-        pages.add(painted([&] { timer.tick(); }));
+    for (bool more = true; more;) {
+        const Stopwatch page;
+        more = patients.readOn(connection);
+        pages.add(page.time());
+    }
     line("patient finder, a page of the patients read", pages);
     line("patient finder, all of them", watch.time(),
-         QStringLiteral("%1 MB").arg(double(m_program.patients().bytes()) / 1e6, 0, 'f', 1));
-    showMemory("with all patients read");
+         QStringLiteral("%1 MB").arg(double(patients.bytes()) / 1e6, 0, 'f', 1));
+    while (m_program.patients().readOn(connection)) {
+    }
 }
 
 /// The patient finder: a key at a time, each painted before the next.
