@@ -1,38 +1,25 @@
 #include "Scene.h"
 
+#include "data/engine/ServerList.h"
 #include "support/Check.h"
 
-#include <QDir>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QThread>
 #include <stdexcept>
-#include <sys/mount.h>
 
 namespace orvane {
 
 namespace {
 
-const QHash<QString, QString> iniOf(const QString& folder) {
-    QFile file(folder + "/orvane.ini");
-    if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("no orvane.ini");
-    QHash<QString, QString> values;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n'))
-        values.insert(line.section('=', 0, 0).trimmed(), line.section('=', 1).trimmed());
-    return values;
-}
-
-/// Makes the program of a home go through the proxy.
-void redirect(const QString& folder, int port) {
+/// Makes the program of a home reach its server through the network that breaks.
+void redirect(const QString& folder) {
     QFile file(folder + "/orvane.ini");
     if (!file.open(QIODevice::ReadWrite))
         throw std::runtime_error("no orvane.ini");
     const QString text = QString::fromUtf8(file.readAll())
-                             .replace(QRegularExpression("host = \\S+"), "host = 127.0.0.1")
-                             .replace(QRegularExpression("port = \\d+"), QString("port = %1").arg(port));
+                             .replace(QRegularExpression("port = \\d+"), QString("port = %1").arg(Network::port));
     file.resize(0);
     file.write(text.toUtf8());
 }
@@ -42,16 +29,16 @@ void redirect(const QString& folder, int port) {
 Beside::Beside(const QString& homeFolder) {
     static int last = 0;
     m_name = QString("beside-%1").arg(++last);
-    const auto ini = iniOf(homeFolder);
-    if (ini.value("engine") == "sqlite") {
+    const ServerEntry server = ServerList(homeFolder).entry("SERVER");
+    if (server.engine == Engine::Sqlite) {
         m_database = QSqlDatabase::addDatabase("QSQLITE", m_name);
-        m_database.setDatabaseName(QDir(homeFolder).filePath(ini.value("folder")) + "/Dunmarch.db");
+        m_database.setDatabaseName(server.folder + "/Dunmarch.db");
     } else {
         m_database = QSqlDatabase::addDatabase("QPSQL", m_name);
-        m_database.setHostName(ini.value("host"));
-        m_database.setPort(ini.value("port").toInt());
+        m_database.setHostName(server.host);
+        m_database.setPort(server.port);
         m_database.setUserName("zorva");
-        m_database.setDatabaseName(ini.value("prefix") + "dunmarch");
+        m_database.setDatabaseName(server.prefix + "dunmarch");
         m_database.setConnectOptions("options='-c client_min_messages=error'");
     }
     if (!m_database.open())
@@ -71,41 +58,12 @@ QString Beside::run(const QString& statement) {
     return query.next() ? query.value(0).toString() : QString();
 }
 
-SmallDisk::SmallDisk(const QString& folder) : m_folder(folder) {
-    const QTemporaryDir kept;
-    if (QProcess::execute("cp", {"-a", folder + "/.", kept.path()}) != 0)
-        throw std::runtime_error("the databases cannot be copied");
-    m_mounted = mount("tmpfs", folder.toUtf8().constData(), "tmpfs", 0, "size=24m") == 0;
-    if (m_mounted && QProcess::execute("cp", {"-a", kept.path() + "/.", folder}) != 0)
-        throw std::runtime_error("the databases cannot be copied back");
-}
-
-SmallDisk::~SmallDisk() {
-    if (m_mounted)
-        umount2(m_folder.toUtf8().constData(), MNT_DETACH);
-}
-
-void SmallDisk::fill() {
-    QFile filler(m_folder + "/filler");
-    if (!filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        throw std::runtime_error("no filler");
-    for (qint64 size = 1 << 20; size > 0; size /= 2)
-        for (const QByteArray block(size, 'x'); filler.write(block) == size;) {
-        }
-}
-
-void SmallDisk::freeUp() {
-    QFile::remove(m_folder + "/filler");
-}
-
 Scene::Scene(Engine tested, const MoneyAction& played) : engine(tested), action(played), m_home(tested) {
-    if (engine == Engine::Sqlite)
-        disk = std::make_unique<SmallDisk>(m_home.folder() + "/data");
     m_watcherHome = std::make_unique<SecondHome>(m_home);
     layAction(folder(), action);
     if (engine == Engine::Postgresql) {
-        proxy = std::make_unique<Proxy>(iniOf(folder()).value("port").toInt());
-        redirect(m_home.folder(), proxy->port());
+        network = std::make_unique<Network>(ServerList(folder()).entry("SERVER").port);
+        redirect(m_home.folder());
     }
     ws = std::make_unique<Workstation>(m_home.folder());
     if (!ws->start())

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Proxy.h"
+#include "Network.h"
 #include "support/MoneyActions.h"
 
 #include <QSqlDatabase>
@@ -23,25 +23,7 @@ private:
     QSqlDatabase m_database;
 };
 
-/// A disk of its own for the files of a home, so small that it can be filled. Only root can mount one: without it a
-/// full disk is not tried on the embedded engine.
-class SmallDisk {
-public:
-    explicit SmallDisk(const QString& folder); ///< takes the files in it along
-    ~SmallDisk();
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-
-    bool isMounted() const { return m_mounted; }
-    void fill();
-    void freeUp();
-
-private:
-    QString m_folder;
-    bool m_mounted = false;
-};
-
-/// A program before the last press of an action, on databases of its own; on PostgreSQL behind a proxy.
+/// A program before the last press of an action, on databases of its own; on PostgreSQL over a network that breaks.
 class Scene {
 public:
     Scene(Engine engine, const MoneyAction& action);
@@ -58,7 +40,7 @@ public:
     void hurry() { ws->program.data().setWaits(150, 10); }
     QString figures();                                         ///< seen by another workstation
     QStringList findings();                                    ///< of the check
-    QString folder() const { return m_watcherHome->folder(); } ///< of a home that reaches the server without the proxy
+    QString folder() const { return m_watcherHome->folder(); } ///< of a home that reaches the server over a sound one
     /// Returns when the server has ended every transaction whose program is gone.
     void waitForServer();
 
@@ -69,8 +51,7 @@ private:
     TestHome m_home;
 
 public:
-    std::unique_ptr<SmallDisk> disk; ///< SQLite
-    std::unique_ptr<Proxy> proxy;    ///< PostgreSQL
+    std::unique_ptr<Network> network; ///< PostgreSQL
 
 private:
     std::unique_ptr<SecondHome> m_watcherHome;

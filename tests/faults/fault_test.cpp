@@ -1,11 +1,11 @@
 // Faults of the engine in the middle of a save: the user is told, nothing is half saved, and the same program saves the
 // same entry, once, when the fault is gone.
+#include "Disk.h"
 #include "PrivateServer.h"
 #include "Scene.h"
 
 #include <QRegularExpression>
-#include <csignal>
-#include <sys/resource.h>
+#include <cerrno>
 
 namespace orvane {
 
@@ -24,15 +24,6 @@ struct Fault {
     void (*begin)(Scene&);
     void (*end)(Scene&);
 };
-
-/// No file of this process may grow, as on a disk that refuses every write.
-void forbidWrites(bool forbidden) {
-    std::signal(SIGXFSZ, forbidden ? SIG_IGN : SIG_DFL);
-    rlimit limit = {};
-    getrlimit(RLIMIT_FSIZE, &limit);
-    limit.rlim_cur = forbidden ? 0 : limit.rlim_max;
-    setrlimit(RLIMIT_FSIZE, &limit);
-}
 
 /// What the program's next connection is told. Its pool gives the last one first.
 void tellProgram(Scene& scene, const char* pragma) {
@@ -71,9 +62,9 @@ void stopTerminating(Scene& scene) {
 
 const Fault faults[] = {
     {Engine::Sqlite, "DiskFull", "The disk of the database is full. Nothing was saved.",
-     [](Scene& scene) { scene.disk->fill(); }, [](Scene& scene) { scene.disk->freeUp(); }},
+     [](Scene&) { failWrites(ENOSPC); }, [](Scene&) { failWrites(0); }},
     {Engine::Sqlite, "DiskFails", "The disk of the database cannot be read or written. Nothing was saved.",
-     [](Scene&) { forbidWrites(true); }, [](Scene&) { forbidWrites(false); }},
+     [](Scene&) { failWrites(EIO); }, [](Scene&) { failWrites(0); }},
     {Engine::Sqlite, "ReadOnly", "The database cannot be written to at present. Nothing was saved.",
      [](Scene& scene) { tellProgram(scene, "pragma query_only = 1"); }, [](Scene&) {}},
     {Engine::Sqlite, "Locked", "The database is in use by another workstation. Nothing was saved.",
@@ -198,10 +189,10 @@ protected:
         EXPECT_EQ(scene.findings(), QStringList());
     }
     /// Loses the commit of the next press while the server stays away.
-    void pressAndLose(Proxy::Loss loss) {
-        scene.proxy->loseCommit(loss, true);
+    void pressAndLose(Network::Loss loss) {
+        scene.network->loseCommit(loss, true);
         const Scene::Told told = scene.press();
-        EXPECT_TRUE(scene.proxy->hasCut());
+        EXPECT_TRUE(scene.network->hasCut());
         EXPECT_TRUE(told.text().contains(unknown)) << told.text().toStdString();
         EXPECT_TRUE(told.text().contains("How to find out: press the same button again"));
         EXPECT_FALSE(told.reported);
@@ -215,8 +206,7 @@ protected:
 
     void tryFaults() {
         for (const Fault& fault : faults) {
-            const bool needsDisk = fault.engine == Engine::Sqlite && QLatin1String(fault.name) == "DiskFull";
-            if (fault.engine != scene.engine || (needsDisk && !scene.disk->isMounted()))
+            if (fault.engine != scene.engine)
                 continue;
             SCOPED_TRACE(fault.name);
             scene.ws->billing(); // the program has a connection open, as it has all day
@@ -233,25 +223,25 @@ protected:
         for (int statement = 1;; statement += step) {
             SCOPED_TRACE("cut at " + std::to_string(statement));
             // One that is never reached leaves the save to the loss behind it.
-            scene.proxy->cutAtStatement(statement);
-            scene.proxy->loseCommit(Proxy::Loss::Request, false);
+            scene.network->cutAtStatement(statement);
+            scene.network->loseCommit(Network::Loss::Request, false);
             const Scene::Told told = scene.press();
-            ASSERT_TRUE(scene.proxy->hasCut());
+            ASSERT_TRUE(scene.network->hasCut());
             expectRefused(told, nothingSaved);
-            if (scene.proxy->hasLost())
+            if (scene.network->hasLost())
                 return;
         }
     }
 
     /// The commit never arrives; then it stays on the way, so that it may yet arrive and nothing may be saved again.
     void tryLostRequests() {
-        for (const Proxy::Loss loss : {Proxy::Loss::Request, Proxy::Loss::Delay}) {
+        for (const Network::Loss loss : {Network::Loss::Request, Network::Loss::Delay}) {
             pressAndLose(loss);
-            scene.proxy->comeBack();
-            if (loss == Proxy::Loss::Delay)
+            scene.network->comeBack();
+            if (loss == Network::Loss::Delay)
                 expectStillUnknown();
             EXPECT_EQ(scene.figures(), before);
-            scene.proxy->endDelayedCommit(false);
+            scene.network->endDelayedCommit(false);
             scene.waitForServer();
             expectRefused(scene.press(), notSaved);
         }
@@ -260,7 +250,7 @@ protected:
     /// The server comes back as a copy from before the save.
     void forgetOnServer() {
         PrivateServer::keepCopy();
-        pressAndLose(Proxy::Loss::Answer);
+        pressAndLose(Network::Loss::Answer);
         const QString lost = Beside(scene.folder()).run("select xmin from SavedActions order by savedAt desc limit 1");
         PrivateServer::becomeCopy();
         {
@@ -269,7 +259,7 @@ protected:
             }
             ASSERT_EQ(others.run("select txid_status(" + lost + ")"), "committed") << "another transaction";
         }
-        scene.proxy->comeBack();
+        scene.network->comeBack();
         expectRefused(scene.press(), notSaved);
         expectSaved(scene.press());
     }
@@ -292,18 +282,18 @@ TEST_P(Faults, SaveTheEntryOnceWhenTheyAreGone) {
         return;
     case Ending::AnswerLost:
     case Ending::Late: {
-        pressAndLose(GetParam().ending == Ending::Late ? Proxy::Loss::Delay : Proxy::Loss::Answer);
-        scene.proxy->comeBack();
-        scene.proxy->endDelayedCommit(true);
+        pressAndLose(GetParam().ending == Ending::Late ? Network::Loss::Delay : Network::Loss::Answer);
+        scene.network->comeBack();
+        scene.network->endDelayedCommit(true);
         const Scene::Told told = scene.press();
         EXPECT_EQ(told.boxes.value(0), wasSaved);
         expectSaved(told);
         return;
     }
     case Ending::OnTheWay: {
-        scene.proxy->loseCommit(Proxy::Loss::Answer, false);
+        scene.network->loseCommit(Network::Loss::Answer, false);
         const Scene::Told told = scene.press();
-        EXPECT_TRUE(scene.proxy->hasCut());
+        EXPECT_TRUE(scene.network->hasCut());
         EXPECT_FALSE(told.text().contains("connection")) << told.text().toStdString();
         expectSaved(told);
         return;
