@@ -8,7 +8,6 @@
 #include "support/Check.h"
 #include "support/Workstation.h"
 #include "tests/proof/Worker.h"
-#include "tests/proof/WorkerProcess.h"
 
 #include <QCoreApplication>
 #include <QDataStream>

@@ -152,20 +152,6 @@ TEST_P(BulkHospital, isSoundAndGoesOnUnderTheScreens) {
 
 ORVANE_ON_EACH_ENGINE(BulkHospital);
 
-TEST(BulkHospitalSeed, makesTheSameHospitalForTheSameSeed) {
-    const TestHome homes[3];
-    const char* const seeds[] = {"5", "5", "6"};
-    QStringList sums;
-    for (int i = 0; i < 3; ++i) {
-        makeHospital(homes[i].folder(), {"--bills", "1", "--days", "1", "--seed", seeds[i]});
-        DataSource data(homes[i].folder());
-        Connection billing = data.open(TestHome::billing());
-        sums.append(rowsOf(billing, QStringList{"BillAccum", "PaymentDetails", "hPatients"}));
-    }
-    EXPECT_TRUE(sums.at(0) == sums.at(1));
-    EXPECT_FALSE(sums.at(0) == sums.at(2));
-}
-
 TEST(HomeFiles, aPrefixKeepsTheHospitalsOfOneServerApart) {
     QTemporaryDir folder;
     writeHomeFiles(folder.filePath("home"), {"postgresql", "db.example", 5433, "big_"});

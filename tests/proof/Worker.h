@@ -2,8 +2,11 @@
 
 #include "session/Program.h"
 
+#include <QProcess>
 #include <QStringList>
+#include <QTemporaryFile>
 #include <functional>
+#include <memory>
 
 namespace orvane {
 
@@ -35,5 +38,20 @@ int runWorker(
 /// Does one round of a number's own work in another home and tells nothing of it: what follows in this process costs
 /// what it costs on a workstation that has been at work for a while. Raises DataError.
 void rehearse(const QString& homeFolder, const QString& number);
+
+/// This program once more, as a process that says "ready" and then waits for a line to begin.
+class WorkerProcess {
+public:
+    explicit WorkerProcess(const QStringList& arguments);
+
+    bool isReady(); ///< waits until it says so; false: it has ended before
+    void begin();
+    bool hasEndedWell();      ///< waits for its end
+    QStringList told() const; ///< the lines behind "ready"
+
+private:
+    std::unique_ptr<QTemporaryFile> m_output;
+    std::unique_ptr<QProcess> m_process;
+};
 
 } // namespace orvane

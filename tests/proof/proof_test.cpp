@@ -1,5 +1,4 @@
 #include "Worker.h"
-#include "WorkerProcess.h"
 
 #include "support/Check.h"
 #include "support/Workstation.h"
@@ -131,15 +130,14 @@ protected:
                       "select TranCode,Remarks from AuditTrail where userAction like " + filter);
     }
 
-    void prove(int workers);
-
     QStringList told;
 };
 
 ORVANE_ON_EACH_ENGINE(Proof);
 
 /// What was told is what is stored: no save is missing, none is there twice, under another's number or in part.
-void Proof::prove(int workers) {
+TEST_P(Proof, WorkstationsLoseAndDoubleNothing) {
+    const int workers = GetParam() == Engine::Sqlite ? 8 : 16;
     ASSERT_NO_FATAL_FAILURE(work(workers, {}));
     EXPECT_EQ(toldOf("trouble"), QStringList());
     for (const QString& kind : savesOfARound)
@@ -175,17 +173,7 @@ void Proof::prove(int workers) {
     EXPECT_EQ(checkDatabases(ws.program).findings, QStringList());
 }
 
-/// Two workstations on the embedded engine, eight on the server.
-TEST_P(Proof, FewWorkstationsLoseAndDoubleNothing) {
-    prove(GetParam() == Engine::Sqlite ? 2 : 8);
-}
-
-/// Eight workstations on the embedded engine, sixteen on the server.
-TEST_P(Proof, ManyWorkstationsLoseAndDoubleNothing) {
-    prove(GetParam() == Engine::Sqlite ? 8 : 16);
-}
-
-/// The same work without the gate goes wrong, so the proofs above can fail. On the embedded engine the gate is the
+/// The same work without the gate goes wrong, so the proof above can fail. On the embedded engine the gate is the
 /// transaction itself, so there each statement is then for itself.
 TEST_P(Proof, WithoutTheGateItFails) {
     ASSERT_NO_FATAL_FAILURE(work(8, {"no-gate"}));
