@@ -165,8 +165,6 @@ TEST_P(Shell, entriesHandTheirPurposeToTheScreen) {
     ws.menu("mnuEPE");
     ws.program.registerForm("frmRptTB", [](Program& owner) { return std::make_unique<frmStart>(owner); });
     ASSERT_TRUE(ws.start());
-    ws.menu("mnuRPtES");
-    EXPECT_EQ(session.sRptPanelMode + '|' + session.sRptPanelLabel, "Receipt|select a receipt No");
     for (const auto& [entry, kind] :
          {std::pair("mnuTB", "TB"), std::pair("mnuTBBP", "TB2"), std::pair("mnuGL", "GL")}) {
         ws.menu(QLatin1String(entry));

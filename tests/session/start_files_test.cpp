@@ -76,6 +76,23 @@ TEST_F(StartFiles, missingFilesSayWhichAreMissing) {
                       "A System file UName required for this Application is MISSING"});
 }
 
+/// What is no text is refused with one line that names the file, and nothing of it is taken.
+TEST_F(StartFiles, aFileThatIsNoTextIsRefusedWhole) {
+    const QByteArray contents[] = {"SVR=HALL1\nHNO=0\x01\n", "SVR=HALL1\n\x1b[2J",
+                                   "SVR=HALL1\nHNO=" + QByteArray(70000, '1')};
+    for (const QByteArray& content : contents)
+        for (const auto& [name, read] : {std::pair("made.sys", &readMadeSys), {"sysdoc.sys", &readSysDoc}}) {
+            write(name, content);
+            try {
+                read(program);
+                ADD_FAILURE() << content.left(20).toStdString();
+            } catch (const DataError& fault) {
+                EXPECT_TRUE(fault.description().contains(name)) << fault.what();
+            }
+        }
+    EXPECT_EQ(program.session.gServerName + program.session.gHospID + program.session.gUsername, "");
+}
+
 TEST_F(StartFiles, onlyTheMenuSectionTurnsEntriesOn) {
     EXPECT_TRUE(readMenuEntriesTurnedOn(home.path()).isEmpty());
     write("orvane.ini", "mnuA = 1\n[server SERVER]\nmnuB = 1\n[Menu]\r\n; mnuC = 1\nmnuRct = 1 ; on\n"

@@ -69,7 +69,9 @@ TEST_P(Start, refusalsComeInOrder) {
     for (const auto& step : steps) {
         Attempt run(home.folder());
         EXPECT_FALSE(run.started);
-        EXPECT_BOXES(run.ui, {step.box});
+        const bool second = &step == steps;
+        EXPECT_EQ(run.ui.takeBoxesWithTitles(),
+                  (QList<TestUi::Box>{{step.box, second ? "Error" : "", second ? Icon::Critical : Icon::None}}));
         EXPECT_EQ(run.ui.opened, QStringList());
         step.mend();
     }
@@ -93,22 +95,6 @@ TEST_P(Start, theUsersHospitalReplacesThatOfTheFile) {
     EXPECT_EQ(run.session.gHospName2, QString());
     EXPECT_EQ(run.session.sHospitalNoStr, "0");
     EXPECT_EQ(run.session.gPatientsFolder, "\\\\SERVER\\Patients\\");
-}
-
-TEST_P(Start, aSecondCopyIsRefusedUntilTheFirstHasEnded) {
-    Attempt first(home.folder());
-    ASSERT_TRUE(first.started);
-    {
-        Attempt second(home.folder());
-        EXPECT_FALSE(second.started);
-        EXPECT_EQ(second.ui.takeBoxesWithTitles(),
-                  (QList<TestUi::Box>{{"BILLING Module is Already Running !", "Error", Icon::Critical}}));
-    }
-    first.ui.answer(true);
-    first.station.menu("mnuEPE");
-    EXPECT_TRUE(first.ui.hasQuit);
-    Attempt third(home.folder());
-    EXPECT_TRUE(third.started);
 }
 
 TEST_P(Start, theLogInWayTakesHospitalAndSettingsOver) {
@@ -179,55 +165,51 @@ QStringList boxes(const QString& text) {
     return text.isEmpty() ? QStringList() : QStringList{QString(text).replace('+', " needed for Posting")};
 }
 
-TEST_P(Start, eachSettingIsHeldOrMissed) {
-    for (const Setting& setting : settings) {
-        SCOPED_TRACE(setting.id);
-        const auto expectStart = [&](const std::optional<QString>& value, const char* box) {
-            Attempt run(home.folder());
-            EXPECT_EQ(run.started, value.has_value());
-            EXPECT_EQ(run.ui.takeBoxes(), boxes(box));
-            if (value && setting.variable)
-                EXPECT_EQ(run.session.*setting.variable, *value);
-        };
-        const bool isPeriod = QLatin1String(setting.id) == "AccountMonth";
-        const QString table = isPeriod ? "AccountMonth" : "AppDefaults", column = isPeriod ? "Period" : "idval";
-        const QString where = isPeriod ? QString() : QStringLiteral(" where ID='%1'").arg(setting.id);
-        const QString before = owner.scalar("select " + column + " from " + table + where);
-        for (const QString& stored : {"'" + QString(setting.id) + "'", QString("''"), QString("null")}) {
-            if (isPeriod && stored == "null")
-                continue; // the table's own key
-            const QString value = stored.size() > 4 ? setting.id : QString();
-            if (!value.isEmpty() && !setting.variable)
-                continue; // a number
-            owner.run(QStringLiteral("update %1 set %2=%3").arg(table, column, stored) + where);
-            if (value.isEmpty() && *setting.emptyBox)
-                expectStart(std::nullopt, setting.emptyBox);
-            else
-                expectStart(value, "");
-        }
-        owner.run("delete from " + table + where);
-        expectStart(setting.noRowValue ? std::optional<QString>(setting.noRowValue) : std::nullopt, setting.noRowBox);
-        layDefault(setting.id, before);
-    }
-}
-
-/// Everything is missing at once; each start complains of the next one.
+/// Everything is missing at first; each start complains of the next one, and of its empty value.
 TEST_P(Start, settingsAreAskedInTheirOrder) {
     owner.run("delete from AccountMonth");
     owner.run("delete from AppDefaults where ID<>'AcctPostOn'");
-    for (const Setting& setting : settings) {
-        if (setting.noRowValue)
-            continue;
+    const auto expectRefusal = [&](const char* text) {
         Attempt run(home.folder());
         EXPECT_FALSE(run.started);
-        EXPECT_EQ(run.ui.takeBoxes(), boxes(setting.noRowBox));
-        layDefault(setting.id, "7");
+        EXPECT_EQ(run.ui.takeBoxes(), boxes(text));
+    };
+    for (const Setting& setting : settings) {
+        SCOPED_TRACE(setting.id);
+        if (!setting.noRowValue)
+            expectRefusal(setting.noRowBox);
+        if (*setting.emptyBox) {
+            layDefault(setting.id, "");
+            expectRefusal(setting.emptyBox);
+            owner.run(QStringLiteral("delete from AppDefaults where ID='%1'").arg(setting.id));
+        }
+        if (!setting.noRowValue)
+            layDefault(setting.id, "7");
     }
     Attempt run(home.folder());
     EXPECT_TRUE(run.started);
     EXPECT_BOXES(run.ui, {"System Default Value needed for NHIS % Fee"});
     EXPECT_EQ(run.session.gCashAccountIndex * 10 + run.session.gARAccountIndex, 77);
     EXPECT_EQ(run.session.gPeriod, "7");
+    for (const Setting& setting : settings)
+        if (setting.noRowValue)
+            EXPECT_EQ(run.session.*setting.variable, setting.noRowValue) << setting.id;
+}
+
+TEST_P(Start, settingsAreHeldAlsoWhenEmpty) {
+    for (const bool empty : {false, true}) {
+        for (const Setting& setting : settings)
+            if (setting.variable && !(empty && *setting.emptyBox))
+                owner.run(setting.id == QLatin1String("AccountMonth")
+                              ? QStringLiteral("update AccountMonth set Period='%1'").arg(empty ? "" : setting.id)
+                              : QStringLiteral("update AppDefaults set idval='%1' where ID='%2'")
+                                    .arg(empty ? "" : setting.id, setting.id));
+        const Attempt run(home.folder());
+        EXPECT_TRUE(run.started);
+        for (const Setting& setting : settings)
+            if (setting.variable)
+                EXPECT_EQ(run.session.*setting.variable, empty && !*setting.emptyBox ? "" : setting.id);
+    }
 }
 
 TEST_P(Start, postingIsAsked) {
@@ -252,22 +234,6 @@ TEST_P(Start, postingIsAsked) {
     // Without posting none of its settings needs to exist.
     owner.run("delete from AppDefaults where ID like 'Acc%' or ID in ('CashAccountIndex', 'ARAccountIndex')");
     EXPECT_TRUE(Attempt(home.folder()).started);
-}
-
-TEST(StartWithoutDatabase, isRefusedInOneLine) {
-    TestHome home;
-    const QString path = QDir(home.folder()).filePath("data/Dunmarch.db");
-    for (const char* content : {"", "no database"}) {
-        if (*content)
-            writeFile(path, QByteArray(content).repeated(1000));
-        else
-            ASSERT_TRUE(QFile::remove(path));
-        Attempt run(home.folder());
-        EXPECT_FALSE(run.started);
-        const QStringList said = run.ui.takeBoxes();
-        EXPECT_TRUE(said.size() == 1 && !said.first().isEmpty() && !said.first().contains('\n'));
-        EXPECT_EQ(QFile::exists(path), *content != 0);
-    }
 }
 
 } // namespace
