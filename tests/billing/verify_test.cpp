@@ -42,18 +42,6 @@ TEST_P(Verify, ListsAndPicksVisits) {
     EXPECT_BOXES(ui, {});
 }
 
-TEST_P(Verify, WorklistHandsOverItsVisit) {
-    layVisit();
-    ws.program.session.gSearchBillNo = billNo;
-    open();
-    EXPECT_EQ(value("lblBill"), billNo);
-    EXPECT_EQ(ws.program.session.gSearchBillNo, "");
-    click("cmdCancel");
-    ws.program.session.gSearchBillNo = billNo;
-    open();
-    EXPECT_EQ(value("lblBill"), billNo) << "the screen was open already";
-}
-
 TEST_P(Verify, LoadShowsTheBill) {
     layVisit({.category = "HMO", .client = "0201"}, {.category = "HMO", .client = "0201"});
     Connection connection = ws.billing();

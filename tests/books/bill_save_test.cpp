@@ -40,7 +40,7 @@ protected:
 };
 ORVANE_ON_EACH_ENGINE(BillSave);
 
-/// How a receipt spreads over the lines of a bill.
+/// How a receipt spreads over the lines of a bill, whatever their names and their revenue type.
 TEST_P(BillSave, ReceiptOverTheLines) {
     const struct {
         const char* name;
@@ -56,16 +56,22 @@ TEST_P(BillSave, ReceiptOverTheLines) {
         {"kobo of kobo", {33.335, 66.671}, 100.01, "A|33.34|33.34\nB|66.67|66.67", "A|1\nB|1"},
         {"no lines", {}, 800, "DEPOSIT_PAYMENT|800|800", ""},
     };
+    const std::pair<const char*, const char*> names[] = {
+        {"A|", "ENDS IN A BLANK |"}, {"B|", " o'neill's 100% [a_b]#1|"}, {"C|", "tab\t|"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         strike();
-        char name = 'A';
-        for (double price : c.lines)
-            makeItem(billing, {.name = QString(QChar::fromLatin1(name++)), .price = price});
+        QString shares = c.shares, covered = c.covered;
+        for (qsizetype i = 0; i < c.lines.size(); ++i) {
+            makeItem(billing, {.name = QString(names[i].second).chopped(1), .revType = "UNKNOWN", .price = c.lines[i]});
+            shares.replace(names[i].first, names[i].second);
+            covered.replace(names[i].first, names[i].second);
+        }
         collate();
         saveIt(c.amount);
-        EXPECT_EQ(rows("select BillItem, AmountPaid, AmountToPay from PaymentDetails order by SNo"), c.shares);
-        EXPECT_EQ(rows("select drgName, isRct from BillingDetails order by SNo"), c.covered);
+        EXPECT_EQ(rows("select BillItem, AmountPaid, AmountToPay from PaymentDetails order by SNo"), shares);
+        for (const char* table : {"BillingDetails", "BillAccum"})
+            EXPECT_EQ(rows(QStringLiteral("select drgName, isRct from %1 order by SNo").arg(table)), covered);
         EXPECT_EQ(scalar("select AmountPaid from Billing"), QString::number(c.amount));
     }
     EXPECT_EQ(rows("select AccountNo, revType, snoID from PaymentDetails"), "9999|SUSPENSE|0");
@@ -115,6 +121,9 @@ TEST_P(BillSave, ProfessionalFeeIsWhatStandsOnTheBill) {
     makeItem(billing, {.price = 1000.55});
     collate();
     EXPECT_EQ(*fee("7.5", 1000.55), 75.04);
+    EXPECT_EQ(rows("select drgName, Price, Qty, SubTotal, billType, Category, Capitated, PNo, coyName, billTo, suppres "
+                   "from BillAccum where SNo=2"),
+              "Prof Fee (7.5%)|75.04|1|75.04|SERVICE|CONSULTATION|NO|P/0001|0001|0001|0");
     EXPECT_EQ(*fee("10", 1075.59), 107.56);
     collate();
     saveIt();

@@ -76,14 +76,6 @@ TEST_P(SchemaRules, AFlagThatIsNotWrittenIsZero) {
         EXPECT_EQ(scalar(QStringLiteral("select ") + columns), value) << columns;
 }
 
-TEST_P(SchemaRules, APatientsFullNameFollowsItsParts) {
-    addRows(billing, "hPatients (PNo, psurname, pfirstname)", {"'P/1', 'O''NEILL', 'Áine'", "'P/2', 'ONE_ILL', null"});
-    billing.run("update hPatients set psurname='One' where PNo='P/2'");
-    EXPECT_EQ(scalar("select fullname from hPatients where PNo='P/1'"), "O'NEILL Áine");
-    EXPECT_EQ(scalar("select PNo from hPatients where fullname='one'"), "P/2");
-    EXPECT_EQ(scalar("select PNo from vwhpatients where fullname like 'o''n%'"), "P/1");
-}
-
 /// The account of a patient and the ledger share a table name; each is written with its own columns.
 TEST_P(SchemaRules, BothTablesOfOneNameAreWritten) {
     const struct {
@@ -101,26 +93,6 @@ TEST_P(SchemaRules, BothTablesOfOneNameAreWritten) {
         EXPECT_EQ(rowsOf(connection, "select " + QStringList(one.row.keys()).join(u',') + " from Tranxaction"),
                   one.database == TestHome::billing() ? "-2000.5|P/1|-2000.5" : "1001|-2000.5|T1");
     }
-}
-
-TEST_P(SchemaRules, ADeletedSupplierIsKeptWhole) {
-    for (int round = 0; round < 2; ++round) {
-        addRows(billing, "suppliers (supplierID, SupplierName, Email)", {"'0001', 'ACME', 'a@b.c'"});
-        billing.run("insert into SuppliersArchive select * from suppliers where supplierID='0001'");
-        billing.run("delete from suppliers where supplierID = '0001'");
-    }
-    EXPECT_EQ(scalar("select count(*) as n from SuppliersArchive where Email='a@b.c'"), "2");
-}
-
-TEST_P(SchemaRules, ForeignNumbersDoNotDisturbTheGenerators) {
-    addRows(billing, "Payments (ReceiptNo)",
-            {"'001OP0000007'", "'001OP0000041'", "'SN 900'", "'0'", "'OP0000012'", "'002OP0000090'", "'001LB0000099'"});
-    EXPECT_EQ(scalar("select MAX(cast(SUBSTRING(ReceiptNo, 6, 7)as bigint))  as ID from Payments WHERE  "
-                     "SUBSTRING(ReceiptNo, 4, 2)='OP ' and SUBSTRING(ReceiptNo, 1, 3)='001 '"),
-              "41");
-    EXPECT_EQ(scalar("select MAX(cast(SUBSTRING(ReceiptNo, 3, 7)as bigint))  as ID from Payments WHERE  "
-                     "(SUBSTRING(ReceiptNo, 1, 2)='OP ')"),
-              "12");
 }
 
 ORVANE_ON_EACH_ENGINE(SchemaRules);

@@ -27,12 +27,6 @@ TEST_P(TransactionTest, KeepsWhatWasCommittedAndNothingElse) {
         EXPECT_EQ(data.openTransactions(), 0);
         transaction.rollback();
     }
-    {
-        Transaction transaction(billing);
-        addPayment(billing, 3);
-        transaction.rollback();
-        EXPECT_FALSE(billing.inTransaction());
-    }
     try {
         Transaction transaction(billing);
         addPayment(billing, 4);
@@ -90,17 +84,6 @@ TEST_P(TransactionTest, ACommitWithoutAnAnswerIsLookedUpByItsToken) {
               "amina.b|" + letters + "|frmReceiptTemp|001OFL0000001|1500.5")
         << "cut, no character in two";
     EXPECT_EQ(Recordset(billing, Sql("select savedAt from SavedActions")).date("savedAt"), QDate::currentDate());
-}
-
-TEST_P(TransactionTest, ATokenIsNotMissedWhileItsTransactionMayRun) {
-    if (GetParam() == Engine::Sqlite)
-        GTEST_SKIP() << "the engine is in this process and has ended it";
-    DataSource asking(home.folder());
-    asking.setWaits(100, 10);
-    Transaction transaction(billing);
-    EXPECT_EQ(asking.outcomeOf({TestHome::billing(), "0"}), CommitOutcome::Unknown);
-    transaction.rollback();
-    EXPECT_EQ(asking.outcomeOf({TestHome::billing(), "0"}), CommitOutcome::NotSaved);
 }
 
 TEST_P(TransactionTest, NeverWaitsForItsOwnWorkstation) {

@@ -96,17 +96,6 @@ TEST_P(Views, ABalanceIsDueOnAPrivateBillInEitherDirection) {
               "ADEYEMI BOLA||2026-03-14");
 }
 
-TEST_P(Views, AReceiptCoversTheLinesThatNoReceiptCovers) {
-    add("BillingDetails (SNo, billNo, dtDate, drgName, SubTotal, revType, isRct)",
-        {"7, 'A', '2026-03-13', 'CONSULTATION', 2000, 'CONSULTATION', 1",
-         "9, 'A', '2026-03-14', 'DRESSING', 2500, 'UNKNOWN', 0",
-         "8, 'A', '2026-03-14', 'PARACETAMOL 500MG', 600, 'drugs', 0"});
-    EXPECT_EQ(rows("select SNo, BillDate, BillItem, SubTotal, revType, AccountNo from vwRctForAcctDetails where "
-                   "billNo='A' order by SNo"),
-              "8|2026-03-14|PARACETAMOL 500MG|600|drugs|4002\n"
-              "9|2026-03-14|DRESSING|2500|UNKNOWN|");
-}
-
 TEST_P(Views, AnItemIsBilledByItsVisitsCategory) {
     makePatient(billing, {.pno = "P/0002", .surname = "OKON", .category = "HMO", .client = "0201"});
     makeVisit(billing, {.consultID = "A", .pno = "P/0002", .category = "MTHLY", .client = "0102", .referal = "YES"});
@@ -228,19 +217,6 @@ TEST_P(Views, ABillOfWhichOnlyTheLinesAreThereIsDue) {
     EXPECT_EQ(rows("select billNo from qryBillingBalanceDueForPrivate"), "");
 }
 
-TEST_P(Views, TheAccountShowsChargesAndMoneyApart) {
-    visit("A", "MTHLY", "0102");
-    add("Tranxaction (entryDate, PNo, billNo, Amount, RunningTotal, Remarks)",
-        {"'2026-03-15', 'P/0001', 'A', -2000, -2000, 'CONSULTATION'",
-         "'2026-03-16', 'P/0001', 'GONE', 500.25, -1499.75, 'Payment'",
-         "'2026-03-16', 'P/0001', 'A', 0, -1499.75, 'Payment'"});
-    EXPECT_EQ(rows("SELECT AttndDate, FullName, Remarks as Items, Bill, AmountPaid, RunningTotal as Debt, BillNo, "
-                   "Comapany FROM vwTranxaction where pno='P/0001' order by SNo"),
-              "2026-03-14|ADEYEMI BOLA|CONSULTATION|2000|0|-2000|A|HARMONY MILLS LTD\n"
-              "2026-03-16|ADEYEMI BOLA|Payment|0|500.25|-1499.75|GONE|PRIVATE PATIENTS\n"
-              "2026-03-14|ADEYEMI BOLA|Payment|0|0|-1499.75|A|HARMONY MILLS LTD");
-}
-
 TEST_P(Views, AReceiptCountsOnceWhoeverPaid) {
     visit("A");
     add("hRecordsPublic (consultID, PNo, recDate, coyName)", {"'001/26/000001', 'X1', '2026-03-14', '0001'"});
@@ -285,13 +261,6 @@ TEST_P(Views, AUserIsSeenOncePerRole) {
             {"select hospID, loginrole from vwUsers where username='new.user'",
              "001|BILLING"}, // a user without a hospital belongs to the first
             {"select count(*) as n from vwUsers", "3"}});
-}
-
-TEST_P(Views, ABatchHasANumericValue) {
-    add("BillsForClients (CoyCode, BatchNo)", {"'0201', '2026/02'", "'0201', '2025/12'"});
-    EXPECT_EQ(rows("select  top 1 batchVal,coyCode  from vwBillsForClientsBatchVal where coycode='0201' order by "
-                   "batchval desc "),
-              "202602|0201");
 }
 
 ORVANE_ON_EACH_ENGINE(Views);

@@ -6,7 +6,6 @@
 #include "screens/Screens.h"
 #include "session/Main.h"
 #include "support/Check.h"
-#include "support/LeastRights.h"
 #include "support/MoneyActions.h"
 #include "support/SourceTree.h"
 #include "tool/Tool.h"

@@ -6,7 +6,6 @@
 #include "play/ControlActs.h"
 #include "session/Screen.h"
 #include "support/HostileTexts.h"
-#include "support/LeastRights.h"
 #include "support/Rows.h"
 
 #include <QRandomGenerator>

@@ -79,8 +79,7 @@ TEST_P(DrugPrice, SavesTheDrugInHandOrSaysWhyNot) {
     EXPECT_EQ(ws.rows("frmDrugPrice.grdData").mid(0, 2),
               QStringList({"service\tcategory\tcost\tUnit", "AMOXICILLIN 500MG\tTABLETS\t120.00\t1"}));
     edit("O'TOOLE'S 50% SYRUP");
-    EXPECT_EQ(value("txtDrug") + '|' + value("txtCat") + '|' + value("txtDosage") + '|' + value("cboClient") + '|' +
-                  value("txtCost") + '|' + value("lblPrice"),
+    EXPECT_EQ(shown("txtDrug txtCat txtDosage cboClient txtCost lblPrice"),
               "O'TOOLE'S 50% SYRUP|SYRUPS|100|PRIVATE|12.5|12.50");
     set("cboClient", "HMO");
     set("txtCost", "120");
@@ -140,8 +139,7 @@ TEST_P(DrugPrice, SearchNarrowsNothingIsDeletedAndALoadIsTaken) {
     EXPECT_BOXES(ui, {" Sorry cannot delete record, see the store Officer "});
     EXPECT_EQ(ws.tableCount("drugs"), 4);
     ws.run("insert into drugsxxx (drgName, drgCatName, qtyPerUnit, Cost) values ('NEW TONIC', 'SYRUPS', null, 75.5)");
-    click("cmdLab");
-    EXPECT_BOXES(ui, {"Record transfer successful"});
+    EXPECT_EQ(told("cmdLab"), "Record transfer successful");
     EXPECT_TRUE(ws.rows("frmDrugPrice.grdData").contains("NEW TONIC\tSYRUPS\t75.50\t"));
     // One of the drugs is there already: none is taken.
     ws.run("insert into drugsxxx (drgName, Cost) values ('AAA FIRST', 1)");

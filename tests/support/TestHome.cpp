@@ -1,5 +1,6 @@
 #include "support/TestHome.h"
 
+#include "data/engine/Rights.h"
 #include "data/rows/Recordset.h"
 #include "data/rows/Schema.h"
 
@@ -166,6 +167,25 @@ QString TestHome::billing() {
 
 QString TestHome::accounting() {
     return connectionString("Accounting");
+}
+
+LeastRights::LeastRights(const TestHome& home) : m_home(home) {
+    if (home.engine() == Engine::Sqlite)
+        return;
+    m_login = QStringLiteral("least rights %1").arg(QCoreApplication::applicationPid());
+    home.onServer("dunmarch", {QStringLiteral("create role \"%1\" login").arg(m_login)});
+    home.onServer("dunmarch", rightsStatements(home.engine(), "billing", m_login));
+    home.onServer("accounting", rightsStatements(home.engine(), "accounting", m_login));
+    qputenv("ORVANE_DB_USER", m_login.toUtf8());
+}
+
+LeastRights::~LeastRights() {
+    if (m_login.isEmpty())
+        return;
+    qunsetenv("ORVANE_DB_USER");
+    const QString drop = QStringLiteral("drop owned by \"%1\"").arg(m_login);
+    m_home.onServer("accounting", {drop});
+    m_home.onServer("dunmarch", {drop, QStringLiteral("drop role \"%1\"").arg(m_login)});
 }
 
 QString EngineTest::scalar(const QString& tsql) {

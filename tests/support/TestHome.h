@@ -38,6 +38,20 @@ private:
     QString m_prefix; ///< of the databases on the server
 };
 
+/// From now on this process opens the databases of a home as a login that has the least rights, which it is given here.
+/// On the embedded engine there is no login. The home outlives it.
+class LeastRights {
+public:
+    explicit LeastRights(const TestHome& home);
+    ~LeastRights();
+    LeastRights(const LeastRights&) = delete;
+    LeastRights& operator=(const LeastRights&) = delete;
+
+private:
+    const TestHome& m_home;
+    QString m_login; ///< empty on the embedded engine
+};
+
 /// A test on one workstation's data source, run on each engine.
 class EngineTest : public ::testing::TestWithParam<Engine> {
 protected:
