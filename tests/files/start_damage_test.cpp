@@ -25,12 +25,12 @@ QByteArray iniContent(const QByteArray& own) {
 }
 
 /// Calls `use` with the content cut off at twenty places, and then with copies in which one to four bits at random
-/// places are turned over; the same ones each time. ORVANE_FILES_COUNT asks for other than 60 copies.
+/// places are turned over; the same ones each time. ORVANE_FILES_COUNT asks for other than 300 copies.
 void eachDamage(const QByteArray& content, const std::function<void(const QByteArray&)>& use) {
     for (int length = 0; length < content.size(); length += std::max(1, int(content.size()) / 20))
         use(content.left(length));
     QRandomGenerator random(20260314);
-    for (int left = qEnvironmentVariable("ORVANE_FILES_COUNT", "60").toInt(); left > 0; --left) {
+    for (int left = qEnvironmentVariable("ORVANE_FILES_COUNT", "300").toInt(); left > 0; --left) {
         QByteArray copy = content;
         for (int bits = 1 + random.bounded(4); bits > 0; --bits) {
             const int at = random.bounded(int(copy.size()));
