@@ -50,4 +50,10 @@ void frmFind::cmdRestore_Click() {
     grdData.clear();
 }
 
+/// The card of the patient who was found.
+void frmFind::grdData_DblClick() {
+    session.sFoundPNo = grdData.text("FileNo");
+    program.open("frmPatientInfo");
+}
+
 } // namespace orvane

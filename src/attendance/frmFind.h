@@ -20,13 +20,14 @@ private:
     void searchByName();
     void cmdID_Click();
     void cmdRestore_Click();
+    void grdData_DblClick();
 
     using Me = frmFind;
     TextBox txtName{*this, "txtName", &Me::searchByName};
     Button cmdName{*this, "cmdName", "Search by &Surname", &Me::searchByName};
     TextBox TxtID{*this, "TxtID"};
     Button cmdID{*this, "cmdID", "&OK", &Me::cmdID_Click};
-    Grid grdData{*this, "grdData"};
+    Grid grdData{*this, "grdData", &Me::grdData_DblClick};
     Button cmdRestore{*this, "cmdRestore", "&Restore", &Me::cmdRestore_Click};
     Button cmdClose{*this, "cmdClose", "&Close", &Me::unload};
 };

@@ -123,12 +123,20 @@ void frmPatientInfo::TreeView1_NodeClick() {
 }
 
 Screen::PatientTaker frmPatientInfo::patientTaker() {
-    return [this](const QString& pno) {
-        Connection connection = program.openBilling();
-        const Recordset name(connection, Sql("select fullname from hPatients where PNo='") << pno << "'");
-        if (!name.eof())
-            showPatient({pno, name.text("fullname")});
-    };
+    return [this](const QString& pno) { showFound(pno); };
+}
+
+/// A search hands over the patient whom it has found.
+void frmPatientInfo::Form_Activate() {
+    if (const QString found = std::exchange(session.sFoundPNo, QString()); !found.isEmpty())
+        showFound(found);
+}
+
+void frmPatientInfo::showFound(const QString& pno) {
+    Connection connection = program.openBilling();
+    const Recordset name(connection, Sql("select fullname from hPatients where PNo='") << pno << "'");
+    if (!name.eof())
+        showPatient({pno, name.text("fullname")});
 }
 
 void frmPatientInfo::showPatient(const ListedPatient& listed) {

@@ -12,6 +12,7 @@ public:
 
     Layout layout() const override;
     void Form_Load() override;
+    void Form_Activate() override;
     Button* cancelButton() override { return &CancelButton; }
 
 protected:
@@ -23,6 +24,7 @@ private:
         QString pno, name;
     };
 
+    void showFound(const QString& pno);
     void showPatient(const ListedPatient& listed);
     void TreeView1_NodeClick();
     void clearCard();

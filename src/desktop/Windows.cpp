@@ -218,7 +218,7 @@ void Windows::showAlone(Form& form, bool modal) {
     window->move(room.center() - window->rect().center());
     m_entries.last().place = window->geometry();
     restorePlace(*window, form, room);
-    window->show();
+    form.fillsScreen() ? window->showFullScreen() : window->show();
     window->activateWindow();
     window->view()->focusFirst();
 }

@@ -37,6 +37,7 @@ public:
     virtual void Form_Load() {}
     virtual void Form_Activate() {}             ///< the program opens the form, newly loaded or already on the screen
     virtual bool Form_Unload() { return true; } ///< false refuses to close
+    virtual bool fillsScreen() const { return false; } ///< shown over the whole screen
     /// Pressed by Enter and by Esc; null when there is none.
     virtual Button* defaultButton() { return nullptr; }
     virtual Button* cancelButton() { return nullptr; }

@@ -41,7 +41,7 @@ bool Screen::findPatient() {
     if (self && !session.sFoundPNo.isEmpty())
         userEvent([this] {
             if (const PatientTaker take = patientTaker())
-                take(session.sFoundPNo);
+                take(std::exchange(session.sFoundPNo, QString()));
         });
     return true;
 }

@@ -11,6 +11,7 @@ public:
 
     Layout layout() const override;
     void Form_Load() override;
+    bool fillsScreen() const override { return true; }
     Button* defaultButton() override { return &cmdEnter; }
     Button* cancelButton() override { return &cmdExit; }
 

@@ -63,6 +63,9 @@ TEST_P(LookupTest, FindNarrowsAsOneTypes) {
     EXPECT_EQ(ws.rows("frmFind.grdData"), QStringList({"FileNo\tOld FileNo\tSurname\tFirstname\thomeAddress",
                                                        "P/0001\tOLD7\tADEYEMI\tBOLA\t1 Creek Road"}))
         << "typing still searches";
+    ws.row("frmFind.grdData", 0);
+    ws.dblClick("frmFind.grdData");
+    EXPECT_EQ(ws.value("frmPatientInfo.lblHeading"), "Patient Information  : ADEYEMI BOLA");
     ws.program.data().setStatementHook({});
 }
 
