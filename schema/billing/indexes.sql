@@ -36,6 +36,9 @@ create index ixRecordsOldSerial on hRecords (SUBSTRING(consultID, 1, 3), SUBSTRI
 go
 create index ixRecordsSplit on hRecords (SUBSTRING(consultID, 1, 12))
 go
+-- The bills of a month, and those of one client in it.
+create index ixRecordsBatch on hRecords (convert(varchar(7), BillDate, 111), coyName)
+go
 create unique index uxRecordsPublicConsultID on hRecordsPublic (consultID)
 go
 create index ixRecordsPublicSerial on hRecordsPublic

@@ -87,6 +87,11 @@ select r.retainCode as RetainCode, r.retainID, r.retainName as ClientName, r.Cli
     r.Address, r.PhoneNo, r.Email, r.Contact, r.Active, r.Debt, r.BillEndDate
 from hRetainership r
 go
+-- The client codes in use as numbers.
+create view vwhRetainCode as
+select cast(r.retainCode as bigint) as retaincode
+from hRetainership r
+go
 -- The accounts that a screen may pick.
 create view vwAccountsInfo as
 select a.SNo, a.AccountNo, a.AccountName, a.groupID
@@ -474,6 +479,61 @@ from Billing b
 inner join hRecords h on h.consultID = b.billNo
 left join hPatients p on p.PNo = b.PNo
 where h.clientCat = 'PRIVATE' and abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) >= 0.005
+go
+-- The month
+-- ---------
+
+-- Every bill of a month, processed or not: its batch is the month of the visit's billing date, as 2026/03 and as 202603.
+-- The client is the visit's own, so that one client's bills of a batch are a range of an index. Of several approval codes
+-- the first counts.
+create view vwBillingProcessAll as
+select b.ID, b.billNo as BillNo, h.PNo as pno, p.fullname as Fullname, h.coyName as retainID, r.retainCode,
+    r.retainName as CoyName, h.clientCat as ClientCat, h.recDate as AttdDate, h.BillDate as AttndBillDate,
+    convert(varchar(7), h.BillDate, 111) as batchNo, year(h.BillDate) * 100 + month(h.BillDate) as batchVal,
+    b.Amountbilled as AmountBilled, b.AmountPaid, b.diagnosis as Diagnosis, h.Remarks,
+    (select a.ApprvCode from hApprvCode a
+        where a.SNO = (select min(f.SNO) from hApprvCode f where f.consultID = h.consultID)) as ApprvCode,
+    b.isProcess, b.InvNo as invNo
+from hRecords h
+inner join Billing b on b.billNo = h.consultID
+left join hPatients p on p.PNo = h.PNo
+left join hRetainership r on r.retainID = h.coyName
+where h.BillDate is not null
+go
+-- Those that wait for the run.
+create view vwBillingProcess as
+select v.* from vwBillingProcessAll v where v.isProcess = 0
+go
+-- The bills of a batch by number.
+create view vwBillingProcessBatch as
+select h.consultID as billNo, convert(varchar(7), h.BillDate, 111) as batchNo
+from hRecords h
+inner join Billing b on b.billNo = h.consultID
+go
+-- The bills of a month whose figure is not the total of their lines; without lines the total is nothing.
+create view vwBillingProcessDetailsGroupedVerifyDiff as
+select v.* from vwBillingProcessAll v
+where abs(isnull(v.AmountBilled, 0)
+    - isnull((select sum(d.SubTotal) from BillingDetails d where d.billNo = v.BillNo), 0)) >= 0.005
+go
+-- The lines of a bill, for the review.
+create view vwBillingProcessDetailsAll as
+select d.SNo as SNO, d.billNo as BillNo, d.dtDate as date, p.fullname, d.drgName as Service, d.Qty, d.Price,
+    d.SubTotal, d.BillHead, d.BillType, d.revType
+from BillingDetails d
+left join hPatients p on p.PNo = d.PNo
+go
+-- The lines of a month's bills that stand under no heading of the invoice.
+create view vwBillHeadingWithNull as
+select d.SNo as SNO, d.billNo as BillNo, d.dtDate as date, p.fullname as Fullname, r.retainName as Company,
+    r.retainCode, d.drgName as Service, d.Qty, d.Price, d.SubTotal, d.BillHead, d.BillType,
+    convert(varchar(7), h.BillDate, 111) as batchNo
+from hRecords h
+inner join Billing b on b.billNo = h.consultID
+inner join BillingDetails d on d.billNo = h.consultID
+left join hPatients p on p.PNo = h.PNo
+left join hRetainership r on r.retainID = h.coyName
+where isnull(d.BillHead, '') = ''
 go
 -- The batches of every client; batchVal is the batch number 2026/03 as 202603.
 create view vwBillsForClientsBatchVal as

@@ -263,6 +263,33 @@ TEST_P(Views, AUserIsSeenOncePerRole) {
             {"select count(*) as n from vwUsers", "3"}});
 }
 
+TEST_P(Views, ABillBelongsToTheMonthOfItsVisitsBillDate) {
+    visit("A", "MTHLY", "0102");
+    visit("B", "HMO", "0201");
+    visit("C", "HMO", "0201");
+    visit("D", "HMO", "0201");
+    visit("E");
+    visit("F");
+    billing.run("update hRecords set BillDate='2026-03-31' where consultID in ('A', 'B', 'E', 'F')");
+    billing.run("update hRecords set BillDate='2026-04-01', coyName=null where consultID='C'");
+    add("Billing (billNo, Amountbilled, isProcess, InvNo)",
+        {"'A', 100, 0, null", "'B', 70, 1, '0201/2026/03'", "'C', 5, 0, '0'", "'D', 5, 0, null", "'E', 0, 0, null"});
+    add("BillingDetails (SNo, billNo, SubTotal, BillHead)",
+        {"1, 'A', 60.1, ''", "2, 'A', 39.9, 'DRUGS'", "3, 'C', 5, null"});
+    add("hApprvCode (consultID, ApprvCode)", {"'A', 'FIRST'", "'A', 'SECOND'"});
+    expect({{"select BillNo, batchNo, batchVal, retainCode, CoyName, ApprvCode, isProcess, invNo from "
+             "vwBillingProcessAll order by BillNo",
+             "A|2026/03|202603|0102|HARMONY MILLS LTD|FIRST|0|\n"
+             "B|2026/03|202603|0201|CLEARWATER HMO||1|0201/2026/03\n"
+             "C|2026/04|202604||||0|0\n" // of no client: seen, and in nobody's invoice
+             "E|2026/03|202603|0001|PRIVATE PATIENTS||0|"},
+            {"select billNo from vwBillingProcess where batchNo='2026/03' order by billno", "A\nE"},
+            {"select billNo from vwBillingProcess where batchNo='2026/03' and retainCode='0102'", "A"},
+            {"select billNo from vwBillingProcessBatch where batchNo='2026/04'", "C"},
+            {"select BillNo from vwBillingProcessDetailsGroupedVerifyDiff where batchNo='2026/03'", "B"},
+            {"select SNO, Company from vwBillHeadingWithNull where batchNo='2026/03'", "1|HARMONY MILLS LTD"}});
+}
+
 ORVANE_ON_EACH_ENGINE(Views);
 
 } // namespace orvane

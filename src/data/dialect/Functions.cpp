@@ -92,15 +92,21 @@ std::optional<QString> apply(const CallRule (&rules)[N], const QString& name, co
     return std::nullopt;
 }
 
-/// A style is a plain number: one behind a sign is a value like any other, which decides nothing.
-QString convertWithStyle(const QString& value, const QString& style, Engine engine) {
+/// A style is a plain number: one behind a sign is a value like any other, which decides nothing. varchar(7) keeps
+/// seven characters of what the style writes: the month of style 111. An index may stand on it.
+QString convertWithStyle(const QString& type, const QString& value, const QString& style, Engine engine) {
     for (const StyleRule& rule : styleRules) {
-        if (QString::number(rule.style) == style) {
-            return engine == Engine::Sqlite
-                       ? QStringLiteral("strftime('%1', %2)").arg(QLatin1StringView(rule.sqlite), value)
-                       : QStringLiteral("cast(to_char(cast(%2 as timestamp), '%1') as citext)")
-                             .arg(QLatin1StringView(rule.postgresql), value);
-        }
+        if (QString::number(rule.style) != style)
+            continue;
+        const bool sqlite = engine == Engine::Sqlite;
+        const QString written = sqlite ? QStringLiteral("strftime('%1', %2)").arg(QLatin1StringView(rule.sqlite), value)
+                                       : QStringLiteral("orvane_date(cast(%2 as timestamp), '%1')")
+                                             .arg(QLatin1StringView(rule.postgresql), value);
+        const int length = type.section(u'(', 1).section(u')', 0, 0).toInt();
+        if (length <= 0 || length >= int(qstrlen(rule.postgresql)))
+            return written;
+        return apply(callRules, "left", {written, QString::number(length)}, engine)
+            .value_or(QStringLiteral("\"left\"(%1, %2)").arg(written).arg(length));
     }
     return translateCast(value, "varchar", engine);
 }
@@ -117,7 +123,7 @@ std::optional<QString> translateCall(const QString& name, const QStringList& arg
     if (name.compare(u"convert", Qt::CaseInsensitive) == 0 && arguments.size() == 2)
         return translateCast(arguments[1], arguments[0], engine);
     if (name.compare(u"convert", Qt::CaseInsensitive) == 0 && arguments.size() == 3)
-        return convertWithStyle(arguments[1], arguments[2], engine);
+        return convertWithStyle(arguments[0], arguments[1], arguments[2], engine);
     return apply(callRules, name, arguments, engine);
 }
 

@@ -19,6 +19,9 @@ const char* const postgresql[] = {
     "0 end) $$",
     "create or replace function orvane_bigint(double precision) returns bigint language sql immutable parallel safe as "
     "$$ select trunc($1)::bigint $$",
+    // Its formats are digits alone, which no setting of the session changes.
+    "create or replace function orvane_date(timestamp, text) returns citext language sql immutable parallel safe "
+    "return to_char($1, $2)::citext",
     "create or replace function \"substring\"(citext, integer, integer) returns citext language sql immutable parallel "
     "safe "
     "return substr($1::text, $2, $3)::citext",

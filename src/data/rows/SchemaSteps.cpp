@@ -68,6 +68,9 @@ insert into IDgen (DestName, ID) select 'RECEIPT2', 0 where not exists
     {2, "accounting", "the column TranxactionTemp.invNo", R"(
 alter table TranxactionTemp add invNo varchar(50)
 )"},
+    {3, "billing", "the index by which the bills of a month are found", R"(
+create index ixRecordsBatch on hRecords (convert(varchar(7), BillDate, 111), coyName)
+)"},
 };
 
 } // namespace
