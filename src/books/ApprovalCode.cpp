@@ -13,7 +13,7 @@ void compose(Recordset& row, const ApprovalCode& code) {
     row.set("consultID", code.consultID);
     row.set("ApprvCode", code.code);
     row.set("Remarks", nullIfEmpty(code.remarks));
-    row.set("billType", code.billType);
+    row.set("billType", nullIfEmpty(code.billType));
     row.set("PNo", code.pno);
     row.update();
 }

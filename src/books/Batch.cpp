@@ -1,5 +1,7 @@
 #include "books/Batch.h"
 
+#include "data/rows/Recordset.h"
+
 #include <QLocale>
 
 namespace orvane {
@@ -31,6 +33,12 @@ QString paddedClientCode(qlonglong code) {
 
 QString invoiceNumber(const QString& clientCode, const QString& batchNo) {
     return clientCode + u'/' + batchNo;
+}
+
+bool isBatchPast(Connection& connection, const QString& batchNo) {
+    const Recordset newest(connection,
+                           Sql("select  top 1 batchVal  from vwBillsForClientsBatchVal order by batchval desc "));
+    return !newest.eof() && batchValue(batchNo) < newest.integer("batchVal");
 }
 
 } // namespace orvane

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "data/rows/Connection.h"
 
 namespace orvane {
 
@@ -22,5 +22,9 @@ QString paddedClientCode(qlonglong code);
 
 /// The number of a client's invoice of one batch: "0007/2026/03". `clientCode` is the padded one.
 QString invoiceNumber(const QString& clientCode, const QString& batchNo);
+
+/// Whether invoices of a later batch are there, so that this one may not be processed any more. The newest batch itself
+/// may, in several runs.
+bool isBatchPast(Connection& connection, const QString& batchNo);
 
 } // namespace orvane

@@ -31,6 +31,7 @@ struct AuditEntry {
     QString action;
     QString document; ///< the number of the bill or receipt
     QString remarks;
+    QString user = {}; ///< empty: by the name that he signed in with
 };
 
 /// What the work is done with, the same for all that a user does at one moment.

@@ -6,24 +6,28 @@ namespace orvane {
 
 /// Why a rule of the books did not do what was asked. The row is untouched then and the transaction is rolled back.
 enum class Refusal {
-    BillProcessed, ///< a monthly batch holds the bill, which freezes it
-    BillExists,    ///< a deposit opens the bill, so there may be none
-    VisitChanged,  ///< the visit was deleted or moved to another patient or client since it was read
-    NoPatient,     ///< the visit to be billed is not there
-    NoClient,      ///< the visit's client is not in the list of clients
-    NoConsultID,   ///< no receipt number: the visit's clinic has no code
-    NoTranID,      ///< no receipt number: the outlet's item has no code
-    NoNumber,      ///< no receipt number: the counter gave none
-    VisitOpen,     ///< the patient's visit of that day is still open
-    VisitGone,     ///< the visit under edit was deleted
-    VisitMoved,    ///< it is not any more as its officer saw it, or its bill was saved
-    NoDrug,        ///< no drug or service bears the name
-    UserNameTaken, ///< an account bears the name
-    UnknownUser,   ///< no account bears the name, or not with this password
-    RoleExists,    ///< a role has the id
-    NoRole,        ///< no role has the id
-    RoleIsHeld,    ///< users hold the role
-    RoleAllotted   ///< the user holds the role already
+    BillProcessed,     ///< a monthly batch holds the bill, which freezes it
+    BillExists,        ///< a deposit opens the bill, so there may be none
+    VisitChanged,      ///< the visit was deleted or moved to another patient or client since it was read
+    NoPatient,         ///< the visit to be billed is not there
+    NoClient,          ///< the visit's client is not in the list of clients
+    NoConsultID,       ///< no receipt number: the visit's clinic has no code
+    NoTranID,          ///< no receipt number: the outlet's item has no code
+    NoNumber,          ///< no receipt number: the counter gave none
+    VisitOpen,         ///< the patient's visit of that day is still open
+    VisitGone,         ///< the visit under edit was deleted
+    VisitMoved,        ///< it is not any more as its officer saw it, or its bill was saved
+    NoClientCode,      ///< no code can be made for a new client
+    ClientCodeTaken,   ///< a client bears the code that comes next
+    ClientHasPatients, ///< the client to be deleted is that of patients
+    ClientExempt,      ///< the client is in the list of exemptions already
+    NoDrug,            ///< no drug or service bears the name
+    UserNameTaken,     ///< an account bears the name
+    UnknownUser,       ///< no account bears the name, or not with this password
+    RoleExists,        ///< a role has the id
+    NoRole,            ///< no role has the id
+    RoleIsHeld,        ///< users hold the role
+    RoleAllotted       ///< the user holds the role already
 };
 
 /// The words in which the user, or the log of the roles, is told; "%1" in them stands for the role's id.

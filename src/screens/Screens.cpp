@@ -20,6 +20,10 @@
 #include "billing/frmPriceAdjustSplit.h"
 #include "billing/frmPriceAdjustVerify.h"
 #include "billing/frmTreatment.h"
+#include "clients/frmBillProcess.h"
+#include "clients/frmClients.h"
+#include "clients/frmRetainership.h"
+#include "clients/frmRptHeading.h"
 #include "receipts/frmCashReceipt.h"
 #include "receipts/frmCashReceiptLab.h"
 #include "receipts/frmDebtInfo.h"
@@ -88,6 +92,11 @@ constexpr struct {
     {"frmPriceAdjustSplit", make<frmPriceAdjustSplit>},
     {"frmPriceAdjustVerify", make<frmPriceAdjustVerify>},
     {"frmTreatment", make<frmTreatment>},
+
+    {"frmBillProcess", make<frmBillProcess>},
+    {"frmClients", make<frmClients>},
+    {"frmRetainership", make<frmRetainership>},
+    {"frmRptHeading", make<frmRptHeading>},
 
     {"frmDrugPrice", make<frmDrugPrice>},
 };

@@ -16,7 +16,7 @@ void Program::writeAuditTrail(const AuditEntry& entry) {
     try {
         readEnvironmentIdentity();
         Connection connection = openBilling();
-        connection.call("SpAudiTrail", {{"@userName", session.gUsername},
+        connection.call("SpAudiTrail", {{"@userName", entry.user.isEmpty() ? session.gUsername : entry.user},
                                         {"@userAction", entry.action},
                                         {"@ActionDate", session.gServerDate},
                                         {"@ActionTime", session.gServerTime.toString("HH:mm")},

@@ -149,8 +149,9 @@ TEST_P(Shell, everyEntryActsOrIsGreyButTheEmptyOnes) {
         EXPECT_TRUE(grey.contains(unbuilt)) << unbuilt;
     EXPECT_FALSE(grey.contains("mnuVerify") || grey.contains("mnuRPtES"));
     EXPECT_EQ(forms.join(' '),
-              "mnuApprvCode>frmApprvCode mnuUPC>frmCoyUpdate mnuOffAttd>frmRecordsOffline "
-              "mnuVerify>frmBillingVerify mnuAdmDepo>frmReceiptDeposit mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount "
+              "mnuApprvCode>frmApprvCode mnuCoyInfo>frmRetainership mnuUPC>frmCoyUpdate mnuOffAttd>frmRecordsOffline "
+              "mnuVerify>frmBillingVerify mnuViewColl>frmBillProcess mnuAdmDepo>frmReceiptDeposit "
+              "mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount "
               "mnuRPtES>rptPanelSummary mnuOffline>frmReceiptManual mnuPSITC>frmExistBill mnuPCB>rptPanelSummary "
               "mnuCBFSO>frmBillingVerify mnuEditFind>frmFind mnuVSII>frmPatientInfo mnuPDI>frmDebtInfo "
               "mnuRemnd>frmReminder mnuUsers>frmUsers mnuUserRoles>frmUserRole mnuChangePWD>frmDialog "

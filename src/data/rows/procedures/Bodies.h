@@ -19,4 +19,9 @@ Recordset nextNumber(Connection& connection, const QVariantMap& parameters);
 /// the item master that knows the item: drugMaster, else labservices, else hservices. A processed bill stays as it is.
 Recordset fillRevenueTypes(Connection& connection, const QVariantMap& parameters);
 
+/// SpRptHeaderCursor: gives the lines of a batch's bills that stand under no heading of the invoice their own, of the
+/// client @coyCode or, with "(ALL)", of every one. A heading that a person gave stays; a line whose revenue type is not
+/// in use has none after it either.
+Recordset fillHeadings(Connection& connection, const QVariantMap& parameters);
+
 } // namespace orvane

@@ -11,6 +11,7 @@ const ProcedureEntry* findProcedure(const QString& name) {
          storeAuditRow},
         {"getIDNo", {"DestName"}, nextNumber},
         {"updateRevType", {"@ConsultID"}, fillRevenueTypes},
+        {"SpRptHeaderCursor", {"@coyCode", "@BatchNo"}, fillHeadings},
     };
     for (const ProcedureEntry& entry : entries)
         if (name.compare(QLatin1StringView(entry.name), Qt::CaseInsensitive) == 0)

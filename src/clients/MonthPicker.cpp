@@ -1,0 +1,48 @@
+#include "clients/MonthPicker.h"
+
+#include "books/Batch.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr int firstYear = 2011;
+constexpr int lastYear = 2050;
+
+} // namespace
+
+MonthPicker::MonthPicker(Form& form, Session& session)
+    : cboMonth(form, "cboMonth", ComboBox::ListOnly), cboYear(form, "cboYear", ComboBox::ListOnly), m_session(session) {
+    cboMonth.onClick = [this] {
+        m_session.sBatchMonth = cboMonth.text();
+        if (const QString code = monthCode(cboMonth.text()); !code.isEmpty())
+            m_monthCode = code;
+    };
+    cboYear.onClick = [this] { m_session.sBatchYear = cboYear.text(); };
+}
+
+void MonthPicker::fillYears(ComboBox& years) {
+    years.addItem("");
+    for (int year = firstYear; year <= lastYear; ++year)
+        years.addItem(QString::number(year));
+}
+
+void MonthPicker::fill(QDate today) {
+    cboMonth.addItem("");
+    for (int month = 1; month <= 12; ++month)
+        cboMonth.addItem(monthName(month));
+    fillYears(cboYear);
+    cboMonth.setText(monthName(today.month()));
+    cboYear.setText(QString::number(today.year()));
+}
+
+QString MonthPicker::batchNo() const {
+    return batchNumber(cboYear.text(), m_monthCode);
+}
+
+Layout MonthPicker::layout() const {
+    using namespace orvane::layout;
+    return row({field("Month", cboMonth, 12), field("Year", cboYear, 6)});
+}
+
+} // namespace orvane
