@@ -99,12 +99,9 @@ Sql frmBillProcess::mode1Bills() const {
 
 void frmBillProcess::fillGrid() {
     lblAmt.setText("0");
-    Connection connection = program.openBilling();
-    const Recordset count(connection, Sql("select count(*) as n") << mode1Bills());
     showBills(Sql("select ID,pno,retainID,CoyName,Fullname,ApprvCode,Diagnosis,AttdDate,BillNo,AmountBilled,AmountPaid,"
-                  "Remarks,ClientCat as Tariff")
-                  << mode1Bills() << " order by coyname,fullname",
-              int(count.integer("n")));
+                  "Remarks,ClientCat as Tariff"),
+              mode1Bills(), Sql(" order by coyname,fullname"));
     showTotal();
 }
 
@@ -112,14 +109,10 @@ void frmBillProcess::fillGrid() {
 void frmBillProcess::cmdShow_Click() {
     if (!takePeriod())
         return;
-    const Sql differing = Sql(" from vwBillingProcessDetailsGroupedVerifyDiff  where batchNo='")
-                          << session.sBatchNo << "'";
-    Connection connection = program.openBilling();
-    const Recordset count(connection, Sql("select count(*) as n") << differing);
     showBills(Sql("select ID,pno,CoyName,Fullname,ApprvCode,Diagnosis,AttdDate,BillNo,AmountBilled,AmountPaid,Remarks,"
-                  "ClientCat as Tariff")
-                  << differing << " order by coyname,fullname",
-              int(count.integer("n")));
+                  "ClientCat as Tariff"),
+              Sql(" from vwBillingProcessDetailsGroupedVerifyDiff  where batchNo='") << session.sBatchNo << "'",
+              Sql(" order by coyname,fullname"));
     showTotal();
     selectCurrentBill();
 }
@@ -132,28 +125,33 @@ void frmBillProcess::txtSearch_Change() {
         grdData2.clear();
         return;
     }
-    const Sql found = Sql(" from vwBillingProcessAll  where batchNo='")
-                      << session.sBatchNo << "' and fullname like '" << txtSearch.text() << "%'";
+    clearDetails();
     Connection connection = program.openBilling();
-    const Recordset count(connection, Sql("select count(*) as n") << found);
-    showBills(Sql("select ID,pno,retainID,CoyName,Fullname,ApprvCode,Diagnosis,AttdDate,BillNo,AmountBilled,AmountPaid,"
-                  "Remarks,ClientCat as Tariff")
-                  << found << " order by fullname",
-              int(count.integer("n")));
+    // Read whole: what is found is few, and its sort has cost the time already.
+    grdData.load(Recordset(
+        connection, Sql("select ID,pno,retainID,CoyName,Fullname,ApprvCode,Diagnosis,AttdDate,BillNo,"
+                        "AmountBilled,AmountPaid,Remarks,ClientCat as Tariff from "
+                        "vwBillingProcessAll  where batchNo='")
+                        << session.sBatchNo << "' and fullname like '" << txtSearch.text() << "%' order by fullname"));
+    lblCnt.setText(QString::number(grdData.rowCount()) + " records found");
     selectCurrentBill();
 }
 
-/// A batch of thousands shows its first bills before the others are read, so it is counted by the database.
-void frmBillProcess::showBills(const Sql& rows, int count) {
+/// A batch of thousands shows its first bills before the others are read; so it is counted by the database, once they
+/// are painted.
+void frmBillProcess::showBills(const Sql& columns, const Sql& bills, const Sql& order) {
+    clearDetails();
+    grdData.load(Recordset::paged(program.openBilling(), Sql() << columns << bills << order));
+    ui().processEvents();
+    Connection connection = program.openBilling();
+    const Recordset count(connection, Sql("select count(*) as n") << bills);
+    lblCnt.setText(count.text("n") + " records found");
+    findBillAgain();
+}
+
+void frmBillProcess::clearDetails() {
     session.gConsultID.clear();
     fillGridBills();
-    lblCnt.setText(QString::number(count) + " records found");
-    if (count == 0) {
-        grdData.clear();
-        return;
-    }
-    grdData.load(Recordset::paged(program.openBilling(), rows));
-    findBillAgain();
 }
 
 void frmBillProcess::findBillAgain() {

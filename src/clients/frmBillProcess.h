@@ -24,7 +24,8 @@ private:
     void fillGrid();
     void cmdShow_Click();
     void txtSearch_Change();
-    void showBills(const Sql& rows, int count);
+    void showBills(const Sql& columns, const Sql& bills, const Sql& order);
+    void clearDetails();
     void showTotal();
     void findBillAgain();
     void selectCurrentBill() { grdData.selectRow(grdData.currentRow()); }
