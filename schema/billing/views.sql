@@ -541,6 +541,23 @@ select i.CoyCode as coyCode, i.BatchNo, i.invNo,
     cast(SUBSTRING(i.BatchNo, 1, 4) as bigint) * 100 + cast(SUBSTRING(i.BatchNo, 6, 2) as bigint) as batchVal
 from BillsForClients i
 go
+-- The invoices that may be taken back: those that are not posted to the ledger. A client who is not in the list of
+-- clients any more is shown by his code.
+create view vwBillProcessReverseList as
+select i.CoyCode as coyCode, isnull(r.retainName, i.CoyCode) as coyName, i.BatchNo,
+    isnull(r.retainCode, i.CoyCode) as retainCode
+from BillsForClients i
+left join hRetainership r on r.retainCode = i.CoyCode
+where i.isPost = 0
+go
+-- Every client invoice with the client's account in the ledger.
+create view vwInvoiceDetailsCoy2Batch as
+select i.SNO, i.BatchNo, i.BillMonth, i.BillYear, i.CoyCode, r.retainName, r.retainName as Company,
+    i.Amountbilled as AmountBilled, i.invNo as InvNo, case when i.isPost = 1 then 'YES' else 'NO' end as Posted,
+    r.AcctID, i.isPost
+from BillsForClients i
+left join hRetainership r on r.retainCode = i.CoyCode
+go
 
 -- Receipts
 -- --------

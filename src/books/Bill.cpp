@@ -33,12 +33,6 @@ Recordset rowOf(Connection& connection, const QString& billNo) {
     return Recordset(connection, Sql("select * from billing where billNo='") << billNo << "'");
 }
 
-void updateBillAmount(Books& books, const QString& billNo, double amount) {
-    books.connection.execute(Sql("update  billing set AmountBilledInWord='")
-                             << getValInWord(amount) << "', amountBilled= " << amount << " where billno = '" << billNo
-                             << "'");
-}
-
 } // namespace
 
 std::optional<Bill> readBill(Connection& connection, const QString& billNo) {
@@ -122,10 +116,25 @@ std::optional<double> billDetailsTotal(Connection& connection, const QString& bi
     return round2(total.number("SubTotal"));
 }
 
+void setBillAmount(Books& books, const QString& billNo, double amount) {
+    books.connection.execute(Sql("update  billing set AmountBilledInWord='")
+                             << getValInWord(amount) << "', amountBilled= " << amount << " where billno = '" << billNo
+                             << "'");
+}
+
+void processBill(Books& books, const QString& billNo, const QString& invNo) {
+    books.connection.execute(Sql("update Billing set isprocess=1, invNo='")
+                             << invNo << "'where billno = '" << billNo << "'");
+}
+
+void releaseBills(Books& books, const QString& invNo) {
+    books.connection.execute(Sql("update  billing set isprocess=0,InvNo= 0 where InvNo = '") << invNo << "'");
+}
+
 std::optional<double> refreshBillTotal(Books& books, const QString& billNo) {
     const std::optional<double> total = billDetailsTotal(books.connection, billNo);
     if (total)
-        updateBillAmount(books, billNo, *total);
+        setBillAmount(books, billNo, *total);
     return total;
 }
 
@@ -134,7 +143,7 @@ void refreshBillFromLines(Books& books, const QString& billNo) {
         return;
     const std::optional<Bill> bill = readBill(books.connection, billNo);
     if (bill && bill->amountBilled != 0)
-        updateBillAmount(books, billNo, 0);
+        setBillAmount(books, billNo, 0);
 }
 
 std::optional<double> sumOfPayments(Connection& connection, const QString& billNo) {

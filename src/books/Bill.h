@@ -43,6 +43,15 @@ bool isBillProcessed(Connection& connection, const QString& billNo);
 /// What the lines of a bill come to, in whole kobo; none without a line.
 std::optional<double> billDetailsTotal(Connection& connection, const QString& billNo);
 
+/// What the bill's row says that it bills: `amount` naira, and its words.
+void setBillAmount(Books& books, const QString& billNo, double amount);
+
+/// Puts the bill on its client's invoice, which freezes it.
+void processBill(Books& books, const QString& billNo, const QString& invNo);
+
+/// Takes all bills off an invoice; they can be changed again. Their number of an invoice is then the text 0.
+void releaseBills(Books& books, const QString& invNo);
+
 /// Amount and words of the bill's row as its lines now come to; without a line they stay. Gives that amount.
 std::optional<double> refreshBillTotal(Books& books, const QString& billNo);
 

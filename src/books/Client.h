@@ -9,6 +9,15 @@ namespace orvane {
 /// itself.
 QString clientName(Connection& connection, const QString& clientID);
 
+/// The name of a client by his retainCode; none where the list of clients does not hold the code.
+std::optional<QString> clientOfCode(Connection& connection, const QString& code);
+
+/// The client of this retainCode owes so many naira more; gives his name. None, and nothing written, where the list of
+/// clients does not hold the code.
+std::optional<QString> addClientDebt(Books& books, const QString& code, double amount);
+/// He owes so many naira less.
+void lessenClientDebt(Books& books, const QString& code, double amount);
+
 /// A patient and one of his bills on their way to another client.
 struct ClientMove {
     QString pno, billNo;

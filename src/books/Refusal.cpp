@@ -12,6 +12,7 @@ constexpr struct {
 } words[] = {
     {Refusal::BillProcessed, "This Bill is already processed! to Modify, unProcess the Batch"},
     {Refusal::BillExists, "This page is only for receipt of Advance/Deposit!!! Use Receipt Entry Form"},
+    {Refusal::InvoicePosted, "This Batch is posted to the Accounts and cannot be reversed"},
     {Refusal::VisitChanged, "Please Re-Select Patient Name! Bill No (StrCon needed"},
     {Refusal::NoPatient, "Patient does not Exist"},
     {Refusal::NoClient, "BillTo Value Cannot be Empty!!! Check your Client Information"},

@@ -8,6 +8,7 @@ namespace orvane {
 enum class Refusal {
     BillProcessed,     ///< a monthly batch holds the bill, which freezes it
     BillExists,        ///< a deposit opens the bill, so there may be none
+    InvoicePosted,     ///< the invoice to be taken back is in the ledger
     VisitChanged,      ///< the visit was deleted or moved to another patient or client since it was read
     NoPatient,         ///< the visit to be billed is not there
     NoClient,          ///< the visit's client is not in the list of clients

@@ -3,6 +3,7 @@
 #include "desktop/FormView.h"
 #include "desktop/Look.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 
 namespace orvane {
@@ -66,7 +67,15 @@ void Binding::timerEvent(QTimerEvent* event) {
     if (event->timerId() != m_readOn.timerId())
         return QObject::timerEvent(event);
     m_readOn.stop();
-    byItself([control = m_control] { control->readMore(rowsAtOnce); });
+    if (isWorking())
+        m_readOn.start(pauseWhileBusy, this);
+    else
+        byItself([control = m_control] { control->readMore(rowsAtOnce); });
+}
+
+/// A long save lets the windows be painted; what comes by itself asks the database and may show a fault, so it waits.
+bool Binding::isWorking() {
+    return QGuiApplication::overrideCursor() != nullptr;
 }
 
 void Binding::showState() {

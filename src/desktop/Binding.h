@@ -50,6 +50,7 @@ protected:
     void watch(QWidget* widget); ///< its focus and its keys belong to the control
     /// What happens without the user, a timer's tick: waits as his acts do, but once only.
     void byItself(const std::function<void()>& act);
+    static bool isWorking(); ///< a save is under way, on this form or another: nothing may happen by itself
     FormView& view() const { return m_view; }
 
 private:

@@ -300,7 +300,10 @@ void StatusBinding::refresh() {
 
 TimerBinding::TimerBinding(FormView& view, Timer& timer) : Binding(view, timer, nullptr), m_timer(&timer) {
     connect(
-        &m_clock, &QTimer::timeout, this, [this] { byItself([this] { m_timer->tick(); }); });
+        &m_clock, &QTimer::timeout, this, [this] {
+            if (!isWorking())
+                byItself([this] { m_timer->tick(); });
+        });
 }
 
 void TimerBinding::refresh() {

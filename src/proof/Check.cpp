@@ -26,11 +26,12 @@ CheckReport checkDatabases(Connection& billing, Connection& accounting) {
     if (!report.findings.isEmpty())
         return report;
     Checker ofBilling(billing, "billing");
-    for (const auto& checks : {numberChecks(), accountChecks(), billChecks(), receiptChecks()})
+    for (const auto& checks : {numberChecks(), accountChecks(), billChecks(), receiptChecks(), monthChecks()})
         ofBilling.run(checks, report.findings, report.remarks);
     ofBilling.runNumbers(report.findings);
     ofBilling.runDemanded(report.findings);
-    ofBilling.run(noticeChecks(), report.notices, report.remarks);
+    for (const auto& notices : {noticeChecks(), monthNotices()})
+        ofBilling.run(notices, report.notices, report.remarks);
     Checker ofAccounting(accounting, "accounting");
     ofAccounting.run(ledgerChecks(), report.findings, report.remarks);
     ofAccounting.runNumbers(report.findings);
@@ -41,8 +42,8 @@ CheckReport checkDatabases(Connection& billing, Connection& accounting) {
 
 QStringList checkNames() {
     QStringList names = Checker::amountCheckNames() + QStringList{"repeated table"};
-    for (const auto& checks :
-         {numberChecks(), accountChecks(), billChecks(), receiptChecks(), noticeChecks(), ledgerChecks()})
+    for (const auto& checks : {numberChecks(), accountChecks(), billChecks(), receiptChecks(), monthChecks(),
+                               noticeChecks(), monthNotices(), ledgerChecks()})
         for (const Check& check : checks)
             names.append(QString::fromLatin1(check.name));
     return names;

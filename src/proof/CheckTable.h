@@ -21,6 +21,8 @@ std::span<const Check> billChecks();
 std::span<const Check> receiptChecks();
 std::span<const Check> accountChecks();
 std::span<const Check> noticeChecks(); ///< what actions of the program leave and a person may want to know
+std::span<const Check> monthChecks();
+std::span<const Check> monthNotices();
 /// Of the accounting database.
 std::span<const Check> ledgerChecks();
 

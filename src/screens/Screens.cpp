@@ -21,6 +21,8 @@
 #include "billing/frmPriceAdjustVerify.h"
 #include "billing/frmTreatment.h"
 #include "clients/frmBillProcess.h"
+#include "clients/frmBillProcessing.h"
+#include "clients/frmBillReverseProcessing.h"
 #include "clients/frmClients.h"
 #include "clients/frmRetainership.h"
 #include "clients/frmRptHeading.h"
@@ -94,6 +96,8 @@ constexpr struct {
     {"frmTreatment", make<frmTreatment>},
 
     {"frmBillProcess", make<frmBillProcess>},
+    {"frmBillProcessing", make<frmBillProcessing>},
+    {"frmBillReverseProcessing", make<frmBillReverseProcessing>},
     {"frmClients", make<frmClients>},
     {"frmRetainership", make<frmRetainership>},
     {"frmRptHeading", make<frmRptHeading>},

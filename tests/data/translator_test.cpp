@@ -88,6 +88,7 @@ TEST_P(Dialect, SelectsAndSortsAsTheServerDoes) {
          "billNo=a.consultID) and a.SubTotal not in (select 5 as n)",
          "A"},
         {"select drgName from BillAccum where SNo in (Select SNo from BillingDetails)", "B"},
+        {"select drgName from BillAccum where SNo in (Select distinct SNo from BillingDetails) and Qty>0", "B"},
         {"select SNo from BillAccum where SNo not in (2, 3)", "1"},
     });
 }

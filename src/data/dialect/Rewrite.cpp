@@ -91,22 +91,39 @@ qsizetype operandEnd(const Tokens& tokens, qsizetype first) {
     return std::min(i + 1, tokens.size());
 }
 
-void rewriteNotIn(Tokens& tokens) {
+namespace {
+
+/// The "in" of an "x in (select distinct ...)" or "x not in (select ...)" whose first word stands at `i`; -1: none
+/// does.
+qsizetype inOfSubquery(const Tokens& tokens, qsizetype i) {
+    const bool isNegated = tokens[i].is("not");
+    const qsizetype in = isNegated ? i + 1 : i;
+    const bool isSubquery =
+        in + 2 < tokens.size() && tokens[in].is("in") && tokens[in + 1].isSymbol("(") && tokens[in + 2].is("select");
+    return isSubquery && (isNegated || tokens[in + 3].is("distinct")) ? in : -1;
+}
+
+} // namespace
+
+void rewriteIn(Tokens& tokens) {
     for (qsizetype i = 1; i + 3 < tokens.size(); ++i) {
-        if (!tokens[i].is("not") || !tokens[i + 1].is("in") || !tokens[i + 2].isSymbol("(") ||
-            !tokens[i + 3].is("select"))
+        const qsizetype in = inOfSubquery(tokens, i);
+        if (in < 0)
             continue;
         const qsizetype start = operandStart(tokens, i - 1);
-        const qsizetype close = closingParenthesis(tokens, i + 2);
+        const qsizetype close = closingParenthesis(tokens, in + 1);
         const Tokens value = tokens.mid(start, i - start);
-        const qsizetype key = tokens[i + 4].is("distinct") ? i + 5 : i + 4;
+        const qsizetype key = tokens[in + 3].is("distinct") ? in + 4 : in + 3;
         qsizetype from = key;
         while (from < close && !tokens[from].is("from"))
             from = tokens[from].isSymbol("(") ? closingParenthesis(tokens, from) + 1 : from + 1;
         const qsizetype keyEnd = from - key > 2 && tokens[from - 2].is("as") ? from - 2 : from;
         Tokens result = {symbolToken("(")};
-        result += value;
-        result += tokenize(" is not null and not exists (select 1 from (select");
+        if (in > i) {
+            result += value;
+            result += tokenize(" is not null and not");
+        }
+        result += tokenize(" exists (select 1 from (select");
         result += tokens.mid(key, keyEnd - key);
         result += tokenize(" as orvane_key");
         result += tokens.mid(from, close - from);

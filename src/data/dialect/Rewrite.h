@@ -17,7 +17,8 @@ qsizetype operandEnd(const Tokens& tokens, qsizetype first);
 
 /// "x not in (select k from t ...)" as "(x is not null and not exists (select 1 from (select k as orvane_key from t
 /// ...) orvane_in where orvane_in.orvane_key = x))": a null among the keys hides no row, and an index on k serves it.
-void rewriteNotIn(Tokens& tokens);
+/// "x in (select distinct k from t ...)" likewise: the engine would read all of t to make its keys distinct.
+void rewriteIn(Tokens& tokens);
 
 /// "+" between texts as "||". A chain of "+" joins texts when one of its operands is a text: a literal, a text function
 /// or a column that the schema declares as text.

@@ -34,7 +34,7 @@ QString translate(const QString& tsql, Engine engine) {
     if (isDefinition(tokens))
         return translateDefinition(tokens, engine);
     if (engine != Engine::SqlServer) {
-        rewriteNotIn(tokens);
+        rewriteIn(tokens);
         rewriteTextJoins(tokens);
         rewriteLiterals(tokens);
     }

@@ -1,0 +1,95 @@
+#include "books/MonthRun.h"
+
+#include "books/Batch.h"
+#include "books/Bill.h"
+#include "books/Client.h"
+#include "books/ClientInvoice.h"
+#include "books/Debtor.h"
+#include "data/words/Money.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr int billsAtOnce = 50; ///< between two looks of who watches
+
+/// A client in the run.
+struct RunClient {
+    QString code, invNo;
+};
+
+struct RunBill {
+    QString billNo;
+    std::optional<double> total; ///< naira, of its lines; none where the bill has no visit
+};
+
+/// The bills that wait, with what their lines come to: read in one go, for a look at each bill costs as much as its
+/// change.
+QVector<RunBill> waitingBills(Connection& connection, const QString& batchNo, const QString& code) {
+    QVector<RunBill> bills;
+    Recordset row(connection, Sql("select distinct BillNo,(select  Subtotal from vwBillingProcessDetailsGrouped where "
+                                  "billno=vwBillingProcess.BillNo) as Total from vwBillingProcess where batchNo='")
+                                  << batchNo << "' and retainCode='" << code
+                                  << "' and billNO in (Select distinct billNO from BillingDetails )");
+    for (; !row.eof(); row.moveNext())
+        bills.append(
+            {row.text("BillNo"), row.isNull("Total") ? std::nullopt : std::optional(round2(row.number("Total")))});
+    return bills;
+}
+
+/// Gives what the bills come to, in naira.
+double processBills(Books& books, const RunClient& client, const QVector<RunBill>& bills, const RunWatcher& watch,
+                    RunStage stage) {
+    double total = 0;
+    stage.bills = int(bills.size());
+    for (const RunBill& bill : bills) {
+        if (stage.bill % billsAtOnce == 0)
+            watch(stage);
+        if (bill.total) {
+            total = round2(total + *bill.total);
+            setBillAmount(books, bill.billNo, *bill.total);
+        }
+        processBill(books, bill.billNo, client.invNo);
+        ++stage.bill;
+    }
+    watch(stage);
+    return total;
+}
+
+/// The client owes what the run has found. One who is not in the list of clients has no debt.
+void oweForRun(Books& books, const RunClient& client, const MonthRun& run, double total) {
+    const std::optional<QString> name = addClientDebt(books, client.code, total);
+    if (!name)
+        return;
+    books.audit({"Proceess Mthly Bill for " + *name, {}, {}});
+    addDebtor(
+        books,
+        {.date = run.date, .billNo = client.code, .clientNo = client.code, .amount = total, .invNo = client.invNo});
+}
+
+} // namespace
+
+Given<int> processMonth(Books& books, const MonthRun& run, const RunWatcher& watch) {
+    RunStage stage{.clients = int(run.clients.size())};
+    double whole = 0;
+    for (const qlonglong number : run.clients) {
+        const QString code = paddedClientCode(number);
+        const RunClient client{code, invoiceNumber(code, run.batchNo)};
+        const double total =
+            processBills(books, client, waitingBills(books.connection, run.batchNo, code), watch, stage);
+        addToInvoice(books, {.date = run.date,
+                             .invNo = client.invNo,
+                             .coyCode = code,
+                             .batchNo = run.batchNo,
+                             .month = run.month,
+                             .year = run.year,
+                             .amount = total});
+        oweForRun(books, client, run, total);
+        whole = round2(whole + total);
+        ++stage.client;
+    }
+    books.record(run.batchNo, whole);
+    return stage.client;
+}
+
+} // namespace orvane
