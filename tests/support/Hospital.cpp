@@ -114,4 +114,15 @@ qlonglong makeItem(Connection& billing, const TestItem& item) {
     return billing.run("select max(SNo) as SNo from BillAccum").integer("SNo");
 }
 
+void makeMonthBill(Connection& billing, const QString& billNo, const QString& client, double amount, QDate date) {
+    makeVisit(billing, {.consultID = billNo, .date = date, .category = "MTHLY", .client = client});
+    billing.execute(Sql("update hRecords set BillDate=recDate where consultID='") << billNo << "'");
+    const qlonglong sno = makeItem(billing, {.consultID = billNo, .date = date, .client = client, .price = amount});
+    billing.execute(Sql("insert into BillingDetails (SNo, billNo, PNo, drgName, SubTotal, billTo) values (")
+                    << sno << ", '" << billNo << "', 'P/0001', 'PARACETAMOL 500MG', " << amount << ", '" << client
+                    << "')");
+    billing.execute(Sql("insert into Billing (billNo, PNo, clientID, Amountbilled) values ('")
+                    << billNo << "', 'P/0001', '" << client << "', " << amount << ")");
+}
+
 } // namespace orvane

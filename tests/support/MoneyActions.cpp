@@ -118,6 +118,34 @@ void enterUser(Workstation& ws) {
           {"cboBranchCode", "HQ"}});
 }
 
+void layMonth(Workstation& ws) {
+    Connection connection = ws.billing();
+    makePatient(connection);
+    makeMonthBill(connection, bill, "0102", 1500.25);
+    makeMonthBill(connection, "001OFL0000002", "0102", 700.5);
+    makeMonthBill(connection, "001OFL0000003", "0201", 40);
+}
+
+void enterMonth(Workstation& ws) {
+    ws.open("frmBillProcessing");
+    ws.click("frmBillProcessing.cmdGet");
+    ws.click("frmBillProcessing.cmdAll");
+}
+
+void layProcessed(Workstation& ws) {
+    layMonth(ws);
+    enterMonth(ws);
+    ws.ui.answer(true);
+    ws.click("frmBillProcessing.cmdProcess");
+}
+
+void enterMonthReversal(Workstation& ws) {
+    ws.open("frmBillReverseProcessing");
+    ws.set("frmBillReverseProcessing.cboYear", "2026");
+    ws.pick("frmBillReverseProcessing.cboCust", "HARMONY MILLS");
+    ws.tick("frmBillReverseProcessing.LstDate", {"2026/03"});
+}
+
 const char* const saved = "box Record Succesfully saved";
 const char* const receiptShown = "opened frmCashReceipt";
 
@@ -214,6 +242,10 @@ const QList<MoneyAction>& moneyActions() {
          "box Record Succesfully Edited and Updated", true},
         {"AttendanceDelete", layVisit, pickAttendance, "frmRecordsOffline.cmdDel", "yes",
          "box  Record successfully deleted ", true},
+        {"MonthRun", layMonth, enterMonth, "frmBillProcessing.cmdProcess", "yes",
+         "box 2 Comapny Bills successfully Processed"},
+        {"MonthReversal", layProcessed, enterMonthReversal, "frmBillReverseProcessing.cmdProcess", "yes",
+         "box 1 Comapny Bills successfully Reversed", true},
         {"User", layVisit, enterUser, "frmUsers.cmdApply", "", "box Account creation succeeded.", true},
         {"Role", layVisit,
          [](Workstation& ws) {
@@ -272,7 +304,10 @@ QString moneyFigures(Workstation& ws) {
         {"hPatients", "coyName='0102'; ref='YES'", "DebtBF"},
         {"BillAccum", "consultID<>''; billTo='0102'; Capitated='YES'", "attendedto; isBilled; isRct; SubTotal"},
         {"BillingDetails", "1=1; billTo='0102'; BillHead='TABLETS'", "SubTotal; isRct"},
-        {"Billing", "clientID='0102'", "Amountbilled; AmountPaid"},
+        {"Billing", "clientID='0102'; isProcess=1; InvNo='0'", "Amountbilled; AmountPaid"},
+        {"BillsForClients", "1=1; isOLD=0", "AmountInvoiced"},
+        {"hDebtors", "1=1", "Amount"},
+        {"hRetainership", "", "Debt"},
         {"Payments", "1=1", "AmountPaid"},
         {"PaymentTypes", "", "AmountPaid"},
         {"PaymentDetails", "", "AmountPaid"},
