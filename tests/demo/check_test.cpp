@@ -157,7 +157,8 @@ const Plant plants[] = {
     {"debt without invoice", {"update hDebtors set invNo='0102/2026/04' where Amount=50"}},
     {"item of another bill", {"update BillAccum set consultID='001OFL0000011' where SNo=10"}},
     {"split bill without its visit",
-     {"insert into hRecords (consultID,PNo,AttndStatus) values ('001OFL9999999B','1/001','SPLIT')"}},
+     {"insert into hRecords (consultID,PNo,recDate,AttndStatus) values "
+      "('001OFL9999999B','1/001','2026-03-01','SPLIT')"}},
     {"ledger transaction",
      {"insert into Tranxaction (TranID,AccountNo,Amount) values ('T1','1210010',100)",
       "insert into Tranxaction (TranID,AccountNo,Amount) values ('T1','4110010',-99.5)"},
