@@ -31,14 +31,14 @@ Layout frmBillProcess::layout() const {
               field("Search by Surname", txtSearch, 20)}),
          growing(cell(grdData)),
          row({cell(lblCnt, 24), field("Total of All Bills", lblAmt), stretch(), field("Bills That Differ", cmdShow)}),
-         growing(row(
-             {growing(column({cell(lblDetails), growing(cell(grdData2))})),
-              column(
-                  {group("Approval and Diagnosis", {field("Approval Code", txtApprv, 26),
-                                                    field("Diagnosis", txtDiag, 26), row({cell(cmdOK), cell(cmDiag)})}),
-                   cell(cmdRpt), cell(chkBatch),
-                   group(fraBatch.caption().trimmed(), {row({cell(cboVehNo, 12), cell(cmdBatch)})}, &fraBatch),
-                   stretch()})})),
+         growing(row({growing(column({cell(lblDetails), growing(cell(grdData2))})),
+                      column({group("Approval and Diagnosis",
+                                    {field("Approval Code", txtApprv, 26), field("Diagnosis", txtDiag, 26),
+                                     row({cell(cmdOK), cell(cmDiag)})}),
+                              cell(cmdRpt), cell(chkBatch),
+                              group(fraBatch.caption().trimmed(), {row({field("Batch", cboVehNo, 12), cell(cmdBatch)})},
+                                    &fraBatch),
+                              stretch()})})),
          buttons({&cmdCust, &cmdAdjust, &cmdUpdate, &cmdAddBulk}, {&CancelButton, &cmdProcess})});
 }
 
