@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs targets of fuzz/ over their corpora and goes on with inputs of its own making, one target after the other.
-#   scripts/fuzz.sh [--built] [SECONDS [TARGET...]]      20 seconds each; translator, csv and script
+#   scripts/fuzz.sh [--built] [SECONDS [TARGET...]]      20 seconds each; translator, csv, script and report
 # --built: builds nothing, goes over the corpora alone, so that every run has the same outcome, and ends with 77 when
 # there is nothing built; what does not hold ends with 1, since libFuzzer's own 77 would pass for that. Inputs that reach something new are kept in
 # build/fuzz/corpus, those for which something does not hold in build/fuzz/found.
@@ -11,7 +11,7 @@ built=no
 [ "${1:-}" != --built ] || { built=yes; shift; }
 seconds=${1:-20}
 targets=("${@:2}")
-[ ${#targets[@]} -gt 0 ] || targets=(translator csv script)
+[ ${#targets[@]} -gt 0 ] || targets=(translator csv script report)
 further=(-max_total_time="$seconds")
 [ $built = no ] || further=(-runs=0)
 

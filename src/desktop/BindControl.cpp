@@ -59,6 +59,7 @@ Binding* bindControl(FormView& view, Control& control, QWidget* parent, Place pl
     case ControlKind::TabStrip:
     case ControlKind::Timer:
     case ControlKind::Menu:
+    case ControlKind::Viewer:
         break;
     }
     ORVANE_ASSERT(!"a kind of control that a layout does not place as a cell");

@@ -30,7 +30,8 @@ enum class ControlKind {
     ProgressBar,
     StatusBar,
     Timer,
-    Menu
+    Menu,
+    Viewer
 };
 
 /// One named part of a form. It knows no widget: the desktop and the script player show and drive it.

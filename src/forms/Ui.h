@@ -42,6 +42,8 @@ public:
     /// the totals of its amounts.
     virtual void viewReport(const QString& file, const QString& title, const Recordset& rows,
                             const QString& sums = {}) = 0;
+    /// A screen's viewer has begun to show a report of so many rows.
+    virtual void reportShown(const QString& /*file*/, const Recordset& /*rows*/) {}
     /// Where workbooks are saved: the user's documents.
     virtual QString exportFolder() const { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }
     /// A saved workbook is opened with the desktop's program.

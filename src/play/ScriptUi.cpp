@@ -92,8 +92,12 @@ void ScriptUi::printForm(Form& form) {
 }
 
 void ScriptUi::viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) {
-    m_log.write(QStringLiteral("report %1 %2").arg(file).arg(rows.count()));
+    reportShown(file, rows);
     m_shower.viewReport(file, title, rows, sums);
+}
+
+void ScriptUi::reportShown(const QString& file, const Recordset& rows) {
+    m_log.write(QStringLiteral("report %1 %2").arg(file).arg(rows.count()));
 }
 
 void ScriptUi::exported(const QString& file) {

@@ -45,6 +45,7 @@ public:
     void processEvents() override;
     void printForm(Form& form) override;
     void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) override;
+    void reportShown(const QString& file, const Recordset& rows) override;
     QString exportFolder() const override { return m_exportFolder; }
     void exported(const QString& file) override;
     void playSound(const QString& file) override;

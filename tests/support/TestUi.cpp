@@ -69,4 +69,8 @@ void TestUi::viewReport(const QString& file, const QString& title, const Records
     reports.append({file, title, rows.count(), sums});
 }
 
+void TestUi::reportShown(const QString& file, const Recordset& rows) {
+    viewReport(file, {}, rows, {});
+}
+
 } // namespace orvane

@@ -68,6 +68,7 @@ public:
     void processEvents() override {}
     void printForm(Form& form) override { printed << form.name(); }
     void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) override;
+    void reportShown(const QString& file, const Recordset& rows) override;
     QString exportFolder() const override { return m_documents.path(); }
     void exported(const QString& file) override { exports << file; }
     void playSound(const QString& file) override { sounds << file; }
