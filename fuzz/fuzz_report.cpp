@@ -15,7 +15,7 @@ namespace orvane {
 
 namespace {
 
-constexpr qsizetype longestMessage = 300;
+constexpr qsizetype longestMessage = 500;
 constexpr int mostPages = 200; ///< of 30 rows
 
 Recordset makeRows() {
