@@ -3,6 +3,7 @@
 #include "data/Assert.h"
 #include "data/engine/ServerList.h"
 #include "data/rows/Schema.h"
+#include "reports/StockTemplates.h"
 
 #include <QDir>
 #include <QFile>
@@ -79,6 +80,7 @@ void writeHomeFiles(const QString& folder, const HomeOptions& options) {
     write("orvane.ini", iniFile(options));
     for (const char* name : {"RctPix.JPG", "RctPixLab.JPG", "RctPixDen.JPG", "ring1.wav"})
         write(QString::fromLatin1(name), resource(QString::fromLatin1(name)));
+    renewStockTemplates(folder);
 }
 
 void writeSysDoc(const QString& folder, const QString& userName) {

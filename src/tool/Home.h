@@ -15,7 +15,8 @@ struct HomeOptions {
 };
 
 /// Makes the folder and writes made.sys, orvane.ini, the receipt pictures and the sound where they are missing; files
-/// that stand are left alone. Raises DataError when one cannot be written.
+/// that stand are left alone, but for report templates that nobody has edited, which are brought up to date. Raises
+/// DataError when one cannot be written.
 void writeHomeFiles(const QString& folder, const HomeOptions& options);
 /// Writes sysdoc.sys: the user as whom the program starts.
 void writeSysDoc(const QString& folder, const QString& userName);

@@ -3,6 +3,7 @@
 #include "data/rows/SchemaSteps.h"
 #include "data/rows/SharedTables.h"
 #include "proof/Check.h"
+#include "reports/StockTemplates.h"
 #include "tool/Command.h"
 
 namespace orvane {
@@ -88,6 +89,8 @@ void upgrade(Call& call, Program& program, const QList<Part>& parts) {
 
 int upgradeCommand(Call& call) {
     const QString home = call.required("home");
+    for (const QString& name : renewStockTemplates(home))
+        call.out << "report template renewed: " << name << '\n';
     CheckReport before;
     QList<Part> old;
     {

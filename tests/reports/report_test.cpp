@@ -1,5 +1,6 @@
 // Reports: what a template says stands on the pages, wherever they break, and what is wrong with one is told in a line.
 #include "reports/Report.h"
+#include "reports/StockTemplates.h"
 #include "reports/TemplateReader.h"
 #include "support/TestHome.h"
 
@@ -204,6 +205,26 @@ TEST_F(ReportTest, WhatIsWrongWithATemplateIsSaidInOneLine) {
     for (qsizetype length = 0; length < invoice.size(); ++length) {
         const QString told = fault(invoice.left(length));
         EXPECT_TRUE(told == "none" || told.startsWith("rptTest.rpt:")) << told.toStdString();
+    }
+}
+
+TEST_F(ReportTest, StockTemplatesAreRenewedUnlessSomebodyEditedThem) {
+    const QString folder = home.folder(), path = folder + "/rptDebtInfo.rpt";
+    const auto put = [&path](const QByteArray& content) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    };
+    const QStringList all = renewStockTemplates(folder);
+    EXPECT_TRUE(all.contains("rptDebtInfo.rpt"));
+    for (const QString& name : all)
+        EXPECT_NO_THROW(readTemplateFile(folder + '/' + name)) << name.toStdString();
+    EXPECT_EQ(renewStockTemplates(folder), QStringList());
+    const QByteArray older = "report \"Of an earlier program\"\n";
+    put(older + templateMark(older));
+    EXPECT_EQ(renewStockTemplates(folder), QStringList("rptDebtInfo.rpt"));
+    for (const QByteArray& edited : {older, "# mine\n" + older + templateMark(older), QByteArray()}) {
+        put(edited);
+        EXPECT_EQ(renewStockTemplates(folder), QStringList()) << "the hospital's own";
     }
 }
 
