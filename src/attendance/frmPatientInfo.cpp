@@ -126,7 +126,7 @@ Screen::PatientTaker frmPatientInfo::patientTaker() {
     return [this](const QString& pno) { showFound(pno); };
 }
 
-/// A search hands over the patient whom it has found.
+/// Opens with the patient who was found last, by the search of records or with F3.
 void frmPatientInfo::Form_Activate() {
     if (const QString found = std::exchange(session.sFoundPNo, QString()); !found.isEmpty())
         showFound(found);

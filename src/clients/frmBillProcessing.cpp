@@ -116,6 +116,11 @@ void frmBillProcessing::cmdProcess_Click() {
                    },
                .question = "Are you sure to save?",
                .title = "About to save",
+               .detail =
+                   [this] {
+                       return aboutLines(
+                           {"Batch " + session.sBatchNo, "Clients: " + QString::number(clients.ticked().size())});
+                   },
                .prepare = [this] { return prepareRun(); },
                .step =
                    [this](Books& books) {

@@ -74,6 +74,10 @@ void frmBillReverseProcessing::cmdProcess_Click() {
                  .allowed = [this] { return isOneTicked(); },
                  .question = "Are you sure to Reverse Last Processing?",
                  .title = "About to Reverse",
+                 .detail =
+                     [this] {
+                         return aboutLines({cboCust.text(), "Batch " + batches.LstDate.item(batches.ticked().first())});
+                     },
                  .prepare =
                      [this] {
                          bar.show(0);

@@ -40,6 +40,8 @@ const QHash<QString, QString>& patterns() {
         {"APPROVAL DELETE", "Approval code of visit %1 deleted"},
         {"DRUG PRICE", "Price[ %2] of %1 saved"},
         {"PRICE LOAD", "Prices of %1 taken"},
+        {"PROCESS BATCH", "Batch %1[ of %2] processed"},
+        {"REVERSE BATCH", "Batch %1 reversed[ (%2)]"},
         {"USER", "User %1 saved"},
         {"PASSWORD", "Password of %1 changed"},
     };

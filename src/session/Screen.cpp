@@ -41,7 +41,7 @@ bool Screen::findPatient() {
     if (self && !session.sFoundPNo.isEmpty())
         userEvent([this] {
             if (const PatientTaker take = patientTaker())
-                take(std::exchange(session.sFoundPNo, QString()));
+                take(session.sFoundPNo);
         });
     return true;
 }
