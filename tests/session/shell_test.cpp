@@ -145,12 +145,13 @@ TEST_P(Shell, everyEntryActsOrIsGreyButTheEmptyOnes) {
     }
     EXPECT_EQ(quiet.join(' '), "mnuPCR mnuPCBILL mnuDFO mnuCBFHPC mnuEditArecord mnuPayVBC mnuABR mnuLR mnuAuto "
                                "mnuWindowTV mnuWindowTH mnuWindowCascade");
-    for (const char* unbuilt : {"mnuSupp", "mnuBanks", "mnuMIGFC", "mnuTB", "mnuTBBP", "mnuGL", "mnuMRpts"})
+    for (const char* unbuilt : {"mnuSupp", "mnuBanks", "mnuTB", "mnuTBBP", "mnuGL", "mnuMRpts"})
         EXPECT_TRUE(grey.contains(unbuilt)) << unbuilt;
     EXPECT_FALSE(grey.contains("mnuVerify") || grey.contains("mnuRPtES"));
     EXPECT_EQ(forms.join(' '),
               "mnuApprvCode>frmApprvCode mnuCoyInfo>frmRetainership mnuUPC>frmCoyUpdate mnuOffAttd>frmRecordsOffline "
-              "mnuVerify>frmBillingVerify mnuViewColl>frmBillProcess mnuAdmDepo>frmReceiptDeposit "
+              "mnuVerify>frmBillingVerify mnuViewColl>frmBillProcess "
+              "mnuMIGFC>frmBillProcessing mnuLastBatch>frmBillReverseProcessing mnuAdmDepo>frmReceiptDeposit "
               "mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount "
               "mnuRPtES>rptPanelSummary mnuOffline>frmReceiptManual mnuPSITC>frmExistBill mnuPCB>rptPanelSummary "
               "mnuCBFSO>frmBillingVerify mnuEditFind>frmFind mnuVSII>frmPatientInfo mnuPDI>frmDebtInfo "
