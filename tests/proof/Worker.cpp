@@ -47,13 +47,16 @@ public:
         // A balance that was read is out of date for a while, and a transaction lasts long enough for the others.
         if (m_options.contains("linger"))
             m_program.data().setStatementHook([](const QString& tsql) {
-                if (tsql == "commit transaction" || tsql.startsWith("insert into [Tranxaction]"))
+                if (tsql == "commit transaction" || tsql.startsWith("insert into [Tranxaction]") ||
+                    tsql.startsWith("update Billing set isprocess=1"))
                     QThread::msleep(3);
             });
     }
 
     /// Waits until everybody is there, so that the work overlaps, and does it.
     void work(const QStringList& numbers, int rounds, const AroundWork& around) {
+        if (m_options.contains("officer"))
+            listBatch();
         tell({"ready"});
         QTextStream(stdin).readLine();
         around(m_program, [&] { workRounds(numbers, rounds); });
@@ -62,6 +65,8 @@ public:
     void workRounds(const QStringList& numbers, int rounds) {
         for (const QString& number : numbers) {
             m_number = number.toInt();
+            if (m_options.contains("officer"))
+                processBatch();
             for (int round = 0; round < rounds; ++round)
                 workRound(round);
         }
@@ -70,7 +75,34 @@ public:
 private:
     bool ownsItsRows() const { return m_options.contains("own"); }
 
+    void listBatch() {
+        Hand hand = openScreen(m_program, "frmBillProcessing");
+        hand.click("cmdGet");
+        hand.click("cmdAll");
+        expectBoxes("list of the batch", {});
+    }
+
+    void processBatch() {
+        Hand(m_program.form("frmBillProcessing")).click("cmdProcess");
+        tell({"run", m_ui.takeBoxes().join(" / ")});
+    }
+
+    /// Bills of clients get one more item each; those that a run has taken meanwhile are refused.
+    void workOnBatch(int round) {
+        for (int bill = 0; bill < billsOfBatch; bill += 3) {
+            const QString number = visitOfWorkers(bill);
+            order(number, "P/0001", 40 + m_number + round);
+            attempt([&] {
+                Hand hand = loadBill(m_program, number);
+                hand.click("OKButton");
+                tell({m_ui.takeBoxes() == QStringList{saved} ? "bill" : "refused", number});
+            });
+        }
+    }
+
     void workRound(int round) {
+        if (m_options.contains("cashier"))
+            return workOnBatch(round);
         const int turn = ownsItsRows() ? m_number : (m_number + round) % sharedVisits;
         const QString shared = visitOfWorkers(turn);
         QString visit;

@@ -17,18 +17,24 @@ QString visitOfWorkers(int number);
 constexpr int sharedPatients = 6;
 constexpr int sharedVisits = 2;
 
+/// Bills of a month's batch: every fifth is of one client, the others of another one.
+constexpr int billsOfBatch = 30;
+
 /// The saves of one round, in order, as a worker tells them.
 inline const QStringList savesOfARound = {"visit", "deposit", "paidbill", "bill", "receipt", "reversal"};
 
 /// One workstation that works on the real screens. Arguments: home folder, its numbers apart by commas (it does the
 /// work of each in turn), rounds for each number, and any of
 ///   own          the numbers' own patients and visits, instead of those that all workers share
+///   officer      first runs the batch of the month, which it has listed before it is ready
+///   cashier      a round adds an item to each third bill of the batch instead
 ///   no-gate      transactions do not take the money gate
 ///   linger       waits between reading a balance and writing the next one, and before each commit, so that the others
 ///                come upon it
 /// Writes "ready" and begins when a line comes in. Then it writes a line of words apart by tabs for each save that the
 /// screen reported (amounts in naira, minus for a reversal):
 ///   visit NUMBER PATIENT, bill NUMBER, and deposit | paidbill | receipt | reversal RECEIPT BILL AMOUNT
+///   run BOXES, refused NUMBER
 /// further "item BILL PRICE" for each item that it laid, and "trouble TEXT" for each save that was refused or
 /// faulty. Gives the exit code. `around` is given the running program and the work, which it must do.
 using AroundWork = std::function<void(Program&, const std::function<void()>& work)>;

@@ -118,6 +118,7 @@ void makeMonthBill(Connection& billing, const QString& billNo, const QString& cl
     makeVisit(billing, {.consultID = billNo, .date = date, .category = "MTHLY", .client = client});
     billing.execute(Sql("update hRecords set BillDate=recDate where consultID='") << billNo << "'");
     const qlonglong sno = makeItem(billing, {.consultID = billNo, .date = date, .client = client, .price = amount});
+    billing.execute(Sql("update BillAccum set isBilled=1, attendedto=1 where SNo=") << sno);
     billing.execute(Sql("insert into BillingDetails (SNo, billNo, PNo, drgName, SubTotal, billTo) values (")
                     << sno << ", '" << billNo << "', 'P/0001', 'PARACETAMOL 500MG', " << amount << ", '" << client
                     << "')");
