@@ -11,5 +11,7 @@ namespace orvane {
 void benchActions(const QString& smallHome, const QString& largeHome, int rounds);
 /// What the numbers, views and lists ask, and whether it grows with the tables.
 void benchGrowth(const QString& smallHome, const QString& largeHome, int rounds);
+/// What the run of a month costs, and its reversal.
+void benchMonth(const QString& smallHome, const QString& largeHome, int rounds);
 
 } // namespace orvane

@@ -24,13 +24,14 @@ struct RunBill {
 };
 
 /// The bills that wait, with what their lines come to: read in one go, for a look at each bill costs as much as its
-/// change.
+/// change. The client's id, which a code stands for, is what leads an index to his bills.
 QVector<RunBill> waitingBills(Connection& connection, const QString& batchNo, const QString& code) {
     QVector<RunBill> bills;
     Recordset row(connection, Sql("select distinct BillNo,(select  Subtotal from vwBillingProcessDetailsGrouped where "
                                   "billno=vwBillingProcess.BillNo) as Total from vwBillingProcess where batchNo='")
                                   << batchNo << "' and retainCode='" << code
-                                  << "' and billNO in (Select distinct billNO from BillingDetails )");
+                                  << "' and retainID in (select retainID from hretainership where retainCode='" << code
+                                  << "') and billNO in (Select distinct billNO from BillingDetails )");
     for (; !row.eof(); row.moveNext())
         bills.append(
             {row.text("BillNo"), row.isNull("Total") ? std::nullopt : std::optional(round2(row.number("Total")))});
