@@ -11,7 +11,7 @@ Layout frmBillProcessing::layout() const {
     return column({row({period.layout(), cell(cmdGet), stretch()}),
                    row({column({cell(Label1), growing(cell(clients.LstDate)),
                                 row({cell(clients.cmdAll), cell(clients.cmdDeSelect)})}),
-                        growing(column({cell(cmdView), growing(cell(grdData))}))}),
+                        growing(column({cell(cmdView), growing(cell(grdData, 134))}))}),
                    cell(bar.ProgressBar1), buttons({&cmdRefresh, &cmdPost}, {&CancelButton, &cmdProcess})});
 }
 

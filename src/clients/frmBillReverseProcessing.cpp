@@ -11,7 +11,7 @@ frmBillReverseProcessing::frmBillReverseProcessing(Program& owner)
 
 Layout frmBillReverseProcessing::layout() const {
     using namespace orvane::layout;
-    return column({field("Year", cboYear, 6), field("Company Name", cboCust, 40), cell(Label1),
+    return column({field("Year", cboYear, 6), field("Company Name", cboCust, 56), cell(Label1),
                    growing(cell(batches.LstDate)), row({cell(batches.cmdAll), cell(batches.cmdDeSelect), stretch()}),
                    cell(bar.ProgressBar1), buttons({&cmdRefresh}, {&CancelButton, &cmdProcess})});
 }
