@@ -65,8 +65,8 @@ void layBatches(const QString& home) {
 class Hospital {
 public:
     Hospital(const QString& home, const QString& name)
-        : m_laid(home, name + "-laid"), m_site(laid(), name, Moment::NextMorning), m_bareCopy(m_laid.folder(), "bare"),
-          m_bare(BareEngine::open(m_bareCopy.folder(), m_site.now)) {}
+        : m_laid(home, name + "-laid"), m_site(laid(), name, Moment::NextMorning),
+          m_bareCopy(m_laid.folder(), name + "-bare"), m_bare(BareEngine::open(m_bareCopy.folder(), m_site.now)) {}
 
     Engine engine() const { return m_laid.engine(); }
 
