@@ -23,18 +23,26 @@ struct RunBill {
     std::optional<double> total; ///< naira, of its lines; none where the bill has no visit
 };
 
-/// The bills that wait, with what their lines come to: read in one go, for a look at each bill costs as much as its
-/// change. The client's id, which a code stands for, is what leads an index to his bills.
-QVector<RunBill> waitingBills(Connection& connection, const QString& batchNo, const QString& code) {
-    QVector<RunBill> bills;
+/// The bills that wait of the client with this id, with what their lines come to: read in one go, for a look at each
+/// bill costs as much as its change.
+void addWaitingBills(Connection& connection, const QString& batchNo, const QString& code, const QString& clientID,
+                     QVector<RunBill>& bills) {
     Recordset row(connection, Sql("select distinct BillNo,(select  Subtotal from vwBillingProcessDetailsGrouped where "
                                   "billno=vwBillingProcess.BillNo) as Total from vwBillingProcess where batchNo='")
-                                  << batchNo << "' and retainCode='" << code
-                                  << "' and retainID in (select retainID from hretainership where retainCode='" << code
-                                  << "') and billNO in (Select distinct billNO from BillingDetails )");
+                                  << batchNo << "' and retainCode='" << code << "' and retainID='" << clientID
+                                  << "' and billNO in (Select distinct billNO from BillingDetails )");
     for (; !row.eof(); row.moveNext())
         bills.append(
             {row.text("BillNo"), row.isNull("Total") ? std::nullopt : std::optional(round2(row.number("Total")))});
+}
+
+/// Asked by the id that a code stands for: an index leads from it to the bills, on a server that has no statistics of
+/// the month yet too, while a code is looked for in the whole month.
+QVector<RunBill> waitingBills(Connection& connection, const QString& batchNo, const QString& code) {
+    QVector<RunBill> bills;
+    Recordset client(connection, Sql("select retainID from hretainership where retainCode='") << code << "'");
+    for (; !client.eof(); client.moveNext())
+        addWaitingBills(connection, batchNo, code, client.text("retainID"), bills);
     return bills;
 }
 
