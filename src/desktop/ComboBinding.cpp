@@ -5,6 +5,7 @@
 #include "desktop/Look.h"
 #include "desktop/TextBinding.h"
 
+#include <QAbstractItemView>
 #include <QAbstractProxyModel>
 #include <QComboBox>
 #include <QCompleter>
@@ -119,9 +120,10 @@ int ComboBinding::foundBelow(const QString& text) const {
 }
 
 int ComboBinding::found() const {
-    if (m_popup->isVisible() && m_popup->currentIndex().isValid()) {
+    const QModelIndex marked = m_combo->completer()->popup()->currentIndex();
+    if (m_popup->isVisible() && marked.isValid()) {
         const auto* matches = qobject_cast<const QAbstractProxyModel*>(m_combo->completer()->completionModel());
-        return matches->mapToSource(m_popup->currentIndex()).row();
+        return matches->mapToSource(marked).row();
     }
     const QString text = m_combo->currentText().trimmed();
     return text.isEmpty() ? -1 : foundBelow(text);
@@ -167,7 +169,7 @@ void ComboBinding::widenLists() {
     // A shorter entry of wider letters may need a little more.
     const int room = m_widest + m_widest / 16 + m_combo->view()->verticalScrollBar()->sizeHint().width() + 16;
     const int screenWidth = m_combo->screen()->availableGeometry().width();
-    for (QAbstractItemView* list : {m_combo->view(), m_popup.data()})
+    for (QAbstractItemView* list : {m_combo->view(), m_combo->completer()->popup()})
         list->setMinimumWidth(std::min({room, widestList, screenWidth}));
 }
 

@@ -2,8 +2,6 @@
 
 #include "desktop/Binding.h"
 
-#include <QAbstractItemView>
-
 class QComboBox;
 
 namespace orvane {
@@ -39,7 +37,7 @@ private:
 
     ComboBox* m_box;
     QComboBox* m_combo;
-    QPointer<QAbstractItemView> m_popup; ///< the suggestions
+    QPointer<QWidget> m_popup; ///< the suggestions; a plain widget, since events still come while it is taken down
     ComboModel* m_model;
     unsigned m_seen;
     bool m_searching = false;  ///< a list only is being searched: the text typed is no value yet

@@ -233,6 +233,17 @@ void Windows::waitUntilClosed(Form& form) {
     loop.exec();
 }
 
+/// Nothing is taken away in front of a user: the windows go with this object.
+void Windows::abandoned(Form& form) {
+    const Entry* entry = find(form);
+    if (!entry)
+        return;
+    if (entry->window == m_shell)
+        m_shell->release();
+    else
+        static_cast<FormWindow*>(entry->window)->release();
+}
+
 void Windows::closed(Form& form) {
     const auto found =
         std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry& entry) { return entry.form == &form; });

@@ -37,6 +37,7 @@ public:
     void show(Form& form);      ///< or brings it forward
     void showModal(Form& form); ///< as a dialog; returns at once
     void waitUntilClosed(Form& form);
+    void abandoned(Form& form); ///< as Ui::abandoned
     void closed(Form& form);
     void setBusy(bool busy);
     void print(Form& form);

@@ -34,6 +34,8 @@ public:
     virtual void show(Form& form) = 0;      ///< shows it, or brings it forward
     virtual void showModal(Form& form) = 0; ///< returns when the form has closed
     virtual void closed(Form& form) = 0;    ///< the form has unloaded: take its window away
+    /// The program ends while the form is still open: its window may not touch it any more.
+    virtual void abandoned(Form& /*form*/) {}
     virtual void setBusy(bool busy) = 0;
     virtual void processEvents() = 0;
 

@@ -41,6 +41,7 @@ public:
     void show(Form& form) override;
     void showModal(Form& form) override;
     void closed(Form& form) override;
+    void abandoned(Form& form) override { m_shower.abandoned(form); }
     void setBusy(bool busy) override;
     void processEvents() override;
     void printForm(Form& form) override;

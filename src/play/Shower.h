@@ -13,6 +13,7 @@ public:
     virtual void show(Form&) {}      ///< shows the window, or brings it forward
     virtual void showModal(Form&) {} ///< shows the dialog and returns at once; the script runs on inside it
     virtual void closed(Form&) {}    ///< takes the window away
+    virtual void abandoned(Form&) {} ///< as Ui::abandoned
     virtual void setBusy(bool) {}
     virtual void processEvents() {}
     virtual void printForm(Form&) {} ///< writes the document where scripted prints go

@@ -9,7 +9,10 @@ namespace orvane {
 Program::Program(const QString& homeFolder, Ui& ui)
     : m_homeFolder(homeFolder), m_ui(ui), m_patients(std::make_unique<PatientDirectory>()) {}
 
-Program::~Program() = default;
+Program::~Program() {
+    for (const auto& entry : m_forms)
+        m_ui.abandoned(*entry.second);
+}
 
 DataSource& Program::data() {
     if (!m_data)
