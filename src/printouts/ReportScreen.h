@@ -1,0 +1,33 @@
+#pragma once
+
+#include "forms/ReportViewer.h"
+#include "session/Screen.h"
+
+#include <QHash>
+
+namespace orvane {
+
+/// A report of a template in the program's folder, as a screen asks for it.
+struct ReportWanted {
+    QString file; ///< the template's name
+    Recordset rows;
+    QString nothing;                          ///< said where there are no rows
+    QHash<QString, QString> textObjects = {}; ///< the texts of named text objects
+    QString title = {};                       ///< in place of the template's; empty: that one
+};
+
+/// A screen with a viewer of reports.
+class ReportScreen : public Screen {
+public:
+    using Screen::Screen;
+
+protected:
+    /// Opens the template, gives it the rows, its texts and the hospital's letterhead, and shows it. Where there are no
+    /// rows it says so, and the viewer keeps what it shows. A fault of the template or the engine is raised, and the
+    /// viewer is empty then.
+    void showReport(const ReportWanted& wanted);
+
+    ReportViewer crViewer1{*this};
+};
+
+} // namespace orvane
