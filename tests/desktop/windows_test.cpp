@@ -227,6 +227,11 @@ protected:
         ui.show(first);
         settleEvents();
     }
+    /// The forms go before their windows, as a program's do.
+    void TearDown() override {
+        for (Form* form : std::initializer_list<Form*>{&shell, &first, &second, &receipt})
+            ui.abandoned(*form);
+    }
     QMdiArea& area() { return *ui.windows().shell()->area(); }
     QMdiSubWindow* front() { return area().currentSubWindow(); }
     MenuBinding* menu(const Control& item) {
