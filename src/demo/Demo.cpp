@@ -3,8 +3,10 @@
 #include "data/rows/Schema.h"
 #include "data/rows/SharedTables.h"
 #include "demo/BulkHospital.h"
+#include "demo/DemoMonth.h"
 #include "demo/DemoParts.h"
 #include "play/QuietUi.h"
+#include "screens/Screens.h"
 #include "session/Main.h"
 
 #include <QDir>
@@ -68,6 +70,25 @@ void makeHistoryInBulk(DemoHospital& hospital, const std::function<void(const QS
     progress("The indexes are in.");
 }
 
+/// The months before the last day's, each invoiced on the first day of the next one.
+void closePastMonths(const DemoHospital& hospital, const std::function<void(const QString&)>& progress) {
+    const QDate until = hospital.options.until;
+    QDate month = until.addDays(1 - hospital.options.days);
+    month.setDate(month.year(), month.month(), 1);
+    QuietUi ui;
+    Program program(hospital.options.home, ui);
+    program.data().setDisposable();
+    registerScreens(program);
+    if (!Main(program, demoUser))
+        throw DataError(ui.takeBoxes().join(QLatin1Char('\n')));
+    for (; month.addMonths(1) <= until; month = month.addMonths(1)) {
+        program.data().setServerClock(QDateTime(month.addMonths(1), QTime(18, 0)));
+        closeMonth(program, ui, month);
+        progress(QStringLiteral("The bills of %1 are invoiced.").arg(month.toString("yyyy-MM")));
+    }
+    program.form("MdiTolmek").unload();
+}
+
 void makeHistoryOnScreens(DemoHospital& hospital, const std::function<void(const QString&)>& progress) {
     const int days = hospital.options.days;
     makeVisits(hospital, [&](int day) {
@@ -83,6 +104,7 @@ void makeDemo(const DemoOptions& options, const std::function<void(const QString
     makeMasterData(hospital);
     if (options.bills > 0) {
         makeHistoryInBulk(hospital, progress);
+        closePastMonths(hospital, progress);
     } else {
         progress(QStringLiteral("%1 patients and %2 clients are in.")
                      .arg(hospital.patients.size())

@@ -21,8 +21,9 @@ struct DemoOptions {
 
 /// Fills the empty databases of a home folder with a demonstration hospital: settings, users, clients, price lists,
 /// patients, and the visits, bills and receipts of the days, written by the program's own screens. About twelve visits
-/// of the last day wait for billing. With `bills` the patients and visits are loaded in bulk instead. `progress` gets a
-/// sentence now and then. Raises DataError when the databases are not empty or a step does not go as it must.
+/// of the last day wait for billing. With `bills` the patients and visits are loaded in bulk instead. On the first day
+/// of each month the bills of the month before it become invoices. `progress` gets a sentence now and then. Raises
+/// DataError when the databases are not empty or a step does not go as it must.
 void makeDemo(const DemoOptions& options, const std::function<void(const QString&)>& progress);
 
 } // namespace orvane

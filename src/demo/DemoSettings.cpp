@@ -1,6 +1,6 @@
+#include "books/NewUser.h"
 #include "data/rows/Transaction.h"
 #include "demo/DemoParts.h"
-#include "books/NewUser.h"
 
 namespace orvane {
 

@@ -2,6 +2,7 @@
 
 #include "data/rows/Transaction.h"
 #include "demo/DemoBilling.h"
+#include "demo/DemoMonth.h"
 #include "play/Hand.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
@@ -58,9 +59,11 @@ QVector<const DemoPatient*> patientsOf(QDate day, DemoHospital& hospital) {
 
 class DayOfVisits {
 public:
+    /// `number`: of the day, from 1.
     DayOfVisits(DemoHospital& hospital, QDate day, int number)
         : m_hospital(hospital), m_day(day), m_program(hospital.options.home, m_ui),
-          m_billing(m_program, m_ui, hospital), m_user(billingUsers.at(number % int(billingUsers.size()))) {}
+          m_billing(m_program, m_ui, hospital), m_user(billingUsers.at(number % int(billingUsers.size()))),
+          m_isFirst(number == 1) {}
 
     void run() {
         m_program.data().setDisposable();
@@ -79,6 +82,8 @@ public:
             m_billing.bill(visits.at(i));
         }
         setTime(opening.addSecs(60 * 60 * 10));
+        if (m_day.day() == 1 && !m_isFirst)
+            closeMonth(m_program, m_ui, m_day.addMonths(-1));
         leave();
     }
 
@@ -166,6 +171,7 @@ private:
     Program m_program;
     DemoBilling m_billing;
     QString m_user;
+    bool m_isFirst; ///< there is no month before it
 };
 
 /// Appointments that doctors gave: a few fall due on the last day, the others later.

@@ -31,7 +31,7 @@ constexpr Option allOptions[] = {
      "its first line is the password for the login screen; -: asked for, or standard input"},
     {"backed-up", nullptr, "", "a backup of the databases was made: no copy is"},
     {"patients", "N", "500", "how many patients"},
-    {"days", "D", "30", "how many days of visits"},
+    {"days", "D", "", "how many days of visits; this month's and those of the two before it, when it is not given"},
     {"bills", "N", "0",
      "for benchmarks: N bills of five lines in the days (730, when they are not given), and 5 patients for 2 bills"},
     {"seed", "S", "1", "another seed makes another hospital"},
