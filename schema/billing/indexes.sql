@@ -39,6 +39,9 @@ go
 -- The bills of a month, and those of one client in it.
 create index ixRecordsBatch on hRecords (convert(varchar(7), BillDate, 111), coyName)
 go
+-- Those billed between two days.
+create index ixRecordsBillDate on hRecords (BillDate, coyName)
+go
 create unique index uxRecordsPublicConsultID on hRecordsPublic (consultID)
 go
 create index ixRecordsPublicSerial on hRecordsPublic

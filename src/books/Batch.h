@@ -4,6 +4,10 @@
 
 namespace orvane {
 
+/// Batches are of months of these years.
+constexpr int firstBatchYear = 2011;
+constexpr int lastBatchYear = 2050;
+
 /// The two-digit code of an English month name, "01" of "January" to "12" of "December"; empty for any other text.
 QString monthCode(const QString& monthName);
 

@@ -1,5 +1,8 @@
 #include "books/BillDate.h"
 
+#include "books/Batch.h"
+#include "books/Bill.h"
+
 namespace orvane {
 
 namespace {
@@ -10,6 +13,14 @@ QDate firstOfNextMonth(QDate date) {
 
 int yearMonth(QDate date) {
     return date.year() * 100 + date.month();
+}
+
+std::optional<Refusal> whyNotShifted(Connection& connection, const QString& billNo) {
+    if (isBillProcessed(connection, billNo))
+        return Refusal::BillProcessed;
+    if (Recordset(connection, Sql("select recID from hRecords where consultID='") << billNo << "'").eof())
+        return Refusal::VisitGone;
+    return std::nullopt;
 }
 
 } // namespace
@@ -39,6 +50,39 @@ void settleBillDate(Books& books, const BillInHand& bill, bool isInPatient) {
     const QDate date = billDateFor(visit.date("recDate"), discharged, bill.billEndDay, newestBatch);
     connection.execute(Sql("update  hrecords set BillDate='")
                        << date << "'  where consultID = '" << bill.consultID << "'");
+}
+
+std::optional<QDate> shiftedBillDate(const QString& batchNo, int months) {
+    const int batch = batchValue(batchNo);
+    const QDate date = QDate(batch / 100, batch % 100, 1).addMonths(months);
+    if (date.year() < firstBatchYear || date.year() > lastBatchYear)
+        return std::nullopt;
+    return date;
+}
+
+Given<int> shiftBills(Books& books, const QVector<ListedBill>& bills, QDate date,
+                      const std::function<void(int)>& moving) {
+    for (const ListedBill& bill : bills)
+        if (const auto refusal = whyNotShifted(books.connection, bill.billNo))
+            return *refusal;
+    int done = 0;
+    for (const ListedBill& bill : bills) {
+        books.connection.execute(Sql("update  hrecords set BillDate ='")
+                                 << date << "' where consultID = '" << bill.billNo << "'");
+        books.audit({"UnProceessed  Bill Shift to Another Period for " + bill.patient, bill.billNo, {}});
+        moving(++done);
+    }
+    books.record(batchNumber(QString::number(date.year()), monthCode(monthName(date.month()))), 0);
+    return done;
+}
+
+void billOnDayOfVisit(Books& books, QDate from, QDate to) {
+    books.connection.execute(Sql("update hrecords set ")
+                             << " BillDate=recdate where month(recDate)   <>  month(BillDate) and recdate "
+                                "between '"
+                             << from << "' and '" << to
+                             << "' and consultID not in (select billNo from Billing where isProcess=1)");
+    books.record(from.toString(Qt::ISODate), 0);
 }
 
 } // namespace orvane

@@ -17,6 +17,12 @@ struct BillInHand {
     int billEndDay = 0; ///< day of the month on which the client's billing month ends
 };
 
+/// A bill as a list shows it.
+struct ListedBill {
+    QString billNo;
+    QString patient; ///< full name
+};
+
 /// "HMO", "NHIS" or "PHIS": the client pays a fixed sum a head, not item by item.
 bool isCapitatedCategory(const QString& category);
 

@@ -38,6 +38,12 @@ qlonglong numberOfAddedItem(Connection& connection, const BillItem& item) {
     throw DataError("The item that was just added cannot be found.");
 }
 
+void moveItem(Books& books, qlonglong sno, const NewPayer& to) {
+    books.connection.execute(Sql("update  billAccum set consultID ='")
+                             << to.billNo << "',Coyname='" << to.clientID << "',BillTo='" << to.clientCode
+                             << "' where sno =" << sno);
+}
+
 bool isCarriedBalance(const QString& item) {
     return item == "PREVIOUS CREDIT" || item == "PREVIOUS DEBT";
 }

@@ -21,11 +21,20 @@ struct BillItem {
     QString billBy = {};
 };
 
+/// The bill, of another client, to which items and lines are moved.
+struct NewPayer {
+    QString billNo;
+    QString clientID, clientCode; ///< his retainID and his retainCode
+};
+
 /// Adds the row.
 void addItem(Books& books, const BillItem& item);
 
 /// The number, SNo, of the item that this transaction has added last under its name.
 qlonglong numberOfAddedItem(Connection& connection, const BillItem& item);
+
+/// Moves the item to another visit, whose client pays it.
+void moveItem(Books& books, qlonglong sno, const NewPayer& to);
 
 /// "PREVIOUS DEBT" or "PREVIOUS CREDIT": a balance carried from earlier visits, which is in the running account
 /// already.

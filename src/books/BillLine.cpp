@@ -1,7 +1,5 @@
 #include "books/BillLine.h"
 
-#include "books/BillItem.h"
-#include "books/PatientAccount.h"
 #include "data/words/Money.h"
 
 namespace orvane {
@@ -86,6 +84,25 @@ void changePayer(Books& books, Recordset& row, const QString& billTo) {
     row.set("Charged", chargedFor(books, row));
     row.set("billTo", billTo);
     row.update();
+}
+
+QVector<AccountEntry> moveLine(Books& books, const Recordset& row, const NewPayer& to, const QString& pno) {
+    const qlonglong sno = row.integer("SNo");
+    const QString name = row.text("drgName");
+    const double before = sno > 0 ? chargedFor(books, row) : 0;
+    const double after = sno > 0 ? chargeOf(books, name, to.clientCode, row.number("SubTotal")) : 0;
+    books.connection.execute(Sql("update  billingDetails set billNo ='")
+                             << to.billNo << "',Coyname='" << to.clientID << "',BillTo='" << to.clientCode
+                             << "' where sno =" << sno);
+    books.connection.execute(Sql("update BillingDetails set Charged=") << after << " where SNo=" << sno);
+    QVector<AccountEntry> entries;
+    const QString privateClient = books.settings().privateClient;
+    const QString remarks = "Bill Item Shifted: " + name;
+    if (before != 0)
+        entries.append({pno, row.text("billNo"), before, privateClient, remarks});
+    if (after != 0)
+        entries.append({pno, to.billNo, 0 - after, privateClient, remarks});
+    return entries;
 }
 
 void keepCharges(Books& books, const QString& billNo) {

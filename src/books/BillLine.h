@@ -1,6 +1,7 @@
 #pragma once
 
-#include "books/Books.h"
+#include "books/BillItem.h"
+#include "books/PatientAccount.h"
 
 namespace orvane {
 
@@ -46,6 +47,11 @@ void changeLine(Books& books, Recordset& row, const LineChange& now, const QStri
 
 /// Names another payer and nothing else: the charge stays where it is.
 void changePayer(Books& books, Recordset& row, const QString& billTo);
+
+/// Moves the line that `row` (all columns) stands on to another bill, whose client pays it, and gives how its charge
+/// goes with it, for postPatientTrans: back to whoever bore it, and on to the new payer. A line without an item is
+/// charged to nobody.
+QVector<AccountEntry> moveLine(Books& books, const Recordset& row, const NewPayer& to, const QString& pno);
 
 /// Writes down what each line of the bill has charged so far, where that is not known yet. Whoever changes the payer of
 /// many lines by one statement does this first, or their charges would seem to have moved.

@@ -29,36 +29,53 @@ void emptyBill(Connection& connection, const QString& billNo) {
                        << billNo << "'");
 }
 
-void traceCapitation(Books& books, const BillInHand& bill, const Recordset& item) {
+/// An item that falls under the contract, at what it was at so far.
+ItemChange capitated(const BillInHand& bill, const Recordset& item) {
     const QString name = item.text("drgName");
     const double qty = item.number("Qty");
-    traceAdjustment(books,
-                    {.sno = item.integer("SNo"),
-                     .billNo = bill.consultID,
-                     .pno = bill.pno,
-                     .oldItem = name,
-                     .newItem = name,
-                     .oldQty = qty,
-                     .newQty = qty,
-                     .oldPrice = item.number("Price")},
-                    "BILL Capitated");
-    books.audit({"Capitated  Bill Item for " + bill.patient, bill.consultID,
-                 "Item Capitated " + name + ": Qty:" + item.text("Qty") +
-                     " Amount: " + formatTwoDecimals(item.number("SubTotal"))});
+    return {.sno = item.integer("SNo"),
+            .billNo = bill.consultID,
+            .pno = bill.pno,
+            .oldItem = name,
+            .newItem = name,
+            .oldQty = qty,
+            .newQty = qty,
+            .oldPrice = item.number("Price")};
 }
 
-} // namespace
+QString qtyAndAmount(const Recordset& item) {
+    return ": Qty:" + item.text("Qty") + " Amount: " + formatTwoDecimals(item.number("SubTotal"));
+}
 
-Given<Saved> capitateBill(Books& books, const BillInHand& bill) {
-    if (const auto refusal = whyNotBilled(books.connection, bill))
-        return *refusal;
+void auditCapitation(const Books& books, const BillInHand& bill, const QString& remarks) {
+    books.audit({"Capitated  Bill Item for " + bill.patient, bill.consultID, remarks});
+}
+
+using Trace = void (*)(Books&, const BillInHand&, const Recordset& item);
+
+void traceAtNoPrice(Books& books, const BillInHand& bill, const Recordset& item) {
+    traceAdjustment(books, capitated(bill, item), "BILL Capitated");
+    auditCapitation(books, bill, "Item Capitated " + item.text("drgName") + qtyAndAmount(item));
+}
+
+/// The month's trace keeps the price as the new one too.
+void traceAtItsPrice(Books& books, const BillInHand& bill, const Recordset& item) {
+    ItemChange change = capitated(bill, item);
+    change.newPrice = change.oldPrice;
+    traceAdjustmentOfPatient(books, change, "BILL Capitated");
+    auditCapitation(books, bill,
+                    "Bill Item Capitated: " + item.text("drgName") + "; Item Capitated" + qtyAndAmount(item));
+}
+
+/// Gives what goes back to the patient's account, in naira.
+double capitate(Books& books, const BillInHand& bill, Trace trace) {
     const QHash<qlonglong, double> charges = chargesOf(books, bill.consultID);
     emptyBill(books.connection, bill.consultID);
     QVector<AccountEntry> credits;
     double total = 0;
     for (Recordset items(books.connection, Sql("select * from billAccum where consultID='") << bill.consultID << "'");
          !items.eof(); items.moveNext()) {
-        traceCapitation(books, bill, items);
+        trace(books, bill, items);
         const double charge = charges.value(items.integer("SNo"));
         if (charge == 0)
             continue;
@@ -67,8 +84,42 @@ Given<Saved> capitateBill(Books& books, const BillInHand& bill) {
         total += charge;
     }
     postPatientTrans(books, credits);
-    books.record(bill.consultID, round2(0 - total));
+    return total;
+}
+
+} // namespace
+
+Given<Saved> capitateBill(Books& books, const BillInHand& bill) {
+    if (const auto refusal = whyNotBilled(books.connection, bill))
+        return *refusal;
+    books.record(bill.consultID, round2(0 - capitate(books, bill, traceAtNoPrice)));
     return Saved{};
+}
+
+Given<int> capitateBills(Books& books, const QString& batchNo, const QVector<ListedBill>& bills,
+                         const std::function<void(int)>& moving) {
+    QVector<BillInHand> inHand;
+    double billed = 0;
+    for (const ListedBill& listed : bills) {
+        const std::optional<Bill> row = readBill(books.connection, listed.billNo);
+        if (!row)
+            return Refusal::NoBill;
+        if (isBillProcessed(books.connection, listed.billNo))
+            return Refusal::BillProcessed;
+        BillInHand bill;
+        bill.consultID = row->billNo;
+        bill.pno = row->pno;
+        bill.patient = listed.patient;
+        inHand.append(bill);
+        billed += row->amountBilled;
+    }
+    int done = 0;
+    for (const BillInHand& bill : inHand) {
+        capitate(books, bill, traceAtItsPrice);
+        moving(++done);
+    }
+    books.record(batchNo, round2(0 - billed));
+    return done;
 }
 
 } // namespace orvane

@@ -14,9 +14,9 @@ double ItemChange::newAmount() const {
     return round2(newQty * newPrice);
 }
 
-void traceAdjustment(Books& books, const ItemChange& change, const QString& remarks) {
-    Recordset trace(books.connection, Sql("select * from BillingDetailsAdjust where 1=2"));
-    trace.addNew();
+namespace {
+
+void compose(Recordset& trace, const Books& books, const ItemChange& change, const QString& remarks) {
     trace.set("AdjustDate", books.today());
     trace.set("AdjustTime", books.now().toString("HH:mm"));
     trace.set("billNo", change.billNo);
@@ -27,6 +27,23 @@ void traceAdjustment(Books& books, const ItemChange& change, const QString& rema
     trace.set("newPrice", change.newPrice);
     trace.set("AdjustBy", books.actor().user);
     trace.set("Remarks", remarks);
+}
+
+} // namespace
+
+void traceAdjustment(Books& books, const ItemChange& change, const QString& remarks) {
+    Recordset trace(books.connection, Sql("select * from BillingDetailsAdjust where 1=2"));
+    trace.addNew();
+    compose(trace, books, change, remarks);
+    trace.update();
+}
+
+void traceAdjustmentOfPatient(Books& books, const ItemChange& change, const QString& remarks) {
+    Recordset trace(books.connection, Sql("select * from BillingDetailsAdjust where 1=2"));
+    trace.addNew();
+    compose(trace, books, change, remarks);
+    trace.set("drgName", change.newItem);
+    trace.set("PNo", change.pno);
     trace.update();
 }
 

@@ -18,6 +18,9 @@ struct ItemChange {
 /// The trace of the change in BillingDetailsAdjust.
 void traceAdjustment(Books& books, const ItemChange& change, const QString& remarks);
 
+/// The same with the item's name and the patient beside it.
+void traceAdjustmentOfPatient(Books& books, const ItemChange& change, const QString& remarks);
+
 /// The same change in the audit trail; `heading` stands before the item's name.
 void auditAdjustment(const Books& books, const ItemChange& change, const QString& heading);
 

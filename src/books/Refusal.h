@@ -9,6 +9,15 @@ enum class Refusal {
     BillProcessed,     ///< a monthly batch holds the bill, which freezes it
     BillExists,        ///< a deposit opens the bill, so there may be none
     InvoicePosted,     ///< the invoice to be taken back is in the ledger
+    NoBill,            ///< the bill has no row
+    SplitNoVisit,      ///< no visit has the bill's number as its first twelve characters
+    SplitShortNumber,  ///< the bill's number is shorter, so that what is split off it could not be counted
+    SplitExceeded,     ///< the visit has four bills
+    SplitNumberTaken,  ///< the new bill's number is in use
+    SplitItemChanged,  ///< an item is not on the bill any more, or at another amount than it was listed at
+    SplitItemPaid,     ///< a receipt covers an item
+    SplitItemPosted,   ///< an item is in the ledger
+    SplitUneven,       ///< the two bills do not make the one that was split
     VisitChanged,      ///< the visit was deleted or moved to another patient or client since it was read
     NoPatient,         ///< the visit to be billed is not there
     NoClient,          ///< the visit's client is not in the list of clients

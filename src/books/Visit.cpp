@@ -12,7 +12,8 @@ qlonglong highestSerial(Connection& connection, const Sql& sql) {
     return highest.eof() ? 0 : highest.integer("ID");
 }
 
-bool isInUse(Connection& connection, const QString& id) {
+/// By items or a bill, without a look at visits.
+bool isLeftOver(Connection& connection, const QString& id) {
     return !Recordset(connection, Sql("select SNo from BillAccum where consultID='") << id << "'").eof() ||
            !Recordset(connection, Sql("select billNo from Billing where billNo='") << id << "'").eof();
 }
@@ -80,7 +81,7 @@ QString genConsultID(Connection& connection, const QString& hospital) {
     QString id;
     do
         id = hospital + "OFL" + ("0000000" + QString::number(++serial)).right(7);
-    while (isInUse(connection, id));
+    while (isLeftOver(connection, id));
     return id;
 }
 
@@ -119,6 +120,30 @@ Given<Saved> deleteVisit(Books& books, qlonglong recID, const Visit& listed) {
     books.connection.execute(Sql("delete from hrecords where recID = '") << recID << "'");
     books.record(row.text("consultID"), 0);
     return Saved{};
+}
+
+bool isVisitNumberInUse(Connection& connection, const QString& id) {
+    return isLeftOver(connection, id) ||
+           !Recordset(connection, Sql("select recID from hRecords where consultID='") << id << "'").eof();
+}
+
+QDate addSplitVisit(Books& books, const QString& consultID, const QString& splitNo, const QString& clientID) {
+    const Recordset visit(books.connection, Sql("select  * from hRecords where consultID='") << consultID << "'");
+    if (visit.eof())
+        throw DataError("The visit of the bill is not there.");
+    Recordset row(books.connection, Sql("select  * from hRecords where 1=2"));
+    row.addNew();
+    for (const char* column : {"recDate", "PNo", "empID", "clinicType", "Remarks", "referal", "suppres", "attendedto",
+                               "attendedtoByDoc", "attendedToByNurse"})
+        row.set(column, visit.value(column));
+    row.set("htime", books.now().toString("HH:mm"));
+    row.set("consultID", splitNo);
+    row.set("clientCat", "PRIVATE");
+    row.set("coyName", clientID);
+    row.set("BillDate", visit.date("recDate"));
+    row.set("AttndStatus", "SPLIT");
+    row.update();
+    return visit.date("recDate");
 }
 
 } // namespace orvane

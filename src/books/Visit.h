@@ -38,4 +38,11 @@ Given<Saved> changeVisit(Books& books, qlonglong recID, const Visit& listed, con
 /// Deletes the row of the visit; its items stay as they are. Refuses as changeVisit does.
 Given<Saved> deleteVisit(Books& books, qlonglong recID, const Visit& listed);
 
+/// The visit of a bill that is split off the visit's own: a copy under the new bill's number, of a private patient of
+/// this client (retainID), to be billed on the day of the visit, which it gives. Raises DataError.
+QDate addSplitVisit(Books& books, const QString& consultID, const QString& splitNo, const QString& clientID);
+
+/// Whether a visit, an item or a bill bears the number.
+bool isVisitNumberInUse(Connection& connection, const QString& id);
+
 } // namespace orvane

@@ -4,13 +4,6 @@
 
 namespace orvane {
 
-namespace {
-
-constexpr int firstYear = 2011;
-constexpr int lastYear = 2050;
-
-} // namespace
-
 MonthPicker::MonthPicker(Form& form, Session& session)
     : cboMonth(form, "cboMonth", ComboBox::ListOnly), cboYear(form, "cboYear", ComboBox::ListOnly), m_session(session) {
     cboMonth.onClick = [this] {
@@ -23,7 +16,7 @@ MonthPicker::MonthPicker(Form& form, Session& session)
 
 void MonthPicker::fillYears(ComboBox& years) {
     years.addItem("");
-    for (int year = firstYear; year <= lastYear; ++year)
+    for (int year = firstBatchYear; year <= lastBatchYear; ++year)
         years.addItem(QString::number(year));
 }
 

@@ -13,7 +13,7 @@ Layout RangePicker::layout(std::initializer_list<Layout> beside) const {
     for (const Layout& item : beside)
         range.children.append(item);
     range.children.append(stretch());
-    return column({range, field("Patient", cboVehNo)});
+    return column({range, field(m_list, cboVehNo)});
 }
 
 } // namespace orvane

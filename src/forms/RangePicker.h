@@ -13,6 +13,7 @@ public:
         QString range; ///< label of the first date, such as "Attendance between"
         QString buttonName;
         QString buttonCaption;
+        QString list = "Patient"; ///< label of the list; "Patient": one that the finder fills too
     };
 
     template <typename FormClass, typename Class, typename ListResult, typename PickResult>
@@ -20,9 +21,10 @@ public:
                 PickResult (Class::*pick)())
         : DTPicker1(form, "DTPicker1"), DTPicker2(form, "DTPicker2"),
           get(form, words.buttonName, words.buttonCaption, list), cboVehNo(form, "cboVehNo", style, pick),
-          m_range(words.range) {
+          m_range(words.range), m_list(words.list) {
         DTPicker1.setRangeEnd(&DTPicker2);
-        cboVehNo.setToolTip("F3 finds any patient");
+        if (m_list == "Patient")
+            cboVehNo.setToolTip("F3 finds any patient");
     }
 
     DatePicker DTPicker1, DTPicker2;
@@ -30,11 +32,12 @@ public:
     ComboBox cboVehNo;
 
     void setDates(QDate day); ///< both of them
+    bool isComplete() const { return !DTPicker1.isEmpty() && !DTPicker2.isEmpty(); }
     /// The list below the dates; `beside` stands behind the button.
     Layout layout(std::initializer_list<Layout> beside = {}) const;
 
 private:
-    QString m_range;
+    QString m_range, m_list;
 };
 
 } // namespace orvane

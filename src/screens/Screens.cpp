@@ -22,10 +22,14 @@
 #include "billing/frmTreatment.h"
 #include "clients/frmBillProcess.h"
 #include "clients/frmBillProcessing.h"
+#include "clients/frmBillProcessingShift.h"
 #include "clients/frmBillReverseProcessing.h"
+#include "clients/frmBillSplitting.h"
+#include "clients/frmBillToCapitated.h"
 #include "clients/frmClients.h"
 #include "clients/frmRetainership.h"
 #include "clients/frmRptHeading.h"
+#include "clients/frmVerifyBillsInSummary.h"
 #include "receipts/frmCashReceipt.h"
 #include "receipts/frmCashReceiptLab.h"
 #include "receipts/frmDebtInfo.h"
@@ -97,10 +101,14 @@ constexpr struct {
 
     {"frmBillProcess", make<frmBillProcess>},
     {"frmBillProcessing", make<frmBillProcessing>},
+    {"frmBillProcessingShift", make<frmBillProcessingShift>},
     {"frmBillReverseProcessing", make<frmBillReverseProcessing>},
+    {"frmBillSplitting", make<frmBillSplitting>},
+    {"frmBillToCapitated", make<frmBillToCapitated>},
     {"frmClients", make<frmClients>},
     {"frmRetainership", make<frmRetainership>},
     {"frmRptHeading", make<frmRptHeading>},
+    {"frmVerifyBillsInSummary", make<frmVerifyBillsInSummary>},
 
     {"frmDrugPrice", make<frmDrugPrice>},
 };

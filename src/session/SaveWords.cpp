@@ -42,6 +42,10 @@ const QHash<QString, QString>& patterns() {
         {"PRICE LOAD", "Prices of %1 taken"},
         {"PROCESS BATCH", "Batch %1[ of %2] processed"},
         {"REVERSE BATCH", "Batch %1 reversed[ (%2)]"},
+        {"SHIFT BILLS", "Bills shifted to batch %1"},
+        {"CAPITATE BILLS", "Bills of batch %1 capitated[ (%2)]"},
+        {"SPLIT OFF", "Bill %1[ of %2] split off"},
+        {"BILL DATES", "Bill dates from %1 on brought back to the attendance"},
         {"USER", "User %1 saved"},
         {"PASSWORD", "Password of %1 changed"},
     };

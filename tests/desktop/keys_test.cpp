@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMessageBox>
 #include <QTabWidget>
 #include <QTimer>
@@ -61,11 +62,16 @@ protected:
         Form& form = program.form(name.section('.', 0, 0));
         return ui.windows().viewOf(form)->bindingOf(*form.find(name.section('.', 1)));
     }
+    /// Alt goes to the menu bar, even while one of its menus is open.
+    static QKeySequence menuKey(const QAction& entry) {
+        const QKeySequence key = QKeySequence::mnemonic(entry.text());
+        return entry.menu() ? key : QKeySequence(key[0].key());
+    }
     /// As the words of a menu, a button, a tab (the second) or a field show it.
     QKeySequence keyOf(const QString& name) {
         const Binding* binding = bindingOf(name);
         if (const auto* menu = qobject_cast<const MenuBinding*>(binding))
-            return QKeySequence::mnemonic(menu->action()->text());
+            return menuKey(*menu->action());
         if (const auto* button = qobject_cast<QAbstractButton*>(binding->widget()))
             return button->shortcut();
         if (const auto* tabs = qobject_cast<QTabWidget*>(binding->widget()))
@@ -76,8 +82,9 @@ protected:
         return {};
     }
     QWidget* target() {
-        if (!QApplication::activeWindow())
-            ui.windows().shell()->activateWindow(); // nobody does it on a screen without a window manager
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (!QApplication::activeWindow() || dialog) // nobody does it on a screen without a window manager
+            (dialog ? dialog : ui.windows().shell())->activateWindow();
         settleEvents();
         if (QWidget* popup = QApplication::activePopupWidget())
             return popup;
@@ -145,6 +152,30 @@ TEST_P(KeysTest, AReceiptTakesFewAndWhatIsPayableAndSavedStaysInSight) {
         EXPECT_EQ(boxes, (QStringList{"Are you sure to save?", "Record Succesfully saved"}));
         expectReceipt("frmReceiptTemp", "cmdAdd");
     }
+}
+
+TEST_P(KeysTest, BillsAreMovedBeforeTheMonthsRun) {
+    Connection billing = program.openBilling();
+    makePatient(billing);
+    makeMonthBill(billing, "001OFL000777", "0102", 700.5, QDate::currentDate());
+    const QString shift = "frmBillProcessingShift.", split = "frmBillSplitting.", collate = "frmBillingVerify.";
+    work({"MdiTolmek.mnuActivities", "MdiTolmek.mnuSBTAPP", shift + "cmdList", shift + "cboVehNo", "Down", "Down",
+          shift + "cmdAll", shift + "cboPeriod", "'0", shift + "cmdProcess", "Esc"});
+    work({"MdiTolmek.mnuReport", "MdiTolmek.mnuBNIPSL", "Return", "frmVerifyBillsInSummary.OKButton", "Esc"});
+    QTimer inDialog; // the press that opens it returns when it is closed
+    QObject::connect(&inDialog, &QTimer::timeout, &inDialog, [&] {
+        if (!program.loadedForm("frmBillSplitting"))
+            return;
+        inDialog.stop();
+        work({"F6", "Down", "Up", "Space", split + "cboPeriod", "Down", "Down", split + "cmdProcess", "Esc"});
+    });
+    inDialog.start(50);
+    work({"MdiTolmek.mnuActivities", "MdiTolmek.mnuVerify", collate + "txtSearch", "'001OFL000777", collate + "cmdOK",
+          collate + "cmdSplit"});
+    EXPECT_EQ(boxes.join('|'),
+              "Are you sure to Update Bills Processing?|1 Patient Bills successfully Shifted to Another Month|"
+              "Records successfully Updated|Are you sure to Shift/Split Bill?|"
+              "1 Patient Bill Items successfully Shifted to PRIVATE PATIENTS");
 }
 
 } // namespace

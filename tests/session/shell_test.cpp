@@ -151,10 +151,13 @@ TEST_P(Shell, everyEntryActsOrIsGreyButTheEmptyOnes) {
     EXPECT_EQ(forms.join(' '),
               "mnuApprvCode>frmApprvCode mnuCoyInfo>frmRetainership mnuUPC>frmCoyUpdate mnuOffAttd>frmRecordsOffline "
               "mnuVerify>frmBillingVerify mnuViewColl>frmBillProcess "
-              "mnuMIGFC>frmBillProcessing mnuLastBatch>frmBillReverseProcessing mnuAdmDepo>frmReceiptDeposit "
+              "mnuMIGFC>frmBillProcessing mnuSBTAPP>frmBillProcessingShift mnuLastBatch>frmBillReverseProcessing "
+              "mnuAdmDepo>frmReceiptDeposit "
               "mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount "
               "mnuRPtES>rptPanelSummary mnuOffline>frmReceiptManual mnuPSITC>frmExistBill mnuPCB>rptPanelSummary "
-              "mnuCBFSO>frmBillingVerify mnuEditFind>frmFind mnuVSII>frmPatientInfo mnuPDI>frmDebtInfo "
+              "mnuPCOB>frmBillToCapitated mnuCBFSO>frmBillingVerify mnuEditFind>frmFind mnuVSII>frmPatientInfo "
+              "mnuPDI>frmDebtInfo "
+              "mnuBNIPSL>frmVerifyBillsInSummary "
               "mnuRemnd>frmReminder mnuUsers>frmUsers mnuUserRoles>frmUserRole mnuChangePWD>frmDialog "
               "mnuCreateRoles>frmRole mnuDSP>frmDrugPrice");
     ws.open("frmSupplers");

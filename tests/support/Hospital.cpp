@@ -117,13 +117,19 @@ qlonglong makeItem(Connection& billing, const TestItem& item) {
 void makeMonthBill(Connection& billing, const QString& billNo, const QString& client, double amount, QDate date) {
     makeVisit(billing, {.consultID = billNo, .date = date, .category = "MTHLY", .client = client});
     billing.execute(Sql("update hRecords set BillDate=recDate where consultID='") << billNo << "'");
+    billing.execute(Sql("insert into Billing (billNo, PNo, clientID) values ('")
+                    << billNo << "', 'P/0001', '" << client << "')");
+    makeMonthLine(billing, billNo, client, amount, date);
+}
+
+void makeMonthLine(Connection& billing, const QString& billNo, const QString& client, double amount, QDate date) {
     const qlonglong sno = makeItem(billing, {.consultID = billNo, .date = date, .client = client, .price = amount});
     billing.execute(Sql("update BillAccum set isBilled=1, attendedto=1 where SNo=") << sno);
     billing.execute(Sql("insert into BillingDetails (SNo, billNo, PNo, drgName, SubTotal, billTo) values (")
                     << sno << ", '" << billNo << "', 'P/0001', 'PARACETAMOL 500MG', " << amount << ", '" << client
                     << "')");
-    billing.execute(Sql("insert into Billing (billNo, PNo, clientID, Amountbilled) values ('")
-                    << billNo << "', 'P/0001', '" << client << "', " << amount << ")");
+    billing.execute(Sql("update Billing set Amountbilled=isnull(Amountbilled, 0)+")
+                    << amount << " where billNo='" << billNo << "'");
 }
 
 } // namespace orvane

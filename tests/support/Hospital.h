@@ -69,5 +69,8 @@ qlonglong makeItem(Connection& billing, const TestItem& item = {});
 /// A client's bill of one line, in naira, that waits for the month's run.
 void makeMonthBill(Connection& billing, const QString& billNo, const QString& client, double amount,
                    QDate date = QDate(2026, 3, 14));
+/// One more line of it, with its item.
+void makeMonthLine(Connection& billing, const QString& billNo, const QString& client, double amount,
+                   QDate date = QDate(2026, 3, 14));
 
 } // namespace orvane

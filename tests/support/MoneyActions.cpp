@@ -146,6 +146,35 @@ void enterMonthReversal(Workstation& ws) {
     ws.tick("frmBillReverseProcessing.LstDate", {"2026/03"});
 }
 
+void tickMonthBills(Workstation& ws, const QString& form, const QString& client) {
+    ws.open(form);
+    ws.set(form + ".DTPicker1", "2026-03-01");
+    ws.click(form + ".cmdList");
+    ws.pick(form + ".cboVehNo", client);
+    ws.click(form + ".cmdAll");
+}
+
+void enterShift(Workstation& ws) {
+    tickMonthBills(ws, "frmBillProcessingShift", "(ALL)");
+    ws.set("frmBillProcessingShift.cboPeriod", "1");
+}
+
+const char* const splittable = "001OFL000777";
+
+void laySplittable(Workstation& ws) {
+    Connection connection = ws.billing();
+    makePatient(connection);
+    makeMonthBill(connection, splittable, "0102", 700.5);
+    makeMonthLine(connection, splittable, "0102", 800.25);
+}
+
+void enterSplit(Workstation& ws) {
+    ws.program.session.gConsultID = splittable;
+    ws.open("frmBillSplitting");
+    ws.tick("frmBillSplitting.LstDate", ws.items("frmBillSplitting.LstDate").mid(0, 1));
+    ws.pick("frmBillSplitting.cboPeriod", 1);
+}
+
 const char* const saved = "box Record Succesfully saved";
 const char* const receiptShown = "opened frmCashReceipt";
 
@@ -246,6 +275,22 @@ const QList<MoneyAction>& moneyActions() {
          "box 2 Comapny Bills successfully Processed"},
         {"MonthReversal", layProcessed, enterMonthReversal, "frmBillReverseProcessing.cmdProcess", "yes",
          "box 1 Comapny Bills successfully Reversed", true},
+        {"Shift", layMonth, enterShift, "frmBillProcessingShift.cmdProcess", "yes",
+         "box 3 Patient Bills successfully Shifted to Another Month", true},
+        {"Capitate", layMonth, [](Workstation& ws) { tickMonthBills(ws, "frmBillToCapitated", "HARMONY MILLS"); },
+         "frmBillToCapitated.cmdProcess", "yes", "box 2 Patient Bills successfully Capitated", true},
+        {"BillSplit", laySplittable, enterSplit, "frmBillSplitting.cmdProcess", "yes",
+         "box 1 Patient Bill Items successfully Shifted to PRIVATE PATIENTS"},
+        {"VerifySummary",
+         [](Workstation& ws) {
+             layMonth(ws);
+             ws.run("update hRecords set BillDate='2026-04-01' where recDate='2026-03-14'");
+         },
+         [](Workstation& ws) {
+             ws.open("frmVerifyBillsInSummary");
+             ws.set("frmVerifyBillsInSummary.DTPicker1", "2026-03-01");
+         },
+         "frmVerifyBillsInSummary.OKButton", "", "box Records successfully Updated", true},
         {"User", layVisit, enterUser, "frmUsers.cmdApply", "", "box Account creation succeeded.", true},
         {"Role", layVisit,
          [](Workstation& ws) {
@@ -300,7 +345,8 @@ QString moneyFigures(Workstation& ws) {
         const char* counted; ///< conditions whose rows are counted, apart by "; "
         const char* summed = "";
     } figures[] = {
-        {"hRecords", "1=1; BillDate is not null; clinicType='ANTENATAL'; coyName='0102'; referal='YES'"},
+        {"hRecords", "1=1; BillDate is not null; BillDate<>recDate; AttndStatus='SPLIT'; clinicType='ANTENATAL'; "
+                     "coyName='0102'; referal='YES'"},
         {"hPatients", "coyName='0102'; ref='YES'", "DebtBF"},
         {"BillAccum", "consultID<>''; billTo='0102'; Capitated='YES'", "attendedto; isBilled; isRct; SubTotal"},
         {"BillingDetails", "1=1; billTo='0102'; BillHead='TABLETS'", "SubTotal; isRct"},
