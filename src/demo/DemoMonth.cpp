@@ -49,4 +49,36 @@ void closeMonth(Program& program, QuietUi& ui, QDate month) {
     process(program, ui, month);
 }
 
+void shiftBill(Program& program, QuietUi& ui, QDate day, const QString& client) {
+    ui.takeBoxes();
+    program.open("frmBillProcessingShift");
+    Form& form = program.form("frmBillProcessingShift");
+    Hand hand(form);
+    hand.date("DTPicker1", day);
+    hand.date("DTPicker2", day);
+    hand.click("cmdList");
+    hand.chooseContaining("cboVehNo", client);
+    hand.tickEntry("LstDate", 0);
+    hand.choose("cboPeriod", "1");
+    hand.click("cmdProcess");
+    expectBox(ui, "shift", "successfully Shifted to Another Month");
+    form.unload();
+}
+
+void splitBill(Program& program, QuietUi& ui, QDate day, const QString& billNo) {
+    ui.takeBoxes();
+    program.open("frmBillSplitting");
+    Form& form = program.form("frmBillSplitting");
+    Hand hand(form);
+    hand.date("DTPicker1", day);
+    hand.date("DTPicker2", day);
+    hand.click("cmdList");
+    hand.chooseContaining("cboVehNo", '[' + billNo + ']');
+    hand.tickEntry("LstDate", 0);
+    hand.chooseContaining("cboPeriod", "PRIVATE");
+    hand.click("cmdProcess");
+    expectBox(ui, "split", "1 Patient Bill Items successfully Shifted to PRIVATE");
+    form.unload();
+}
+
 } // namespace orvane

@@ -7,11 +7,14 @@
 #include "screens/Screens.h"
 #include "session/Main.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 namespace {
 
 constexpr int visitsADay = 20;
+constexpr int emergencyDay = 15;  ///< of each month
 constexpr int admittedVisits = 3; ///< of the last day, still in a ward
 constexpr int waitingVisits = 12; ///< of the last day, for the officer who tries the program
 const QTime opening(8, 0);
@@ -72,6 +75,8 @@ public:
         if (!Main(m_program, m_user))
             throw DataError(m_ui.takeBoxes().join(QLatin1Char('\n')));
         QVector<DemoVisit> visits = attend();
+        if (m_day.day() == emergencyDay)
+            visits.append(takeEmergency(visits));
         see(visits);
         const bool last = m_day == m_hospital.options.until;
         const int billed = last ? qMax(0, int(visits.size()) - waitingVisits) : int(visits.size());
@@ -82,6 +87,10 @@ public:
             m_billing.bill(visits.at(i));
         }
         setTime(opening.addSecs(60 * 60 * 10));
+        if (m_day.day() == emergencyDay)
+            splitBill(m_program, m_ui, m_day, visits.last().consultID);
+        if (m_day.daysInMonth() == m_day.day())
+            shiftBillOf(visits);
         if (m_day.day() == 1 && !m_isFirst)
             closeMonth(m_program, m_ui, m_day.addMonths(-1));
         leave();
@@ -161,6 +170,44 @@ private:
                           {"wardid", visit.patient->sex == QLatin1String("F") ? "FEMALE WARD" : "MALE WARD"},
                           {"Remarks", "FOR OBSERVATION"}});
         transaction.commit();
+    }
+
+    /// A company's patient whom the emergency desk took in, which numbers its visits itself: twelve characters, so that
+    /// its bill can be split.
+    DemoVisit takeEmergency(const QVector<DemoVisit>& others) {
+        DemoVisit visit;
+        for (const DemoPatient& patient : m_hospital.patients)
+            if (!visit.patient && patient.category == QLatin1String("MTHLY") && patient.cardExpires > m_day &&
+                std::none_of(others.begin(), others.end(),
+                             [&](const DemoVisit& other) { return other.patient == &patient; }))
+                visit.patient = &patient;
+        if (!visit.patient)
+            throw DataError("There is no company's patient for the emergency desk.");
+        visit.clinic = "OUT-PATIENT";
+        visit.consultID = "001EMG" + m_day.toString("yyMMdd");
+        Connection connection = m_program.openBilling();
+        Transaction transaction(connection);
+        Recordset rows(connection, Sql("select * from hRecords where 1=2"));
+        addRow(rows, {{"consultID", visit.consultID},
+                      {"PNo", visit.patient->number},
+                      {"recDate", m_day},
+                      {"htime", "07:40"},
+                      {"clientCat", visit.patient->category},
+                      {"coyName", visit.patient->clientID},
+                      {"clinicType", visit.clinic},
+                      {"referal", "NO"},
+                      {"Remarks", "EMERGENCY"}});
+        transaction.commit();
+        return visit;
+    }
+
+    /// A bill that came too late for its month.
+    void shiftBillOf(const QVector<DemoVisit>& visits) {
+        for (const DemoVisit& visit : visits)
+            if (visit.patient->category == QLatin1String("MTHLY")) {
+                shiftBill(m_program, m_ui, m_day, m_hospital.clientName(visit.patient->clientID));
+                return;
+            }
     }
 
     void leave() { m_program.form("MdiTolmek").unload(); }

@@ -52,6 +52,13 @@ void Hand::date(const QString& name, QDate date) {
     m_driver.setDate(usable<DatePicker>(name, ControlKind::DatePicker), date);
 }
 
+void Hand::tickEntry(const QString& name, int entry) {
+    auto& list = usable<ListBox>(name, ControlKind::ListBox);
+    if (entry >= list.count())
+        fail(name, QStringLiteral("no entry %1").arg(entry));
+    m_driver.setSelected(list, entry, true);
+}
+
 void Hand::click(const QString& name) {
     m_driver.click(usable<Button>(name, ControlKind::Button));
 }

@@ -16,6 +16,7 @@ public:
     void chooseContaining(const QString& name, const QString& part); ///< the first entry that contains it
     void tick(const QString& name, bool checked = true);
     void date(const QString& name, QDate date);
+    void tickEntry(const QString& name, int entry); ///< of a list with ticks, from 0
     void click(const QString& name);
     void ring(const QString& name);     ///< a timer's tick
     QString value(const QString& name); ///< as it is shown
