@@ -150,6 +150,8 @@ private:
         int minutes = 25;
         for (DemoVisit& visit : visits) {
             visit.orders = ordersOf(m_hospital);
+            if (visit.consultID.contains(emergencyNumbers)) // an item to split off, and one to stay
+                visit.orders += ordersOf(m_hospital);
             const DemoEmployee& doctor = m_hospital.random.pick(doctors);
             addRow(rows, consultationRow(visit, doctor, QDateTime(m_day, opening.addSecs(60 * minutes)), m_hospital));
             connection.execute(Sql("update hRecords set attendedto=1,attendedtoByDoc=1 where consultID='")
@@ -184,7 +186,7 @@ private:
         if (!visit.patient)
             throw DataError("There is no company's patient for the emergency desk.");
         visit.clinic = "OUT-PATIENT";
-        visit.consultID = "001EMG" + m_day.toString("yyMMdd");
+        visit.consultID = emergencyNumbers + m_day.toString("yyMMdd");
         Connection connection = m_program.openBilling();
         Transaction transaction(connection);
         Recordset rows(connection, Sql("select * from hRecords where 1=2"));
