@@ -14,7 +14,8 @@ namespace orvane {
 namespace {
 
 constexpr int visitsADay = 20;
-constexpr int emergencyDay = 15;  ///< of each month
+constexpr int emergencyDay = 15; ///< of each month
+const QString emergencyNumbers = "001EMG";
 constexpr int admittedVisits = 3; ///< of the last day, still in a ward
 constexpr int waitingVisits = 12; ///< of the last day, for the officer who tries the program
 const QTime opening(8, 0);
