@@ -18,13 +18,32 @@ constexpr double unitsPerMm = 100;
 constexpr double mmPerInch = 25.4, mmPerPoint = mmPerInch / 72;
 constexpr double smallestShare = 0.4; ///< a text is made smaller down to this share of its size
 
-QFont fontOf(const PageText& text, double share) {
+QFont fontOf(int size, bool bold) {
     QFont font = QGuiApplication::font();
-    font.setPixelSize(std::max(1, int(text.points * mmPerPoint * unitsPerMm * share)));
-    font.setBold(text.bold);
+    font.setPixelSize(size);
+    font.setBold(bold);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
+
+/// The letters of a page, made once for each size.
+class Fonts {
+public:
+    struct Made {
+        explicit Made(const QFont& of) : font(of), metrics(of) {}
+        QFont font;
+        QFontMetricsF metrics;
+    };
+    const Made& of(const PageText& text, double share) {
+        const int size = std::max(1, int(text.points * mmPerPoint * unitsPerMm * share));
+        const int key = size * 2 + (text.bold ? 1 : 0);
+        const auto made = m_made.constFind(key);
+        return made != m_made.constEnd() ? *made : *m_made.insert(key, Made(fontOf(size, text.bold)));
+    }
+
+private:
+    QHash<int, Made> m_made;
+};
 
 int flagsOf(const PageText& text) {
     const Qt::AlignmentFlag side = text.align == PageAlign::Left    ? Qt::AlignLeft
@@ -33,8 +52,12 @@ int flagsOf(const PageText& text) {
     return int(side) | int(Qt::AlignTop) | (text.wraps ? int(Qt::TextWordWrap) : int(Qt::TextSingleLine));
 }
 
-bool fits(const PageText& text, const QFont& font, const QRectF& box) {
-    const QFontMetricsF metrics(font);
+QRectF boxOf(const PageText& text) {
+    return {text.x * unitsPerMm, text.y * unitsPerMm, text.width * unitsPerMm,
+            (text.height > 0 ? text.height : 200) * unitsPerMm};
+}
+
+bool fits(const PageText& text, const QFontMetricsF& metrics, const QRectF& box) {
     if (!text.wraps)
         return metrics.horizontalAdvance(text.text) <= box.width();
     const QRectF taken =
@@ -42,15 +65,19 @@ bool fits(const PageText& text, const QFont& font, const QRectF& box) {
     return taken.width() <= box.width() + 1 && (text.height <= 0 || taken.height() <= box.height());
 }
 
-void paintText(QPainter& painter, const PageText& text) {
+/// In the largest letters, up to its own, in which the text fits.
+const Fonts::Made& fitted(Fonts& fonts, const PageText& text, const QRectF& box) {
+    double share = 1;
+    while (share > smallestShare && !fits(text, fonts.of(text, share).metrics, box))
+        share -= 0.05;
+    return fonts.of(text, share);
+}
+
+void paintText(QPainter& painter, Fonts& fonts, const PageText& text) {
     if (text.text.isEmpty())
         return;
-    const QRectF box(text.x * unitsPerMm, text.y * unitsPerMm, text.width * unitsPerMm,
-                     (text.height > 0 ? text.height : 200) * unitsPerMm);
-    double share = 1;
-    while (share > smallestShare && !fits(text, fontOf(text, share), box))
-        share -= 0.05;
-    painter.setFont(fontOf(text, share));
+    const QRectF box = boxOf(text);
+    painter.setFont(fitted(fonts, text, box).font);
     painter.setPen(Qt::black);
     painter.drawText(box, flagsOf(text) | Qt::TextDontClip, text.text);
 }
@@ -85,17 +112,38 @@ void paintPage(QPainter& painter, const Page& page, const QRectF& target) {
         paintPicture(painter, picture);
     for (const PageLine& line : page.lines)
         paintLine(painter, line);
+    Fonts fonts;
     for (const PageText& text : page.texts)
-        paintText(painter, text);
+        paintText(painter, fonts, text);
     painter.restore();
+}
+
+QVector<QRectF> placesOf(const PageText& text, const QString& words) {
+    QVector<QRectF> places;
+    qsizetype at = text.text.indexOf(words, 0, Qt::CaseInsensitive);
+    if (at < 0 || words.isEmpty())
+        return places;
+    Fonts fonts;
+    const QRectF box = boxOf(text);
+    const QFontMetricsF& metrics = fitted(fonts, text, box).metrics;
+    const QRectF taken = metrics.boundingRect(box, flagsOf(text), text.text);
+    const auto add = [&](double left, double width) {
+        places << QRectF(left / unitsPerMm, taken.y() / unitsPerMm, width / unitsPerMm, taken.height() / unitsPerMm);
+    };
+    if (text.wraps)
+        add(taken.x(), taken.width());
+    for (; at >= 0 && !text.wraps; at = text.text.indexOf(words, at + words.size(), Qt::CaseInsensitive))
+        add(taken.x() + metrics.horizontalAdvance(text.text.left(at)),
+            metrics.horizontalAdvance(text.text.mid(at, words.size())));
+    return places;
 }
 
 bool paintDocument(QPagedPaintDevice& device, const Document& document) {
     QPainter painter;
     if (!painter.begin(&device))
         return false;
-    for (int number = 0; number < document.count; ++number) {
-        if (number > 0 && !device.newPage())
+    for (int number = document.first; number < document.first + document.count; ++number) {
+        if (number > document.first && !device.newPage())
             return false;
         const Page page = document.page(number);
         const double dotsPerMm = device.logicalDpiX() / mmPerInch;
@@ -112,8 +160,8 @@ bool renderPdf(const Document& document, const QString& file) {
         return false;
     QPdfWriter writer(&output);
     writer.setResolution(1200);
-    const Page first = document.page(0);
-    writer.setPageSize(QPageSize(QSizeF(first.widthMm, first.heightMm), QPageSize::Millimeter));
+    const QSizeF sheet = document.sheet();
+    writer.setPageSize(QPageSize(sheet, QPageSize::Millimeter));
     writer.setPageMargins(QMarginsF());
     return paintDocument(writer, document) && output.error() == QFile::NoError;
 }

@@ -26,6 +26,8 @@
 #include "clients/frmClients.h"
 #include "clients/frmRetainership.h"
 #include "clients/frmRptHeading.h"
+#include "printouts/frmPrintRpt.h"
+#include "printouts/frmRevPrintRpt.h"
 #include "receipts/frmCashReceipt.h"
 #include "receipts/frmCashReceiptLab.h"
 #include "receipts/frmDebtInfo.h"
@@ -101,6 +103,9 @@ constexpr struct {
     {"frmClients", make<frmClients>},
     {"frmRetainership", make<frmRetainership>},
     {"frmRptHeading", make<frmRptHeading>},
+
+    {"frmPrintRpt", make<frmPrintRpt>},
+    {"frmRevPrintRpt", make<frmRevPrintRpt>},
 
     {"frmDrugPrice", make<frmDrugPrice>},
 };

@@ -156,13 +156,18 @@ TEST_F(ReportTest, APlainListNeedsNoTemplate) {
     QStringList selects;
     for (int i = 1; i <= 130; ++i)
         selects << QStringLiteral("select %1 as SNo, 10.5 as Income, 'a' as Fullname").arg(i);
-    const auto report = openDataReport("rptBillingIncome", "Income {of} today", rows(selects.join(" union all ")));
+    const auto report = openDataReport({.file = "rptBillingIncome",
+                                        .rows = rows(selects.join(" union all ")),
+                                        .values = {{"Hospital", "ST {LUKE}"}},
+                                        .title = "Income {of} today"},
+                                       "CASH {1}");
     report->finish();
     ASSERT_EQ(report->pagesMade(), 3);
     const QStringList first = words(report->page(0)), last = words(report->page(2));
-    EXPECT_EQ(first.mid(0, 3), QStringList({"Income {of} today", "SNo | Income | Fullname", "1 | 10.50 | a"}));
+    EXPECT_EQ(first.mid(0, 4),
+              QStringList({"ST {LUKE}", "Income {of} today", "SNo | Income | Fullname", "1 | 10.50 | a"}));
     EXPECT_EQ(first.last(), "Page 1 of 3");
-    EXPECT_EQ(last.at(last.size() - 2), "1,365.00") << "the total of the money";
+    EXPECT_EQ(last.mid(last.size() - 3, 2), QStringList({"1,365.00", "CASH {1}"})) << "the total of the money";
     EXPECT_EQ(report->format("income"), "#,##0.00");
 }
 
