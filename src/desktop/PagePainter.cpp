@@ -26,23 +26,48 @@ QFont fontOf(int size, bool bold) {
     return font;
 }
 
-/// The letters of a page, made once for each size.
-class Fonts {
+/// A font and how wide its texts are. Most texts of a report are Latin: the widths of their letters are asked once.
+class Letters {
 public:
-    struct Made {
-        explicit Made(const QFont& of) : font(of), metrics(of) {}
-        QFont font;
-        QFontMetricsF metrics;
-    };
-    const Made& of(const PageText& text, double share) {
-        const int size = std::max(1, int(text.points * mmPerPoint * unitsPerMm * share));
-        const int key = size * 2 + (text.bold ? 1 : 0);
-        const auto made = m_made.constFind(key);
-        return made != m_made.constEnd() ? *made : *m_made.insert(key, Made(fontOf(size, text.bold)));
+    explicit Letters(const QFont& font) : m_font(font), m_metrics(font), m_widths(lastKept - firstKept + 1, -1) {}
+    const QFont& font() const { return m_font; }
+    const QFontMetricsF& metrics() const { return m_metrics; }
+    /// Without what pairs of letters take off, which is little.
+    double roughWidth(const QString& text) {
+        double width = 0;
+        for (const QChar letter : text) {
+            if (letter.unicode() < firstKept || letter.unicode() > lastKept)
+                return m_metrics.horizontalAdvance(text);
+            double& kept = m_widths[letter.unicode() - firstKept];
+            kept = kept < 0 ? m_metrics.horizontalAdvance(letter) : kept;
+            width += kept;
+        }
+        return width;
+    }
+    double width(const QString& text) {
+        const bool pairs = std::any_of(text.cbegin(), text.cend(), [](QChar letter) { return letter.isLetter(); });
+        return pairs ? m_metrics.horizontalAdvance(text) : roughWidth(text);
     }
 
 private:
-    QHash<int, Made> m_made;
+    static constexpr char16_t firstKept = u' ', lastKept = u'~';
+    QFont m_font;
+    QFontMetricsF m_metrics;
+    QVector<double> m_widths; ///< by letter; below 0: not asked yet
+};
+
+/// The fonts of a document, made once for each size.
+class Fonts {
+public:
+    Letters& of(const PageText& text, double share) {
+        const int size = std::max(1, int(text.points * mmPerPoint * unitsPerMm * share));
+        const int key = size * 2 + (text.bold ? 1 : 0);
+        const auto made = m_made.find(key);
+        return made != m_made.end() ? *made : *m_made.insert(key, Letters(fontOf(size, text.bold)));
+    }
+
+private:
+    QHash<int, Letters> m_made;
 };
 
 int flagsOf(const PageText& text) {
@@ -57,18 +82,18 @@ QRectF boxOf(const PageText& text) {
             (text.height > 0 ? text.height : 200) * unitsPerMm};
 }
 
-bool fits(const PageText& text, const QFontMetricsF& metrics, const QRectF& box) {
+bool fits(const PageText& text, Letters& letters, const QRectF& box) {
     if (!text.wraps)
-        return metrics.horizontalAdvance(text.text) <= box.width();
+        return letters.roughWidth(text.text) <= box.width() || letters.width(text.text) <= box.width();
     const QRectF taken =
-        metrics.boundingRect(QRectF(box.topLeft(), QSizeF(box.width(), 1e6)), flagsOf(text), text.text);
+        letters.metrics().boundingRect(QRectF(box.topLeft(), QSizeF(box.width(), 1e6)), flagsOf(text), text.text);
     return taken.width() <= box.width() + 1 && (text.height <= 0 || taken.height() <= box.height());
 }
 
 /// In the largest letters, up to its own, in which the text fits.
-const Fonts::Made& fitted(Fonts& fonts, const PageText& text, const QRectF& box) {
+Letters& fitted(Fonts& fonts, const PageText& text, const QRectF& box) {
     double share = 1;
-    while (share > smallestShare && !fits(text, fonts.of(text, share).metrics, box))
+    while (share > smallestShare && !fits(text, fonts.of(text, share), box))
         share -= 0.05;
     return fonts.of(text, share);
 }
@@ -77,9 +102,16 @@ void paintText(QPainter& painter, Fonts& fonts, const PageText& text) {
     if (text.text.isEmpty())
         return;
     const QRectF box = boxOf(text);
-    painter.setFont(fitted(fonts, text, box).font);
-    painter.setPen(Qt::black);
-    painter.drawText(box, flagsOf(text) | Qt::TextDontClip, text.text);
+    Letters& letters = fitted(fonts, text, box);
+    if (painter.font() != letters.font())
+        painter.setFont(letters.font());
+    if (text.wraps) {
+        painter.drawText(box, flagsOf(text) | Qt::TextDontClip, text.text);
+        return;
+    }
+    const double room = text.align == PageAlign::Left ? 0 : box.width() - letters.width(text.text);
+    const double left = text.align == PageAlign::Center ? room / 2 : room;
+    painter.drawText(QPointF(box.x() + left, box.y() + letters.metrics().ascent()), text.text);
 }
 
 void paintPicture(QPainter& painter, const PagePicture& picture) {
@@ -100,9 +132,7 @@ void paintLine(QPainter& painter, const PageLine& line) {
     painter.drawLine(QLineF(line.x1 * unitsPerMm, line.y1 * unitsPerMm, line.x2 * unitsPerMm, line.y2 * unitsPerMm));
 }
 
-} // namespace
-
-void paintPage(QPainter& painter, const Page& page, const QRectF& target) {
+void paintPageWith(Fonts& fonts, QPainter& painter, const Page& page, const QRectF& target) {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const double scale = std::min(target.width() / page.widthMm, target.height() / page.heightMm) / unitsPerMm;
@@ -112,10 +142,17 @@ void paintPage(QPainter& painter, const Page& page, const QRectF& target) {
         paintPicture(painter, picture);
     for (const PageLine& line : page.lines)
         paintLine(painter, line);
-    Fonts fonts;
+    painter.setPen(Qt::black);
     for (const PageText& text : page.texts)
         paintText(painter, fonts, text);
     painter.restore();
+}
+
+} // namespace
+
+void paintPage(QPainter& painter, const Page& page, const QRectF& target) {
+    Fonts fonts;
+    paintPageWith(fonts, painter, page, target);
 }
 
 QVector<QRectF> placesOf(const PageText& text, const QString& words) {
@@ -125,7 +162,7 @@ QVector<QRectF> placesOf(const PageText& text, const QString& words) {
         return places;
     Fonts fonts;
     const QRectF box = boxOf(text);
-    const QFontMetricsF& metrics = fitted(fonts, text, box).metrics;
+    const QFontMetricsF& metrics = fitted(fonts, text, box).metrics();
     const QRectF taken = metrics.boundingRect(box, flagsOf(text), text.text);
     const auto add = [&](double left, double width) {
         places << QRectF(left / unitsPerMm, taken.y() / unitsPerMm, width / unitsPerMm, taken.height() / unitsPerMm);
@@ -142,14 +179,15 @@ bool paintDocument(QPagedPaintDevice& device, const Document& document) {
     QPainter painter;
     if (!painter.begin(&device))
         return false;
+    Fonts fonts;
     for (int number = document.first; number < document.first + document.count; ++number) {
         if (number > document.first && !device.newPage())
             return false;
         const Page page = document.page(number);
         const double dotsPerMm = device.logicalDpiX() / mmPerInch;
-        paintPage(painter, page,
-                  QRectF(0, 0, std::min<double>(device.width(), page.widthMm * dotsPerMm),
-                         std::min<double>(device.height(), page.heightMm * dotsPerMm)));
+        paintPageWith(fonts, painter, page,
+                      QRectF(0, 0, std::min<double>(device.width(), page.widthMm * dotsPerMm),
+                             std::min<double>(device.height(), page.heightMm * dotsPerMm)));
     }
     return painter.end();
 }
