@@ -9,6 +9,10 @@
 
 namespace orvane {
 
+Document documentOf(ReportViewer& viewer) {
+    return {viewer.finish(), [&viewer](int number) { return viewer.page(number); }};
+}
+
 ViewerBinding::ViewerBinding(FormView& view, ReportViewer& viewer, QWidget* parent)
     : Binding(view, viewer, new ReportView(parent)), m_viewer(&viewer), m_view(static_cast<ReportView*>(widget())),
       m_seen(viewer.contentRevision() - 1) {
@@ -81,15 +85,11 @@ void ViewerBinding::goToLast() {
 }
 
 void ViewerBinding::print() {
-    withWhole([this] { printing::print(document(), job()); });
+    withWhole([this] { printing::print(documentOf(*m_viewer), job()); });
 }
 
 void ViewerBinding::savePdf() {
-    withWhole([this] { printing::savePdf(document(), job()); });
-}
-
-Document ViewerBinding::document() const {
-    return {m_viewer->report()->pagesMade(), [this](int number) { return m_viewer->page(number); }};
+    withWhole([this] { printing::savePdf(documentOf(*m_viewer), job()); });
 }
 
 printing::Job ViewerBinding::job() {

@@ -8,6 +8,9 @@ namespace orvane {
 
 class ReportView;
 
+/// The pages of the report that is shown, laid out to its end.
+Document documentOf(ReportViewer& viewer);
+
 /// A viewer of reports. Its pages are made inside events of its form, at whose edge a fault of the engine is shown.
 class ViewerBinding : public Binding {
     Q_OBJECT
@@ -29,7 +32,6 @@ private:
     void print();
     void savePdf();
     void saveWorkbook();
-    Document document() const; ///< of the report, which is whole
     printing::Job job();
     QString name() const; ///< of the report, for files and print jobs
 

@@ -7,6 +7,7 @@
 #include "desktop/Printing.h"
 #include "desktop/ReportForm.h"
 #include "desktop/ShellWindow.h"
+#include "desktop/ViewerBinding.h"
 
 #include <QApplication>
 #include <QDir>
@@ -324,8 +325,11 @@ void Windows::refreshNow() {
 
 namespace {
 
-/// What a form prints: its page; nothing for a form that is printed as it looks.
+/// What a form prints: its page, the report that it shows; nothing for a form that is printed as it looks.
 std::optional<Document> documentOf(const Form& form) {
+    for (Control* control : form.controls())
+        if (control->kind() == ControlKind::Viewer && static_cast<ReportViewer*>(control)->report())
+            return documentOf(static_cast<ReportViewer&>(*control));
     const std::optional<Page> page = form.page();
     return page ? std::optional(Document::of(*page)) : std::nullopt;
 }

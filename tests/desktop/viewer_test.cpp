@@ -2,6 +2,7 @@
 #include "data/DataError.h"
 #include "desktop/ReportView.h"
 #include "desktop/ViewTest.h"
+#include "desktop/Windows.h"
 #include "forms/ReportViewer.h"
 
 #include <QFileDialog>
@@ -179,6 +180,13 @@ TEST_F(ViewerTest, TheReportGoesIntoAPdfAndItsRowsIntoAWorkbook) {
     QFile pdf(folder.filePath("out.pdf"));
     ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
     EXPECT_EQ(pdf.readAll().count("/Type /Page\n"), 3);
+    // The form prints its report too, not its looks.
+    Windows windows(ui);
+    windows.setPrintFolder(folder.path());
+    windows.print(form);
+    QFile printed(folder.filePath("frmViewed-1.pdf"));
+    ASSERT_TRUE(printed.open(QIODevice::ReadOnly));
+    EXPECT_EQ(printed.readAll().count("/Type /Page\n"), 3);
 }
 
 } // namespace
