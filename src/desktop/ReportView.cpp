@@ -55,6 +55,8 @@ QWidget* ReportView::bar() {
     add(
         "Save as PDF", "Save as PDF (Ctrl+Shift+S)", [this] { Q_EMIT pdfWanted(); });
     add("Workbook", "The rows as a workbook (Ctrl+E)", [this] { Q_EMIT workbookWanted(); });
+    // A report that grows while it is laid out on does not push the buttons about.
+    m_count->setMinimumWidth(look::charactersWidth(*m_count, 12));
     m_number->setAccessibleName("Page number");
     m_number->setToolTip("Page number (Ctrl+G), Enter goes there");
     m_number->setFixedWidth(look::charactersWidth(*m_number, 6) + 22);

@@ -15,7 +15,9 @@ constexpr double hospitalHeight = 7, titleHeight = 9, headHeight = 6, rowHeight 
 constexpr double sumsHeight = 9;     ///< of two lines
 constexpr double letterWidth = 1.75; ///< of 8 points, rounded up
 constexpr double hospitalPoints = 10, titlePoints = 13, textPoints = 8;
-constexpr int sampledRows = 200, widestText = 45; ///< characters
+constexpr int sampledRows = 200;
+constexpr qsizetype widestText = 45, widestTotal = 13; ///< characters
+constexpr double mostStretch = 1.5;                    ///< of the columns of a narrow list
 const QString amountFormat = "#,##0.00";
 
 struct Column {
@@ -43,6 +45,8 @@ Column sampled(Recordset& rows, const QString& name, int index) {
     column.isNumber &= any;
     column.format = column.isNumber && amount ? amountFormat : QString();
     column.isSummed = !column.format.isEmpty() && addsUp(name);
+    if (column.isSummed)
+        widest = std::max(widest, widestTotal);
     column.width = double(std::clamp<qsizetype>(widest, 3, widestText)) * letterWidth + gap;
     return column;
 }
@@ -77,7 +81,7 @@ void addRule(ReportBand& band, double width, double y, double thickness) {
     band.elements << rule;
 }
 
-/// The columns side by side; a list wider than turned paper gives every column its share.
+/// The columns side by side over the paper; a list wider than turned paper gives every column its share.
 QVector<Column> placedColumns(const Recordset& shown, ReportTemplate& layout) {
     Recordset rows = shown.detached();
     const QStringList names = rows.columns();
@@ -93,7 +97,7 @@ QVector<Column> placedColumns(const Recordset& shown, ReportTemplate& layout) {
     double x = 0;
     for (Column& column : columns) {
         column.x = x;
-        column.width *= std::min(1.0, room / total);
+        column.width *= std::min(mostStretch, room / total);
         x += column.width;
     }
     return columns;
