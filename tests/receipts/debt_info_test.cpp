@@ -142,10 +142,29 @@ TEST_P(DebtInfo, SummariesGiveWhatIsOwedAsPlus) {
     EXPECT_EQ(counts, (QList<int>{3, 2, 3}));
     EXPECT_EQ(ws.value("frmPrintRpt.crViewer1"), "1 page");
 
-    // Without its template the screen stays, and shows nothing.
-    ASSERT_TRUE(QFile::remove(home.folder() + "/rptDebtInfo.rpt"));
-    EXPECT_EQ(told("cmdRpt"), "The report template rptDebtInfo.rpt is not in the program's folder.");
-    EXPECT_EQ(ws.value("frmPrintRpt.crViewer1"), "");
+    // With a template that is no good the screen stays, and shows nothing; mended, it shows again.
+    const QString file = home.folder() + "/rptDebtInfo.rpt";
+    const struct {
+        QByteArray layout;
+        const char* said;
+    } faults[] = {
+        {{}, "The report template rptDebtInfo.rpt is not in the program's folder."},
+        {"\n", "rptDebtInfo.rpt:1: the template is empty: its first line is report \"Title\"."},
+        {QByteArray("\0\xff\n", 3), "The file rptDebtInfo.rpt is not a text file: see line 1."},
+        {"report \"R\"\ngroup Client\n", "rptDebtInfo.rpt:2: the data has no field Client."},
+    };
+    for (const auto& [layout, said] : faults) {
+        ASSERT_TRUE(QFile::remove(file));
+        QFile written(file);
+        ASSERT_TRUE(layout.isEmpty() || (written.open(QIODevice::WriteOnly) && written.write(layout) > 0));
+        written.close();
+        EXPECT_EQ(told("cmdRpt"), said);
+        EXPECT_EQ(ws.value("frmPrintRpt.crViewer1"), "");
+        QFile::remove(file);
+        renewStockTemplates(home.folder());
+        EXPECT_EQ(told("cmdRpt"), "");
+        EXPECT_EQ(ws.value("frmPrintRpt.crViewer1"), "1 page");
+    }
     // Nobody owes anything: it says so.
     ws.run("update hPatients set DebtBF = 0");
     EXPECT_EQ(told("cmdDebtOnly"), "No Report for the specified Item");
