@@ -198,6 +198,10 @@ TEST_F(ReportTest, WhatIsWrongWithATemplateIsSaidInOneLine) {
         {begin + "band page head height 290", "rptTest.rpt:4: the bands are higher than a page."},
         {begin + "band detail height 5", "rptTest.rpt:4: this band stands in line 3 already."},
         {"report \"R\"\ncrosstab\nrow PNo width 30", "rptTest.rpt:2: a crosstab has a row, a column and a cell."},
+        {"report \"R\"\n" + QByteArray("group PNo\ngroup Head\ngroup Amount\n").repeated(3),
+         "rptTest.rpt:5: there is a group by PNo already."},
+        {"report \"R\"\ngroup PNo\ngroup Head\ngroup Amont\nband group foot Amont height 5",
+         "rptTest.rpt:4: the data has no field Amont."},
         {"\x01\x02 report", "The file rptTest.rpt is not a text file: see line 1."},
     };
     for (const auto& [layout, said] : faults)
