@@ -1,5 +1,7 @@
 #include "attendance/frmFlash.h"
 
+#include "session/ListReport.h"
+
 namespace orvane {
 
 namespace {
@@ -135,7 +137,7 @@ void frmFlash::cmdPrint_Click() {
     if (rows.eof())
         program.box("No info for this request : \n" + m_listCaption);
     else
-        ui().viewReport("rptPrompt", m_listCaption, rows);
+        viewList(program, "rptPrompt", m_listCaption, rows);
 }
 
 } // namespace orvane

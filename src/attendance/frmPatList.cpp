@@ -1,5 +1,7 @@
 #include "attendance/frmPatList.h"
 
+#include "session/ListReport.h"
+
 namespace orvane {
 
 frmPatList::frmPatList(Program& owner) : Screen(owner, "frmPatList", "Patient List for Printing of Bills") {
@@ -67,7 +69,7 @@ void frmPatList::OKButton_Click() {
     Connection connection = program.openBilling();
     const Recordset bill(connection, Sql("select * from qryBillingBalanceDueForPrivate where billno='")
                                          << session.sWorkPno << "'");
-    ui().viewReport("rptBilling", "Private Bill " + session.sWorkPno, bill);
+    viewList(program, "rptBilling", "Private Bill " + session.sWorkPno, bill);
 }
 
 } // namespace orvane

@@ -1,5 +1,7 @@
 #include "billing/frmDecide.h"
 
+#include "session/ListReport.h"
+
 namespace orvane {
 
 frmDecide::frmDecide(Program& owner) : Screen(owner, "frmDecide", "Private Bill") {}
@@ -14,7 +16,7 @@ void frmDecide::cmdAcc_Click() {
     const Recordset account(connection, Sql("select * from qryBillingBalanceDue where pno='")
                                             << session.sPrintBillNo << "'");
     const QString fullName = account.eof() ? QString() : account.text("fullname");
-    ui().viewReport("rptPatAccounts", "Patient Name : " + fullName, account);
+    viewList(program, "rptPatAccounts", "Patient Name : " + fullName, account);
 }
 
 void frmDecide::cmdBill_Click() {

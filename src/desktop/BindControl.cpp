@@ -5,6 +5,7 @@
 #include "desktop/GridBinding.h"
 #include "desktop/SmallBindings.h"
 #include "desktop/TextBinding.h"
+#include "desktop/ViewerBinding.h"
 
 #include <QHBoxLayout>
 
@@ -55,11 +56,12 @@ Binding* bindControl(FormView& view, Control& control, QWidget* parent, Place pl
         return new ProgressBinding(view, static_cast<ProgressBar&>(control), parent);
     case ControlKind::StatusBar:
         return new StatusBinding(view, static_cast<StatusBar&>(control), panelRow(parent));
+    case ControlKind::Viewer:
+        return new ViewerBinding(view, static_cast<ReportViewer&>(control), parent);
     case ControlKind::Frame:
     case ControlKind::TabStrip:
     case ControlKind::Timer:
     case ControlKind::Menu:
-    case ControlKind::Viewer:
         break;
     }
     ORVANE_ASSERT(!"a kind of control that a layout does not place as a cell");

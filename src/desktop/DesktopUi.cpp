@@ -89,8 +89,8 @@ void DesktopUi::printForm(Form& form) {
     m_windows.print(form);
 }
 
-void DesktopUi::viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) {
-    m_windows.viewReport(file, title, rows, sums);
+void DesktopUi::viewReport(const QString& file, const QString& title, const std::shared_ptr<PageSource>& report) {
+    m_windows.viewReport(file, title, report);
 }
 
 void DesktopUi::exported(const QString& file) {
@@ -141,8 +141,8 @@ void DesktopShower::printForm(Form& form) {
     m_windows.print(form);
 }
 
-void DesktopShower::viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) {
-    m_windows.viewReport(file, title, rows, sums);
+void DesktopShower::viewReport(const QString& file, const QString& title, const std::shared_ptr<PageSource>& report) {
+    m_windows.viewReport(file, title, report);
 }
 
 } // namespace orvane

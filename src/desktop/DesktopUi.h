@@ -28,7 +28,7 @@ public:
     void setBusy(bool busy) override;
     void processEvents() override;
     void printForm(Form& form) override;
-    void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) override;
+    void viewReport(const QString& file, const QString& title, const std::shared_ptr<PageSource>& report) override;
     void exported(const QString& file) override;
     void playSound(const QString& file) override;
     QDateTime now() const override;
@@ -51,7 +51,7 @@ public:
     void setBusy(bool busy) override;
     void processEvents() override;
     void printForm(Form& form) override;
-    void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) override;
+    void viewReport(const QString& file, const QString& title, const std::shared_ptr<PageSource>& report) override;
 
 private:
     Windows& m_windows;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QModelIndex>
 #include <QWidget>
 
 class QLabel;
@@ -9,29 +8,31 @@ class QToolButton;
 
 namespace orvane {
 
-class TableView;
-
-/// The line below a list that finds a text in what its cells show: Enter the next one, Shift+Enter the one before,
-/// round the end. Hidden until it is asked for; Esc goes back to the list.
+/// The line below what is shown that finds a text in it: Enter the next one, Shift+Enter the one before, round the end.
+/// Hidden until it is asked for; Esc goes back to what it searches.
 class FindLine : public QWidget {
     Q_OBJECT
 
 public:
-    FindLine(TableView& table, QWidget* parent);
+    /// `place`: what it searches, in words. `searched`: where Esc leaves the focus.
+    FindLine(const QString& place, QWidget& searched, QWidget* parent);
+    void begin();
+    QString text() const;
 
 protected:
+    virtual void go(bool forward) = 0; ///< to the next hit, or the one before; the text is not empty
+    virtual void left() {}
+    void say(const QString& words);
     void keyPressEvent(QKeyEvent* event) override;
+
+Q_SIGNALS:
+    void textChanged();
 
 private:
     QToolButton* button(Qt::ArrowType arrow, const QString& name, bool forward);
-    void begin();
-    void go(bool forward);
-    QModelIndex next(int at) const;
-    QModelIndex previous(int at) const;
-    QModelIndex firstIn(int from, int to) const;
-    QModelIndex hitIn(int row) const;
+    void wanted(bool forward);
 
-    TableView& m_table;
+    QWidget& m_searched;
     QLineEdit* m_text;
     QLabel* m_said;
 };

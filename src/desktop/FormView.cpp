@@ -3,8 +3,10 @@
 #include "desktop/Boxes.h"
 #include "desktop/GridBinding.h"
 #include "desktop/LayoutBuilder.h"
+#include "desktop/ReportView.h"
 #include "desktop/SmallBindings.h"
 #include "desktop/TableView.h"
+#include "desktop/ViewerBinding.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -224,6 +226,16 @@ TableView* FormView::listInHand() const {
     return first;
 }
 
+/// The one in sight, unless a list has the focus; null: there is none.
+ReportView* FormView::reportInHand() const {
+    if (const TableView* list = listInHand(); list && list->hasFocus())
+        return nullptr;
+    for (Binding* binding : m_bindings)
+        if (const auto* viewer = qobject_cast<ViewerBinding*>(binding); viewer && viewer->reportView()->isVisible())
+            return viewer->reportView();
+    return nullptr;
+}
+
 bool FormView::takesKey(const QKeyEvent& event) {
     const bool save = event.matches(QKeySequence::Save);
     if (m_form && (save || event.key() == Qt::Key_F5)) {
@@ -231,6 +243,8 @@ bool FormView::takesKey(const QKeyEvent& event) {
             press(*button);
         return true;
     }
+    if (ReportView* report = reportInHand(); m_form && report && report->takesKey(event))
+        return true;
     if (m_form && event.matches(QKeySequence::Find)) {
         if (TableView* list = listInHand())
             Q_EMIT list->findWanted();
@@ -272,11 +286,13 @@ void FormView::keyPressEvent(QKeyEvent* event) {
 
 /// Of those in sight, after the last one the first: a list has no words for a key of its own.
 void FormView::goToNextList() {
-    QVector<QAbstractItemView*> lists;
-    for (const Binding* binding : std::as_const(m_bindings))
-        if (auto* list = qobject_cast<QAbstractItemView*>(binding->widget());
-            list && list->isVisible() && list->isEnabled())
+    QVector<QWidget*> lists;
+    for (const Binding* binding : std::as_const(m_bindings)) {
+        QWidget* list = binding->editor();
+        const bool is = qobject_cast<QAbstractItemView*>(list) || qobject_cast<PageStack*>(list);
+        if (is && list->isVisible() && list->isEnabled())
             lists << list;
+    }
     const auto here = std::find_if(lists.cbegin(), lists.cend(), [](const auto* list) { return list->hasFocus(); });
     const bool atLast = here == lists.cend() || here + 1 == lists.cend();
     if (!lists.isEmpty())

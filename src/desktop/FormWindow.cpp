@@ -2,8 +2,8 @@
 
 #include "desktop/Keyed.h"
 #include "desktop/Look.h"
-#include "desktop/PagePreview.h"
 #include "desktop/PageScroll.h"
+#include "desktop/PageStack.h"
 #include "desktop/Printing.h"
 
 #include <QCloseEvent>
@@ -33,7 +33,8 @@ bool hasList(const Form& form) {
     return std::any_of(
         form.controls().cbegin(), form.controls().cend(),
         [](const Control* control) {
-            return control->kind() == ControlKind::Grid || control->kind() == ControlKind::EntryGrid;
+            return control->kind() == ControlKind::Grid || control->kind() == ControlKind::EntryGrid ||
+                   control->kind() == ControlKind::Viewer;
         });
 }
 
@@ -51,45 +52,43 @@ FormWindow::FormWindow(Form& form, const ViewSetting& setting, QWidget* parent, 
     box->setContentsMargins(0, 0, 0, 0);
     box->setSpacing(0);
     box->addWidget(m_scroll, 1);
-    if (document) {
-        m_preview = new PagePreview(m_scroll);
-        m_scroll->setWidget(m_preview);
-        auto* bottom = new QHBoxLayout;
-        bottom->addWidget(pageButtons());
-        bottom->addWidget(m_view, 1);
-        box->addLayout(bottom);
-        showPage();
-        for (Control* control : form.controls())
-            connect(control, &Control::changed, this, [this] {
-                if (std::exchange(m_pageScheduled, true))
-                    return;
-                QMetaObject::invokeMethod(this, &FormWindow::showPage, Qt::QueuedConnection);
-            });
-    } else {
+    if (document)
+        addPage(*box);
+    else
         m_scroll->setWidget(m_view);
-    }
     setWindowTitle(form.caption());
     connect(&form, &Form::captionChanged, this, [this] { setWindowTitle(m_form ? m_form->caption() : QString()); });
 }
 
-QWidget* FormWindow::pageButtons() {
+/// A document's page takes the place of its view, which stands below it.
+void FormWindow::addPage(QVBoxLayout& box) {
+    m_scroll->hide();
+    m_pages = new PageStack(this);
+    box.addWidget(m_pages, 1);
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(pdfButton());
+    bottom->addWidget(m_view, 1);
+    box.addLayout(bottom);
+    m_pages->setCount(1);
+    showPage();
+    connect(m_pages, &PageStack::pagesWanted, this, &FormWindow::showPage);
+    for (Control* control : m_form->controls())
+        connect(control, &Control::changed, this, [this] {
+            if (std::exchange(m_pageScheduled, true))
+                return;
+            QMetaObject::invokeMethod(this, &FormWindow::showPage, Qt::QueuedConnection);
+        });
+}
+
+QWidget* FormWindow::pdfButton() {
     auto* row = new QWidget(this);
-    auto* preview = new WordButton(row);
     auto* save = new WordButton(row);
     Mnemonics& keys = m_view->mnemonics();
-    keys.add(Mnemonics::Press, QStringLiteral("Print Pre&view"), showKey(*preview));
     keys.add(Mnemonics::Press, QStringLiteral("&Save as PDF..."), showKey(*save));
     keys.assign();
     auto* box = new QHBoxLayout(row);
     box->setContentsMargins(look::margin, 0, 0, 0);
-    box->addWidget(preview);
     box->addWidget(save);
-    connect(
-        preview, &QPushButton::clicked, this,
-        [this] {
-            if (m_form && m_form->page())
-                printing::preview(Document::of(*m_form->page()), {m_form->documentName(), this, m_view->memory()});
-        });
     connect(save, &QPushButton::clicked, this, [this] {
         if (m_form && m_form->page())
             printing::savePdf(Document::of(*m_form->page()), {m_form->documentName(), this, m_view->memory()});
@@ -100,7 +99,7 @@ QWidget* FormWindow::pageButtons() {
 void FormWindow::showPage() {
     m_pageScheduled = false;
     if (m_form && m_form->page())
-        m_preview->setPage(*m_form->page());
+        m_pages->setPage(0, *m_form->page());
 }
 
 QSize FormWindow::neededSize() const {
@@ -109,12 +108,12 @@ QSize FormWindow::neededSize() const {
 }
 
 QSize FormWindow::sizeFor(QSize room) const {
-    return fitted(m_form && hasList(*m_form) && !m_preview ? room : neededSize(), room);
+    return fitted(m_form && hasList(*m_form) && !m_pages ? room : neededSize(), room);
 }
 
 QSize FormWindow::dialogSize(QSize room) const {
     QSize wanted = neededSize();
-    if (m_form && hasList(*m_form) && !m_preview)
+    if (m_form && hasList(*m_form) && !m_pages)
         wanted = wanted.expandedTo(wanted.width() > room.width() * 7 / 10
                                        ? room - QSize(2 * look::spacing, 2 * look::spacing)
                                        : QSize(room.width() * 8 / 10, room.height() * 9 / 10));
@@ -122,11 +121,11 @@ QSize FormWindow::dialogSize(QSize room) const {
 }
 
 QSize FormWindow::fitted(QSize wanted, QSize room) const {
-    if (m_preview)
-        wanted = QSize(std::max(wanted.width() + 280, m_preview->sizeHint().width() + 24), room.height());
+    if (m_pages)
+        wanted = QSize(std::max(wanted.width() + 280, m_pages->sizeHint().width()), room.height());
     wanted = wanted.boundedTo(room);
     // A narrower form needs more height where its rows break; a scroll bar at the side needs its width.
-    const int needed = m_preview ? 0 : m_view->heightForWidth(wanted.width());
+    const int needed = m_pages ? 0 : m_view->heightForWidth(wanted.width());
     wanted.setHeight(std::clamp(needed, wanted.height(), room.height()));
     const bool scrolls = needed > wanted.height();
     return QSize(wanted.width() + (scrolls ? m_scroll->verticalScrollBar()->sizeHint().width() : 0), wanted.height())
@@ -156,7 +155,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && button && !m_view->isAncestorOf(button))
         button->click();
-    else if (!m_view->takesKey(*event))
+    else if (!(m_pages && m_pages->takesKey(*event)) && !m_view->takesKey(*event))
         QWidget::keyPressEvent(event);
 }
 

@@ -3,10 +3,11 @@
 #include "desktop/FormView.h"
 
 class QScrollArea;
+class QVBoxLayout;
 
 namespace orvane {
 
-class PagePreview;
+class PageStack;
 
 /// The window of a form, inside the main window or on its own: its view in a scroll area, so that nothing is ever out
 /// of reach. A form that is a document shows its page above its buttons.
@@ -37,12 +38,13 @@ private:
     QSize fitted(QSize wanted, QSize room) const;
     QSize neededSize() const;
     void showPage();
-    QWidget* pageButtons();
+    void addPage(QVBoxLayout& box);
+    QWidget* pdfButton();
 
     Form* m_form;
     FormView* m_view;
     QScrollArea* m_scroll;
-    PagePreview* m_preview = nullptr;
+    PageStack* m_pages = nullptr;
     bool m_pageScheduled = false;
 };
 

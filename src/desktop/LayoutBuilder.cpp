@@ -1,12 +1,12 @@
 #include "desktop/LayoutBuilder.h"
 
 #include "data/Assert.h"
-#include "desktop/FindLine.h"
 #include "desktop/FlowLayout.h"
 #include "desktop/FormView.h"
 #include "desktop/GridBinding.h"
 #include "desktop/Keyed.h"
 #include "desktop/LayoutRules.h"
+#include "desktop/ListFind.h"
 #include "desktop/Look.h"
 #include "desktop/PageScroll.h"
 #include "desktop/SmallBindings.h"
@@ -119,7 +119,7 @@ QWidget* LayoutBuilder::withTotals(GridBinding& grid) {
     box->setContentsMargins(0, 0, 0, 0);
     box->setSpacing(2);
     box->addWidget(grid.widget(), 1);
-    box->addWidget(new FindLine(*grid.table(), both));
+    box->addWidget(new ListFind(*grid.table(), both));
     box->addWidget(new TotalsLine(*grid.table(), both));
     grid.addCompanion(both);
     return both;

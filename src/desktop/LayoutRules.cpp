@@ -15,6 +15,10 @@ bool isList(const Control& control) {
            control.kind() == ControlKind::ListBox || control.kind() == ControlKind::Tree;
 }
 
+bool takesRoom(const Control& control) {
+    return isList(control) || control.kind() == ControlKind::Viewer;
+}
+
 bool isOnlyRead(const Control& control) {
     return control.kind() == ControlKind::TextBox && static_cast<const TextBox&>(control).isLocked();
 }
@@ -23,7 +27,7 @@ bool growsDown(const Layout& item) {
     if (item.grows || item.kind == Layout::Stretch)
         return true;
     if (item.control && (item.kind == Layout::Field || item.kind == Layout::Cell))
-        return isList(*item.control) || isMultiline(*item.control);
+        return takesRoom(*item.control) || isMultiline(*item.control);
     if (item.kind == Layout::Buttons || item.kind == Layout::Facts || item.kind == Layout::Card)
         return false;
     // Room between the items of a row is room across.
@@ -40,7 +44,7 @@ bool growsAcross(const Layout& item) {
         const ControlKind kind = item.control->kind();
         const bool text = kind == ControlKind::TextBox || kind == ControlKind::ComboBox;
         const bool navigates = kind == ControlKind::Tree && item.characters > 0; // a tree beside what it leads to
-        return (isList(*item.control) && !navigates) || kind == ControlKind::ProgressBar ||
+        return (takesRoom(*item.control) && !navigates) || kind == ControlKind::ProgressBar ||
                (text && (item.characters == 0 || isMultiline(*item.control)));
     }
     if (item.kind == Layout::Card)

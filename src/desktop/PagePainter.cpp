@@ -18,13 +18,57 @@ constexpr double unitsPerMm = 100;
 constexpr double mmPerInch = 25.4, mmPerPoint = mmPerInch / 72;
 constexpr double smallestShare = 0.4; ///< a text is made smaller down to this share of its size
 
-QFont fontOf(const PageText& text, double share) {
+QFont fontOf(int size, bool bold) {
     QFont font = QGuiApplication::font();
-    font.setPixelSize(std::max(1, int(text.points * mmPerPoint * unitsPerMm * share)));
-    font.setBold(text.bold);
+    font.setPixelSize(size);
+    font.setBold(bold);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
+
+/// A font and how wide its texts are. Most texts of a report are Latin: the widths of their letters are asked once.
+class Letters {
+public:
+    explicit Letters(const QFont& font) : m_font(font), m_metrics(font), m_widths(lastKept - firstKept + 1, -1) {}
+    const QFont& font() const { return m_font; }
+    const QFontMetricsF& metrics() const { return m_metrics; }
+    /// Without what pairs of letters take off, which is little.
+    double roughWidth(const QString& text) {
+        double width = 0;
+        for (const QChar letter : text) {
+            if (letter.unicode() < firstKept || letter.unicode() > lastKept)
+                return m_metrics.horizontalAdvance(text);
+            double& kept = m_widths[letter.unicode() - firstKept];
+            kept = kept < 0 ? m_metrics.horizontalAdvance(letter) : kept;
+            width += kept;
+        }
+        return width;
+    }
+    double width(const QString& text) {
+        const bool pairs = std::any_of(text.cbegin(), text.cend(), [](QChar letter) { return letter.isLetter(); });
+        return pairs ? m_metrics.horizontalAdvance(text) : roughWidth(text);
+    }
+
+private:
+    static constexpr char16_t firstKept = u' ', lastKept = u'~';
+    QFont m_font;
+    QFontMetricsF m_metrics;
+    QVector<double> m_widths; ///< by letter; below 0: not asked yet
+};
+
+/// The fonts of a document, made once for each size.
+class Fonts {
+public:
+    Letters& of(const PageText& text, double share) {
+        const int size = std::max(1, int(text.points * mmPerPoint * unitsPerMm * share));
+        const int key = size * 2 + (text.bold ? 1 : 0);
+        const auto made = m_made.find(key);
+        return made != m_made.end() ? *made : *m_made.insert(key, Letters(fontOf(size, text.bold)));
+    }
+
+private:
+    QHash<int, Letters> m_made;
+};
 
 int flagsOf(const PageText& text) {
     const Qt::AlignmentFlag side = text.align == PageAlign::Left    ? Qt::AlignLeft
@@ -33,26 +77,41 @@ int flagsOf(const PageText& text) {
     return int(side) | int(Qt::AlignTop) | (text.wraps ? int(Qt::TextWordWrap) : int(Qt::TextSingleLine));
 }
 
-bool fits(const PageText& text, const QFont& font, const QRectF& box) {
-    const QFontMetricsF metrics(font);
+QRectF boxOf(const PageText& text) {
+    return {text.x * unitsPerMm, text.y * unitsPerMm, text.width * unitsPerMm,
+            (text.height > 0 ? text.height : 200) * unitsPerMm};
+}
+
+bool fits(const PageText& text, Letters& letters, const QRectF& box) {
     if (!text.wraps)
-        return metrics.horizontalAdvance(text.text) <= box.width();
+        return letters.roughWidth(text.text) <= box.width() || letters.width(text.text) <= box.width();
     const QRectF taken =
-        metrics.boundingRect(QRectF(box.topLeft(), QSizeF(box.width(), 1e6)), flagsOf(text), text.text);
+        letters.metrics().boundingRect(QRectF(box.topLeft(), QSizeF(box.width(), 1e6)), flagsOf(text), text.text);
     return taken.width() <= box.width() + 1 && (text.height <= 0 || taken.height() <= box.height());
 }
 
-void paintText(QPainter& painter, const PageText& text) {
+/// In the largest letters, up to its own, in which the text fits.
+Letters& fitted(Fonts& fonts, const PageText& text, const QRectF& box) {
+    double share = 1;
+    while (share > smallestShare && !fits(text, fonts.of(text, share), box))
+        share -= 0.05;
+    return fonts.of(text, share);
+}
+
+void paintText(QPainter& painter, Fonts& fonts, const PageText& text) {
     if (text.text.isEmpty())
         return;
-    const QRectF box(text.x * unitsPerMm, text.y * unitsPerMm, text.width * unitsPerMm,
-                     (text.height > 0 ? text.height : 200) * unitsPerMm);
-    double share = 1;
-    while (share > smallestShare && !fits(text, fontOf(text, share), box))
-        share -= 0.05;
-    painter.setFont(fontOf(text, share));
-    painter.setPen(Qt::black);
-    painter.drawText(box, flagsOf(text) | Qt::TextDontClip, text.text);
+    const QRectF box = boxOf(text);
+    Letters& letters = fitted(fonts, text, box);
+    if (painter.font() != letters.font())
+        painter.setFont(letters.font());
+    if (text.wraps) {
+        painter.drawText(box, flagsOf(text) | Qt::TextDontClip, text.text);
+        return;
+    }
+    const double room = text.align == PageAlign::Left ? 0 : box.width() - letters.width(text.text);
+    const double left = text.align == PageAlign::Center ? room / 2 : room;
+    painter.drawText(QPointF(box.x() + left, box.y() + letters.metrics().ascent()), text.text);
 }
 
 void paintPicture(QPainter& painter, const PagePicture& picture) {
@@ -73,9 +132,7 @@ void paintLine(QPainter& painter, const PageLine& line) {
     painter.drawLine(QLineF(line.x1 * unitsPerMm, line.y1 * unitsPerMm, line.x2 * unitsPerMm, line.y2 * unitsPerMm));
 }
 
-} // namespace
-
-void paintPage(QPainter& painter, const Page& page, const QRectF& target) {
+void paintPageWith(Fonts& fonts, QPainter& painter, const Page& page, const QRectF& target) {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const double scale = std::min(target.width() / page.widthMm, target.height() / page.heightMm) / unitsPerMm;
@@ -85,23 +142,52 @@ void paintPage(QPainter& painter, const Page& page, const QRectF& target) {
         paintPicture(painter, picture);
     for (const PageLine& line : page.lines)
         paintLine(painter, line);
+    painter.setPen(Qt::black);
     for (const PageText& text : page.texts)
-        paintText(painter, text);
+        paintText(painter, fonts, text);
     painter.restore();
+}
+
+} // namespace
+
+void paintPage(QPainter& painter, const Page& page, const QRectF& target) {
+    Fonts fonts;
+    paintPageWith(fonts, painter, page, target);
+}
+
+QVector<QRectF> placesOf(const PageText& text, const QString& words) {
+    QVector<QRectF> places;
+    qsizetype at = text.text.indexOf(words, 0, Qt::CaseInsensitive);
+    if (at < 0 || words.isEmpty())
+        return places;
+    Fonts fonts;
+    const QRectF box = boxOf(text);
+    const QFontMetricsF& metrics = fitted(fonts, text, box).metrics();
+    const QRectF taken = metrics.boundingRect(box, flagsOf(text), text.text);
+    const auto add = [&](double left, double width) {
+        places << QRectF(left / unitsPerMm, taken.y() / unitsPerMm, width / unitsPerMm, taken.height() / unitsPerMm);
+    };
+    if (text.wraps)
+        add(taken.x(), taken.width());
+    for (; at >= 0 && !text.wraps; at = text.text.indexOf(words, at + words.size(), Qt::CaseInsensitive))
+        add(taken.x() + metrics.horizontalAdvance(text.text.left(at)),
+            metrics.horizontalAdvance(text.text.mid(at, words.size())));
+    return places;
 }
 
 bool paintDocument(QPagedPaintDevice& device, const Document& document) {
     QPainter painter;
     if (!painter.begin(&device))
         return false;
-    for (int number = 0; number < document.count; ++number) {
-        if (number > 0 && !device.newPage())
+    Fonts fonts;
+    for (int number = document.first; number < document.first + document.count; ++number) {
+        if (number > document.first && !device.newPage())
             return false;
         const Page page = document.page(number);
         const double dotsPerMm = device.logicalDpiX() / mmPerInch;
-        paintPage(painter, page,
-                  QRectF(0, 0, std::min<double>(device.width(), page.widthMm * dotsPerMm),
-                         std::min<double>(device.height(), page.heightMm * dotsPerMm)));
+        paintPageWith(fonts, painter, page,
+                      QRectF(0, 0, std::min<double>(device.width(), page.widthMm * dotsPerMm),
+                             std::min<double>(device.height(), page.heightMm * dotsPerMm)));
     }
     return painter.end();
 }
@@ -112,8 +198,8 @@ bool renderPdf(const Document& document, const QString& file) {
         return false;
     QPdfWriter writer(&output);
     writer.setResolution(1200);
-    const Page first = document.page(0);
-    writer.setPageSize(QPageSize(QSizeF(first.widthMm, first.heightMm), QPageSize::Millimeter));
+    const QSizeF sheet = document.sheet();
+    writer.setPageSize(QPageSize(sheet, QPageSize::Millimeter));
     writer.setPageMargins(QMarginsF());
     return paintDocument(writer, document) && output.error() == QFile::NoError;
 }

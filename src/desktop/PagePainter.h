@@ -14,12 +14,20 @@ namespace orvane {
 /// sizes are the same on every device.
 void paintPage(QPainter& painter, const Page& page, const QRectF& target);
 
-/// Pages of one size, made one at a time.
+/// Where a text bears these words, in millimetres; of a text that wraps, the room that it takes. Nowhere: empty.
+QVector<QRectF> placesOf(const PageText& text, const QString& words);
+
+/// Pages of one size, made one at a time. A fault may come from where they are made.
 struct Document {
     int count = 0;
-    std::function<Page(int number)> page; ///< from 0
+    std::function<Page(int number)> page;
+    int first = 0; ///< the number of the first one
     static Document of(const Page& page) {
         return {1, [page](int) { return page; }};
+    }
+    QSizeF sheet() const { ///< mm
+        const Page made = page(first);
+        return {made.widthMm, made.heightMm};
     }
 };
 

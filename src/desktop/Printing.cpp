@@ -2,15 +2,13 @@
 
 #include "desktop/Boxes.h"
 
-#include <QAction>
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QPainter>
 #include <QPrintDialog>
-#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QProgressDialog>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
@@ -21,11 +19,6 @@ namespace {
 void setSheet(QPrinter& printer, QSizeF millimetres) {
     printer.setPageSize(QPageSize(millimetres, QPageSize::Millimeter));
     printer.setFullPage(true);
-}
-
-QSizeF sheetOf(const Document& document) {
-    const Page first = document.page(0);
-    return {first.widthMm, first.heightMm};
 }
 
 const QString folderKey = "printing/folder", printerKey = "printing/printer";
@@ -52,21 +45,26 @@ QString askFile(const Job& job) {
     return file;
 }
 
-bool askPrinter(QPrinter& printer, const Job& job) {
+/// Of several pages a range can be chosen.
+bool askPrinter(QPrinter& printer, const Job& job, int pages) {
     const QString remembered = job.memory.value(printerKey).toString();
     if (QPrinterInfo::availablePrinterNames().contains(remembered))
         printer.setPrinterName(remembered);
-    if (QPrintDialog(&printer, job.parent).exec() != QDialog::Accepted)
+    QPrintDialog dialog(&printer, job.parent);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, pages > 1);
+    if (pages > 1)
+        dialog.setMinMax(1, pages);
+    if (dialog.exec() != QDialog::Accepted)
         return false;
     job.memory.keep(printerKey, printer.printerName());
     return true;
 }
 
 /// Lets the user choose the printer, or the file where there is no printer. False: he has cancelled.
-bool choosePrinter(QPrinter& printer, const Job& job) {
+bool choosePrinter(QPrinter& printer, const Job& job, int pages = 1) {
     printer.setDocName(job.name);
     if (!QPrinterInfo::availablePrinterNames().isEmpty())
-        return askPrinter(printer, job);
+        return askPrinter(printer, job, pages);
     if (!boxes::question(job.parent, "No printer is set up on this computer. Save the document as a PDF instead?", {}))
         return false;
     const QString file = askFile(job);
@@ -77,6 +75,67 @@ bool choosePrinter(QPrinter& printer, const Job& job) {
 
 void sayFailed(QWidget* parent) {
     boxes::message(parent, "The document could not be printed.", Icon::Exclamation, {});
+}
+
+/// What a user has called off is no fault.
+struct CalledOff {};
+
+constexpr int longJob = 500; ///< milliseconds before it says how far it is
+
+/// Paints the pages and says meanwhile which one it is at; the user may call it off. False: the device has refused.
+bool withProgress(const Document& document, const Job& job, const std::function<bool(const Document&)>& paint) {
+    QProgressDialog progress("Page 1", "Cancel", 0, document.count, job.parent);
+    progress.setWindowTitle(job.name);
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(longJob);
+    Document told = document;
+    told.page = [&](int number) {
+        const int done = number - document.first;
+        progress.setLabelText(QStringLiteral("Page %L1 of %L2").arg(done + 1).arg(document.count));
+        progress.setValue(done);
+        if (progress.wasCanceled())
+            throw CalledOff();
+        return document.page(number);
+    };
+    try {
+        return paint(told);
+    } catch (const CalledOff&) {
+        return true;
+    }
+}
+
+/// A document that breaks off is not printed by halves, where the printer lets a job be taken back.
+Document abortable(const Document& document, QPrinter& printer) {
+    Document guarded = document;
+    guarded.page = [&document, &printer](int number) {
+        try {
+            return document.page(number);
+        } catch (...) {
+            printer.abort();
+            throw;
+        }
+    };
+    return guarded;
+}
+
+/// Of a document that broke off no half file is left.
+bool writtenWhole(const Document& pages, const QString& file) {
+    try {
+        return renderPdf(pages, file);
+    } catch (...) {
+        QFile::remove(file);
+        throw;
+    }
+}
+
+/// Those that were chosen in the printer's dialog.
+Document chosenPages(const Document& document, const QPrinter& printer) {
+    Document chosen = document;
+    if (printer.printRange() != QPrinter::PageRange || printer.fromPage() < 1)
+        return chosen;
+    chosen.first = std::min(printer.fromPage(), document.count) - 1;
+    chosen.count = std::clamp(printer.toPage(), chosen.first + 1, document.count) - chosen.first;
+    return chosen;
 }
 
 constexpr double a4Width = 210, a4Height = 297, paperMargin = 12; // mm
@@ -103,32 +162,20 @@ QSizeF sheetFor(const QPixmap& picture) {
 
 void print(const Document& document, const Job& job) {
     QPrinter printer(QPrinter::HighResolution);
-    setSheet(printer, sheetOf(document));
-    if (choosePrinter(printer, job) && !paintDocument(printer, document))
+    setSheet(printer, document.sheet());
+    if (!choosePrinter(printer, job, document.count))
+        return;
+    const Document chosen = chosenPages(document, printer);
+    const bool done = withProgress(
+        chosen, job, [&](const Document& pages) { return paintDocument(printer, abortable(pages, printer)); });
+    if (!done)
         sayFailed(job.parent);
-}
-
-void preview(const Document& document, const Job& job) {
-    QPrinter printer(QPrinter::HighResolution);
-    setSheet(printer, sheetOf(document));
-    QPrintPreviewDialog dialog(&printer, job.parent);
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&](QPrinter* target) { paintDocument(*target, document); });
-    const QString printText = QCoreApplication::translate("QPrintPreviewDialog", "Print");
-    for (QAction* action : dialog.findChildren<QAction*>()) {
-        if (action->text() != printText)
-            continue;
-        // The dialog's own way knows no proposed file and says nothing where no printer is set up.
-        QObject::disconnect(action, &QAction::triggered, nullptr, nullptr);
-        QObject::connect(action, &QAction::triggered, &dialog, &QDialog::accept);
-    }
-    if (dialog.exec() == QDialog::Accepted)
-        print(document, job);
 }
 
 void savePdf(const Document& document, const Job& job) {
     const QString file = askFile(job);
-    if (!file.isEmpty() && !renderPdf(document, file))
+    if (!file.isEmpty() &&
+        !withProgress(document, job, [&](const Document& pages) { return writtenWhole(pages, file); }))
         boxes::message(job.parent, QStringLiteral("The file %1 could not be written.").arg(file), Icon::Exclamation,
                        {});
 }

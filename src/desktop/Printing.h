@@ -14,9 +14,8 @@ struct Job {
     Memory& memory;  ///< of the last folder and printer
 };
 
+/// Of several pages a range can be chosen; a long job says how far it is, and can be called off.
 void print(const Document& document, const Job& job);
-/// Shows the sheets; printed from there as by print().
-void preview(const Document& document, const Job& job);
 void savePdf(const Document& document, const Job& job);
 
 /// Prints the picture of a window, as large as the paper allows.

@@ -1,23 +1,26 @@
 #pragma once
 
 #include "forms/Form.h"
+#include "forms/ReportViewer.h"
 
 namespace orvane {
 
-/// The list of a report's rows in a window of its own, and below it what is said of their sums.
+/// A report in a window of its own.
 class ReportForm : public Form {
 public:
-    ReportForm(Ui& ui, const QString& file, const QString& title, const Recordset& rows, const QString& sums);
-    const Grid& rows() const { return grdRows; }
-    QString sums() const; ///< of all rows, and what was given beside the list
-    Layout layout() const override;
+    ReportForm(Ui& ui, const QString& file, const QString& title, const std::shared_ptr<PageSource>& report)
+        : Form(ui, file, title) {
+        cmdClose.onClick = [this] { unload(); };
+        crViewer1.show(report, file);
+    }
+    Layout layout() const override {
+        using namespace orvane::layout;
+        return column({cell(crViewer1), buttons({}, {&cmdClose})});
+    }
     Button* cancelButton() override { return &cmdClose; }
 
 private:
-    Grid grdRows{*this, "grdRows"};
-    Label lblSums{*this, "lblSums"};
-    Label lblCount{*this, "lblCount"};
-    Button cmdPrint{*this, "cmdPrint", "&Print"};
+    ReportViewer crViewer1{*this};
     Button cmdClose{*this, "cmdClose", "&Close"};
 };
 

@@ -6,8 +6,8 @@
 #include "desktop/PagePainter.h"
 #include "desktop/Printing.h"
 #include "desktop/ReportForm.h"
-#include "desktop/ReportPages.h"
 #include "desktop/ShellWindow.h"
+#include "desktop/ViewerBinding.h"
 
 #include <QApplication>
 #include <QDir>
@@ -325,12 +325,11 @@ void Windows::refreshNow() {
 
 namespace {
 
-/// What a form prints: its page, a report's list; nothing for a form that is printed as it looks.
+/// What a form prints: its page, the report that it shows; nothing for a form that is printed as it looks.
 std::optional<Document> documentOf(const Form& form) {
-    if (const auto* report = dynamic_cast<const ReportForm*>(&form)) {
-        const auto pages = std::make_shared<ReportPages>(report->rows(), report->caption(), report->sums());
-        return Document{pages->count(), [pages](int number) { return pages->page(number); }};
-    }
+    for (Control* control : form.controls())
+        if (control->kind() == ControlKind::Viewer && static_cast<ReportViewer*>(control)->report())
+            return documentOf(static_cast<ReportViewer&>(*control));
     const std::optional<Page> page = form.page();
     return page ? std::optional(Document::of(*page)) : std::nullopt;
 }
@@ -363,11 +362,11 @@ QString Windows::nextPrintFile(const Form& form) const {
     return file;
 }
 
-void Windows::viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) {
-    m_reports.push_back(std::make_unique<ReportForm>(m_ui, file, title, rows, sums));
-    ReportForm& report = *m_reports.back();
-    report.load();
-    show(report);
+void Windows::viewReport(const QString& file, const QString& title, const std::shared_ptr<PageSource>& report) {
+    m_reports.push_back(std::make_unique<ReportForm>(m_ui, file, title, report));
+    ReportForm& form = *m_reports.back();
+    form.load();
+    show(form);
 }
 
 bool Windows::savePicture(const QString& file) {

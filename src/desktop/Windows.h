@@ -41,7 +41,7 @@ public:
     void closed(Form& form);
     void setBusy(bool busy);
     void print(Form& form);
-    void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums = {});
+    void viewReport(const QString& file, const QString& title, const std::shared_ptr<PageSource>& report);
 
     FormView* viewOf(const Form& form) const; ///< null: not shown
     QWidget* windowOf(const Form& form) const;

@@ -27,13 +27,12 @@ QString asPeopleReadDates(const QString& text) {
     return text;
 }
 
-/// A price and a number of units come to nothing in sum.
+} // namespace
+
 bool addsUp(const QString& head) {
     static const QStringList never = {"UnitPrice", "Price", "Cost", "No Of Units", "Qty"};
     return !never.contains(head, Qt::CaseInsensitive);
 }
-
-} // namespace
 
 void Grid::load(const Recordset& rows) {
     // The screen may still be walking through its rows while the grid is painted.

@@ -5,6 +5,9 @@
 
 namespace orvane {
 
+/// Whether the amounts under this head come to something in sum; a price and a number of units do not.
+bool addsUp(const QString& head);
+
 /// The rows of a query. Columns are looked up by name without regard to case; a current row, -1 when there is none.
 class Grid : public Control {
 public:

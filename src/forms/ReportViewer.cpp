@@ -15,8 +15,35 @@ void ReportViewer::clear() {
     touchContent();
 }
 
+template <typename Ask>
+auto ReportViewer::ofReport(const Ask& ask) {
+    // The report outlives what it was asked, though the viewer lets go of it.
+    const std::shared_ptr<PageSource> report = m_report;
+    try {
+        return ask(*report);
+    } catch (...) {
+        clear();
+        throw;
+    }
+}
+
+bool ReportViewer::has(int number) {
+    return m_report && number >= 0 && ofReport([&](PageSource& report) { return report.has(number); });
+}
+
+Page ReportViewer::page(int number) {
+    return ofReport([&](PageSource& report) { return report.page(number); });
+}
+
+int ReportViewer::finish() {
+    return ofReport([](PageSource& report) {
+        report.finish();
+        return report.pagesMade();
+    });
+}
+
 void ReportViewer::readMore(int rows) {
-    m_report->layOut(rows);
+    ofReport([&](PageSource& report) { report.layOut(rows); });
     touch();
 }
 

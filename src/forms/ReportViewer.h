@@ -18,12 +18,21 @@ public:
     void clear();                                         ///< shows nothing
     PageSource* report() const { return m_report.get(); } ///< null: nothing is shown
 
+    // What the view asks of the report. Where the engine fails, the viewer is empty and the fault raised.
+    bool has(int number); ///< false where nothing is shown
+    Page page(int number);
+    int finish(); ///< lays it out to its end; gives how many pages it has
+
     /// Laid out on while nothing else is to be done, so that the last page is known.
     bool hasMore() const override { return m_report && !m_report->isWhole(); }
     void readMore(int rows) override;
     QString valueText() const override; ///< "N pages"
 
 private:
+    /// Gives what `ask` gives, of a report that there is.
+    template <typename Ask>
+    auto ofReport(const Ask& ask);
+
     std::shared_ptr<PageSource> m_report;
 };
 

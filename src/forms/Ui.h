@@ -5,11 +5,13 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <memory>
 #include <optional>
 
 namespace orvane {
 
 class Form;
+class PageSource;
 class Recordset;
 
 enum class Icon { None, Information, Exclamation, Critical, Question };
@@ -40,10 +42,8 @@ public:
     virtual void processEvents() = 0;
 
     virtual void printForm(Form& form) = 0; ///< the form as it stands, on the default printer, or a dialog's choice
-    /// A list report: `file` is the layout's name, `title` the window title, `sums` what is said below the list beside
-    /// the totals of its amounts.
-    virtual void viewReport(const QString& file, const QString& title, const Recordset& rows,
-                            const QString& sums = {}) = 0;
+    /// A report in a window of its own: `file` is its name, `title` the window title.
+    virtual void viewReport(const QString& file, const QString& title, const std::shared_ptr<PageSource>& report) = 0;
     /// A screen's viewer has begun to show a report of so many rows.
     virtual void reportShown(const QString& /*file*/, const Recordset& /*rows*/) {}
     /// Where workbooks are saved: the user's documents.

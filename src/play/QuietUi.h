@@ -26,7 +26,7 @@ public:
     void setBusy(bool) override {}
     void processEvents() override {}
     void printForm(Form&) override {}
-    void viewReport(const QString&, const QString&, const Recordset&, const QString&) override {}
+    void viewReport(const QString&, const QString&, const std::shared_ptr<PageSource>&) override {}
     void exported(const QString&) override {}
     void playSound(const QString&) override {}
     QDateTime now() const override;

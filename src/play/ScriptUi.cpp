@@ -2,6 +2,7 @@
 
 #include "data/rows/Recordset.h"
 #include "forms/Form.h"
+#include "forms/PageSource.h"
 
 #include <QFileInfo>
 
@@ -91,9 +92,9 @@ void ScriptUi::printForm(Form& form) {
     m_shower.printForm(form);
 }
 
-void ScriptUi::viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) {
-    reportShown(file, rows);
-    m_shower.viewReport(file, title, rows, sums);
+void ScriptUi::viewReport(const QString& file, const QString& title, const std::shared_ptr<PageSource>& report) {
+    reportShown(file, report->rows());
+    m_shower.viewReport(file, title, report);
 }
 
 void ScriptUi::reportShown(const QString& file, const Recordset& rows) {

@@ -45,7 +45,7 @@ public:
     void setBusy(bool busy) override;
     void processEvents() override;
     void printForm(Form& form) override;
-    void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) override;
+    void viewReport(const QString& file, const QString& title, const std::shared_ptr<PageSource>& report) override;
     void reportShown(const QString& file, const Recordset& rows) override;
     QString exportFolder() const override { return m_exportFolder; }
     void exported(const QString& file) override;

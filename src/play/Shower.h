@@ -17,8 +17,8 @@ public:
     virtual void setBusy(bool) {}
     virtual void processEvents() {}
     virtual void printForm(Form&) {} ///< writes the document where scripted prints go
-    virtual void viewReport(const QString& /*file*/, const QString& /*title*/, const Recordset& /*rows*/,
-                            const QString& /*sums*/) {}
+    virtual void viewReport(const QString& /*file*/, const QString& /*title*/,
+                            const std::shared_ptr<PageSource>& /*report*/) {}
 };
 
 } // namespace orvane

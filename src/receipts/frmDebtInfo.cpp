@@ -162,8 +162,9 @@ void frmDebtInfo::cmdDebtOnly_Click() {
 }
 
 void frmDebtInfo::showSummary(const Sql& sql) {
-    Connection connection = program.openBilling();
-    ui().viewReport("rptDebtInfo.rpt", "Patients' Debt Information", Recordset(connection, sql));
+    session.sPrintRptMode = "DEBT";
+    session.sPrintRptSQL = sql;
+    program.open("frmPrintRpt");
 }
 
 void frmDebtInfo::cmdExport_Click() {

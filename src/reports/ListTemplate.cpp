@@ -1,31 +1,34 @@
 #include "reports/ListTemplate.h"
 
-#include "reports/ReportData.h"
+#include "forms/Grid.h"
 
 #include <algorithm>
 
 namespace orvane {
 
-const QString listTitle = "Title";
+const QString listTitle = "Title", listSums = "Sums";
 
 namespace {
 
 // Millimetres, but for the letter sizes.
-constexpr double titleHeight = 9, headHeight = 6, rowHeight = 5, footHeight = 7, gap = 2;
+constexpr double hospitalHeight = 7, titleHeight = 9, headHeight = 6, rowHeight = 5, footHeight = 7, gap = 2;
+constexpr double sumsHeight = 9;     ///< of two lines
 constexpr double letterWidth = 1.75; ///< of 8 points, rounded up
-constexpr double titlePoints = 13, textPoints = 8;
-constexpr int sampledRows = 200, widestText = 45; ///< characters
+constexpr double hospitalPoints = 10, titlePoints = 13, textPoints = 8;
+constexpr int sampledRows = 200;
+constexpr qsizetype widestText = 45, widestTotal = 13; ///< characters
+constexpr double mostStretch = 1.5;                    ///< of the columns of a narrow list
 const QString amountFormat = "#,##0.00";
 
 struct Column {
     QString name, format;
     double x = 0, width = 0;
-    bool isNumber = false;
+    bool isNumber = false, isSummed = false;
 };
 
 /// What the first rows show of a column: amounts are numbers that may have a fraction.
 Column sampled(Recordset& rows, const QString& name, int index) {
-    Column column{name, {}, 0, 0, true};
+    Column column{name, {}, 0, 0, true, false};
     qsizetype widest = name.size() + 1;
     bool any = false, amount = true;
     for (int row = 0; row < sampledRows && rows.has(row); ++row) {
@@ -41,6 +44,9 @@ Column sampled(Recordset& rows, const QString& name, int index) {
     }
     column.isNumber &= any;
     column.format = column.isNumber && amount ? amountFormat : QString();
+    column.isSummed = !column.format.isEmpty() && addsUp(name);
+    if (column.isSummed)
+        widest = std::max(widest, widestTotal);
     column.width = double(std::clamp<qsizetype>(widest, 3, widestText)) * letterWidth + gap;
     return column;
 }
@@ -75,7 +81,7 @@ void addRule(ReportBand& band, double width, double y, double thickness) {
     band.elements << rule;
 }
 
-/// The columns side by side; a list wider than turned paper gives every column its share.
+/// The columns side by side over the paper; a list wider than turned paper gives every column its share.
 QVector<Column> placedColumns(const Recordset& shown, ReportTemplate& layout) {
     Recordset rows = shown.detached();
     const QStringList names = rows.columns();
@@ -91,48 +97,63 @@ QVector<Column> placedColumns(const Recordset& shown, ReportTemplate& layout) {
     double x = 0;
     for (Column& column : columns) {
         column.x = x;
-        column.width *= std::min(1.0, room / total);
+        column.width *= std::min(mostStretch, room / total);
         x += column.width;
     }
     return columns;
 }
 
-void addTotals(ReportTemplate& layout, const QVector<Column>& columns, const QStringList& summed, double room) {
+void addTotals(ReportTemplate& layout, const QVector<Column>& columns, double room, bool hasSums) {
     ReportBand& foot = layout.reportFoot;
     for (const Column& column : columns)
-        if (summed.contains(column.name, Qt::CaseInsensitive) && column.isNumber)
+        if (column.isSummed)
             foot.elements << valueOf(ReportElement::Sum, column, 2, true);
-    if (foot.elements.isEmpty())
+    const bool totals = !foot.elements.isEmpty();
+    if (!totals && !hasSums)
         return;
-    foot.line = 1;
-    foot.height = rowHeight + 3;
-    addRule(foot, room, 1, 0.3);
-    if (!columns.first().isNumber)
+    if (totals && !columns.first().isNumber)
         foot.elements << words("Total", 0, 2, columns.first().width - gap, PageAlign::Left, true);
+    foot.line = 1;
+    foot.height = 3 + (totals ? rowHeight : 0);
+    addRule(foot, room, 1, 0.3);
+    if (!hasSums)
+        return;
+    ReportElement said = words({}, 0, foot.height, room, PageAlign::Left, false);
+    said.name = listSums;
+    said.height = sumsHeight;
+    foot.elements << said;
+    foot.height += sumsHeight;
 }
 
-} // namespace
-
-ReportTemplate listTemplate(const QString& file, const QString& title, const Recordset& rows,
-                            const QStringList& summed) {
-    ReportTemplate layout;
-    layout.file = file;
-    layout.title = title;
-    const QVector<Column> columns = placedColumns(rows, layout);
-    const double room = layout.width() - 2 * layout.margin;
+void addHeads(ReportTemplate& layout, const QVector<Column>& columns, double room, bool hasHospital) {
+    if (hasHospital) {
+        layout.reportHead = {1, hospitalHeight, {}, {words("{Hospital}", 0, 0, room, PageAlign::Left, true)}};
+        layout.reportHead.elements.first().points = hospitalPoints;
+    }
     // As a text object: a title may name a patient, whose name is no text to be filled in.
     ReportElement heading = words({}, 0, 0, room, PageAlign::Left, true);
     heading.name = listTitle;
     heading.points = titlePoints;
     layout.pageHead = {1, titleHeight + headHeight, {}, {heading}};
-    layout.detail = {1, rowHeight, {}, {}};
-    for (const Column& column : columns) {
+    for (const Column& column : columns)
         layout.pageHead.elements << words(column.name, column.x, titleHeight, column.width - gap,
                                           column.isNumber ? PageAlign::Right : PageAlign::Left, true);
-        layout.detail.elements << valueOf(ReportElement::Field, column, 0, false);
-    }
     addRule(layout.pageHead, room, titleHeight + headHeight - 1, 0.3);
-    addTotals(layout, columns, summed, room);
+}
+
+} // namespace
+
+ReportTemplate listTemplate(const ReportInput& input) {
+    ReportTemplate layout;
+    layout.file = input.file;
+    layout.title = input.title;
+    const QVector<Column> columns = placedColumns(input.rows, layout);
+    const double room = layout.width() - 2 * layout.margin;
+    addHeads(layout, columns, room, !input.values.value("Hospital").isEmpty());
+    layout.detail = {1, rowHeight, {}, {}};
+    for (const Column& column : columns)
+        layout.detail.elements << valueOf(ReportElement::Field, column, 0, false);
+    addTotals(layout, columns, room, input.textObjects.contains(listSums));
     layout.pageFoot = {
         1, footHeight, {}, {words("Page {page} of {pages}", 0, footHeight - 4, room, PageAlign::Right, false)}};
     return layout;

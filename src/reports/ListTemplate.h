@@ -1,17 +1,16 @@
 #pragma once
 
-#include "data/rows/Recordset.h"
+#include "reports/ReportData.h"
 #include "reports/Template.h"
 
 namespace orvane {
 
-/// The text object of a plain list that bears its title.
-extern const QString listTitle;
+/// The text objects of a plain list: its title, and what is said below its totals.
+extern const QString listTitle, listSums;
 
 /// The layout of a plain list: the title and heads on every page, a line for each row, columns as wide as their first
 /// rows ask, numbers right aligned. It is turned when it is too wide, and its letters are shown smaller when it is
-/// still. `summed`: the columns with a total at the end; those that there are not are passed over.
-ReportTemplate listTemplate(const QString& file, const QString& title, const Recordset& rows,
-                            const QStringList& summed);
+/// still. Amounts have their totals at the end; the hospital's name stands at the head where it is given as {Hospital}.
+ReportTemplate listTemplate(const ReportInput& input);
 
 } // namespace orvane

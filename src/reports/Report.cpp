@@ -26,16 +26,12 @@ std::shared_ptr<PageSource> openReport(const ReportInput& input) {
     return laidOut(readTemplateFile(QDir(input.folder).filePath(file)), input);
 }
 
-std::shared_ptr<PageSource> openDataReport(const QString& name, const QString& title, const Recordset& rows) {
-    /// The totals of the plain lists.
-    static const QHash<QString, QStringList> summed = {
-        {"rptCompanyBill", {"Bills", "AmountPaid", "Balance"}},
-        {"rptBillingIncome", {"Income"}},
-        {"rptCancelledReceipt", {"AmountPaid"}},
-        {"rptPatAccounts", {"AmountBilled", "AmountPaid", "AmountDue"}},
-    };
-    return laidOut(listTemplate(name, title, rows, summed.value(name)),
-                   {{}, name, rows, {{listTitle, title}}, {}, title});
+std::shared_ptr<PageSource> openDataReport(const ReportInput& input, const QString& sums) {
+    ReportInput list = input;
+    list.textObjects = {{listTitle, input.title}};
+    if (!sums.isEmpty())
+        list.textObjects.insert(listSums, sums);
+    return std::make_shared<BandReport>(listTemplate(list), list);
 }
 
 } // namespace orvane

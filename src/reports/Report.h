@@ -11,7 +11,8 @@ namespace orvane {
 /// where.
 std::shared_ptr<PageSource> openReport(const ReportInput& input);
 
-/// A report whose layout the program bears itself: its own where it has one, else a plain list.
-std::shared_ptr<PageSource> openDataReport(const QString& name, const QString& title, const Recordset& rows);
+/// A report whose layout the program bears itself, a plain list under the input's title; its file names no file.
+/// `sums`: what is said below the totals of its amounts.
+std::shared_ptr<PageSource> openDataReport(const ReportInput& input, const QString& sums = {});
 
 } // namespace orvane

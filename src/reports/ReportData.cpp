@@ -195,18 +195,25 @@ void ReportData::sort(const ReportTemplate& layout) {
         keys.append({column(key.column), key.descending});
     for (const ReportGroup& group : layout.groups)
         keys.append({column(group.column), false});
+    QVector<QVariant> values; // of the keys, row after row: a sort asks for each of them many times
+    for (int row = 0; m_rows.has(row); ++row) {
+        m_rows.moveTo(row);
+        for (const auto& [key, descending] : keys)
+            values.append(m_rows.value(key));
+    }
+    const auto stands = [&](int one, int other) {
+        for (qsizetype key = 0; key < keys.size(); ++key)
+            if (const int difference =
+                    compared(values.at(one * keys.size() + key), values.at(other * keys.size() + key)))
+                return keys.at(key).second ? difference > 0 : difference < 0;
+        return false;
+    };
     QVector<int> order(m_rows.count());
     std::iota(order.begin(), order.end(), 0);
-    const auto at = [this](int row, int key) {
-        m_rows.moveTo(row);
-        return m_rows.value(key);
-    };
-    std::stable_sort(order.begin(), order.end(), [&](int one, int other) {
-        for (const auto& [key, descending] : keys)
-            if (const int difference = compared(at(one, key), at(other, key)))
-                return descending ? difference > 0 : difference < 0;
-        return false;
-    });
+    // Most statements give the order already.
+    if (std::is_sorted(order.cbegin(), order.cend(), stands))
+        return;
+    std::stable_sort(order.begin(), order.end(), stands);
     m_order = order;
 }
 

@@ -10,9 +10,9 @@ namespace orvane {
 /// What a screen hands to a report: the rows, the texts of named text objects, and values that any template may ask for
 /// as {Name}. Names compare without regard to case.
 struct ReportInput {
-    QString folder; ///< the program's folder: of the template and of pictures
-    QString file;   ///< the template's name; a blank at its end counts for nothing
-    Recordset rows;
+    QString folder = {}; ///< the program's folder: of the template and of pictures
+    QString file = {};   ///< the template's name; a blank at its end counts for nothing
+    Recordset rows = {};
     QHash<QString, QString> textObjects = {};
     QHash<QString, QString> values = {};
     QString title = {}; ///< in place of the template's; empty: that one

@@ -1,9 +1,11 @@
 #include "reports/Workbook.h"
 
 #include "data/DataError.h"
+#include "reports/ReportData.h"
 
 #include <QRegularExpression>
 #include <algorithm>
+#include <memory>
 #include <xlsxwriter.h>
 
 namespace orvane {
@@ -90,7 +92,29 @@ Sheet sheetOf(const Grid& grid) {
     return sheet;
 }
 
+Sheet sheetOf(const PageSource& report) {
+    const auto rows = std::make_shared<Recordset>(report.rows().detached());
+    Sheet sheet;
+    const QStringList columns = rows->columns();
+    for (int column = 0; column < columns.size(); ++column)
+        sheet.columns.append({column, columns.at(column), report.format(columns.at(column))});
+    sheet.rows = rows->count();
+    sheet.value = [rows](int row, int column) {
+        rows->moveTo(row);
+        return rows->value(column);
+    };
+    sheet.shown = [rows, columns = sheet.columns](int row, int column) {
+        rows->moveTo(row);
+        return shownValue(rows->value(column), columns.at(column).format);
+    };
+    return sheet;
+}
+
 } // namespace
+
+void exportWorkbook(const PageSource& report, const QString& file) {
+    exportWorkbook(sheetOf(report), file);
+}
 
 void exportWorkbook(const Grid& grid, const QString& file) {
     exportWorkbook(sheetOf(grid), file);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/Grid.h"
+#include "forms/PageSource.h"
 
 #include <functional>
 
@@ -23,6 +24,8 @@ struct Sheet {
 /// long for a cell is cut at the file format's limit. Raises DataError when the file cannot be written; nothing is left
 /// of it then.
 void exportWorkbook(const Grid& grid, const QString& file);
+/// The rows of a report, with the formats that it gives them; every column of theirs.
+void exportWorkbook(const PageSource& report, const QString& file);
 void exportWorkbook(const Sheet& sheet, const QString& file);
 
 /// A file for an export in a folder (made when missing): title and time of day, without characters that a file name

@@ -30,6 +30,8 @@
 #include "clients/frmRetainership.h"
 #include "clients/frmRptHeading.h"
 #include "clients/frmVerifyBillsInSummary.h"
+#include "printouts/frmPrintRpt.h"
+#include "printouts/frmRevPrintRpt.h"
 #include "receipts/frmCashReceipt.h"
 #include "receipts/frmCashReceiptLab.h"
 #include "receipts/frmDebtInfo.h"
@@ -109,6 +111,9 @@ constexpr struct {
     {"frmRetainership", make<frmRetainership>},
     {"frmRptHeading", make<frmRptHeading>},
     {"frmVerifyBillsInSummary", make<frmVerifyBillsInSummary>},
+
+    {"frmPrintRpt", make<frmPrintRpt>},
+    {"frmRevPrintRpt", make<frmRevPrintRpt>},
 
     {"frmDrugPrice", make<frmDrugPrice>},
 };

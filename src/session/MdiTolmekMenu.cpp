@@ -3,6 +3,7 @@
 #include "books/Payment.h"
 #include "data/words/Money.h"
 #include "session/Accounts.h"
+#include "session/ListReport.h"
 #include "session/StartFiles.h"
 
 namespace orvane {
@@ -214,7 +215,7 @@ void MdiTolmek::viewToday(const Sql& sql, const QString& emptyMessage, const QSt
     if (rows.eof())
         program.box(emptyMessage);
     else
-        program.ui().viewReport(report, title, rows, sums);
+        viewList(program, report, title, rows, sums);
 }
 
 void MdiTolmek::mnuAcctEnable_Click() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/dialect/Sql.h"
+
 #include <QDate>
 #include <QDateTime>
 #include <QString>
@@ -56,7 +58,9 @@ struct Session {
     QString sAdjustItem;
     QString sAuditCoy;
     QString sDebtMode, sRptPanelMode, sRptKind;
-    QString sRptPanelLabel; ///< what the label of rptPanelSummary asks for
+    QString sPrintRptMode, sRevRptMode; ///< which report frmPrintRpt and frmRevPrintRpt show
+    Sql sPrintRptSQL, sRevRptSQL;       ///< and its rows
+    QString sRptPanelLabel;             ///< what the label of rptPanelSummary asks for
     QString sRctLine1, sRctLine2, sRctLine3, sRctLine4, sRctLine5;
     QString sBatchNo, sBatchMonth, sBatchYear; ///< of the monthly batch
 };

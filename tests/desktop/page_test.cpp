@@ -1,10 +1,8 @@
 // Documents: the same on the screen, in a PDF and on paper.
 #include "desktop/PagePainter.h"
-#include "desktop/PagePreview.h"
-#include "desktop/ReportPages.h"
+#include "desktop/PageStack.h"
 #include "desktop/ViewTest.h"
 #include "desktop/Windows.h"
-#include "support/TestHome.h"
 
 #include <QDir>
 #include <QFile>
@@ -92,44 +90,6 @@ TEST(PageTest, ThePdfHasThePageSizeAndItsWords) {
     EXPECT_FALSE(renderPdf(Document::of(*form.page()), folder.filePath("nowhere/page.pdf")));
 }
 
-TEST(PageTest, AListPrintsEachRowOnceUnderItsHeads) {
-    TestUi ui;
-    SampleForm form(ui);
-    TestHome home;
-    DataSource data(home.folder());
-    Connection billing = data.open(TestHome::billing());
-    QString text = "select 1 as SNo, 1234.5 as Amount, 'x' as Secret";
-    for (int i = 2; i <= 130; ++i)
-        text += QStringLiteral(" union all select %1, 1234.5, 'x'").arg(i);
-    Grid& grid = form.grdRows;
-    grid.hide({"Secret"});
-    grid.setFormat("Amount", "#,###.00");
-    grid.load(billing.run(text));
-    const ReportPages pages(grid, "Income for Today", "CASH 5.00");
-    ASSERT_EQ(pages.count(), 3);
-    QStringList numbers;
-    for (int number = 0; number < pages.count(); ++number) {
-        QStringList words;
-        for (const PageText& item : pages.page(number).texts) {
-            words << item.text;
-            EXPECT_LE(item.x + item.width, pages.page(number).widthMm - 11.9);
-            EXPECT_LE(item.y, pages.page(number).heightMm - 12);
-            if (item.text.toInt() > 0)
-                numbers << item.text;
-        }
-        for (const QString& expected : QStringList{"Income for Today", "SNo", "Amount",
-                                                   QStringLiteral("Page %1 of 3").arg(number + 1), "1,234.50"})
-            EXPECT_TRUE(words.contains(expected)) << qPrintable(expected);
-        EXPECT_FALSE(words.contains("x")) << "a hidden column";
-        EXPECT_EQ(words.contains("CASH 5.00"), number == 2) << "below the last row";
-    }
-    ASSERT_EQ(numbers.size(), 130);
-    EXPECT_EQ(numbers.first(), "1");
-    EXPECT_EQ(numbers.last(), "130");
-    grid.clear();
-    EXPECT_EQ(ReportPages(grid, "Empty").count(), 1);
-}
-
 TEST(PageTest, ADocumentShowsItsPageAndPrintsItAsItStands) {
     TestUi ui;
     DocumentForm form(ui, "frmDocument");
@@ -137,7 +97,7 @@ TEST(PageTest, ADocumentShowsItsPageAndPrintsItAsItStands) {
     FormWindow window(form, ViewSetting{});
     window.resize(700, 900);
     window.show();
-    auto* preview = window.findChild<PagePreview*>();
+    auto* preview = window.findChild<PageStack*>();
     ASSERT_TRUE(preview);
     EXPECT_TRUE(window.view()->widgetOf(form.cmdSave)) << "its buttons are there";
     EXPECT_FALSE(window.view()->widgetOf(form.txtName)) << "its page stands in for its fields";

@@ -20,7 +20,6 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMessageBox>
-#include <QPrintPreviewDialog>
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QThread>
@@ -407,11 +406,7 @@ TEST_F(WindowsTest, WithoutAPrinterAPdfIsOfferedWhereTheLastOneWent) {
     QFile(folder.filePath("receipts/old.pdf")).open(QIODevice::WriteOnly);
     QStringList said;
     const auto answer = [&](QDialog& dialog) {
-        if (qobject_cast<QPrintPreviewDialog*>(&dialog)) {
-            for (QAction* action : dialog.findChildren<QAction*>())
-                if (action->text() == "Print")
-                    action->trigger();
-        } else if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
+        if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
             said << box->text().section('\n', 0, 0);
             box->button(said.size() == 1 ? QMessageBox::Yes : QMessageBox::No)->click();
         } else if (said.size() == 1) {
@@ -423,12 +418,7 @@ TEST_F(WindowsTest, WithoutAPrinterAPdfIsOfferedWhereTheLastOneWent) {
         }
     };
     ui.show(receipt);
-    const QList<QPushButton*> buttons = front()->findChildren<QPushButton*>();
-    answering<QDialog>(answer, [&] {
-        for (QPushButton* button : buttons)
-            if (button->text().contains("Print"))
-                button->click();
-    });
+    answering<QDialog>(answer, [&] { ui.printForm(receipt); });
     EXPECT_EQ(said, (QStringList{"No printer is set up on this computer. Save the document as a PDF instead?",
                                  folder.filePath("receipts/12-3 ADE.pdf"), "old.pdf already exists."}));
 }

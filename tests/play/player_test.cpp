@@ -1,6 +1,7 @@
 // Whole scripts on sample forms: what is written, and where a run fails.
 #include "play/HeadlessDriver.h"
 #include "play/Player.h"
+#include "reports/Report.h"
 #include "support/SampleForm.h"
 #include "support/TestHome.h"
 
@@ -34,7 +35,9 @@ public:
                 Recordset(billing, Sql("select DestName as Name, ID, ID + 1 as Next from IDgen order by DestName")));
             grdRows.hide({"ID"});
         };
-        grdRows.onDblClick = [this] { Form::ui().viewReport(grdRows.text("Name"), "List", Recordset()); };
+        grdRows.onDblClick = [this] {
+            Form::ui().viewReport(grdRows.text("Name"), "List", openDataReport({.file = "List", .rows = {}}));
+        };
         lblTitle.onClick = [this] { Form::ui().printForm(*this); };
         lblTitle.onDblClick = [this] { Form::ui().exported("/tmp/x/list.xlsx"); };
     }

@@ -1,5 +1,7 @@
+#include "reports/StockTemplates.h"
 #include "support/ScreenTest.h"
 
+#include <QFile>
 #include <QProcess>
 
 namespace orvane {
@@ -128,6 +130,7 @@ TEST_P(DebtInfo, SummariesGiveWhatIsOwedAsPlus) {
     Connection connection = ws.billing();
     for (const auto& [pno, debt] : {std::pair("P/1", -100.0), {"P/2", 50.0}, {"P/3", 0.0}, {"P/4", -700.0}})
         makePatient(connection, {.pno = pno, .debt = debt});
+    renewStockTemplates(home.folder());
     open();
     click("cmdRpt");
     click("cmdDebtOnly");
@@ -137,6 +140,51 @@ TEST_P(DebtInfo, SummariesGiveWhatIsOwedAsPlus) {
     for (const auto& report : ui.reports)
         counts << report.rows;
     EXPECT_EQ(counts, (QList<int>{3, 2, 3}));
+    EXPECT_EQ(ws.value("frmPrintRpt.crViewer1"), "1 page");
+
+    // With a template that is no good the screen stays, and shows nothing; mended, it shows again.
+    const QString file = home.folder() + "/rptDebtInfo.rpt";
+    const struct {
+        QByteArray layout;
+        const char* said;
+    } faults[] = {
+        {{}, "The report template rptDebtInfo.rpt is not in the program's folder."},
+        {"\n", "rptDebtInfo.rpt:1: the template is empty: its first line is report \"Title\"."},
+        {QByteArray("\0\xff\n", 3), "The file rptDebtInfo.rpt is not a text file: see line 1."},
+        {"report \"R\"\ngroup Client\n", "rptDebtInfo.rpt:2: the data has no field Client."},
+    };
+    for (const auto& [layout, said] : faults) {
+        ASSERT_TRUE(QFile::remove(file));
+        QFile written(file);
+        ASSERT_TRUE(layout.isEmpty() || (written.open(QIODevice::WriteOnly) && written.write(layout) > 0));
+        written.close();
+        EXPECT_EQ(told("cmdRpt"), said);
+        EXPECT_EQ(ws.value("frmPrintRpt.crViewer1"), "");
+        QFile::remove(file);
+        renewStockTemplates(home.folder());
+        EXPECT_EQ(told("cmdRpt"), "");
+        EXPECT_EQ(ws.value("frmPrintRpt.crViewer1"), "1 page");
+    }
+    // Nobody owes anything: it says so.
+    ws.run("update hPatients set DebtBF = 0");
+    EXPECT_EQ(told("cmdDebtOnly"), "No Report for the specified Item");
+    EXPECT_TRUE(ws.program.loadedForm("frmPrintRpt"));
+}
+
+TEST_P(DebtInfo, EachKindOfRevenueHasItsTemplate) {
+    const QHash<QString, QString> files = {{"DETAIL", "rptRevenue2.rpt"},
+                                           {"CONS-DETAIL", "rptRevenueCons.rpt"},
+                                           {"CASH", "rptRevenueCash.rpt"},
+                                           {"SUMMARY", "rptRevenue.rpt"}};
+    ws.program.session.sRevRptSQL = Sql("select PNo from hPatients");
+    open("frmRevPrintRpt");
+    EXPECT_BOXES(ui, {"No Report for the specified Clients"});
+    layVisit();
+    for (auto file = files.cbegin(); file != files.cend(); ++file) {
+        ws.program.session.sRevRptMode = file.key();
+        ws.program.open("frmRevPrintRpt");
+        EXPECT_BOXES(ui, {QStringLiteral("The report template %1 is not in the program's folder.").arg(*file)});
+    }
 }
 
 /// The workbook as its reader sees it: one part of the file, or a failure.

@@ -156,13 +156,18 @@ TEST_F(ReportTest, APlainListNeedsNoTemplate) {
     QStringList selects;
     for (int i = 1; i <= 130; ++i)
         selects << QStringLiteral("select %1 as SNo, 10.5 as Income, 'a' as Fullname").arg(i);
-    const auto report = openDataReport("rptBillingIncome", "Income {of} today", rows(selects.join(" union all ")));
+    const auto report = openDataReport({.file = "rptBillingIncome",
+                                        .rows = rows(selects.join(" union all ")),
+                                        .values = {{"Hospital", "ST {LUKE}"}},
+                                        .title = "Income {of} today"},
+                                       "CASH {1}");
     report->finish();
     ASSERT_EQ(report->pagesMade(), 3);
     const QStringList first = words(report->page(0)), last = words(report->page(2));
-    EXPECT_EQ(first.mid(0, 3), QStringList({"Income {of} today", "SNo | Income | Fullname", "1 | 10.50 | a"}));
+    EXPECT_EQ(first.mid(0, 4),
+              QStringList({"ST {LUKE}", "Income {of} today", "SNo | Income | Fullname", "1 | 10.50 | a"}));
     EXPECT_EQ(first.last(), "Page 1 of 3");
-    EXPECT_EQ(last.at(last.size() - 2), "1,365.00") << "the total of the money";
+    EXPECT_EQ(last.mid(last.size() - 3, 2), QStringList({"1,365.00", "CASH {1}"})) << "the total of the money";
     EXPECT_EQ(report->format("income"), "#,##0.00");
 }
 
@@ -193,6 +198,10 @@ TEST_F(ReportTest, WhatIsWrongWithATemplateIsSaidInOneLine) {
         {begin + "band page head height 290", "rptTest.rpt:4: the bands are higher than a page."},
         {begin + "band detail height 5", "rptTest.rpt:4: this band stands in line 3 already."},
         {"report \"R\"\ncrosstab\nrow PNo width 30", "rptTest.rpt:2: a crosstab has a row, a column and a cell."},
+        {"report \"R\"\n" + QByteArray("group PNo\ngroup Head\ngroup Amount\n").repeated(3),
+         "rptTest.rpt:5: there is a group by PNo already."},
+        {"report \"R\"\ngroup PNo\ngroup Head\ngroup Amont\nband group foot Amont height 5",
+         "rptTest.rpt:4: the data has no field Amont."},
         {"\x01\x02 report", "The file rptTest.rpt is not a text file: see line 1."},
     };
     for (const auto& [layout, said] : faults)

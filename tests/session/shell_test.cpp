@@ -211,7 +211,8 @@ TEST_P(Shell, reportsOfTodayTakeTheirOwnDate) {
         reports << report.file + '|' + report.title + '|' + QString::number(report.rows);
     EXPECT_EQ(reports, QStringList({"rptCompanyBill|Unpaid Bills for Today|1", "rptBillingIncome|Income for Today|3",
                                     "rptCancelledReceipt|Cancelled Receipts|1"}));
-    EXPECT_EQ(ui.reports.at(1).sums, "By way of payment:   (none) 500.00     CASH -100.00     POS 300.00");
+    const QString sums = "By way of payment:   (none) 500.00     CASH -100.00     POS 300.00";
+    EXPECT_TRUE(ui.reports.at(1).end.contains(sums)) << ui.reports.at(1).end.toStdString();
 }
 
 TEST_P(Shell, printsTheActiveScreen) {

@@ -1,6 +1,6 @@
 #include "support/TestUi.h"
 
-#include "data/rows/Recordset.h"
+#include "forms/PageSource.h"
 
 #include <gtest/gtest.h>
 
@@ -65,12 +65,16 @@ void TestUi::showModal(Form& form) {
     }
 }
 
-void TestUi::viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) {
-    reports.append({file, title, rows.count(), sums});
+void TestUi::viewReport(const QString& file, const QString& title, const std::shared_ptr<PageSource>& report) {
+    report->finish();
+    QStringList end;
+    for (const PageText& text : report->page(report->pagesMade() - 1).texts)
+        end << text.text;
+    reports.append({file, title, report->rows().count(), end.join(" | ")});
 }
 
 void TestUi::reportShown(const QString& file, const Recordset& rows) {
-    viewReport(file, {}, rows, {});
+    reports.append({file, {}, rows.count(), {}});
 }
 
 } // namespace orvane

@@ -24,7 +24,7 @@ public:
         QString file;
         QString title;
         int rows = 0;
-        QString sums;
+        QString end; ///< what stands on its last page
     };
 
     ~TestUi() override;
@@ -67,7 +67,7 @@ public:
     void setBusy(bool) override {}
     void processEvents() override {}
     void printForm(Form& form) override { printed << form.name(); }
-    void viewReport(const QString& file, const QString& title, const Recordset& rows, const QString& sums) override;
+    void viewReport(const QString& file, const QString& title, const std::shared_ptr<PageSource>& report) override;
     void reportShown(const QString& file, const Recordset& rows) override;
     QString exportFolder() const override { return m_documents.path(); }
     void exported(const QString& file) override { exports << file; }

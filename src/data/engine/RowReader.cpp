@@ -29,7 +29,7 @@ QStringList RowReader::heads() const {
     return m_facts->heads(m_columns.names);
 }
 
-void RowReader::read(std::vector<QVariant>& values, qsizetype rows) {
+void RowReader::read(Values& values, qsizetype rows) {
     if (m_fault)
         std::rethrow_exception(m_fault);
     try {
@@ -42,7 +42,7 @@ void RowReader::read(std::vector<QVariant>& values, qsizetype rows) {
     }
 }
 
-void RowReader::readPage(std::vector<QVariant>& values, qsizetype rows) {
+void RowReader::readPage(Values& values, qsizetype rows) {
     if (m_connection->engine == Engine::Postgresql)
         m_query = m_connection->fetch(rows);
     QSqlError fault;

@@ -21,10 +21,10 @@ public:
     bool atEnd() const { return !m_query; }
     /// Appends the values of up to so many rows. Raises DataError, and is at its end, when the query fails half-way.
     /// Asked again after that, it raises the same fault: what was read is never taken for all.
-    void read(std::vector<QVariant>& values, qsizetype rows);
+    void read(Values& values, qsizetype rows);
 
 private:
-    void readPage(std::vector<QVariant>& values, qsizetype rows);
+    void readPage(Values& values, qsizetype rows);
     void end() noexcept;
 
     std::shared_ptr<PhysicalConnection> m_connection; ///< none at the end

@@ -77,6 +77,20 @@ QVariant fromServer(const QVariant& value) {
     }
 }
 
+/// A text that stands in the row above too, as names do in a long list, is kept once.
+void append(Values& values, int columns, QVariant value) {
+    const auto textOf = [](const QVariant& of) {
+        return of.typeId() == QMetaType::QString ? static_cast<const QString*>(of.constData()) : nullptr;
+    };
+    const auto width = static_cast<std::size_t>(columns);
+    if (values.size() >= width && textOf(value)) {
+        const QString* above = textOf(values[values.size() - width]);
+        if (above && *above == *textOf(value))
+            value = values[values.size() - width];
+    }
+    values.push_back(std::move(value));
+}
+
 sqlite3_stmt* handleOf(const QSqlQuery& query) {
     const QVariant handle = query.result()->handle();
     return *static_cast<sqlite3_stmt* const*>(handle.constData());
@@ -99,24 +113,22 @@ bool stepSqlite(QSqlQuery& query, sqlite3_stmt* statement, QSqlError& fault) {
     return result == SQLITE_ROW;
 }
 
-qsizetype readSqlite(QSqlQuery& query, const Columns& columns, std::vector<QVariant>& values, qsizetype rows,
-                     QSqlError& fault) {
+qsizetype readSqlite(QSqlQuery& query, const Columns& columns, Values& values, qsizetype rows, QSqlError& fault) {
     sqlite3_stmt* statement = handleOf(query);
     const int count = static_cast<int>(columns.names.size());
     qsizetype taken = 0;
     for (; taken < rows && stepSqlite(query, statement, fault); ++taken)
         for (int i = 0; i < count; ++i)
-            values.push_back(fromSqlite(statement, i, columns.declared[static_cast<std::size_t>(i)]));
+            append(values, count, fromSqlite(statement, i, columns.declared[static_cast<std::size_t>(i)]));
     return taken;
 }
 
-qsizetype readServer(QSqlQuery& query, const Columns& columns, std::vector<QVariant>& values, qsizetype rows,
-                     QSqlError& fault) {
+qsizetype readServer(QSqlQuery& query, const Columns& columns, Values& values, qsizetype rows, QSqlError& fault) {
     const int count = static_cast<int>(columns.names.size());
     qsizetype taken = 0;
     for (; taken < rows && query.next(); ++taken)
         for (int i = 0; i < count; ++i)
-            values.push_back(fromServer(query.value(i)));
+            append(values, count, fromServer(query.value(i)));
     fault = query.lastError();
     return taken;
 }
@@ -126,8 +138,8 @@ constexpr qsizetype rowsAtOnce = 200; ///< to get at one that is not here yet
 
 } // namespace
 
-Rows::Rows(const QStringList& names, std::vector<QVariant> values)
-    : columns(names), m_values(std::make_shared<std::vector<QVariant>>(std::move(values))) {}
+Rows::Rows(const QStringList& names, Values values)
+    : columns(names), m_values(std::make_shared<Values>(std::move(values))) {}
 
 Rows::Rows(const QStringList& names, std::shared_ptr<RowReader> reader) : columns(names), m_rest(std::move(reader)) {}
 
@@ -159,7 +171,7 @@ qsizetype Rows::count() const {
 void Rows::own() {
     if (m_values.use_count() > 1) {
         count();
-        m_values = std::make_shared<std::vector<QVariant>>(*m_values);
+        m_values = std::make_shared<Values>(*m_values);
     }
 }
 
@@ -197,8 +209,7 @@ Columns columnsOf(const QSqlQuery& query, Engine engine) {
     return columns;
 }
 
-qsizetype readValues(QSqlQuery& query, const Columns& columns, std::vector<QVariant>& values, qsizetype rows,
-                     QSqlError& fault) {
+qsizetype readValues(QSqlQuery& query, const Columns& columns, Values& values, qsizetype rows, QSqlError& fault) {
     if (columns.names.isEmpty()) {
         fault = query.lastError();
         return 0;
@@ -208,7 +219,7 @@ qsizetype readValues(QSqlQuery& query, const Columns& columns, std::vector<QVari
 }
 
 Rows readRows(QSqlQuery& query, const Columns& columns, QSqlError& fault) {
-    std::vector<QVariant> values;
+    Values values;
     readValues(query, columns, values, mostRows, fault);
     return {columns.names, std::move(values)};
 }

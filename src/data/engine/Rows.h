@@ -6,6 +6,7 @@
 #include <QSqlQuery>
 #include <QStringList>
 #include <QVariant>
+#include <deque>
 #include <memory>
 #include <vector>
 
@@ -13,12 +14,15 @@ namespace orvane {
 
 class RowReader;
 
+/// In pieces: a long list that grows is never copied whole.
+using Values = std::deque<QVariant>;
+
 /// What a statement gave: values in rows, typed the same on every engine. Copies share the rows until one of them
 /// writes; a row that one of them has read on to is there for all.
 class Rows {
 public:
     Rows() = default;
-    Rows(const QStringList& names, std::vector<QVariant> values);
+    Rows(const QStringList& names, Values values);
     /// The rows that the reader gives; it is asked for them as they are needed.
     Rows(const QStringList& names, std::shared_ptr<RowReader> reader);
 
@@ -42,8 +46,8 @@ public:
 private:
     void own();
 
-    std::shared_ptr<std::vector<QVariant>> m_values = std::make_shared<std::vector<QVariant>>(); ///< row after row
-    mutable std::shared_ptr<RowReader> m_rest; ///< what is not read yet; null: nothing
+    std::shared_ptr<Values> m_values = std::make_shared<Values>(); ///< row after row
+    mutable std::shared_ptr<RowReader> m_rest;                     ///< what is not read yet; null: nothing
 };
 
 /// What a column of a SQLite result was declared as; an expression has no declaration.
@@ -60,8 +64,7 @@ Columns columnsOf(const QSqlQuery& query, Engine engine);
 /// Appends the values of up to so many rows of a query and tells how many there were; fewer, where it has come to its
 /// end or to a fault, which `fault` then is. Dates become QDate and QDateTime, flags and whole numbers qlonglong, all
 /// other numbers double.
-qsizetype readValues(QSqlQuery& query, const Columns& columns, std::vector<QVariant>& values, qsizetype rows,
-                     QSqlError& fault);
+qsizetype readValues(QSqlQuery& query, const Columns& columns, Values& values, qsizetype rows, QSqlError& fault);
 
 /// Reads a query to its end or to a fault, which `fault` then is.
 Rows readRows(QSqlQuery& query, const Columns& columns, QSqlError& fault);
