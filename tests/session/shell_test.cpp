@@ -152,9 +152,10 @@ TEST_P(Shell, everyEntryActsOrIsGreyButTheEmptyOnes) {
               "mnuApprvCode>frmApprvCode mnuCoyInfo>frmRetainership mnuUPC>frmCoyUpdate mnuOffAttd>frmRecordsOffline "
               "mnuVerify>frmBillingVerify mnuViewColl>frmBillProcess "
               "mnuMIGFC>frmBillProcessing mnuLastBatch>frmBillReverseProcessing mnuAdmDepo>frmReceiptDeposit "
-              "mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount "
+              "mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount mnuPrintB>FrmRptBillsByPat "
               "mnuRPtES>rptPanelSummary mnuOffline>frmReceiptManual mnuPSITC>frmExistBill mnuPCB>rptPanelSummary "
               "mnuCBFSO>frmBillingVerify mnuEditFind>frmFind mnuVSII>frmPatientInfo mnuPDI>frmDebtInfo "
+              "mnuPIBP>FrmRptBillsByPat mnuPrintBMonthly>FrmProcessedBill "
               "mnuRemnd>frmReminder mnuUsers>frmUsers mnuUserRoles>frmUserRole mnuChangePWD>frmDialog "
               "mnuCreateRoles>frmRole mnuDSP>frmDrugPrice");
     ws.open("frmSupplers");
