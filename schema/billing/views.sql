@@ -554,9 +554,138 @@ go
 create view vwInvoiceDetailsCoy2Batch as
 select i.SNO, i.BatchNo, i.BillMonth, i.BillYear, i.CoyCode, r.retainName, r.retainName as Company,
     i.Amountbilled as AmountBilled, i.invNo as InvNo, case when i.isPost = 1 then 'YES' else 'NO' end as Posted,
-    r.AcctID, i.isPost
+    r.AcctID, i.isPost, i.invDate, i.AmountInvoiced,
+    (select count(*) from Billing b where b.InvNo = i.invNo) as Bills
 from BillsForClients i
 left join hRetainership r on r.retainCode = i.CoyCode
+go
+
+-- Invoices and claims on paper
+-- ----------------------------
+-- A line of a bill is a row with a key, SNO, so that two equal lines stay two; a bill's items stand under its heading,
+-- else under their revenue type. The category is the visit's. Of several approval codes the first counts.
+
+-- The clients that have an invoice in a batch. One who is not in the list of clients any more is shown by his code.
+create view vwInvBatchNo as
+select i.BatchNo as batchno, i.CoyCode as coycode, isnull(r.retainName, i.CoyCode) as retainName
+from BillsForClients i
+left join hRetainership r on r.retainID = (select min(c.retainID) from hRetainership c where c.retainCode = i.CoyCode)
+go
+-- The bills of an invoice.
+create view vwInvoiceDetailsCoy2 as
+select i.BatchNo as batchNo, i.CoyCode, i.invNo as InvNo, isnull(r.retainName, i.CoyCode) as Company, h.PNo,
+    p.fullname, h.recDate as Date, b.billNo as billno, b.Amountbilled, b.diagnosis as Diagnosis
+from BillsForClients i
+inner join Billing b on b.InvNo = i.invNo
+inner join hRecords h on h.consultID = b.billNo
+left join hPatients p on p.PNo = h.PNo
+left join hRetainership r on r.retainID = (select min(c.retainID) from hRetainership c where c.retainCode = i.CoyCode)
+go
+-- The lines of an invoice under their headings, for the table of patients and headings.
+create view vwInvoiceDetailsCoyCrosstabRpt as
+select i.BatchNo as batchNo, i.CoyCode, i.invNo as InvNo, isnull(r.retainName, i.CoyCode) as Company, h.PNo,
+    p.fullname as Fullname, h.recDate as AttdDate, b.billNo, d.detID as SNO,
+    case when isnull(d.BillHead, '') <> '' then d.BillHead when isnull(d.revType, '') <> '' then d.revType
+        else 'OTHERS' end as BillHead,
+    d.SubTotal
+from BillsForClients i
+inner join Billing b on b.InvNo = i.invNo
+inner join hRecords h on h.consultID = b.billNo
+inner join BillingDetails d on d.billNo = b.billNo
+left join hPatients p on p.PNo = h.PNo
+left join hRetainership r on r.retainID = (select min(c.retainID) from hRetainership c where c.retainCode = i.CoyCode)
+go
+-- The lines of an invoice with all that a scheme asks of each patient.
+create view vwBillingForClaims as
+select i.BatchNo as batchNo, i.CoyCode, i.invNo as InvNo, isnull(r.retainName, i.CoyCode) as Coyname,
+    isnull(r.retainName, i.CoyCode) as SentTo, r.Address as SentToAddress, b.billNo,
+    d.detID as SNO, h.PNo, p.fullname as Fullname,
+    p.sex, year(h.recDate) - year(p.DOB) as Age, p.empNo, h.clientCat as pCatid, h.referal, h.recDate as AttdDate,
+    h.BillDate, b.diagnosis as Diagnosis,
+    (select a.ApprvCode from hApprvCode a
+        where a.SNO = (select min(f.SNO) from hApprvCode f where f.consultID = h.consultID)) as ApprvCode,
+    d.dtDate as Date, d.drgName as Service,
+    case when isnull(d.BillHead, '') <> '' then d.BillHead when isnull(d.revType, '') <> '' then d.revType
+        else 'OTHERS' end as BillHead,
+    d.Qty, d.Price, d.SubTotal, 'Total' as TotalLabel
+from BillsForClients i
+inner join Billing b on b.InvNo = i.invNo
+inner join hRecords h on h.consultID = b.billNo
+inner join BillingDetails d on d.billNo = b.billNo
+left join hPatients p on p.PNo = h.PNo
+left join hRetainership r on r.retainID = (select min(c.retainID) from hRetainership c where c.retainCode = i.CoyCode)
+go
+-- The visits that have something to show on an invoice: a line, or an item that a fixed fee covers.
+create view vwbillingForAttd as
+select h.consultID as billNo, h.PNo, p.fullname as fullName, r.retainName as Company, h.recDate as Date,
+    h.clientCat as clientcatID
+from hRecords h
+left join hPatients p on p.PNo = h.PNo
+left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
+where exists (select d.detID from BillingDetails d where d.billNo = h.consultID)
+    or exists (select a.SNo from BillAccum a where a.consultID = h.consultID and a.Capitated = 'YES')
+go
+-- The lines of a bill, processed or not, with what vwBillingForClaims has of them. A private patient pays himself.
+create view vwBillingForClaimsByPat as
+select convert(varchar(7), h.BillDate, 111) as batchNo, r.retainCode as CoyCode,
+    case when b.isProcess = 1 then b.InvNo else '' end as InvNo, r.retainName as Coyname,
+    case when h.clientCat = 'PRIVATE' then p.fullname else r.retainName end as SentTo,
+    case when h.clientCat = 'PRIVATE' then p.homeAddress else r.Address end as SentToAddress, h.consultID as billNo,
+    d.detID as SNO, h.PNo, p.fullname as Fullname,
+    p.sex, year(h.recDate) - year(p.DOB) as Age, p.empNo, h.clientCat as pCatid, h.referal, h.recDate as AttdDate,
+    h.BillDate, b.diagnosis as Diagnosis,
+    (select a.ApprvCode from hApprvCode a
+        where a.SNO = (select min(f.SNO) from hApprvCode f where f.consultID = h.consultID)) as ApprvCode,
+    d.dtDate as Date, d.drgName as Service,
+    case when isnull(d.BillHead, '') <> '' then d.BillHead when isnull(d.revType, '') <> '' then d.revType
+        else 'OTHERS' end as BillHead,
+    d.Qty, d.Price, d.SubTotal, 'Total' as TotalLabel
+from hRecords h
+inner join BillingDetails d on d.billNo = h.consultID
+left join Billing b on b.billNo = h.consultID
+left join hPatients p on p.PNo = h.PNo
+left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
+go
+-- The same lines for the invoice by headings.
+create view vwBillingForCorpClientsByPat as
+select v.* from vwBillingForClaimsByPat v
+go
+-- The same lines with what was paid on the bill and what is left of it.
+create view vwBillingForClaimsByPatInvoice as
+select v.*, isnull(b.AmountPaid, 0) as AmountPaid,
+    (select sum(d.SubTotal) from BillingDetails d where d.billNo = v.billNo) - isnull(b.AmountPaid, 0) as AmountDue
+from vwBillingForClaimsByPat v
+left join Billing b on b.billNo = v.billNo
+go
+-- The same lines with the stay in the ward: as the bill has it, else as the ward noted it last.
+create view vwBillingForClaimsByPatGrouped as
+select v.*,
+    isnull(b.admdate, (select a.admdate from vwAdmissionAndDischargeInfo a where a.consultID = v.billNo)) as admdate,
+    isnull(b.DischDate, (select a.DischDate from vwAdmissionAndDischargeInfo a where a.consultID = v.billNo))
+        as DischDate,
+    (select a.wardid from vwAdmissionAndDischargeInfo a where a.consultID = v.billNo) as wardid
+from vwBillingForClaimsByPat v
+left join Billing b on b.billNo = v.billNo
+go
+-- The items of a visit that a fixed fee covers: they are worth their amounts and cost nothing.
+create view vwBillingForCapByPat as
+select convert(varchar(7), h.BillDate, 111) as batchNo, r.retainCode as CoyCode, '' as InvNo, r.retainName as Coyname,
+    case when h.clientCat = 'PRIVATE' then p.fullname else r.retainName end as SentTo,
+    case when h.clientCat = 'PRIVATE' then p.homeAddress else r.Address end as SentToAddress, h.consultID as billno,
+    d.SNo as SNO, h.PNo, p.fullname as Fullname,
+    p.sex, year(h.recDate) - year(p.DOB) as Age, p.empNo, h.clientCat as pCatid, h.referal, h.recDate as AttdDate,
+    h.BillDate, b.diagnosis as Diagnosis,
+    (select a.ApprvCode from hApprvCode a
+        where a.SNO = (select min(f.SNO) from hApprvCode f where f.consultID = h.consultID)) as ApprvCode,
+    d.dtDate as Date, d.drgName as Service,
+    case when isnull(d.revType, '') <> '' then d.revType else 'OTHERS' end as BillHead,
+    d.Qty, d.Price, d.SubTotal, 'Covered by the fixed fee, not charged' as TotalLabel
+from hRecords h
+inner join BillAccum d on d.consultID = h.consultID
+left join Billing b on b.billNo = h.consultID
+left join hPatients p on p.PNo = h.PNo
+left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
+where d.Capitated = 'YES'
 go
 
 -- Receipts

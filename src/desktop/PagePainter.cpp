@@ -82,9 +82,13 @@ QRectF boxOf(const PageText& text) {
             (text.height > 0 ? text.height : 200) * unitsPerMm};
 }
 
+bool fitsInALine(const QString& text, Letters& letters, double width) {
+    return letters.roughWidth(text) <= width || letters.width(text) <= width;
+}
+
 bool fits(const PageText& text, Letters& letters, const QRectF& box) {
     if (!text.wraps)
-        return letters.roughWidth(text.text) <= box.width() || letters.width(text.text) <= box.width();
+        return fitsInALine(text.text, letters, box.width());
     const QRectF taken =
         letters.metrics().boundingRect(QRectF(box.topLeft(), QSizeF(box.width(), 1e6)), flagsOf(text), text.text);
     return taken.width() <= box.width() + 1 && (text.height <= 0 || taken.height() <= box.height());
@@ -98,10 +102,13 @@ Letters& fitted(Fonts& fonts, const PageText& text, const QRectF& box) {
     return fonts.of(text, share);
 }
 
-void paintText(QPainter& painter, Fonts& fonts, const PageText& text) {
+void paintText(QPainter& painter, Fonts& fonts, PageText text) {
     if (text.text.isEmpty())
         return;
     const QRectF box = boxOf(text);
+    // To break a text takes many times what a line does.
+    text.wraps = text.wraps &&
+                 (text.text.contains(QLatin1Char('\n')) || !fitsInALine(text.text, fonts.of(text, 1), box.width()));
     Letters& letters = fitted(fonts, text, box);
     if (painter.font() != letters.font())
         painter.setFont(letters.font());

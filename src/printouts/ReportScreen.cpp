@@ -12,14 +12,20 @@ void ReportScreen::showReport(const ReportWanted& wanted) {
     }
     crViewer1.clear();
     ui().setBusy(true);
+    QHash<QString, QString> values = letterhead(program);
+    values.insert(wanted.values);
     crViewer1.show(openReport({.folder = program.homeFolder(),
                                .file = wanted.file,
                                .rows = wanted.rows,
                                .textObjects = wanted.textObjects,
-                               .values = letterhead(program),
+                               .values = values,
                                .title = wanted.title}),
                    wanted.file);
     ui().setBusy(false);
+}
+
+void ReportScreen::showList(const QString& name, const QString& title, const Recordset& rows) {
+    crViewer1.show(openDataReport({.file = name, .rows = rows, .values = letterhead(program), .title = title}), name);
 }
 
 } // namespace orvane

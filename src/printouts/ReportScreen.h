@@ -14,6 +14,7 @@ struct ReportWanted {
     QString nothing;                          ///< said where there are no rows
     QHash<QString, QString> textObjects = {}; ///< the texts of named text objects
     QString title = {};                       ///< in place of the template's; empty: that one
+    QHash<QString, QString> values = {};      ///< that the template may ask for beside the hospital's letterhead
 };
 
 /// A screen with a viewer of reports.
@@ -26,6 +27,8 @@ protected:
     /// rows it says so, and the viewer keeps what it shows. A fault of the template or the engine is raised, and the
     /// viewer is empty then.
     void showReport(const ReportWanted& wanted);
+    /// The same of a plain list, whose layout the program bears itself.
+    void showList(const QString& name, const QString& title, const Recordset& rows);
 
     ReportViewer crViewer1{*this};
 };

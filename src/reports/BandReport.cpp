@@ -78,12 +78,16 @@ BandReport::State BandReport::fillPage(State state, int number, Page* page) cons
     return state;
 }
 
-/// On a page that begins in the middle of a group: the heads that are repeated, and what is carried over.
+/// On a page that begins in the middle of a group: the heads that are repeated, and what is carried over, above them
+/// where it is of the whole report.
 void BandReport::putAgain(const State& state, Sheet& sheet) const {
+    const bool goesOver = goesOn(state, m_layout.carryHead);
+    if (goesOver && m_layout.carryHead.of.isEmpty())
+        put(m_layout.carryHead, state, sheet, state.row - 1);
     for (int level = 0; level < m_layout.groups.size(); ++level)
         if (m_layout.groups.at(level).repeats && state.placed.at(level) > 0)
             put(m_layout.groups.at(level).head, state, sheet, state.row - 1);
-    if (goesOn(state, m_layout.carryHead))
+    if (goesOver && !m_layout.carryHead.of.isEmpty())
         put(m_layout.carryHead, state, sheet, state.row - 1);
 }
 
@@ -200,10 +204,11 @@ void BandReport::clearGroup(State& state, int level) const {
     state.placed[level] = 0;
 }
 
-/// What may be followed by more of its group leaves room for what is carried over.
+/// What more may follow leaves room for what is carried over; the last foot of a group, for that or for the report's.
 bool BandReport::fits(const State& state, const Sheet& sheet, double height) const {
-    const bool mayGoOn = state.phase == Phase::Heads || state.phase == Phase::Detail;
-    const double kept = mayGoOn ? m_layout.carryFoot.height : 0;
+    double kept = state.phase == Phase::ReportFoot ? 0 : m_layout.carryFoot.height;
+    if (!m_data.has(state.row))
+        kept = std::min(kept, m_layout.reportFoot.height);
     return sheet.empty || sheet.y + height + kept <= sheet.bottom + 0.001;
 }
 

@@ -125,7 +125,7 @@ void CrosstabReport::paintLine(Page& page, const Sheet& sheet, double y, const L
     for (const ReportCrosstab::Row& row : table.rows) {
         if (!isTotal)
             text(page, x, y, row.width, shownValue(m_data.value(line.row, m_data.column(row.column)), {}),
-                 PageAlign::Left, false);
+                 PageAlign::Left, false, lineHeight - 1);
         x += row.width;
     }
     for (int i = sheet.firstColumn; i < sheet.firstColumn + sheet.columns; ++i) {
@@ -161,7 +161,8 @@ Page CrosstabReport::page(int number) {
         paintLine(page, sheet, y, m_lines.at(line), false);
     if (sheet.last) {
         paintLine(page, sheet, y, m_totals, true);
-        band(m_layout.reportFoot, y + lineHeight);
+        if (sheet.firstColumn + sheet.columns > m_columns.size())
+            band(m_layout.reportFoot, y + lineHeight);
     }
     band(m_layout.pageFoot, bottom());
     return page;

@@ -72,6 +72,7 @@ ReportElement valueOf(ReportElement::Kind kind, const Column& column, double y, 
         element(kind, column.x, y, column.width - gap, column.isNumber ? PageAlign::Right : PageAlign::Left, bold);
     result.name = column.name;
     result.format = column.format;
+    result.height = column.isNumber ? 0 : rowHeight; // a long text breaks
     return result;
 }
 

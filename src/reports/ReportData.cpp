@@ -40,6 +40,11 @@ const QRegularExpression& blanks() {
     return pattern;
 }
 
+QString inOneLine(const QString& text) {
+    static const QRegularExpression breaks(R"(\s*[\r\n]+\s*)");
+    return text.contains(u'\n') ? text.split(breaks, Qt::SkipEmptyParts).join(", ") : text;
+}
+
 QHash<QString, QString> lowerCased(const QHash<QString, QString>& texts) {
     QHash<QString, QString> result;
     for (auto text = texts.cbegin(); text != texts.cend(); ++text)
@@ -173,6 +178,7 @@ QString ReportData::words(const ReportElement& element, int row, int page, const
     return result + text.mid(at);
 }
 
+/// A value of several lines goes on within the words around it.
 QString ReportData::filled(const QString& name, int row, int page, const QString& pages) const {
     if (name == "page")
         return QString::number(page + 1);
@@ -181,7 +187,7 @@ QString ReportData::filled(const QString& name, int row, int page, const QString
     const int found = column(name);
     if (found < 0)
         return m_values.value(name);
-    return row < 0 || !has(row) ? QString() : shownValue(value(row, found), {});
+    return row < 0 || !has(row) ? QString() : inOneLine(shownValue(value(row, found), {}));
 }
 
 QString ReportData::picture(const QString& file) const {

@@ -20,6 +20,8 @@
 #include "billing/frmPriceAdjustSplit.h"
 #include "billing/frmPriceAdjustVerify.h"
 #include "billing/frmTreatment.h"
+#include "clients/FrmProcessedBill.h"
+#include "clients/FrmRptBillsByPat.h"
 #include "clients/frmBillProcess.h"
 #include "clients/frmBillProcessing.h"
 #include "clients/frmBillProcessingShift.h"
@@ -101,6 +103,8 @@ constexpr struct {
     {"frmPriceAdjustVerify", make<frmPriceAdjustVerify>},
     {"frmTreatment", make<frmTreatment>},
 
+    {"FrmProcessedBill", make<FrmProcessedBill>},
+    {"FrmRptBillsByPat", make<FrmRptBillsByPat>},
     {"frmBillProcess", make<frmBillProcess>},
     {"frmBillProcessing", make<frmBillProcessing>},
     {"frmBillProcessingShift", make<frmBillProcessingShift>},

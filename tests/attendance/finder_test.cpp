@@ -82,6 +82,10 @@ TEST_P(FinderTest, EachScreenTakesHimAsItsOwnPickerDoes) {
     ws.set("frmRecordsOffline.dtDate", "2026-03-20");
     taken(ws.form("frmRecordsOffline"), "P/0002");
     EXPECT_EQ(ws.value("frmRecordsOffline.lblNo"), "P/0002");
+    ws.run("insert into BillingDetails (billNo, PNo, drgName, SubTotal) values ('001OFL0000001', 'P/0001', 'SCAN', 0)");
+    ws.open("FrmRptBillsByPat");
+    taken(ws.form("FrmRptBillsByPat"), "P/0001");
+    EXPECT_EQ(ws.value("FrmRptBillsByPat.lblNo"), "P/0001");
     // Of several visits the user chooses.
     Connection billing = ws.billing();
     makeVisit(billing, {.consultID = "NEWER", .date = QDate(2026, 3, 15)});

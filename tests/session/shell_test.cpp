@@ -153,10 +153,10 @@ TEST_P(Shell, everyEntryActsOrIsGreyButTheEmptyOnes) {
               "mnuVerify>frmBillingVerify mnuViewColl>frmBillProcess "
               "mnuMIGFC>frmBillProcessing mnuSBTAPP>frmBillProcessingShift mnuLastBatch>frmBillReverseProcessing "
               "mnuAdmDepo>frmReceiptDeposit "
-              "mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount "
+              "mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount mnuPrintB>FrmRptBillsByPat "
               "mnuRPtES>rptPanelSummary mnuOffline>frmReceiptManual mnuPSITC>frmExistBill mnuPCB>rptPanelSummary "
               "mnuPCOB>frmBillToCapitated mnuCBFSO>frmBillingVerify mnuEditFind>frmFind mnuVSII>frmPatientInfo "
-              "mnuPDI>frmDebtInfo "
+              "mnuPDI>frmDebtInfo mnuPIBP>FrmRptBillsByPat mnuPrintBMonthly>FrmProcessedBill "
               "mnuBNIPSL>frmVerifyBillsInSummary "
               "mnuRemnd>frmReminder mnuUsers>frmUsers mnuUserRoles>frmUserRole mnuChangePWD>frmDialog "
               "mnuCreateRoles>frmRole mnuDSP>frmDrugPrice");
