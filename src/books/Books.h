@@ -21,9 +21,11 @@ struct BookSettings {
     QString hospital;      ///< the three characters in front of its numbers
     QString privateClient; ///< retainCode of the private account, whose charges stand in the patients' running accounts
     QString privateTariff; ///< retainID of the private price template
-    QString suspenseAccount; ///< ledger account of money that no line takes
-    QString suspenseRevenue; ///< and its revenue type
-    QString nhisFeeBase;     ///< what the NHIS fee is a percentage of: "ALL", empty or "DRUG"
+    QString suspenseAccount;   ///< ledger account of money that no line takes
+    QString suspenseRevenue;   ///< and its revenue type
+    QString nhisFeeBase;       ///< what the NHIS fee is a percentage of: "ALL", empty or "DRUG"
+    QString costCenter = {};   ///< that every leg of the ledger names
+    QString salesAccount = {}; ///< ledger account that the clients' invoices are credited to
 };
 
 /// One row of the audit trail.
