@@ -22,6 +22,7 @@
 #include "billing/frmTreatment.h"
 #include "clients/frmBillProcess.h"
 #include "clients/frmBillProcessing.h"
+#include "clients/frmBillProcessingPost.h"
 #include "clients/frmBillReverseProcessing.h"
 #include "clients/frmClients.h"
 #include "clients/frmRetainership.h"
@@ -97,6 +98,7 @@ constexpr struct {
 
     {"frmBillProcess", make<frmBillProcess>},
     {"frmBillProcessing", make<frmBillProcessing>},
+    {"frmBillProcessingPost", make<frmBillProcessingPost>},
     {"frmBillReverseProcessing", make<frmBillReverseProcessing>},
     {"frmClients", make<frmClients>},
     {"frmRetainership", make<frmRetainership>},
