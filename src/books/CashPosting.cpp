@@ -56,4 +56,29 @@ Posting cashPosting(const BookContext& context, QDate first, QDate last) {
                                  receipts}};
 }
 
+Given<Saved> changeCashAccount(Books& books, const DayOfCash& cash, const QString& account) {
+    if (isBeingPosted(books.connection, receipts, cash.date, cash.date))
+        return Refusal::BeingPosted;
+    books.connection.execute(Sql("update paymentTypes set  AccountNo='")
+                             << account << "' where receiptDate='" << cash.date << "'and AccountNo='" << cash.account
+                             << "' and PayType='" << cash.payType << "'");
+    books.record(cash.date.toString(Qt::ISODate) + ' ' + cash.payType, 0);
+    return Saved{};
+}
+
+void addHandShare(Books& books, const HandShare& share) {
+    Recordset row(books.connection, Sql("select * from paymentDetails where 1=2"));
+    row.addNew();
+    row.set("ReceiptNo", share.receiptNo);
+    row.set("billNo", share.billNo);
+    row.set("ReceiptDate", share.date);
+    row.set("AmountPaid", share.amount);
+    row.set("AccountNo", "");
+    row.set("revType", share.revType);
+    row.set("isPost", 0);
+    row.set("AmountToPay", share.amount);
+    row.update();
+    books.record(share.receiptNo, share.amount);
+}
+
 } // namespace orvane

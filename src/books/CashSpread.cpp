@@ -119,4 +119,22 @@ void rebuildPaymentDetails(Books& books, QDate first, QDate last) {
         spread(books, one);
 }
 
+void rebuildUnlike(const Desk& desk, QDate first, QDate last) {
+    const auto unlike = [&](Connection&& connection) {
+        const CashTotals totals = readCashTotals(connection, first, last);
+        return std::pair(totals.received != totals.distributed, totals.received != totals.byWay);
+    };
+    const auto [details, types] = unlike(desk.open());
+    if (!details && !types)
+        return;
+    desk.save<Saved>("REBUILD CASH", [&, details = details, types = types](Books& books) -> Given<Saved> {
+        if (details)
+            rebuildPaymentDetails(books, first, last);
+        if (types)
+            rebuildPaymentTypes(books, first, last);
+        books.record(first.toString(Qt::ISODate) + " - " + last.toString(Qt::ISODate), 0);
+        return Saved{};
+    });
+}
+
 } // namespace orvane

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "books/Books.h"
+#include "books/Desk.h"
 
 namespace orvane {
 
@@ -25,5 +25,8 @@ void rebuildPaymentTypes(Books& books, QDate first, QDate last);
 /// as at the collation; a reversal takes back what its receipt had spread; any other difference is of the suspense
 /// account.
 void rebuildPaymentDetails(Books& books, QDate first, QDate last);
+
+/// Does both where the totals of the days are unlike, each only where its own is.
+void rebuildUnlike(const Desk& desk, QDate first, QDate last);
 
 } // namespace orvane

@@ -13,6 +13,10 @@ namespace orvane {
 Given<int> postInvoices(LedgerDesk& ledgerDesk, const QString& month, const QString& year,
                         const std::function<void(int done, int all)>& watch);
 
+/// Posts the invoices that are flagged and that the ledger does not have: their posting failed behind the flag. Gives
+/// their numbers.
+Given<QStringList> postInvoicesLeftOver(LedgerDesk& ledgerDesk);
+
 /// The last day of a batch, such as "2026/02".
 QDate lastDayOf(const QString& batchNo);
 

@@ -23,6 +23,7 @@ constexpr struct {
     {Refusal::VisitGone, "This attendance was deleted by another user."},
     {Refusal::VisitMoved, "This attendance was changed or billed by another user."},
     {Refusal::NothingToPost, "No Records to Post"},
+    {Refusal::BeingPosted, "These receipts are being posted to the Accounts. Please try again when that has ended."},
     {Refusal::NoLegPosted, "Error! No Record Posted"},
     {Refusal::NotBalanced, "Error! Posting Entries! Balance Not Achieved"},
     {Refusal::NoClientCode, "Error Generating Retainership Code"},
