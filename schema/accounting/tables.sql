@@ -1,4 +1,5 @@
--- Tables of the accounting database: the ledger that billing posts to. A debit is plus, a credit minus.
+-- Tables of the accounting database: the ledger that billing posts to. A debit is plus, a credit minus; amounts are of
+-- the type money, whose sums are exact, since the legs of a transaction must make exactly 0.
 
 -- The one row holds the current period.
 create table AccountMonth (
@@ -35,7 +36,7 @@ create table Tranxaction (
     TranNo varchar(50),
     TranDate date,
     CostCenterID varchar(50),
-    Amount float not null,
+    Amount money not null,
     Description nvarchar(200),
     TranCat varchar(50),
     EntryDate date,
@@ -51,7 +52,7 @@ create table TranxactionTemp (
     TranNo varchar(50),
     TranDate date,
     CostCenterID varchar(50),
-    Amount float not null,
+    Amount money not null,
     Description nvarchar(200),
     TranCat varchar(50),
     EntryDate date,

@@ -964,3 +964,19 @@ create table debitnote (
     jobcode varchar(50)
 )
 go
+-- What a posting under way is about to flag as posted, noted before the ledger commits and struck when it is flagged: a
+-- note that is left over tells what was cut off. The last numbers are those of the rows that it had read.
+create table PostingNotes (
+    gTranID varchar(50) not null primary key,
+    kind varchar(20) not null,
+    source nvarchar(50),
+    firstDay date,
+    lastDay date,
+    lastDetail int not null default 0,
+    lastType int not null default 0,
+    lastReceipt int not null default 0,
+    username nvarchar(50),
+    workstation nvarchar(50),
+    notedAt datetime not null default getdate()
+)
+go

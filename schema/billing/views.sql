@@ -741,3 +741,19 @@ from Payments y
 left join hPatients p on p.PNo = y.PNo
 where y.AmountPaid < 0
 go
+-- What came in by each way of payment and account of a day, posted to the ledger or not.
+create view vwPaymentTypesSummGrid as
+select t.ReceiptDate, t.AccountNo as AccountToDebit, sum(t.AmountPaid) as AmountPaid, t.PayType, t.isPost
+from PaymentTypes t
+group by t.ReceiptDate, t.AccountNo, t.PayType, t.isPost
+go
+-- Both sides of the entry of a day's receipts: revenue by type and account, and the ways of payment.
+create view vwPaymentDetailsSummForCashPosting as
+select d.ReceiptDate, d.AccountNo, sum(d.AmountPaid) as AmountPaid, d.revType as RevType, 'CREDIT' as Remarks, d.isPost
+from PaymentDetails d
+group by d.ReceiptDate, d.AccountNo, d.revType, d.isPost
+union all
+select t.ReceiptDate, t.AccountNo, sum(t.AmountPaid) as AmountPaid, t.PayType as RevType, 'DEBIT' as Remarks, t.isPost
+from PaymentTypes t
+group by t.ReceiptDate, t.AccountNo, t.PayType, t.isPost
+go

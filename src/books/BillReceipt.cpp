@@ -11,6 +11,7 @@ namespace orvane {
 namespace {
 
 const QString clinic = "SALES"; ///< of every receipt against a bill
+const QString reversing = "REVERSAL for RctNo: ";
 
 /// Writes the receipt under the next number. `audited`: the action in the audit trail.
 Given<QString> enter(Books& books, Receipt receipt, const QString& audited) {
@@ -67,7 +68,11 @@ Given<QString> reverseReceipt(Books& books, const Reversal& reversal) {
 }
 
 QString reversalPurpose(const QString& receiptNo) {
-    return "REVERSAL for RctNo: " + receiptNo;
+    return reversing + receiptNo;
+}
+
+QString reversedReceipt(const QString& purpose) {
+    return purpose.startsWith(reversing) ? purpose.mid(reversing.size()) : QString();
 }
 
 } // namespace orvane

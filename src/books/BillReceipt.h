@@ -32,5 +32,7 @@ Given<QString> reverseReceipt(Books& books, const Reversal& reversal);
 
 /// What a reversal says that it is for, and its remark.
 QString reversalPurpose(const QString& receiptNo);
+/// The number of the receipt that a purpose reverses; empty: it reverses none.
+QString reversedReceipt(const QString& purpose);
 
 } // namespace orvane

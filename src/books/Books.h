@@ -5,6 +5,7 @@
 #include "data/rows/Recordset.h"
 
 #include <QDate>
+#include <QMap>
 #include <functional>
 
 namespace orvane {
@@ -21,9 +22,12 @@ struct BookSettings {
     QString hospital;      ///< the three characters in front of its numbers
     QString privateClient; ///< retainCode of the private account, whose charges stand in the patients' running accounts
     QString privateTariff; ///< retainID of the private price template
-    QString suspenseAccount; ///< ledger account of money that no line takes
-    QString suspenseRevenue; ///< and its revenue type
-    QString nhisFeeBase;     ///< what the NHIS fee is a percentage of: "ALL", empty or "DRUG"
+    QString suspenseAccount;                 ///< ledger account of money that no line takes
+    QString suspenseRevenue;                 ///< and its revenue type
+    QString nhisFeeBase;                     ///< what the NHIS fee is a percentage of: "ALL", empty or "DRUG"
+    QString costCenter = {};                 ///< that every leg of the ledger names
+    QMap<QString, QString> wayAccounts = {}; ///< ledger account of a way of payment, by its capital name
+    QString salesAccount = {};               ///< ledger account that the clients' invoices are credited to
 };
 
 /// One row of the audit trail.

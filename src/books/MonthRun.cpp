@@ -25,12 +25,14 @@ struct RunBill {
 
 /// The bills that wait of the client with this id, with what their lines come to: read in one go, for a look at each
 /// bill costs as much as its change.
-void addWaitingBills(Connection& connection, const QString& batchNo, const QString& code, const QString& clientID,
+void addWaitingBills(Connection& connection, const MonthRun& run, const QString& code, const QString& clientID,
                      QVector<RunBill>& bills) {
-    Recordset row(connection, Sql("select distinct BillNo,(select  Subtotal from vwBillingProcessDetailsGrouped where "
-                                  "billno=vwBillingProcess.BillNo) as Total from vwBillingProcess where batchNo='")
-                                  << batchNo << "' and retainCode='" << code << "' and retainID='" << clientID
-                                  << "' and billNO in (Select distinct billNO from BillingDetails )");
+    Sql sql = Sql("select distinct BillNo,(select  Subtotal from vwBillingProcessDetailsGrouped where "
+                  "billno=vwBillingProcess.BillNo) as Total from vwBillingProcess where batchNo='")
+              << run.batchNo << "' and retainCode='" << code << "' and retainID='" << clientID << "'";
+    if (!run.takesBillsWithoutLines)
+        sql << " and billNO in (Select distinct billNO from BillingDetails )";
+    Recordset row(connection, sql);
     for (; !row.eof(); row.moveNext())
         bills.append(
             {row.text("BillNo"), row.isNull("Total") ? std::nullopt : std::optional(round2(row.number("Total")))});
@@ -38,11 +40,11 @@ void addWaitingBills(Connection& connection, const QString& batchNo, const QStri
 
 /// Asked by the id that a code stands for: an index leads from it to the bills, on a server that has no statistics of
 /// the month yet too, while a code is looked for in the whole month.
-QVector<RunBill> waitingBills(Connection& connection, const QString& batchNo, const QString& code) {
+QVector<RunBill> waitingBills(Connection& connection, const MonthRun& run, const QString& code) {
     QVector<RunBill> bills;
     Recordset client(connection, Sql("select retainID from hretainership where retainCode='") << code << "'");
     for (; !client.eof(); client.moveNext())
-        addWaitingBills(connection, batchNo, code, client.text("retainID"), bills);
+        addWaitingBills(connection, run, code, client.text("retainID"), bills);
     return bills;
 }
 
@@ -84,8 +86,7 @@ Given<int> processMonth(Books& books, const MonthRun& run, const RunWatcher& wat
     for (const qlonglong number : run.clients) {
         const QString code = paddedClientCode(number);
         const RunClient client{code, invoiceNumber(code, run.batchNo)};
-        const double total =
-            processBills(books, client, waitingBills(books.connection, run.batchNo, code), watch, stage);
+        const double total = processBills(books, client, waitingBills(books.connection, run, code), watch, stage);
         addToInvoice(books, {.date = run.date,
                              .invNo = client.invNo,
                              .coyCode = code,

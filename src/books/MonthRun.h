@@ -20,11 +20,12 @@ struct MonthRun {
     QString batchNo, month, year; ///< as in 2026/03, March and 2026
     QDate date;                   ///< of the invoices, the server's
     QVector<qlonglong> clients;   ///< codes as the list holds them, in its order
+    bool takesBillsWithoutLines = false;
 };
 
-/// Turns all bills of each client that have lines into one invoice: each bill's amount is taken from its lines once
-/// more, and it is frozen; the client owes the sum. A later run of a batch adds to its invoices. A client without such
-/// bills gets an invoice of 0, or keeps his. Gives the number of clients.
+/// Turns all bills of each client, those without lines only where the run takes them, into one invoice: each bill's
+/// amount is taken from its lines once more, and it is frozen; the client owes the sum. A later run of a batch adds to
+/// its invoices. A client without such bills gets an invoice of 0, or keeps his. Gives the number of clients.
 Given<int> processMonth(Books& books, const MonthRun& run, const RunWatcher& watch);
 
 } // namespace orvane

@@ -31,16 +31,6 @@ void addShare(Books& books, const Receipt& receipt, const Share& share) {
     row.update();
 }
 
-/// Money that no line takes goes to the suspense account.
-void addSummaryShare(Books& books, const Receipt& receipt, const QString& item, double amount) {
-    addShare(books, receipt,
-             {.billItem = item,
-              .accountNo = books.settings().suspenseAccount,
-              .revType = books.settings().suspenseRevenue,
-              .paid = amount,
-              .toPay = amount});
-}
-
 /// By name: a second line of the same item counts as covered with the first. By number too: a name that ends in a blank
 /// is not found by its name.
 void markCovered(Books& books, const QString& billNo, const Share& share) {
@@ -53,19 +43,48 @@ void markCovered(Books& books, const QString& billNo, const Share& share) {
 } // namespace
 
 void addPaymentTypes(Books& books, const Receipt& receipt, const QVector<WayOfPayment>& ways) {
+    for (const WayOfPayment& way : ways)
+        if (way.amount > 0)
+            addPaymentType(books, receipt, way);
+}
+
+void addPaymentType(Books& books, const Receipt& receipt, const WayOfPayment& way) {
     Recordset row(books.connection, Sql("select * from PaymentTypes where 1=2"));
-    for (const WayOfPayment& way : ways) {
-        if (way.amount <= 0)
-            continue;
-        row.addNew();
-        row.set("ReceiptDate", receipt.date);
-        row.set("ReceiptNo", receipt.receiptNo);
-        row.set("AmountPaid", way.amount);
-        row.set("PayType", way.payType);
-        row.set("AccountNo", way.accountNo);
-        row.set("isPost", 0);
-        row.update();
-    }
+    row.addNew();
+    row.set("ReceiptDate", receipt.date);
+    row.set("ReceiptNo", receipt.receiptNo);
+    row.set("AmountPaid", way.amount);
+    row.set("PayType", way.payType);
+    row.set("AccountNo", way.accountNo);
+    row.set("isPost", 0);
+    row.update();
+}
+
+void addSummaryShare(Books& books, const Receipt& receipt, const QString& item, double amount) {
+    addShare(books, receipt,
+             {.billItem = item,
+              .accountNo = books.settings().suspenseAccount,
+              .revType = books.settings().suspenseRevenue,
+              .paid = amount,
+              .toPay = amount});
+}
+
+bool takeBackShares(Books& books, const Receipt& reversal, const QString& reversedNo) {
+    Recordset share(books.connection,
+                    Sql("select snoID,BillDate,BillItem,AccountNo,revType,AmountPaid,AmountToPay from PaymentDetails "
+                        "where ReceiptNo='")
+                        << reversedNo << "' order by SNo");
+    const bool any = !share.eof();
+    for (; !share.eof(); share.moveNext())
+        addShare(books, reversal,
+                 {.sno = share.integer("snoID"),
+                  .billDate = share.date("BillDate"),
+                  .billItem = share.text("BillItem"),
+                  .accountNo = share.text("AccountNo"),
+                  .revType = share.text("revType"),
+                  .paid = -share.number("AmountPaid"),
+                  .toPay = -share.number("AmountToPay")});
+    return any;
 }
 
 QMap<QString, double> incomeByWay(Connection& connection, QDate day) {

@@ -15,6 +15,9 @@ struct WayOfPayment {
 /// One row of PaymentTypes for each way with an amount above zero.
 void addPaymentTypes(Books& books, const Receipt& receipt, const QVector<WayOfPayment>& ways);
 
+/// One row of PaymentTypes, of any amount.
+void addPaymentType(Books& books, const Receipt& receipt, const WayOfPayment& way);
+
 /// What came in on the day by each way of payment, in naira by its capital name: a receipt split over several ways
 /// counts by its shares, any other by its pay type, a reversal against it. Ways that come to nothing are left out.
 QMap<QString, double> incomeByWay(Connection& connection, QDate day);
@@ -23,5 +26,12 @@ QMap<QString, double> incomeByWay(Connection& connection, QDate day);
 /// PaymentDetails, and marks the lines by their name as covered. A bill without such lines takes the whole as
 /// "DEPOSIT_PAYMENT"; what is left after the last line becomes "BALANCE_PAYMENT".
 void distributePayment(Books& books, const Receipt& receipt);
+
+/// Adds money of the receipt that no line takes, of the suspense account, as a row of PaymentDetails of this item.
+void addSummaryShare(Books& books, const Receipt& receipt, const QString& item, double amount);
+
+/// Takes back in PaymentDetails, under the number of the reversal, what the reversed receipt's rows had spread. False:
+/// there are none.
+bool takeBackShares(Books& books, const Receipt& reversal, const QString& reversedNo);
 
 } // namespace orvane

@@ -27,6 +27,10 @@ enum class Refusal {
     VisitOpen,         ///< the patient's visit of that day is still open
     VisitGone,         ///< the visit under edit was deleted
     VisitMoved,        ///< it is not any more as its officer saw it, or its bill was saved
+    NothingToPost,     ///< all sources of the period are in the ledger
+    BeingPosted,       ///< a posting to the ledger that is not settled yet has read it
+    NoLegPosted,       ///< the ledger shows no leg of the transaction in the last one's period
+    NotBalanced,       ///< the legs of the transaction do not make exactly 0
     NoClientCode,      ///< no code can be made for a new client
     ClientCodeTaken,   ///< a client bears the code that comes next
     ClientHasPatients, ///< the client to be deleted is that of patients

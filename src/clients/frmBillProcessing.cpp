@@ -6,6 +6,10 @@ namespace orvane {
 
 frmBillProcessing::frmBillProcessing(Program& owner) : Screen(owner, "frmBillProcessing", "Bill Processing") {}
 
+frmBillProcessing::frmBillProcessing(Program& owner, const QString& name, const QString& caption,
+                                     bool takesBillsWithoutLines)
+    : Screen(owner, name, caption), m_takesBillsWithoutLines(takesBillsWithoutLines) {}
+
 Layout frmBillProcessing::layout() const {
     using namespace orvane::layout;
     return column({row({period.layout(), cell(cmdGet), stretch()}),
@@ -77,7 +81,8 @@ void frmBillProcessing::cmdView_Click() {
 }
 
 MonthRun frmBillProcessing::run() const {
-    MonthRun run{session.sBatchNo, session.sBatchMonth, session.sBatchYear, session.dWorkDate, {}};
+    MonthRun run{session.sBatchNo,        session.sBatchMonth, session.sBatchYear, session.dWorkDate, {},
+                 m_takesBillsWithoutLines};
     for (const int row : clients.ticked())
         run.clients.append(clients.LstDate.itemData(row).toLongLong());
     return run;

@@ -9,6 +9,7 @@
 namespace orvane {
 
 /// "Bill Processing": the monthly run, which turns the bills of the ticked clients of a batch into one invoice each.
+/// Its twin that posts the invoices is made of it.
 class frmBillProcessing : public Screen {
 public:
     explicit frmBillProcessing(Program& owner);
@@ -19,22 +20,29 @@ public:
     Button* defaultButton() override { return &cmdProcess; }
     Button* cancelButton() override { return &CancelButton; }
 
+protected:
+    /// `takesBillsWithoutLines`: the run of the twin, which posts too.
+    frmBillProcessing(Program& owner, const QString& name, const QString& caption, bool takesBillsWithoutLines);
+    virtual void cmdPost_Click() {} ///< invoices are posted on a screen of their own
+    virtual bool prepareRun();
+    void cmdRefresh_Click();
+    void cmdView_Click();
+
 private:
     void cmdGet_Click();
     void cmdAll_Click();
     void cmdDeSelect_Click();
-    void cmdRefresh_Click();
-    void cmdView_Click();
-    void cmdPost_Click() {} ///< invoices are posted on a screen of their own
     void cmdProcess_Click();
     void clearFields();
     bool isPeriodPicked();
     bool isBatchOpen();
-    bool prepareRun();
     MonthRun run() const;
     void showStage(const RunStage& stage);
     void showProcessed(int clients);
 
+    const bool m_takesBillsWithoutLines = false;
+
+protected:
     using Me = frmBillProcessing;
     MonthPicker period{*this, session};
     Button cmdGet{*this, "cmdGet", "&Get List", &Me::cmdGet_Click};

@@ -1,4 +1,5 @@
 #include "books/NewUser.h"
+#include "books/Period.h"
 #include "data/rows/Transaction.h"
 #include "demo/DemoParts.h"
 
@@ -130,12 +131,10 @@ void makeClinics(Connection& billing, const DemoHospital& hospital) {
         addRow(outletRows, {{"ItemName", latin(name)}, {"ItemCode", latin(outletCode)}});
 }
 
-void makeChart(Connection& connection, const DemoHospital& hospital) {
+void makeChart(Connection& connection) {
     Recordset accounts(connection, Sql("select * from ChartOfAccounts where 1=2"));
     for (const QStringList& account : demoFacts("accounts"))
         addRow(accounts, {{"AccountNo", account.at(0)}, {"AccountName", account.at(1)}, {"groupID", account.at(2)}});
-    Recordset months(connection, Sql("select * from AccountMonth where 1=2"));
-    addRow(months, {{"Period", hospital.options.until.toString("yyyyMM")}});
 }
 
 } // namespace
@@ -188,16 +187,14 @@ void makeUsers(Connection& billing) {
 }
 
 void makeAccounts(Connection& accounting, const DemoHospital& hospital) {
-    Transaction transaction(accounting);
-    makeChart(accounting, hospital);
-    const QDate lastDay = hospital.options.until;
-    const QDate firstOfMonth(lastDay.year(), lastDay.month(), 1);
-    Recordset open(accounting, Sql("select * from AccountMonthOpen where 1=2"));
-    addRow(open, {{"Period", firstOfMonth.toString("yyyyMM")},
-                  {"PeriodVal", firstOfMonth.year() * 100 + firstOfMonth.month()},
-                  {"PrdClose", firstOfMonth.addMonths(1).addDays(-1)},
-                  {"isClose", 0}});
-    transaction.commit();
+    {
+        Transaction transaction(accounting);
+        makeChart(accounting);
+        transaction.commit();
+    }
+    const DemoOptions& options = hospital.options;
+    keepPeriodsOpen(accounting, options.until.addDays(1 - options.days));
+    keepPeriodsOpen(accounting, options.until);
 }
 
 } // namespace orvane

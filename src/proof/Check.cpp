@@ -1,8 +1,11 @@
 #include "proof/Check.h"
 
+#include "data/engine/SchemaVersion.h"
+#include "data/rows/Schema.h"
 #include "data/rows/SharedTables.h"
 #include "proof/Checker.h"
 #include "proof/IntegrityCheck.h"
+#include "proof/PostingCheck.h"
 
 namespace orvane {
 
@@ -34,16 +37,19 @@ CheckReport checkDatabases(Connection& billing, Connection& accounting) {
         ofBilling.run(notices, report.notices, report.remarks);
     Checker ofAccounting(accounting, "accounting");
     ofAccounting.run(ledgerChecks(), report.findings, report.remarks);
+    ofAccounting.run(ledgerNotices(), report.notices, report.remarks);
     ofAccounting.runNumbers(report.findings);
+    if (schemaVersion(billing) == kSchemaVersion)
+        checkPostings(billing, accounting, report);
     for (const QString& difference : sharedTableDifferences(billing, accounting))
         report.findings.append("repeated table: " + difference);
     return report;
 }
 
 QStringList checkNames() {
-    QStringList names = Checker::amountCheckNames() + QStringList{"repeated table"};
+    QStringList names = Checker::amountCheckNames() + postingCheckNames() + QStringList{"repeated table"};
     for (const auto& checks : {numberChecks(), accountChecks(), billChecks(), receiptChecks(), monthChecks(),
-                               noticeChecks(), monthNotices(), ledgerChecks()})
+                               noticeChecks(), monthNotices(), ledgerChecks(), ledgerNotices()})
         for (const Check& check : checks)
             names.append(QString::fromLatin1(check.name));
     return names;

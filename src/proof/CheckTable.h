@@ -25,5 +25,6 @@ std::span<const Check> monthChecks();
 std::span<const Check> monthNotices();
 /// Of the accounting database.
 std::span<const Check> ledgerChecks();
+std::span<const Check> ledgerNotices();
 
 } // namespace orvane

@@ -25,6 +25,7 @@
 #include "clients/frmBillProcess.h"
 #include "clients/frmBillProcessing.h"
 #include "clients/frmBillProcessingShift.h"
+#include "clients/frmBillProcessingPost.h"
 #include "clients/frmBillReverseProcessing.h"
 #include "clients/frmBillSplitting.h"
 #include "clients/frmBillToCapitated.h"
@@ -108,6 +109,7 @@ constexpr struct {
     {"frmBillProcess", make<frmBillProcess>},
     {"frmBillProcessing", make<frmBillProcessing>},
     {"frmBillProcessingShift", make<frmBillProcessingShift>},
+    {"frmBillProcessingPost", make<frmBillProcessingPost>},
     {"frmBillReverseProcessing", make<frmBillReverseProcessing>},
     {"frmBillSplitting", make<frmBillSplitting>},
     {"frmBillToCapitated", make<frmBillToCapitated>},

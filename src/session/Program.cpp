@@ -1,5 +1,7 @@
 #include "session/Program.h"
 
+#include "books/Posting.h"
+
 #include "books/Words.h"
 #include "data/Assert.h"
 #include "patients/PatientDirectory.h"
@@ -29,11 +31,21 @@ Desk Program::desk() {
                               .privateTariff = session.gPrivateTariff,
                               .suspenseAccount = session.gAcctSusp,
                               .suspenseRevenue = session.gAcctPostAuto ? session.gAcctSuspDesc : "OTHERS",
-                              .nhisFeeBase = session.gNHISFee},
+                              .nhisFeeBase = session.gNHISFee,
+                              .costCenter = session.gAcctCostCenter,
+                              .wayAccounts = {{"CASH", session.gAcctNoCash},
+                                              {"POS", session.gAcctNoPOS},
+                                              {"CHEQUE", session.gAcctNoCheque},
+                                              {"TRANSFER", session.gAcctNoTransfer}},
+                              .salesAccount = session.gAcctNoSales},
                  .today = session.gServerDate,
                  .now = session.gServerTime,
                  .audit = [this](const AuditEntry& entry) { writeAuditTrail(entry); },
                  .openSteps = &m_openSteps});
+}
+
+LedgerDesk Program::ledgerDesk() {
+    return {desk(), data(), session.gAcctConnStr};
 }
 
 void Program::registerForm(const QString& name, FormFactory factory) {

@@ -9,6 +9,8 @@
 
 namespace orvane {
 
+class LedgerDesk;
+
 class PatientDirectory;
 class Program;
 
@@ -37,6 +39,8 @@ public:
 
     /// Where this user saves, by the shell's clock as it stands now.
     Desk desk();
+    /// Where a posting opens both databases.
+    LedgerDesk ledgerDesk();
     PatientDirectory& patients() { return *m_patients; } ///< one for all screens
     int openSteps() const { return m_openSteps; }        ///< of the books, that run now; for tests
 

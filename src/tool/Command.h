@@ -50,5 +50,9 @@ int userAddCommand(Call& call);
 int checkCommand(Call& call);
 int upgradeCommand(Call& call);
 int demoCommand(Call& call);
+int periodListCommand(Call& call);
+int periodOpenCommand(Call& call);
+int periodCloseCommand(Call& call);
+int postCommand(Call& call);
 
 } // namespace orvane

@@ -2,8 +2,8 @@
 
 #include "data/rows/Recordset.h"
 #include "data/rows/Transaction.h"
-#include "data/words/ShownText.h"
 #include "data/words/Csv.h"
+#include "data/words/ShownText.h"
 
 #include <cmath>
 

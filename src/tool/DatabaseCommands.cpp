@@ -1,6 +1,8 @@
 // What makes databases and tells of them: create, schema, check.
+#include "books/Period.h"
 #include "data/engine/Rights.h"
 #include "data/rows/Schema.h"
+#include "data/rows/SharedTables.h"
 #include "proof/Check.h"
 #include "tool/Command.h"
 
@@ -12,6 +14,10 @@ int createCommand(Call& call) {
     writeHomeFiles(home, options);
     Workplace workplace(home);
     createDatabases(workplace.program());
+    Connection billing = workplace.program().openBilling();
+    Connection accounting = workplace.program().openAccounting();
+    keepPeriodsOpen(accounting, QDate::currentDate());
+    copySharedTables(billing, accounting);
     call.out << "The databases of " << home << " are made.\n";
     return Done;
 }

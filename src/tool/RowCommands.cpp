@@ -1,6 +1,6 @@
 // What adds rows: load and user add.
-#include "data/rows/SharedTables.h"
 #include "books/NewUser.h"
+#include "data/rows/SharedTables.h"
 #include "tool/Command.h"
 #include "tool/CsvLoad.h"
 #include "tool/Password.h"

@@ -86,6 +86,7 @@ struct Plant {
     const char* check;
     QStringList statements;
     bool ofAccounting = false;
+    QStringList accounting = {}; ///< beside those of billing
 };
 
 const Plant plants[] = {
@@ -163,6 +164,41 @@ const Plant plants[] = {
      {"insert into Tranxaction (TranID,AccountNo,Amount) values ('T1','1210010',100)",
       "insert into Tranxaction (TranID,AccountNo,Amount) values ('T1','4110010',-99.5)"},
      true},
+    {"ledger entry without its source",
+     {"insert into Tranxaction (TranID,AccountNo,Amount) values ('T1','1',0)"},
+     true},
+    {"posting without its entry",
+     {"insert into TranFromAppsTrail (TranID,TranNoApp,Remarks) values ('T1','V1','EXPENSE')"},
+     true},
+    {"source posted twice",
+     {"insert into TranFromAppsTrail (TranID,TranNoApp,Remarks) values ('T1','V1','EXPENSE'), ('T2','V1','EXPENSE')"},
+     true},
+    {"leg of another period",
+     {"insert into AccountMonth (Period) values ('2026/03')",
+      "insert into TranxactionTemp (TranID,AccountNo,Amount,Period) values ('T1','1',0,'2026/03')"},
+     true},
+    {"gap between periods",
+     {"insert into AccountMonthOpen (Period,PeriodVal,PrdClose) values ('2025/11',202511,'2025-11-30'), "
+      "('2026/01',202601,'2026-01-31')"},
+     true},
+    {"period closed out of turn",
+     {"insert into AccountMonthOpen (Period,PeriodVal,PrdClose,isClose) values ('2025/12',202512,'2025-12-31',0), "
+      "('2026/01',202601,'2026-01-31',1)"},
+     true},
+    {"account unknown to the chart", {"insert into Tranxaction (TranID,AccountNo,Amount) values ('T1','1',5)"}, true},
+    {"posted receipts", {"update PaymentTypes set isPost=1,ReceiptDate='2026-03-01' where PayType='POS'"}},
+    {"posted receipts by way or revenue type",
+     {"insert into PaymentTypes (ReceiptDate,ReceiptNo,PayType,AmountPaid,isPost) values "
+      "('2026-03-01','70','CASH',5,1), ('2026-03-01','71','POS',-5,1)"}},
+    {"posted invoice",
+     {"update BillsForClients set isPost=1,AmountBilled=AmountInvoiced"},
+     false,
+     {"insert into TranFromAppsTrail (TranID,TranNoApp,Remarks) select 'T1','0102/2026/03','RECEIVABLE'"}},
+    {"invoice flagged without its entry", {"update BillsForClients set isPost=1"}},
+    {"invoice's entry without its flag",
+     {"insert into TranFromAppsTrail (TranID,TranNoApp,Remarks) values ('T1','0102/2026/03','RECEIVABLE')"},
+     true},
+    {"posting left over", {"insert into PostingNotes (gTranID,kind) values ('T1','RECEIPT')"}},
 };
 
 class CheckTest : public ::testing::TestWithParam<Engine> {
@@ -187,6 +223,8 @@ TEST_P(CheckTest, everyCheckFindsItsFault) {
         TestHome fresh(GetParam());
         Program sick(fresh.folder(), ui);
         lay(sick, soundRows, plant.statements, plant.ofAccounting);
+        for (const QString& statement : plant.accounting)
+            sick.openAccounting().run(statement);
         const CheckReport report = checkDatabases(sick);
         const QStringList findings = report.findings + report.notices;
         EXPECT_FALSE(findings.filter(QString(plant.check) + ": ").isEmpty())

@@ -161,7 +161,7 @@ QString translateType(const QString& type, Engine engine) {
         {"nchar", {"text collate nocase", "citext"}},
         {"float", {"real", "double precision"}},
         {"real", {"real", "double precision"}},
-        {"money", {"real", "double precision"}},
+        {"money", {"real", "numeric(19,4)"}},
         {"decimal", {"real", "double precision"}},
         {"numeric", {"real", "double precision"}},
         {"int", {"integer", "integer"}},

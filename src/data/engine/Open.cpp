@@ -1,3 +1,4 @@
+#include "data/engine/ExactSum.h"
 #include "data/engine/Faults.h"
 #include "data/engine/Physical.h"
 #include "data/engine/SchemaVersion.h"
@@ -93,6 +94,7 @@ void prepareSqlite(const Physical& physical, const std::shared_ptr<Source>& sour
     sqlite3_create_function(handle, "getdate", 0, SQLITE_UTF8, source.get(), getDate, nullptr, nullptr);
     sqlite3_create_function(handle, "orvane_text", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, textOf, nullptr,
                             nullptr);
+    installExactSum(handle);
 }
 
 QString databaseFile(const ServerEntry& entry, const QString& database) {

@@ -58,9 +58,10 @@ constexpr TableRights billingTables[] = {
     {"labservices", ""},
     {"LagosBranches", ""},
     {"LoginTrail", "insert"},
-    {"PaymentDetails", "insert"},
-    {"Payments", "insert"},
-    {"PaymentTypes", "insert"},
+    {"PaymentDetails", "insert, update"},
+    {"Payments", "insert, update"},
+    {"PaymentTypes", "insert, update"},
+    {"PostingNotes", "insert, delete"},
     {"Roles", "insert, delete"},
     {"SavedActions", "insert"},
     {"TariffAdjust", "insert"},
@@ -72,9 +73,12 @@ constexpr TableRights billingTables[] = {
 
 constexpr TableRights accountingTables[] = {
     {"AccountMonth", ""},
+    {"AccountMonthOpen", "insert"},
     {"ChartOfAccounts", ""},
-    {"Tranxaction", ""},
-    {"TranxactionTemp", ""},
+    {"IDgen", "insert, update"},
+    {"TranFromAppsTrail", "insert"},
+    {"Tranxaction", "insert"},
+    {"TranxactionTemp", "insert"},
 };
 
 /// Nothing: the program leaves the table alone. The checks read every table that holds an amount.

@@ -71,8 +71,114 @@ alter table TranxactionTemp add invNo varchar(50)
     {3, "billing", "the index by which the bills of a month are found", R"(
 create index ixRecordsBatch on hRecords (convert(varchar(7), BillDate, 111), coyName)
 )"},
-    {3, "billing", "the index by which the bills between two days are found", R"(
+    {4, "billing", "the index by which the bills between two days are found", R"(
 create index ixRecordsBillDate on hRecords (BillDate, coyName)
+)"},
+    {5, "billing", "the table PostingNotes, by which a posting that was cut off is finished or dropped", R"(
+create table PostingNotes (
+    gTranID varchar(50) not null primary key,
+    kind varchar(20) not null,
+    source nvarchar(50),
+    firstDay date,
+    lastDay date,
+    lastDetail int not null default 0,
+    lastType int not null default 0,
+    lastReceipt int not null default 0,
+    username nvarchar(50),
+    workstation nvarchar(50),
+    notedAt datetime not null default getdate()
+)
+)"},
+    {5, "accounting", "the amounts of the ledger are of the type money, whose sums are exact", R"(
+create table TranxactionKept (
+    SNo int identity(1,1) not null primary key,
+    TranID varchar(50) not null,
+    AccountNo varchar(50) not null,
+    TranNo varchar(50),
+    TranDate date,
+    CostCenterID varchar(50),
+    Amount money not null,
+    Description nvarchar(200),
+    TranCat varchar(50),
+    EntryDate date,
+    Period varchar(20),
+    userName nvarchar(50)
+)
+go
+insert into TranxactionKept (TranID, AccountNo, TranNo, TranDate, CostCenterID, Amount, Description, TranCat, EntryDate, Period, userName)
+    select TranID, AccountNo, TranNo, TranDate, CostCenterID, Amount, Description, TranCat, EntryDate, Period, userName from Tranxaction order by SNo
+go
+drop table Tranxaction
+go
+create table Tranxaction (
+    SNo int identity(1,1) not null primary key,
+    TranID varchar(50) not null,
+    AccountNo varchar(50) not null,
+    TranNo varchar(50),
+    TranDate date,
+    CostCenterID varchar(50),
+    Amount money not null,
+    Description nvarchar(200),
+    TranCat varchar(50),
+    EntryDate date,
+    Period varchar(20),
+    userName nvarchar(50)
+)
+go
+insert into Tranxaction (TranID, AccountNo, TranNo, TranDate, CostCenterID, Amount, Description, TranCat, EntryDate, Period, userName)
+    select TranID, AccountNo, TranNo, TranDate, CostCenterID, Amount, Description, TranCat, EntryDate, Period, userName from TranxactionKept order by SNo
+go
+drop table TranxactionKept
+go
+create index ixLedgerTranID on Tranxaction (TranID)
+go
+create index ixLedgerDate on Tranxaction (TranDate)
+go
+create table TranxactionTempKept (
+    SNo int identity(1,1) not null primary key,
+    TranID varchar(50) not null,
+    AccountNo varchar(50) not null,
+    TranNo varchar(50),
+    TranDate date,
+    CostCenterID varchar(50),
+    Amount money not null,
+    Description nvarchar(200),
+    TranCat varchar(50),
+    EntryDate date,
+    Period varchar(20),
+    userName nvarchar(50),
+    invNo varchar(50)
+)
+go
+insert into TranxactionTempKept (TranID, AccountNo, TranNo, TranDate, CostCenterID, Amount, Description, TranCat, EntryDate, Period, userName, invNo)
+    select TranID, AccountNo, TranNo, TranDate, CostCenterID, Amount, Description, TranCat, EntryDate, Period, userName, invNo from TranxactionTemp order by SNo
+go
+drop table TranxactionTemp
+go
+create table TranxactionTemp (
+    SNo int identity(1,1) not null primary key,
+    TranID varchar(50) not null,
+    AccountNo varchar(50) not null,
+    TranNo varchar(50),
+    TranDate date,
+    CostCenterID varchar(50),
+    Amount money not null,
+    Description nvarchar(200),
+    TranCat varchar(50),
+    EntryDate date,
+    Period varchar(20),
+    userName nvarchar(50),
+    invNo varchar(50)
+)
+go
+insert into TranxactionTemp (TranID, AccountNo, TranNo, TranDate, CostCenterID, Amount, Description, TranCat, EntryDate, Period, userName, invNo)
+    select TranID, AccountNo, TranNo, TranDate, CostCenterID, Amount, Description, TranCat, EntryDate, Period, userName, invNo from TranxactionTempKept order by SNo
+go
+drop table TranxactionTempKept
+go
+create index ixLedgerTempTranID on TranxactionTemp (TranID)
+go
+create index ixLedgerTempDate on TranxactionTemp (TranDate)
 )"},
 };
 

@@ -24,4 +24,16 @@ Recordset fillRevenueTypes(Connection& connection, const QVariantMap& parameters
 /// in use has none after it either.
 Recordset fillHeadings(Connection& connection, const QVariantMap& parameters);
 
+/// getTranID: gives the next transaction id of the ledger in the column "tranID". In the caller's transaction, whose gate
+/// of the accounting database keeps every other one out until it has ended.
+Recordset nextTranID(Connection& connection, const QVariantMap& parameters);
+
+/// AccountOpenPeriods_Insert: opens the month behind the newest period, "2026/04" with its last day as PrdClose; where
+/// there is none, the current period.
+Recordset openNextPeriod(Connection& connection, const QVariantMap& parameters);
+
+/// InsertTranxaction: writes one leg to Tranxaction when @Period is the current period by the database's own word, and to
+/// TranxactionTemp else.
+Recordset storeLeg(Connection& connection, const QVariantMap& parameters);
+
 } // namespace orvane

@@ -12,6 +12,12 @@ const ProcedureEntry* findProcedure(const QString& name) {
         {"getIDNo", {"DestName"}, nextNumber},
         {"updateRevType", {"@ConsultID"}, fillRevenueTypes},
         {"SpRptHeaderCursor", {"@coyCode", "@BatchNo"}, fillHeadings},
+        {"getTranID", {}, nextTranID},
+        {"AccountOpenPeriods_Insert", {}, openNextPeriod},
+        {"InsertTranxaction",
+         {"@TranID", "@AccountNo", "@TranNo", "@TranDate", "@CostCenterID", "@Amount", "@Description", "@TranCat",
+          "@EntryDate", "@Period", "@userName"},
+         storeLeg},
     };
     for (const ProcedureEntry& entry : entries)
         if (name.compare(QLatin1StringView(entry.name), Qt::CaseInsensitive) == 0)
