@@ -71,7 +71,7 @@ alter table TranxactionTemp add invNo varchar(50)
     {3, "billing", "the index by which the bills of a month are found", R"(
 create index ixRecordsBatch on hRecords (convert(varchar(7), BillDate, 111), coyName)
 )"},
-    {3, "billing", "the index by which the bills between two days are found", R"(
+    {4, "billing", "the index by which the bills between two days are found", R"(
 create index ixRecordsBillDate on hRecords (BillDate, coyName)
 )"},
 };
