@@ -71,6 +71,18 @@ alter table TranxactionTemp add invNo varchar(50)
     {3, "billing", "the index by which the bills of a month are found", R"(
 create index ixRecordsBatch on hRecords (convert(varchar(7), BillDate, 111), coyName)
 )"},
+    {4, "billing", "the index by which the lines of some days are found, for the revenue of these days", R"(
+create index ixDetailsDate on BillingDetails (dtDate)
+)"},
+    {4, "billing", "the indexes by which vouchers and what was paid on them are found", R"(
+create index ixVoucherNo on hExpenseApprvFinal (vouchNo)
+go
+create index ixVoucherItemsNo on hExpenseDetailsApprvFinal (vouchNo)
+go
+create index ixVoucherPaidDate on hExpensePay (PayDate)
+go
+create index ixVoucherPaidItemsNo on hExpensePayDetails (vouchNo)
+)"},
 };
 
 } // namespace

@@ -24,4 +24,8 @@ Recordset fillRevenueTypes(Connection& connection, const QVariantMap& parameters
 /// in use has none after it either.
 Recordset fillHeadings(Connection& connection, const QVariantMap& parameters);
 
+/// BillingDetailsForRevRpt: the billed lines of the days @Date1 to @Date2, of the client or the client type
+/// @ClientCat or, with "(ALL)", of everybody.
+Recordset billedLines(Connection& connection, const QVariantMap& parameters);
+
 } // namespace orvane

@@ -12,6 +12,7 @@ const ProcedureEntry* findProcedure(const QString& name) {
         {"getIDNo", {"DestName"}, nextNumber},
         {"updateRevType", {"@ConsultID"}, fillRevenueTypes},
         {"SpRptHeaderCursor", {"@coyCode", "@BatchNo"}, fillHeadings},
+        {"BillingDetailsForRevRpt", {"@Date1", "@Date2", "@ClientCat"}, billedLines},
     };
     for (const ProcedureEntry& entry : entries)
         if (name.compare(QLatin1StringView(entry.name), Qt::CaseInsensitive) == 0)
