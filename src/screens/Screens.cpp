@@ -1,5 +1,12 @@
 #include "screens/Screens.h"
 
+#include "accounts/frmBanks.h"
+#include "accounts/frmExpenseItems.h"
+#include "accounts/frmRevAcctSelect.h"
+#include "accounts/frmRevCat.h"
+#include "accounts/frmRevCatEdit.h"
+#include "accounts/frmRevHeaders.h"
+#include "accounts/frmSupplers.h"
 #include "attendance/frmCoyUpdate.h"
 #include "attendance/frmFind.h"
 #include "attendance/frmFlash.h"
@@ -101,6 +108,14 @@ constexpr struct {
     {"frmClients", make<frmClients>},
     {"frmRetainership", make<frmRetainership>},
     {"frmRptHeading", make<frmRptHeading>},
+
+    {"frmBanks", make<frmBanks>},
+    {"frmExpenseItems", make<frmExpenseItems>},
+    {"frmRevAcctSelect", make<frmRevAcctSelect>},
+    {"frmRevCat", make<frmRevCat>},
+    {"frmRevCatEdit", make<frmRevCatEdit>},
+    {"frmRevHeaders", make<frmRevHeaders>},
+    {"frmSupplers", make<frmSupplers>},
 
     {"frmDrugPrice", make<frmDrugPrice>},
 };

@@ -42,6 +42,13 @@ const QHash<QString, QString>& patterns() {
         {"PRICE LOAD", "Prices of %1 taken"},
         {"PROCESS BATCH", "Batch %1[ of %2] processed"},
         {"REVERSE BATCH", "Batch %1 reversed[ (%2)]"},
+        {"REVENUE TYPE ADD", "Revenue type %1 saved"},
+        {"REVENUE TYPE EDIT", "Revenue type %1 saved"},
+        {"REVENUE TYPE DELETE", "Revenue type %1 deleted"},
+        {"REVENUE CORRECTION", "Line of bill %1 corrected"},
+        {"SUPPLIER ADD", "Creditor %1 saved"},
+        {"SUPPLIER EDIT", "Creditor %1 saved"},
+        {"SUPPLIER DELETE", "Creditor %1 deleted"},
         {"USER", "User %1 saved"},
         {"PASSWORD", "Password of %1 changed"},
     };

@@ -146,6 +146,22 @@ void enterMonthReversal(Workstation& ws) {
     ws.tick("frmBillReverseProcessing.LstDate", {"2026/03"});
 }
 
+/// The first line of the bill, before the accountant.
+void enterRevenueCorrection(Workstation& ws) {
+    ws.open("frmRevCatEdit");
+    fill(ws, "frmRevCatEdit", {{"cboGroup", "(ALL)"}, {"DTPicker1", "2026-03-01"}, {"DTPicker2", "2026-03-31"}});
+    ws.click("frmRevCatEdit.cmdList");
+    ws.row("frmRevCatEdit.grdData", item);
+    fill(ws, "frmRevCatEdit", {{"cboRev", "OTHERS"}, {"chkIgnore", "yes"}});
+}
+
+void enterRevenueRename(Workstation& ws) {
+    ws.open("frmRevCat");
+    ws.row("frmRevCat.grdData", "DRUGS");
+    ws.click("frmRevCat.cmdEdit");
+    fill(ws, "frmRevCat", {{"txtNAme", "PHARMACY"}, {"cboVehNo", "CLINIC"}});
+}
+
 const char* const saved = "box Record Succesfully saved";
 const char* const receiptShown = "opened frmCashReceipt";
 
@@ -246,6 +262,9 @@ const QList<MoneyAction>& moneyActions() {
          "box 2 Comapny Bills successfully Processed"},
         {"MonthReversal", layProcessed, enterMonthReversal, "frmBillReverseProcessing.cmdProcess", "yes",
          "box 1 Comapny Bills successfully Reversed", true},
+        {"RevenueRename", layReceipt, enterRevenueRename, "frmRevCat.OKButton", "yes", "box Record Succesfully Update",
+         true},
+        {"RevenueCorrection", layReceipt, enterRevenueCorrection, "frmRevCatEdit.OKButton", "", "", true},
         {"User", layVisit, enterUser, "frmUsers.cmdApply", "", "box Account creation succeeded.", true},
         {"Role", layVisit,
          [](Workstation& ws) {
@@ -302,15 +321,18 @@ QString moneyFigures(Workstation& ws) {
     } figures[] = {
         {"hRecords", "1=1; BillDate is not null; clinicType='ANTENATAL'; coyName='0102'; referal='YES'"},
         {"hPatients", "coyName='0102'; ref='YES'", "DebtBF"},
-        {"BillAccum", "consultID<>''; billTo='0102'; Capitated='YES'", "attendedto; isBilled; isRct; SubTotal"},
-        {"BillingDetails", "1=1; billTo='0102'; BillHead='TABLETS'", "SubTotal; isRct"},
+        {"BillAccum", "consultID<>''; billTo='0102'; Capitated='YES'; revType='DRUGS'",
+         "attendedto; isBilled; isRct; SubTotal"},
+        {"BillingDetails", "1=1; billTo='0102'; BillHead='TABLETS'; revType='DRUGS'", "SubTotal; isRct"},
         {"Billing", "clientID='0102'; isProcess=1; InvNo='0'", "Amountbilled; AmountPaid"},
         {"BillsForClients", "1=1; isOLD=0", "AmountInvoiced"},
         {"hDebtors", "1=1", "Amount"},
         {"hRetainership", "", "Debt"},
         {"Payments", "1=1", "AmountPaid"},
         {"PaymentTypes", "", "AmountPaid"},
-        {"PaymentDetails", "", "AmountPaid"},
+        {"PaymentDetails", "revType='DRUGS'", "AmountPaid"},
+        {"hRevenueType", "1=1; revType='DRUGS'"},
+        {"drugMaster", "revType='DRUGS'"},
         {"Tranxaction", "1=1", "Amount"},
         {"BillingDetailsAdjust", "1=1"},
         {"billDiscounts", "", "Amount"},
