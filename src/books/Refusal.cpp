@@ -36,6 +36,7 @@ constexpr struct {
     {Refusal::NoSupplierCode, "Error Generating Supplier Code"},
     {Refusal::GroupCodeTaken, "The Record was not saved: the next Code is already in use"},
     {Refusal::SupplierCodeTaken, "The Record was not saved: the next Code is already in use by another Creditor"},
+    {Refusal::VoucherPaid, "This Voucher was paid by another user."},
     {Refusal::NoDrug, "There is no Drug or Service of this name"},
     {Refusal::UserNameTaken, "Alert! Username already assigned to someone else."},
     {Refusal::UnknownUser, "Alert! Indicated username not found in the list of accredited users."},

@@ -32,6 +32,7 @@ enum class Refusal {
     NoSupplierCode,    ///< no code can be made for a new creditor
     GroupCodeTaken,    ///< a bank, or a category of expenses, bears the code that comes next
     SupplierCodeTaken, ///< a creditor bears the code that comes next
+    VoucherPaid,       ///< the voucher was paid since it was picked
     NoDrug,            ///< no drug or service bears the name
     UserNameTaken,     ///< an account bears the name
     UnknownUser,       ///< no account bears the name, or not with this password

@@ -2,6 +2,7 @@
 
 #include "accounts/frmBanks.h"
 #include "accounts/frmExpenseItems.h"
+#include "accounts/frmExpensePay.h"
 #include "accounts/frmRevAcctSelect.h"
 #include "accounts/frmRevCat.h"
 #include "accounts/frmRevCatEdit.h"
@@ -111,6 +112,7 @@ constexpr struct {
 
     {"frmBanks", make<frmBanks>},
     {"frmExpenseItems", make<frmExpenseItems>},
+    {"frmExpensePay", make<frmExpensePay>},
     {"frmRevAcctSelect", make<frmRevAcctSelect>},
     {"frmRevCat", make<frmRevCat>},
     {"frmRevCatEdit", make<frmRevCatEdit>},

@@ -49,6 +49,7 @@ const QHash<QString, QString>& patterns() {
         {"SUPPLIER ADD", "Creditor %1 saved"},
         {"SUPPLIER EDIT", "Creditor %1 saved"},
         {"SUPPLIER DELETE", "Creditor %1 deleted"},
+        {"VOUCHER PAYMENT", "Voucher %1 paid[: %2]"},
         {"USER", "User %1 saved"},
         {"PASSWORD", "Password of %1 changed"},
     };

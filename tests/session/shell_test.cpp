@@ -152,7 +152,7 @@ TEST_P(Shell, everyEntryActsOrIsGreyButTheEmptyOnes) {
         forms.join(' '),
         "mnuApprvCode>frmApprvCode mnuCoyInfo>frmRetainership mnuSupp>frmSupplers "
         "mnuEII>frmExpenseItems mnuRevCat>frmRevCat mnuUPC>frmCoyUpdate mnuBanks>frmBanks mnuOffAttd>frmRecordsOffline "
-        "mnuVerify>frmBillingVerify mnuViewColl>frmBillProcess "
+        "mnuVerify>frmBillingVerify mnuViewColl>frmBillProcess mnuPayVouch>frmExpensePay "
         "mnuMIGFC>frmBillProcessing mnuLastBatch>frmBillReverseProcessing mnuAdmDepo>frmReceiptDeposit "
         "mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount "
         "mnuRPtES>rptPanelSummary mnuOffline>frmReceiptManual mnuPSITC>frmExistBill mnuPCB>rptPanelSummary "

@@ -146,6 +146,27 @@ void enterMonthReversal(Workstation& ws) {
     ws.tick("frmBillReverseProcessing.LstDate", {"2026/03"});
 }
 
+/// A voucher of two items.
+void layVoucher(Workstation& ws) {
+    ws.run("insert into ChartOfAccounts (AccountNo, AccountName, groupID) values "
+           "('1210', 'CASH', '1210000'), ('5310', 'FUEL', '5310000')");
+    ws.run("insert into hExpenseApprvFinal (vouchNo, ApprvDate, ReceivedBy, Amount) values "
+           "('V1', '2026-03-14', 'MUSA', 700.5)");
+    ws.run("insert into hExpenseDetailsApprvFinal (vouchNo, ItemName, ItemCode, Qty, Price, SubTotal) values "
+           "('V1', 'DIESEL', '001', 2, 250.25, 500.5), ('V1', 'PAPER', '002', 1, 200, 200)");
+}
+
+void enterVoucher(Workstation& ws) {
+    ws.open("frmExpensePay");
+    ws.click("frmExpensePay.cmdAdd");
+    ws.pick("frmExpensePay.cboCat", 0);
+    for (int row = 0; row < 2; ++row) {
+        ws.pick("frmExpensePay.cboDrug", row);
+        fill(ws, "frmExpensePay", {{"cboPay", "CASH"}, {"cboExpense", "FUEL[5310]"}, {"cboBank", "CASH[1210]"}});
+        ws.click("frmExpensePay.cmdGrid");
+    }
+}
+
 /// The first line of the bill, before the accountant.
 void enterRevenueCorrection(Workstation& ws) {
     ws.open("frmRevCatEdit");
@@ -265,6 +286,7 @@ const QList<MoneyAction>& moneyActions() {
         {"RevenueRename", layReceipt, enterRevenueRename, "frmRevCat.OKButton", "yes", "box Record Succesfully Update",
          true},
         {"RevenueCorrection", layReceipt, enterRevenueCorrection, "frmRevCatEdit.OKButton", "", "", true},
+        {"VoucherPayment", layVoucher, enterVoucher, "frmExpensePay.OKButton", "yes", saved},
         {"User", layVisit, enterUser, "frmUsers.cmdApply", "", "box Account creation succeeded.", true},
         {"Role", layVisit,
          [](Workstation& ws) {
@@ -333,6 +355,10 @@ QString moneyFigures(Workstation& ws) {
         {"PaymentDetails", "revType='DRUGS'", "AmountPaid"},
         {"hRevenueType", "1=1; revType='DRUGS'"},
         {"drugMaster", "revType='DRUGS'"},
+        {"hExpenseApprvFinal", "", "AmountPaid; isPaid"},
+        {"hExpenseDetailsApprvFinal", "", "AttendedTo; isApprv"},
+        {"hExpensePay", "1=1", "Amount"},
+        {"hExpensePayDetails", "1=1", "Amount"},
         {"Tranxaction", "1=1", "Amount"},
         {"BillingDetailsAdjust", "1=1"},
         {"billDiscounts", "", "Amount"},
