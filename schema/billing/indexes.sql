@@ -81,6 +81,9 @@ create unique index uxDetailsSNo on BillingDetails (SNo) where SNo is not null
 go
 create index ixDetailsBillNo on BillingDetails (billNo)
 go
+-- The revenue of some days.
+create index ixDetailsDate on BillingDetails (dtDate)
+go
 create index ixAdjustBillNo on BillingDetailsAdjust (billNo)
 go
 create index ixBatchesNo on BillsForClients (BatchNo, CoyCode)
@@ -148,4 +151,13 @@ go
 create unique index uxChartAccountNo on ChartOfAccounts (AccountNo)
 go
 create index ixChartGroup on ChartOfAccounts (groupID)
+go
+
+create index ixVoucherNo on hExpenseApprvFinal (vouchNo)
+go
+create index ixVoucherItemsNo on hExpenseDetailsApprvFinal (vouchNo)
+go
+create index ixVoucherPaidDate on hExpensePay (PayDate)
+go
+create index ixVoucherPaidItemsNo on hExpensePayDetails (vouchNo)
 go

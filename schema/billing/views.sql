@@ -84,7 +84,7 @@ go
 -- Every client.
 create view vwhretainership as
 select r.retainCode as RetainCode, r.retainID, r.retainName as ClientName, r.ClientType, r.clientcatID as Category,
-    r.Address, r.PhoneNo, r.Email, r.Contact, r.Active, r.Debt, r.BillEndDate
+    r.Address, r.PhoneNo, r.Email, r.Contact, r.Active, r.Debt, r.BillEndDate, r.AcctID
 from hRetainership r
 go
 -- The client codes in use as numbers.

@@ -205,7 +205,9 @@ void frmBillingVerify::cmdExt_Click() {
 }
 
 void frmBillingVerify::cmdRev_Click() {
-    program.open("frmRevHeaders");
+    program.openModal("frmRevHeaders");
+    if (receipt.cboPayFor.isUsable() && !session.sRevHeads.isEmpty())
+        receipt.cboPayFor.setText(session.sRevHeads);
 }
 
 void frmBillingVerify::cmdPR_Click() {

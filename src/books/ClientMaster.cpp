@@ -1,16 +1,10 @@
 #include "books/ClientMaster.h"
 
+#include "books/NextCode.h"
+
 namespace orvane {
 
 namespace {
-
-/// The code behind the highest one in use; the fifth digit is lost.
-Given<QString> genIDNoMain(Connection& connection) {
-    const Recordset highest(connection, Sql("select max(retaincode) as ID from vwhRetainCode "));
-    if (highest.eof())
-        return Refusal::NoClientCode;
-    return ("0000" + QString::number(highest.integer("ID") + 1)).right(4);
-}
 
 bool isTaken(Connection& connection, const QString& code) {
     return !Recordset(connection, Sql("select retainID from hRetainership where retainID='")
@@ -26,6 +20,7 @@ void compose(Recordset& row, const ClientEntry& entry) {
     row.set("Address", entry.address);
     row.set("PhoneNo", nullIfEmpty(entry.phone));
     row.set("Email", nullIfEmpty(entry.email));
+    row.set("AcctID", nullIfEmpty(entry.account));
     row.set("Active", entry.active);
     row.set("BillEndDate", entry.billEndDay);
     row.update();
@@ -34,9 +29,10 @@ void compose(Recordset& row, const ClientEntry& entry) {
 } // namespace
 
 Given<QString> addClient(Books& books, const ClientEntry& entry) {
-    const Given<QString> code = genIDNoMain(books.connection);
+    const std::optional<QString> code =
+        nextCode(books.connection, Sql("select max(retaincode) as ID from vwhRetainCode "), 4);
     if (!code)
-        return code;
+        return Refusal::NoClientCode;
     if (isTaken(books.connection, *code))
         return Refusal::ClientCodeTaken;
     Recordset row(books.connection, Sql("select * from hRetainership where 1=2"));
@@ -45,7 +41,7 @@ Given<QString> addClient(Books& books, const ClientEntry& entry) {
     row.set("retainID", *code);
     compose(row, entry);
     books.record(*code, 0);
-    return code;
+    return *code;
 }
 
 void changeClient(Books& books, const QString& retainID, const ClientEntry& entry) {

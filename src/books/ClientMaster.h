@@ -9,6 +9,7 @@ struct ClientEntry {
     QString name;
     QString type, category; ///< one of hClientType; the billing category of the client's patients
     QString contact, address, phone, email;
+    QString account;     ///< of the ledger, that of what the client owes; empty: it has none yet
     QString active;      ///< "YES" or "NO"
     int billEndDay = 31; ///< of the month on which the billing month ends; 31: no special end
 };

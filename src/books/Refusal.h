@@ -35,6 +35,17 @@ enum class Refusal {
     ClientCodeTaken,   ///< a client bears the code that comes next
     ClientHasPatients, ///< the client to be deleted is that of patients
     ClientExempt,      ///< the client is in the list of exemptions already
+    RevenueTypeTaken,  ///< a revenue type bears the name
+    RevenueTypeGone,   ///< the revenue type under edit was renamed or deleted
+    CatchAllRevenue,   ///< the type that stands for every other one is not deleted
+    NoBankCode,        ///< no code can be made for a new bank
+    NoBranchCode,      ///< no code can be made for a new branch of a bank
+    NoExpenseCatCode,  ///< no code can be made for a new category of expenses
+    NoExpenseItemCode, ///< no code can be made for a new expense item
+    NoSupplierCode,    ///< no code can be made for a new creditor
+    GroupCodeTaken,    ///< a bank, or a category of expenses, bears the code that comes next
+    SupplierCodeTaken, ///< a creditor bears the code that comes next
+    VoucherPaid,       ///< the voucher was paid since it was picked
     NoDrug,            ///< no drug or service bears the name
     UserNameTaken,     ///< an account bears the name
     UnknownUser,       ///< no account bears the name, or not with this password

@@ -22,9 +22,10 @@ Layout frmRetainership::layout() const {
                    row({column({field("Company Name", txtName, 44), field("Contact Name", txtContact, 44),
                                 field("Address", txtAddress, 44), field("Email", txtEmail, 44)}),
                         column({field("Client Type", cboClient, 20), field("Phone", txtPhone, 20),
-                                field("Client Active?", cboYes, 8), field("Month Ending", cboNum, 8)}),
+                                row({field("Client Active?", cboYes, 8), field("Month Ending", cboNum, 8), stretch()}),
+                                account.layout()}),
                         stretch()}),
-                   buttons({&cmdAdd, &cmdEdit, &cmdDel, &cmdRefresh}, {&cmdCancel, &CancelButton, &OKButton})});
+                   master.row()});
 }
 
 void frmRetainership::Form_Load() {
@@ -67,6 +68,12 @@ void frmRetainership::cboClient_Click() {
     sClientType = cboClient.text();
 }
 
+QString frmRetainership::accountOf(const QString& retainID) {
+    Connection connection = program.openBilling();
+    const Recordset client(connection, Sql("select AcctID from vwhretainership where retainID='") << retainID << "'");
+    return client.eof() ? QString() : client.text("AcctID");
+}
+
 void frmRetainership::cmdAdd_Click() {
     openEntry(true);
     txtName.setFocus();
@@ -74,7 +81,7 @@ void frmRetainership::cmdAdd_Click() {
 
 void frmRetainership::cmdEdit_Click() {
     // A double click in the list must not take away what is being entered.
-    if (grdData.currentRow() < 0 || OKButton.isVisible())
+    if (grdData.currentRow() < 0 || master.isEntering())
         return;
     bEditing = true;
     openEntry(true);
@@ -86,6 +93,7 @@ void frmRetainership::cmdEdit_Click() {
     txtEmail.setText(grdData.text("Email"));
     cboClient.setText(grdData.text("ClientType"));
     cboYes.setText(grdData.text("Active"));
+    account.txtAcctNo.setText(accountOf(sRetainID));
     const QString lastDay = grdData.text("BillEndDate");
     cboNum.setText(lastDay.isEmpty() ? wholeMonth : lastDay);
     txtName.setFocus();
@@ -94,7 +102,7 @@ void frmRetainership::cmdEdit_Click() {
 void frmRetainership::cmdDel_Click() {
     if (grdData.currentRow() < 0)
         return;
-    save<Saved>({.button = cmdDel,
+    save<Saved>({.button = master.cmdDel,
                  .action = "CLIENT DELETE",
                  .question = "Are you sure to Delete Record",
                  .title = "Delete",
@@ -135,6 +143,7 @@ ClientEntry frmRetainership::entered() const {
             .address = txtAddress.text().trimmed(),
             .phone = txtPhone.text().trimmed(),
             .email = txtEmail.text().trimmed(),
+            .account = account.accountNo(),
             .active = cboYes.text(),
             .billEndDay = cboNum.text().toInt()};
 }
@@ -142,7 +151,7 @@ ClientEntry frmRetainership::entered() const {
 void frmRetainership::OKButton_Click() {
     if (bEditing)
         save<Saved>(
-            {.button = OKButton,
+            {.button = master.OKButton,
              .action = "CLIENT EDIT",
              .allowed = [this] { return isComplete(); },
              .step = [this](Books& books) -> Given<Saved> {
@@ -152,7 +161,7 @@ void frmRetainership::OKButton_Click() {
              .follow = [this](const Saved&) { afterSave("Record Succesfully Updated", "Edit Client Info: "); }});
     else
         save<QString>(
-            {.button = OKButton,
+            {.button = master.OKButton,
              .action = "CLIENT ADD",
              .allowed = [this] { return isComplete(); },
              .step = [this](Books& books) { return addClient(books, entered()); },
@@ -168,7 +177,7 @@ void frmRetainership::afterSave(const QString& message, const QString& action) {
 }
 
 void frmRetainership::clearFields() {
-    for (TextBox* box : {&txtName, &txtContact, &txtPhone, &txtAddress, &txtEmail})
+    for (TextBox* box : {&txtName, &txtContact, &txtPhone, &txtAddress, &txtEmail, &account.txtAcctNo})
         box->clear();
     for (ComboBox* box : {&cboClient, &cboYes})
         box->setListIndex(-1);
@@ -180,10 +189,8 @@ void frmRetainership::openEntry(bool entering) {
     for (Control* field : std::initializer_list<Control*>{&txtName, &txtContact, &txtPhone, &txtAddress, &txtEmail,
                                                           &cboClient, &cboYes, &cboNum})
         field->setEnabled(entering);
-    for (Button* button : {&OKButton, &cmdCancel})
-        button->setVisible(entering);
-    for (Button* button : {&cmdAdd, &cmdEdit, &cmdDel, &cmdRefresh})
-        button->setVisible(!entering);
+    account.setEnabled(entering);
+    master.setEntering(entering);
 }
 
 } // namespace orvane

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "books/ClientMaster.h"
-#include "session/Screen.h"
+#include "forms/MasterButtons.h"
+#include "session/AccountPicker.h"
 
 namespace orvane {
 
@@ -12,13 +13,14 @@ public:
 
     Layout layout() const override;
     void Form_Load() override;
-    Button* defaultButton() override { return OKButton.isVisible() ? &OKButton : nullptr; }
-    Button* cancelButton() override { return &CancelButton; }
+    Button* defaultButton() override { return master.isEntering() ? &master.OKButton : nullptr; }
+    Button* cancelButton() override { return &master.CancelButton; }
 
 private:
     void fillGrid();
     void txtSearch_Change();
     void cboClient_Click();
+    QString accountOf(const QString& retainID);
     void cmdAdd_Click();
     void cmdEdit_Click();
     void cmdDel_Click();
@@ -42,13 +44,14 @@ private:
     ComboBox cboClient{*this, "cboClient", ComboBox::ListOnly, &Me::cboClient_Click};
     ComboBox cboYes{*this, "cboYes", ComboBox::ListOnly};
     ComboBox cboNum{*this, "cboNum", ComboBox::ListOnly};
-    Button cmdAdd{*this, "cmdAdd", "&Add", &Me::cmdAdd_Click};
-    Button cmdEdit{*this, "cmdEdit", "&Edit", &Me::cmdEdit_Click};
-    Button cmdDel{*this, "cmdDel", "&Delete", &Me::cmdDel_Click};
-    Button cmdRefresh{*this, "cmdRefresh", "&Refresh", &Me::cmdRefresh_Click};
-    Button cmdCancel{*this, "cmdCancel", "Ca&ncel", &Me::cmdCancel_Click};
-    Button CancelButton{*this, "CancelButton", "&Close", &Me::unload};
-    Button OKButton{*this, "OKButton", "&Save", &Me::OKButton_Click};
+    AccountPicker account{*this, program};
+    MasterButtons master{*this,
+                         &Me::cmdAdd_Click,
+                         &Me::cmdEdit_Click,
+                         &Me::cmdDel_Click,
+                         &Me::cmdRefresh_Click,
+                         &Me::cmdCancel_Click,
+                         &Me::OKButton_Click};
 
     bool bEditing = false;
     QString sRetainID;   ///< of the client under edit

@@ -41,6 +41,7 @@ void makeMasterData(DemoHospital& hospital) {
     makeAccounts(accounting, hospital);
     copySharedTables(billing, accounting);
     makeClients(billing, hospital);
+    makeAccountLists(billing, hospital);
     makePrices(billing, hospital);
     makeEmployees(billing, hospital);
     if (hospital.options.bills == 0)

@@ -69,6 +69,8 @@ void addRow(Recordset& rows, const RowValues& values);
 void makeSettings(Connection& billing, const DemoHospital& hospital);
 void makeUsers(Connection& billing);
 void makeAccounts(Connection& accounting, const DemoHospital& hospital);
+/// Banks, expense items, creditors and the vouchers that wait for their payment.
+void makeAccountLists(Connection& billing, const DemoHospital& hospital);
 void makePrices(Connection& billing, DemoHospital& hospital);
 void makeClients(Connection& billing, DemoHospital& hospital);
 void makeEmployees(Connection& billing, DemoHospital& hospital);

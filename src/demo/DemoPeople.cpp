@@ -83,7 +83,11 @@ QString categoryOf(const QString& type, int index) {
     return type == QLatin1String("COMPANY") ? ofCompanies.at(index % int(ofCompanies.size())) : type;
 }
 
-QString receivablesAccount(const QString& type) {
+/// Of what such a client owes. A few have none yet: what they owe lies in suspense.
+QVariant receivablesAccount(const DemoClient& client) {
+    const QString& type = client.type;
+    if (client.id.endsWith(u'7'))
+        return {};
     if (type == QLatin1String("HMO"))
         return "1230020";
     if (type == QLatin1String("NHIS") || type == QLatin1String("PHIS"))
@@ -180,7 +184,7 @@ void makeClients(Connection& billing, DemoHospital& hospital) {
                       {"PhoneNo", phone(hospital.random)},
                       {"Active", "YES"},
                       {"BillEndDate", hospital.random.chance(25) ? 25 : 31},
-                      {"AcctID", receivablesAccount(client.type)},
+                      {"AcctID", receivablesAccount(client)},
                       {"Debt", 0}});
     }
     transaction.commit();

@@ -158,7 +158,7 @@ bool Mnemonics::takeForeign(Item& item) {
 }
 
 void Mnemonics::assignTo(Item& item) {
-    if (item.key.letter.isNull() && !candidates(plain(item.caption)).isEmpty() && !takeOwn(item))
+    if (item.key.letter.isNull() && !plain(item.caption).trimmed().isEmpty() && !takeOwn(item))
         takeForeign(item);
 }
 

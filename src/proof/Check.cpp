@@ -29,7 +29,8 @@ CheckReport checkDatabases(Connection& billing, Connection& accounting) {
     if (!report.findings.isEmpty())
         return report;
     Checker ofBilling(billing, "billing");
-    for (const auto& checks : {numberChecks(), accountChecks(), billChecks(), receiptChecks(), monthChecks()})
+    for (const auto& checks :
+         {numberChecks(), accountChecks(), billChecks(), receiptChecks(), monthChecks(), voucherChecks()})
         ofBilling.run(checks, report.findings, report.remarks);
     ofBilling.runNumbers(report.findings);
     ofBilling.runDemanded(report.findings);
@@ -49,7 +50,7 @@ CheckReport checkDatabases(Connection& billing, Connection& accounting) {
 QStringList checkNames() {
     QStringList names = Checker::amountCheckNames() + postingCheckNames() + QStringList{"repeated table"};
     for (const auto& checks : {numberChecks(), accountChecks(), billChecks(), receiptChecks(), monthChecks(),
-                               noticeChecks(), monthNotices(), ledgerChecks(), ledgerNotices()})
+                               voucherChecks(), noticeChecks(), monthNotices(), ledgerChecks(), ledgerNotices()})
         for (const Check& check : checks)
             names.append(QString::fromLatin1(check.name));
     return names;

@@ -23,6 +23,7 @@ std::span<const Check> accountChecks();
 std::span<const Check> noticeChecks(); ///< what actions of the program leave and a person may want to know
 std::span<const Check> monthChecks();
 std::span<const Check> monthNotices();
+std::span<const Check> voucherChecks();
 /// Of the accounting database.
 std::span<const Check> ledgerChecks();
 std::span<const Check> ledgerNotices();

@@ -1,5 +1,15 @@
 #include "screens/Screens.h"
 
+#include "accounts/frmBanks.h"
+#include "accounts/frmExpenseItems.h"
+#include "accounts/frmExpensePay.h"
+#include "accounts/frmRevAcctSelect.h"
+#include "accounts/frmRevCashAcct.h"
+#include "accounts/frmRevCashAdjust.h"
+#include "accounts/frmRevCat.h"
+#include "accounts/frmRevCatEdit.h"
+#include "accounts/frmRevHeaders.h"
+#include "accounts/frmSupplers.h"
 #include "attendance/frmCoyUpdate.h"
 #include "attendance/frmFind.h"
 #include "attendance/frmFlash.h"
@@ -24,8 +34,8 @@
 #include "clients/FrmRptBillsByPat.h"
 #include "clients/frmBillProcess.h"
 #include "clients/frmBillProcessing.h"
-#include "clients/frmBillProcessingShift.h"
 #include "clients/frmBillProcessingPost.h"
+#include "clients/frmBillProcessingShift.h"
 #include "clients/frmBillReverseProcessing.h"
 #include "clients/frmBillSplitting.h"
 #include "clients/frmBillToCapitated.h"
@@ -120,6 +130,17 @@ constexpr struct {
 
     {"frmPrintRpt", make<frmPrintRpt>},
     {"frmRevPrintRpt", make<frmRevPrintRpt>},
+
+    {"frmBanks", make<frmBanks>},
+    {"frmExpenseItems", make<frmExpenseItems>},
+    {"frmExpensePay", make<frmExpensePay>},
+    {"frmRevAcctSelect", make<frmRevAcctSelect>},
+    {"frmRevCashAcct", make<frmRevCashAcct>},
+    {"frmRevCashAdjust", make<frmRevCashAdjust>},
+    {"frmRevCat", make<frmRevCat>},
+    {"frmRevCatEdit", make<frmRevCatEdit>},
+    {"frmRevHeaders", make<frmRevHeaders>},
+    {"frmSupplers", make<frmSupplers>},
 
     {"frmDrugPrice", make<frmDrugPrice>},
 };

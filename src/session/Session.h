@@ -63,6 +63,15 @@ struct Session {
     QString sRptPanelLabel;             ///< what the label of rptPanelSummary asks for
     QString sRctLine1, sRctLine2, sRctLine3, sRctLine4, sRctLine5;
     QString sBatchNo, sBatchMonth, sBatchYear; ///< of the monthly batch
+
+    // The accounts.
+    QString sRevRptMode;   ///< the revenue report: "SUMMARY", "DETAIL", "CONS-DETAIL" or "CASH"
+    Sql sRevRptSQL;        ///< its rows
+    QString sRevRptClient; ///< whom it is about, in words
+    QDate dRevRptFrom, dRevRptTo;
+    QString sAcctCaller;   ///< the screen that asks for an account of the ledger
+    QString sAcctSelected; ///< handed to it; empty: none was taken
+    QString sRevHeads;     ///< what a payment covers, as picked; empty: nothing was
 };
 
 } // namespace orvane

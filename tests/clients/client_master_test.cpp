@@ -7,7 +7,10 @@ class ClientMaster : public ScreenTest {
 protected:
     ClientMaster() : ScreenTest("frmRetainership") {}
 
-    void prepare() override { ws.run("insert into hClientType (ClientType) values ('COMPANY'), ('HMO')"); }
+    void prepare() override {
+        ws.run("insert into hClientType (ClientType) values ('COMPANY'), ('HMO')");
+        layAccounts({"'1201', 'HMO DEBTS', '1230000'", "'1202', 'MILLS', '1230000'", "'4001', 'INCOME', '4'"});
+    }
     void enter(const QString& name) {
         click("cmdAdd");
         set("txtName", name);
@@ -58,6 +61,29 @@ TEST_P(ClientMaster, AClientIsAddedChangedAndDeleted) {
     ui.answer(true);
     EXPECT_EQ(told("cmdDel"), " Record successfully deleted ");
     EXPECT_EQ(client("ACME") + rows("select retainID from hRetainershipScheme"), "");
+}
+
+TEST_P(ClientMaster, AnAccountIsPickedOfTheReceivablesAlone) {
+    open();
+    row("grdData", "CLEARWATER HMO");
+    dblClick("grdData");
+    ui.inModal("frmRevAcctSelect", [&](Form&) {
+        EXPECT_EQ(ws.items("frmRevAcctSelect.LstAcct").join('/'), "HMO DEBTS [1201]/MILLS [1202]");
+        ws.tick("frmRevAcctSelect.LstAcct", {"HMO DEBTS [1201]", "MILLS [1202]"});
+        ws.click("frmRevAcctSelect.OKButton");
+        EXPECT_BOXES(ui, {"Only one Account at a time"});
+        ws.tick("frmRevAcctSelect.LstAcct", {"MILLS [1202]"}, false);
+        ws.click("frmRevAcctSelect.OKButton");
+    });
+    click("cmdAccts");
+    set("txtAddress", "1 CREEK ROAD");
+    EXPECT_EQ(told("OKButton"), "Record Succesfully Updated");
+    EXPECT_EQ(rows("select AcctID from vwhretainership where retainID='0201'"), "1201");
+    row("grdData", "CLEARWATER HMO");
+    dblClick("grdData");
+    EXPECT_EQ(shown("txtAcctNo lblAcct"), "1201|HMO DEBTS");
+    click("cmdCancel");
+    EXPECT_EQ(value("txtAcctNo"), "");
 }
 
 TEST_P(ClientMaster, ACodeThatHasWrappedIsRefusedWhereItIsInUse) {

@@ -70,6 +70,10 @@ const Rows soundRows[] = {
     {"hDebtors (billNo,clientNo,invNo,Amount)",
      {"'0102','0102','0102/2026/02',50", "'0102','0102','0102/2026/03',500", "'0102','0102','0102/2026/03',400"}},
     {"hApprvCode (consultID,ApprvCode)", {"'001OFL0000003','OFH/1'", "'001OFL0000099','OFH/2'"}},
+    // A voucher paid in part, which closes it, and one that waits.
+    {"hExpenseApprvFinal (vouchNo,Amount,AmountPaid,isPaid)", {"'V1',100,90.5,1", "'V2',70,0,0"}},
+    {"hExpensePay (vouchNo,Amount)", {"'V1',90.5"}},
+    {"hExpensePayDetails (vouchNo,Amount)", {"'V1',50.25", "'V1',40.25"}},
 };
 
 /// Lays rows and does to them what the statements say.
@@ -133,6 +137,10 @@ const Plant plants[] = {
     {"correction without patient", {"update hDebtReview set PNo='9/001' where Debt=50"}},
     {"correction without bill", {"update hDebtReview set billNo='001OFL0000077' where Debt=50"}},
     {"correction's sign", {"update hDebtReview set Debt=200 where Debt=-200"}},
+    {"amount paid on a voucher", {"update hExpenseApprvFinal set AmountPaid=90.01 where vouchNo='V1'"}},
+    {"items of a voucher's payment", {"update hExpensePayDetails set Amount=40.24 where vouchNo='V1'"}},
+    {"payment without voucher", {"update hExpenseApprvFinal set isPaid=0 where vouchNo='V1'"}},
+    {"paid voucher without payment", {"update hExpenseApprvFinal set isPaid=1 where vouchNo='V2'"}},
     {"approval code without visit", {"update hApprvCode set consultID='001OFL0000077' where ApprvCode='OFH/1'"}},
     {"amount that is not stated", {"update BillAccum set SubTotal=null where SNo=1"}},
     {"amount that is no number", {"update BillAccum set Price=1e308*10 where SNo=1"}},

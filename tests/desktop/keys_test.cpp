@@ -5,6 +5,7 @@
 #include "desktop/ViewTest.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
+#include "support/Rows.h"
 #include "support/Workstation.h"
 
 #include <QFile>
@@ -176,6 +177,30 @@ TEST_P(KeysTest, BillsAreMovedBeforeTheMonthsRun) {
               "Are you sure to Update Bills Processing?|1 Patient Bills successfully Shifted to Another Month|"
               "Records successfully Updated|Are you sure to Shift/Split Bill?|"
               "1 Patient Bill Items successfully Shifted to PRIVATE PATIENTS");
+}
+
+TEST_P(KeysTest, AVoucherIsPaidAndARevenueTypeAdded) {
+    const QString pay = "frmExpensePay.", type = "frmRevCat.";
+    Connection billing = program.openBilling();
+    billing.run("insert into ChartOfAccounts (AccountNo, AccountName, groupID) values ('1210', 'CASH', '1210000'), "
+                "('5310', 'FUEL', '5310000')");
+    billing.run("insert into hExpenseApprvFinal (vouchNo, ApprvDate, ReceivedBy, Amount) values "
+                "('V1', '2026-03-14', 'MUSA', 501)");
+    billing.run("insert into hExpenseDetailsApprvFinal (vouchNo, ItemName, Qty, Price, SubTotal) values "
+                "('V1', 'DIESEL', 2, 250.5, 501)");
+    const int counted =
+        work({"MdiTolmek.mnuActivities", "P", pay + "cmdAdd", "Down", pay + "cboDrug", "Down", pay + "cboPay", "Down",
+              pay + "cboExpense", "Down", pay + "cboBank", "Down", pay + "cmdGrid", "Ctrl+S"});
+    RecordProperty("voucher", counted);
+    EXPECT_EQ(boxes, (QStringList{"Are you sure to save?", "Record Succesfully saved"}));
+    EXPECT_EQ(target(), bindingOf(pay + "cmdAdd")->widget()) << "where the next entry begins";
+    EXPECT_EQ(rowsOf(billing, "select AmountPaid,isPaid from hExpenseApprvFinal"), "501|1");
+    boxes.clear();
+    work({"Esc", "MdiTolmek.mnuFile", "R", type + "cmdAdd", "'scans", "Tab", "'CLINIC", type + "txtAcctNo", "'1210",
+          type + "cboYes", "Down", "Ctrl+S"});
+    EXPECT_EQ(boxes, (QStringList{"Are you sure to Save Record", "Record Succesfully Saved"}));
+    EXPECT_EQ(rowsOf(billing, "select CatRemarks,Active,AccountNo from hRevenueType where revType='SCANS'"),
+              "CLINIC|YES|1210");
 }
 
 } // namespace

@@ -314,8 +314,8 @@ TEST(MnemonicsTest, GivesEachAKeyOfItsOwnAmongWhatIsInSight) {
     // Page, what it is, its words, and its key ("!": with Shift) with the words that show it.
     const QStringList cases{"0 first|Off|O: &Off", "0 press|&Find|I: F&ind", "0 press|OK|K: O&K",
                             "0 press|OK|O!: OK",   "0 press|OK|K!: OK",      "0 press|OK|1: OK (&1)",
-                            "0 field|AA|A: &AA",   "0 field|A A|A!: A A",    "0 field|A && A|2: A && A (&2)",
-                            "0 press|%|: %",       "1 press|X|X: &X",        "2 press|X|X: &X",
+                            "0 field|AA|A: &AA",   "0 field|A A|A!: A A",    "0 field|A && A|3: A && A (&3)",
+                            "0 press|%|2: % (&2)", "1 press|X|X: &X",        "2 press|X|X: &X",
                             "2 field|X|X!: X",     "0 press|Ze|E: Z&e",      "0 field|&Z|Z: &Z",
                             "0 field|U|U!: U",     "0 press|U|U: &U"};
     const QHash<QString, Mnemonics::Kind> kinds{

@@ -17,8 +17,10 @@ bool speaksOfTheEngine(const QString& box) {
         "byte sequence|too big|Parameter count|index row|permission|maximum|convert",
         QRegularExpression::CaseInsensitiveOption);
     // These are the program's own.
-    static const QRegularExpression own("^(Alert! )?Invalid (Login details|RoleID|Username|Patient No|Bill No)\\.?$|"
-                                        "^Invalid character detected!$");
+    static const QRegularExpression own(
+        "^(Alert! )?Invalid (Login details|RoleID|Username|Patient No|Bill No)\\.?$|"
+        "^Invalid character detected!$|^Invalid (Parent Name! Please select a Parent| Recipient Name! "
+        "Voucher No Required )$");
     return box.contains(words) && !box.contains(own);
 }
 

@@ -144,7 +144,7 @@ TEST_P(Rights, AreNoMoreThanTheProgramNeeds) {
         {TestHome::billing(),
          {"drop table Payments", "delete from Payments", "update Payments set AmountPaid=0", "delete from AuditTrail",
           "update Tranxaction set Amount=0", "delete from hPatients", "insert into AppDefaults (ID) values ('X')",
-          "select * from banks", "create table mine (a int)"}},
+          "select * from clients", "create table mine (a int)"}},
         {TestHome::accounting(),
          {"delete from Tranxaction", "insert into Tranxaction (TranID, AccountNo) values ('X', 'X')"}}};
     for (const auto& [database, statements] : refused)

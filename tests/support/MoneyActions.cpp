@@ -175,6 +175,43 @@ void enterSplit(Workstation& ws) {
     ws.pick("frmBillSplitting.cboPeriod", 1);
 }
 
+/// A voucher of two items.
+void layVoucher(Workstation& ws) {
+    ws.run("insert into ChartOfAccounts (AccountNo, AccountName, groupID) values "
+           "('1210', 'CASH', '1210000'), ('5310', 'FUEL', '5310000')");
+    ws.run("insert into hExpenseApprvFinal (vouchNo, ApprvDate, ReceivedBy, Amount) values "
+           "('V1', '2026-03-14', 'MUSA', 700.5)");
+    ws.run("insert into hExpenseDetailsApprvFinal (vouchNo, ItemName, ItemCode, Qty, Price, SubTotal) values "
+           "('V1', 'DIESEL', '001', 2, 250.25, 500.5), ('V1', 'PAPER', '002', 1, 200, 200)");
+}
+
+void enterVoucher(Workstation& ws) {
+    ws.open("frmExpensePay");
+    ws.click("frmExpensePay.cmdAdd");
+    ws.pick("frmExpensePay.cboCat", 0);
+    for (int row = 0; row < 2; ++row) {
+        ws.pick("frmExpensePay.cboDrug", row);
+        fill(ws, "frmExpensePay", {{"cboPay", "CASH"}, {"cboExpense", "FUEL[5310]"}, {"cboBank", "CASH[1210]"}});
+        ws.click("frmExpensePay.cmdGrid");
+    }
+}
+
+/// The first line of the bill, before the accountant.
+void enterRevenueCorrection(Workstation& ws) {
+    ws.open("frmRevCatEdit");
+    fill(ws, "frmRevCatEdit", {{"cboGroup", "(ALL)"}, {"DTPicker1", "2026-03-01"}, {"DTPicker2", "2026-03-31"}});
+    ws.click("frmRevCatEdit.cmdList");
+    ws.row("frmRevCatEdit.grdData", item);
+    fill(ws, "frmRevCatEdit", {{"cboRev", "OTHERS"}, {"chkIgnore", "yes"}});
+}
+
+void enterRevenueRename(Workstation& ws) {
+    ws.open("frmRevCat");
+    ws.row("frmRevCat.grdData", "DRUGS");
+    ws.click("frmRevCat.cmdEdit");
+    fill(ws, "frmRevCat", {{"txtNAme", "PHARMACY"}, {"cboVehNo", "CLINIC"}});
+}
+
 const char* const saved = "box Record Succesfully saved";
 const char* const receiptShown = "opened frmCashReceipt";
 
@@ -291,6 +328,10 @@ const QList<MoneyAction>& moneyActions() {
              ws.set("frmVerifyBillsInSummary.DTPicker1", "2026-03-01");
          },
          "frmVerifyBillsInSummary.OKButton", "", "box Records successfully Updated", true},
+        {"RevenueRename", layReceipt, enterRevenueRename, "frmRevCat.OKButton", "yes", "box Record Succesfully Update",
+         true},
+        {"RevenueCorrection", layReceipt, enterRevenueCorrection, "frmRevCatEdit.OKButton", "", "", true},
+        {"VoucherPayment", layVoucher, enterVoucher, "frmExpensePay.OKButton", "yes", saved},
         {"User", layVisit, enterUser, "frmUsers.cmdApply", "", "box Account creation succeeded.", true},
         {"Role", layVisit,
          [](Workstation& ws) {
@@ -348,15 +389,22 @@ QString moneyFigures(Workstation& ws) {
         {"hRecords", "1=1; BillDate is not null; BillDate<>recDate; AttndStatus='SPLIT'; clinicType='ANTENATAL'; "
                      "coyName='0102'; referal='YES'"},
         {"hPatients", "coyName='0102'; ref='YES'", "DebtBF"},
-        {"BillAccum", "consultID<>''; billTo='0102'; Capitated='YES'", "attendedto; isBilled; isRct; SubTotal"},
-        {"BillingDetails", "1=1; billTo='0102'; BillHead='TABLETS'", "SubTotal; isRct"},
+        {"BillAccum", "consultID<>''; billTo='0102'; Capitated='YES'; revType='DRUGS'",
+         "attendedto; isBilled; isRct; SubTotal"},
+        {"BillingDetails", "1=1; billTo='0102'; BillHead='TABLETS'; revType='DRUGS'", "SubTotal; isRct"},
         {"Billing", "clientID='0102'; isProcess=1; InvNo='0'", "Amountbilled; AmountPaid"},
         {"BillsForClients", "1=1; isOLD=0", "AmountInvoiced"},
         {"hDebtors", "1=1", "Amount"},
         {"hRetainership", "", "Debt"},
         {"Payments", "1=1", "AmountPaid"},
         {"PaymentTypes", "", "AmountPaid"},
-        {"PaymentDetails", "", "AmountPaid"},
+        {"PaymentDetails", "revType='DRUGS'", "AmountPaid"},
+        {"hRevenueType", "1=1; revType='DRUGS'"},
+        {"drugMaster", "revType='DRUGS'"},
+        {"hExpenseApprvFinal", "", "AmountPaid; isPaid"},
+        {"hExpenseDetailsApprvFinal", "", "AttendedTo; isApprv"},
+        {"hExpensePay", "1=1", "Amount"},
+        {"hExpensePayDetails", "1=1", "Amount"},
         {"Tranxaction", "1=1", "Amount"},
         {"BillingDetailsAdjust", "1=1"},
         {"billDiscounts", "", "Amount"},

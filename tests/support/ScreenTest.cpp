@@ -17,6 +17,13 @@ qlonglong ScreenTest::layItem(const TestItem& item) {
     return makeItem(connection, item);
 }
 
+void ScreenTest::layAccounts(std::initializer_list<const char*> accounts) {
+    for (const bool ofLedger : {false, true}) {
+        Connection connection = ofLedger ? ws.accounting() : ws.billing();
+        addRows(connection, "ChartOfAccounts (AccountNo, AccountName, groupID)", accounts);
+    }
+}
+
 void ScreenTest::layBill(double billed, double paid, const QString& bill, const QString& pno) {
     ws.run(QString("insert into Billing (billNo, bdate, PNo, clientID, Amountbilled, AmountPaid) values "
                    "('%1','2026-03-14','%2','0001',%3,%4)")

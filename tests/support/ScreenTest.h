@@ -18,6 +18,9 @@ protected:
     /// A bill in naira, with its charge in the patient's running account.
     void layBill(double billed, double paid = 0, const QString& bill = billNo, const QString& pno = "P/0001");
 
+    /// Accounts of the chart in both databases: number, name and group, such as "'1210', 'CASH', '1210000'".
+    void layAccounts(std::initializer_list<const char*> accounts);
+
     void open() { ws.open(m_form); }
     void open(const QString& form);                         ///< takes another screen in hand
     void takeInHand(const QString& form) { m_form = form; } ///< one that is open already

@@ -180,6 +180,18 @@ create index ixLedgerTempTranID on TranxactionTemp (TranID)
 go
 create index ixLedgerTempDate on TranxactionTemp (TranDate)
 )"},
+    {5, "billing", "the index by which the lines of some days are found, for the revenue of these days", R"(
+create index ixDetailsDate on BillingDetails (dtDate)
+)"},
+    {5, "billing", "the indexes by which vouchers and what was paid on them are found", R"(
+create index ixVoucherNo on hExpenseApprvFinal (vouchNo)
+go
+create index ixVoucherItemsNo on hExpenseDetailsApprvFinal (vouchNo)
+go
+create index ixVoucherPaidDate on hExpensePay (PayDate)
+go
+create index ixVoucherPaidItemsNo on hExpensePayDetails (vouchNo)
+)"},
 };
 
 } // namespace

@@ -1,0 +1,80 @@
+-- Views of the accounts.
+
+-- Every billed line of the day dtDate with its client, its revenue type and who rendered it.
+create view vwBillingDetailsForRev as
+select d.SNo as SNO, d.dtDate as Date,
+    isnull(p.fullname, (select max(q.fullname) from hPatientsPublic q where q.PNo = d.PNo)) as Fullname,
+    d.drgName as Service, d.Qty, d.SubTotal as subTotal, d.revType, d.treatedBy,
+    e.LastName + ' ' + e.firstname as Consultant, r.retainName as Company, d.billNo as BillNO,
+    isnull(h.clientCat, r.clientcatID) as clientCatID, d.BillType, r.retainCode as RetainCode,
+    r.ClientType as clientType, t.AccountNo
+from BillingDetails d
+left join hPatients p on p.PNo = d.PNo
+left join hRecords h on h.consultID = d.billNo
+left join hRetainership r on r.retainID = isnull(d.coyName, isnull(h.coyName,
+    (select max(o.coyName) from hRecordsPublic o where o.consultID = d.billNo)))
+left join hRevenueType t on t.revType = d.revType
+left join employees e on e.empID = d.treatedBy
+go
+-- What receipts were given for, item by item, with the client of the visit paid for.
+create view vwPaymentDetails as
+select d.SNo, d.ReceiptDate, d.ReceiptNo, d.AmountPaid, d.revType as RevType, d.billNo as billNO, d.AmountToPay,
+    d.AccountNo, d.BillItem, d.BillDate, d.isPost, r.retainName as Company, r.retainCode as RetainCode,
+    r.ClientType as clientType
+from PaymentDetails d
+left join hRecords h on h.consultID = d.billNo
+left join hRetainership r on r.retainID = isnull(h.coyName,
+    (select max(o.coyName) from hRecordsPublic o where o.consultID = d.billNo))
+go
+
+-- Every bank's own row and its branches; BName is the bank's name as it stands now.
+create view vwBanks as
+select b.SNO, isnull(b.bankname, g.GroupName) as BankName, b.Branch, b.Location, b.bankcode as BankCode,
+    b.branchcode as BranchCode, g.GroupName as BName, b.Status
+from banks b
+left join groupbank g on g.groupcode = b.bankcode
+go
+-- Every category's own row and its items; BName is the category's name.
+create view vwItems as
+select i.SNO, i.ItemName, i.Description, i.ItemCode, i.catcode as Catcode, c.catName as BName, i.Status
+from hExpenseItems i
+left join hExpenseCat c on c.catcode = i.catcode
+go
+-- The item codes in use as numbers.
+create view vwItemCode as
+select i.catcode as catCode, cast(i.ItemCode as bigint) as itemcode
+from hExpenseItems i
+go
+-- The creditors.
+create view vwsuppliers as
+select s.supplierID, s.SupplierName, s.Category, s.Address, s.Phone, s.Email, s.ContactName as Contact, s.AccountNo
+from suppliers s
+go
+-- The creditors' numbers.
+create view vwSupplierCode as
+select cast(s.supplierID as bigint) as supplierID
+from suppliers s
+go
+
+-- The items of approved vouchers.
+create view vwhExpenseApprvFinal as
+select d.ExpID as SNo, d.ExpID, d.vouchNo as VouchNo, d.ExpDate, h.ApprvDate as Date, d.ItemCode, d.ItemName,
+    d.Description, d.Qty, d.Price, d.SubTotal, d.SubTotal as Amount, d.RefNo, d.AcctID, h.Remarks, d.ispost as isPost
+from hExpenseDetailsApprvFinal d
+left join hExpenseApprvFinal h on h.vouchNo = d.vouchNo
+go
+-- The approved vouchers.
+create view vwhExpenseApprvFinalHeader as
+select h.SNo, h.ApprvDate as Date, h.ReceivedBy, h.vouchNo as VouchNo, h.Amount, h.AmountPaid, h.Remarks, h.ApprvBy,
+    h.isPaid, h.Suppres
+from hExpenseApprvFinal h
+go
+-- What was paid on vouchers; posted is a payment none of whose items waits.
+create view vwhExpensePay as
+select y.SNo, y.PayDate as Date, y.PayTime as Time, y.Amount,
+    case when exists (select d.SNo from hExpensePayDetails d where d.vouchNo = y.vouchNo and d.isPost = 0) then 'NO'
+        else 'YES' end as Posted,
+    y.REcipient as Recipient, y.Description, y.vouchNo as VouchNo, y.Paidby as PaidBy, h.ApprvBy
+from hExpensePay y
+left join hExpenseApprvFinal h on h.vouchNo = y.vouchNo
+go

@@ -1,0 +1,105 @@
+#include "support/Print.h"
+#include "support/ScreenTest.h"
+
+namespace orvane {
+
+class Vouchers : public ScreenTest {
+protected:
+    Vouchers() : ScreenTest("frmExpensePay") {}
+
+    void prepare() override {
+        layAccounts({"'1210', 'CASH', '1210000'", "'1220', 'BANK A', '1220000'", "'5310', 'FUEL', '5310000'"});
+        ws.run("insert into hExpenseApprvFinal (vouchNo, ApprvDate, ReceivedBy, Amount, isPaid, Suppres) values "
+               "('V1', '2026-03-10', 'MUSA', 701, 0, 0), ('V2', '2026-03-11', 'ADA', 10, 1, 0), "
+               "('V3', '2026-03-12', 'OBI', 10, 0, 1)");
+        ws.run("insert into hExpenseDetailsApprvFinal (vouchNo, ItemName, ItemCode, Description, Qty, Price, SubTotal) "
+               "values ('V1', 'DIESEL', '001', 'FOR GENERATORS', 2, 250.25, 500.5), ('V1', 'PAPER', '002', '', 1, 200, "
+               "200), ('V2', 'X', '', '', 1, 10, 10)");
+    }
+    QString voucher() {
+        return rows("select AmountPaid,Paidby,isPaid,isDone from hExpenseApprvFinal where vouchNo='V1'");
+    }
+};
+
+TEST_P(Vouchers, AnApprovedVoucherIsPaidItemByItemAndOnce) {
+    open();
+    click("cmdAdd");
+    EXPECT_EQ(items("cboCat").join('/'), "MUSA @10/03/2026 [V1]");
+    EXPECT_EQ(told("OKButton"), "Invalid  Recipient Name! Voucher No Required ");
+    pick("cboCat", 0);
+    EXPECT_EQ(shown("txtVouch lblAmount lblPaid lblItem grdData"), "V1|701.00|0.00|2 Approved Items|2 rows");
+    expectChecks({{nullptr, nullptr, "Please enter Pay Type "},
+                  {"cboPay", "CHEQUE", "Please enter Value Date"},
+                  {"dtValue", "2026-03-20", " Cheque No Required "},
+                  {"txtCheque", "0012", "Please enter Expense Acct Name (Acct to Debit) "},
+                  {"cboExpense", "FUEL[5310]", "Please enter paying Acct Name (Acct to Credit)"},
+                  {"cboBank", "BANK A[1220]", "Please specify Quantity Needed in Figures "},
+                  {"txtQty", "1", "Please specify Unit Price  in Figures "},
+                  {"txtPrice", "0", "Please specify Unit Price  above zero"},
+                  {"txtPrice", "5", "Please specify Drug/Service used "}},
+                 "cmdGrid");
+    row("grdData", "DIESEL");
+    dblClick("grdData");
+    EXPECT_EQ(shown("cboDrug txtQty txtPrice lblSub txtDesc"), "DIESEL|2|250.25|500.50|FOR GENERATORS");
+    click("cmdGrid");
+    pick("cboDrug", "DIESEL");
+    EXPECT_EQ(told("cmdGrid"), "Duplicate Item Entry not allowed");
+    for (int time = 0; time < 2; ++time) {
+        pick("cboDrug", "PAPER");
+        set("cboPay", "CASH");
+        EXPECT_EQ(items("cboBank").join('/') + ' ' + state("txtCheque"), "CASH[1210] visible disabled");
+        pick("cboExpense", 0);
+        pick("cboBank", 0);
+        click("cmdGrid");
+        EXPECT_EQ(value("lblTotal"), "700.50");
+        if (time > 0)
+            break;
+        ui.answer(true);
+        row("OrderGrid", 1);
+        EXPECT_BOXES(ui, {"Item Removed"});
+        EXPECT_EQ(value("lblTotal"), "500.50");
+        row("OrderGrid", 1);
+        EXPECT_BOXES(ui, {" Blank Row cannot be deleted"});
+    }
+    set("txtRem", "WEEK 11");
+    breakAt("insert into [hExpensePayDetails]", true);
+    const QString before = voucher();
+    ui.answer(true);
+    EXPECT_NE(told("OKButton"), "");
+    EXPECT_EQ(voucher() + rows("select * from hExpensePay"), before) << "half a payment";
+    mend();
+    ui.answer(true);
+    EXPECT_EQ(told("OKButton"), "Record Succesfully saved");
+    EXPECT_EQ(voucher(), "700.5|amina.b|1|1");
+    EXPECT_EQ(rows("select vouchNo,Amount,Paidby,Description,REcipient,Remarks from hExpensePay"),
+              "V1|700.5|amina.b|WEEK 11|MUSA|Paid Cash:( Vouch No: V1) for: ");
+    EXPECT_EQ(rows("select Amount,AcctNoDebit,AcctNoCreit,ChequeNo,ValueDate,PayType,ItemCode,isPost,Remarks from "
+                   "hExpensePayDetails order by SNo"),
+              "500.5|5310|1220|0012|2026-03-20|CHEQUE|001|0|Paid via Cheque ( Cheq No: 0012 And Vouch No: V1) for: FOR "
+              "GENERATORS\n200|5310|1210|||CASH|002|0|Paid Cash:( Vouch No: V1) for: ");
+    EXPECT_EQ(rows("select vouchNo,AttendedTo,isApprv from hExpenseDetailsApprvFinal order by ExpID"),
+              "V1|1|1\nV1|1|1\nV2|0|0");
+    EXPECT_EQ(audit("Voucher Payment%", "userAction, TranCode, Remarks"), "Voucher Payment to: MUSA|V1|700.50");
+    EXPECT_EQ(value("grdDataPay"), "1 rows");
+    click("cmdAdd");
+    EXPECT_EQ(items("cboCat").join('/'), "");
+}
+
+TEST_P(Vouchers, OfTwoCashiersOnePaysTheVoucher) {
+    open();
+    click("cmdAdd");
+    pick("cboCat", 0);
+    pick("cboDrug", 0);
+    set("cboPay", "CASH");
+    pick("cboExpense", 0);
+    pick("cboBank", 0);
+    click("cmdGrid");
+    runBeforeTransaction("update hExpenseApprvFinal set isPaid=1 where vouchNo='V1'");
+    ui.answer(true);
+    EXPECT_EQ(told("OKButton"), "This Voucher was paid by another user.");
+    EXPECT_EQ(rows("select * from hExpensePay"), "");
+}
+
+ORVANE_ON_EACH_ENGINE(Vouchers);
+
+} // namespace orvane
