@@ -87,7 +87,7 @@ void frmRevCashAcct::cmdList_Click() {
 void frmRevCashAcct::grdData_DblClick() {
     if (grdData.currentRow() < 0)
         return;
-    m_cash = {grdData.value("ReceiptDate").toDate(), grdData.text("AccountToDebit"), grdData.text("PayType")};
+    m_cash = {grdData.date("ReceiptDate"), grdData.text("AccountToDebit"), grdData.text("PayType")};
     txtItem.setText(m_cash.account);
     txtDate.setText(m_cash.date.toString("dd/MM/yyyy"));
     txtType.setText(m_cash.payType);

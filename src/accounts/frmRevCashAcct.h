@@ -44,7 +44,7 @@ private:
     TextBox txtType{*this, "txtType"};
     ComboBox cboRev{*this, "cboRev", ComboBox::ListOnly, &Me::cboRev_Click};
     Button OKButton{*this, "OKButton", "&Update", &Me::OKButton_Click};
-    ComboBox cboGroup{*this, "cboGroup", ComboBox::Editable, &Me::cboGroup_Change};
+    ComboBox cboGroup{*this, "cboGroup", ComboBox::FreeText, &Me::cboGroup_Change};
     Button cmdView{*this, "cmdView", "&Post to Account", &Me::cmdView_Click};
     Button cmdCash{*this, "cmdCash", "View &Cash Distribution", &Me::cmdCash_Click};
     Button cmdDetails{*this, "cmdDetails", "View Revenue &Details by Date", &Me::cmdDetails_Click};

@@ -77,7 +77,7 @@ void frmRevCashAdjust::showTotals(Connection& connection) {
 void frmRevCashAdjust::grdData_DblClick() {
     if (grdData.currentRow() < 0)
         return;
-    m_date = grdData.value("ReceiptDate").toDate();
+    m_date = grdData.date("ReceiptDate");
     txtItem.setText(grdData.text("ReceiptNo"));
     txtBillNo.setText(grdData.text("billNO"));
     txtDate.setText(m_date.toString("dd/MM/yyyy"));
@@ -105,7 +105,7 @@ void frmRevCashAdjust::OKButton_Click() {
              addHandShare(books, {.receiptNo = txtItem.text(),
                                   .billNo = txtBillNo.text(),
                                   .date = m_date,
-                                  .amount = nairaIn(txtAmt),
+                                  .amount = round2(parseAmount(txtAmt.text()).value_or(0)),
                                   .revType = cboRev.text()});
              return Saved{};
          },

@@ -58,9 +58,9 @@ struct Session {
     QString sAdjustItem;
     QString sAuditCoy;
     QString sDebtMode, sRptPanelMode, sRptKind;
-    QString sPrintRptMode, sRevRptMode; ///< which report frmPrintRpt and frmRevPrintRpt show
-    Sql sPrintRptSQL, sRevRptSQL;       ///< and its rows
-    QString sRptPanelLabel;             ///< what the label of rptPanelSummary asks for
+    QString sPrintRptMode;  ///< which report frmPrintRpt shows
+    Sql sPrintRptSQL;       ///< and its rows
+    QString sRptPanelLabel; ///< what the label of rptPanelSummary asks for
     QString sRctLine1, sRctLine2, sRctLine3, sRctLine4, sRctLine5;
     QString sBatchNo, sBatchMonth, sBatchYear; ///< of the monthly batch
 
