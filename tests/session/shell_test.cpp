@@ -156,8 +156,8 @@ TEST_P(Shell, everyEntryActsOrIsGreyButTheEmptyOnes) {
               "mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount mnuPrintB>FrmRptBillsByPat "
               "mnuRPtES>rptPanelSummary mnuOffline>frmReceiptManual mnuPSITC>frmExistBill mnuPCB>rptPanelSummary "
               "mnuPCOB>frmBillToCapitated mnuCBFSO>frmBillingVerify mnuEditFind>frmFind mnuVSII>frmPatientInfo "
-              "mnuPDI>frmDebtInfo mnuPIBP>FrmRptBillsByPat mnuPrintBMonthly>FrmProcessedBill "
-              "mnuBNIPSL>frmVerifyBillsInSummary "
+              "mnuPDI>frmDebtInfo mnuBNIPSL>frmVerifyBillsInSummary mnuPIBP>FrmRptBillsByPat "
+              "mnuPrintBMonthly>FrmProcessedBill "
               "mnuRemnd>frmReminder mnuUsers>frmUsers mnuUserRoles>frmUserRole mnuChangePWD>frmDialog "
               "mnuCreateRoles>frmRole mnuDSP>frmDrugPrice");
     ws.open("frmSuppliersAcct");
