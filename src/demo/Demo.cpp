@@ -85,7 +85,8 @@ void closePastMonths(const DemoHospital& hospital, const std::function<void(cons
     for (; month.addMonths(1) <= until; month = month.addMonths(1)) {
         program.data().setServerClock(QDateTime(month.addMonths(1), QTime(18, 0)));
         closeMonth(program, ui, month);
-        progress(QStringLiteral("The bills of %1 are invoiced.").arg(month.toString("yyyy-MM")));
+        postMonth(program, ui, month);
+        progress(QStringLiteral("The bills of %1 are invoiced and posted.").arg(month.toString("yyyy-MM")));
     }
     program.form("MdiTolmek").unload();
 }

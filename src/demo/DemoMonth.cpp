@@ -1,6 +1,8 @@
 #include "demo/DemoMonth.h"
 
 #include "books/Batch.h"
+#include "books/Period.h"
+#include "data/rows/SharedTables.h"
 #include "play/Hand.h"
 
 namespace orvane {
@@ -41,12 +43,46 @@ void process(Program& program, QuietUi& ui, QDate month) {
     form.unload();
 }
 
+void postReceipts(Program& program, QuietUi& ui, QDate month) {
+    program.open("frmRevCashAcct");
+    Form& form = program.form("frmRevCashAcct");
+    Hand hand(form);
+    hand.date("DTPicker1", month);
+    hand.date("DTPicker2", QDate(month.year(), month.month(), month.daysInMonth()));
+    hand.click("cmdList");
+    hand.click("cmdView");
+    expectBox(ui, "receipts", "Records Successfully Posted");
+    form.unload();
+}
+
+void postInvoices(Program& program, QuietUi& ui, QDate month) {
+    program.open("frmBillProcessingPost");
+    Form& form = program.form("frmBillProcessingPost");
+    Hand hand(form);
+    pickMonth(hand, month);
+    hand.click("cmdPost");
+    expectBox(ui, "invoices", "Company Records Successfully Posted");
+    form.unload();
+}
+
 } // namespace
 
 void closeMonth(Program& program, QuietUi& ui, QDate month) {
     ui.takeBoxes();
     review(program, ui, month);
     process(program, ui, month);
+}
+
+void postMonth(Program& program, QuietUi& ui, QDate month) {
+    ui.takeBoxes();
+    postReceipts(program, ui, month);
+    postInvoices(program, ui, month);
+    Connection billing = program.openBilling();
+    Connection accounting = program.openAccounting();
+    const QStringList open = closePeriod(billing, accounting, month.toString("yyyy/MM"));
+    if (!open.isEmpty())
+        throw DataError("Close of a period: " + open.join(QLatin1String(" / ")));
+    copySharedTables(billing, accounting);
 }
 
 void shiftBill(Program& program, QuietUi& ui, QDate day, const QString& client) {

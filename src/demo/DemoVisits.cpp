@@ -92,8 +92,10 @@ public:
             splitBill(m_program, m_ui, m_day, visits.last().consultID);
         if (m_day.daysInMonth() == m_day.day())
             shiftBillOf(visits);
-        if (m_day.day() == 1 && !m_isFirst)
+        if (m_day.day() == 1 && !m_isFirst) {
             closeMonth(m_program, m_ui, m_day.addMonths(-1));
+            postMonth(m_program, m_ui, m_day.addMonths(-1));
+        }
         leave();
     }
 
