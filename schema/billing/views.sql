@@ -552,12 +552,13 @@ where i.isPost = 0
 go
 -- Every client invoice with the client's account in the ledger.
 create view vwInvoiceDetailsCoy2Batch as
-select i.SNO, i.BatchNo, i.BillMonth, i.BillYear, i.CoyCode, r.retainName, r.retainName as Company,
+select i.SNO, i.BatchNo, i.BillMonth, i.BillYear, i.CoyCode, isnull(r.retainName, i.CoyCode) as retainName,
+    isnull(r.retainName, i.CoyCode) as Company,
     i.Amountbilled as AmountBilled, i.invNo as InvNo, case when i.isPost = 1 then 'YES' else 'NO' end as Posted,
     r.AcctID, i.isPost, i.invDate, i.AmountInvoiced,
     (select count(*) from Billing b where b.InvNo = i.invNo) as Bills
 from BillsForClients i
-left join hRetainership r on r.retainCode = i.CoyCode
+left join hRetainership r on r.retainID = (select min(c.retainID) from hRetainership c where c.retainCode = i.CoyCode)
 go
 
 -- Invoices and claims on paper
@@ -756,4 +757,13 @@ union all
 select t.ReceiptDate, t.AccountNo, sum(t.AmountPaid) as AmountPaid, t.PayType as RevType, 'DEBIT' as Remarks, t.isPost
 from PaymentTypes t
 group by t.ReceiptDate, t.AccountNo, t.PayType, t.isPost
+go
+-- What of each receipt that is distributed, in part at least, is not, or too much.
+create view vwPaymentDetailsSumm2 as
+select p.ReceiptDate, p.ReceiptNo, p.AmountPaid,
+    round(isnull(p.AmountPaid, 0) - (select sum(d.AmountPaid) from PaymentDetails d
+        where d.ReceiptNo = p.ReceiptNo and d.ReceiptDate = p.ReceiptDate), 2) as Diff,
+    p.PaymentFor as paymentFor, p.billNo as billNO
+from Payments p
+where exists (select d.SNo from PaymentDetails d where d.ReceiptNo = p.ReceiptNo and d.ReceiptDate = p.ReceiptDate)
 go

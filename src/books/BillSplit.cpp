@@ -5,6 +5,7 @@
 #include "books/Visit.h"
 #include "data/words/Money.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace orvane {
@@ -28,9 +29,7 @@ Recordset lineOf(Books& books, const ListedItem& item) {
     return Recordset(books.connection, Sql("select * from BillingDetails where SNo=") << item.sno);
 }
 
-std::optional<Refusal> whyNotSplit(Books& books, const BillSplit& split) {
-    if (isBillProcessed(books.connection, split.billNo))
-        return Refusal::BillProcessed;
+std::optional<Refusal> whyNotMoved(Books& books, const BillSplit& split) {
     for (const ListedItem& item : split.items)
         if (const auto refusal = whyNotMoved(lineOf(books, item), item, split.billNo))
             return refusal;
@@ -79,10 +78,12 @@ Given<QString> nextSplitNumber(Connection& connection, const QString& billNo) {
 }
 
 Given<QString> splitBill(Books& books, const BillSplit& split) {
+    if (isBillProcessed(books.connection, split.billNo))
+        return Refusal::BillProcessed;
     const Given<QString> number = nextSplitNumber(books.connection, split.billNo);
     if (!number)
         return number.refusal();
-    if (const auto refusal = whyNotSplit(books, split))
+    if (const auto refusal = whyNotMoved(books, split))
         return *refusal;
     const std::optional<Bill> old = readBill(books.connection, split.billNo);
     if (!old)
@@ -94,6 +95,8 @@ Given<QString> splitBill(Books& books, const BillSplit& split) {
     refreshBillTotal(books, *number);
     const double kept = readBill(books.connection, split.billNo)->amountBilled;
     const double moved = readBill(books.connection, *number)->amountBilled;
+    if (std::min(kept, moved) < std::min(0.0, whole))
+        return Refusal::SplitBelowNothing;
     // Each of the three was rounded to the kobo.
     if (std::abs(kept + moved - whole) > 1.5 * kobo)
         return Refusal::SplitUneven;

@@ -51,6 +51,13 @@ void auditCapitation(const Books& books, const BillInHand& bill, const QString& 
     books.audit({"Capitated  Bill Item for " + bill.patient, bill.consultID, remarks});
 }
 
+/// A line that a receipt covers, or that is in the ledger.
+bool hasSettledLine(Connection& connection, const QString& billNo) {
+    return !Recordset(connection, Sql("select top 1 SNo from billingdetails where (isRct=1 or isPost=1) and BillNo = '")
+                                      << billNo << "'")
+                .eof();
+}
+
 using Trace = void (*)(Books&, const BillInHand&, const Recordset& item);
 
 void traceAtNoPrice(Books& books, const BillInHand& bill, const Recordset& item) {
@@ -106,6 +113,8 @@ Given<int> capitateBills(Books& books, const QString& batchNo, const QVector<Lis
             return Refusal::NoBill;
         if (isBillProcessed(books.connection, listed.billNo))
             return Refusal::BillProcessed;
+        if (hasSettledLine(books.connection, listed.billNo))
+            return Refusal::LineSettled;
         BillInHand bill;
         bill.consultID = row->billNo;
         bill.pno = row->pno;

@@ -22,6 +22,8 @@ constexpr struct {
     {Refusal::SplitItemChanged, "A selected Item was changed or removed by another user. Please select the Bill again"},
     {Refusal::SplitItemPaid, "A selected Item is paid for by a receipt and stays on this Bill"},
     {Refusal::SplitItemPosted, "A selected Item is posted to the Accounts and stays on this Bill"},
+    {Refusal::SplitBelowNothing, "A Bill cannot be less than nothing: take the Items along that the discount is for"},
+    {Refusal::LineSettled, "A selected Bill is paid for by a receipt or posted to the Accounts and stays as it is"},
     {Refusal::SplitUneven, "The two Bills do not make the Bill that was split. Nothing was saved"},
     {Refusal::VisitChanged, "Please Re-Select Patient Name! Bill No (StrCon needed"},
     {Refusal::NoPatient, "Patient does not Exist"},

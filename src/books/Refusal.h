@@ -17,6 +17,8 @@ enum class Refusal {
     SplitItemChanged,  ///< an item is not on the bill any more, or at another amount than it was listed at
     SplitItemPaid,     ///< a receipt covers an item
     SplitItemPosted,   ///< an item is in the ledger
+    SplitBelowNothing, ///< a bill would be of less than nothing, such as that of a discount alone
+    LineSettled,       ///< a receipt covers a line of the bill to be capitated, or it is in the ledger
     SplitUneven,       ///< the two bills do not make the one that was split
     VisitChanged,      ///< the visit was deleted or moved to another patient or client since it was read
     NoPatient,         ///< the visit to be billed is not there

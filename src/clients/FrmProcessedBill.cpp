@@ -12,12 +12,10 @@ const QString noReport = "No Report for the specified Clients";
 
 FrmProcessedBill::FrmProcessedBill(Program& owner) : ReportScreen(owner, "FrmProcessedBill", "Invoice") {
     // The clients of another month are none of this one, and no page may stand under another's name.
-    for (ComboBox* box : {&period.cboMonth, &period.cboYear})
-        box->onClick = [this, picked = box->onClick] {
-            picked();
-            cboCust.clear();
-            crViewer1.clear();
-        };
+    period.onPick = [this] {
+        cboCust.clear();
+        crViewer1.clear();
+    };
 }
 
 Layout FrmProcessedBill::layout() const {
@@ -35,7 +33,7 @@ void FrmProcessedBill::Form_Load() {
 bool FrmProcessedBill::takePeriod() {
     if (!passes({{!period.isPicked(), " Please, Specify Transaction Period .", &period.cboMonth}}))
         return false;
-    session.sBatchNo = period.batchNo();
+    session.sBatchNo = m_batchNo = period.batchNo();
     return true;
 }
 
@@ -49,10 +47,9 @@ void FrmProcessedBill::cmdPat_Click() {
     cboCust.clear();
     Connection connection = program.openBilling();
     Recordset client(connection, Sql("select coycode,retainName from vwInvBatchNo where batchno='")
-                                     << session.sBatchNo << "' order by retainName");
+                                     << m_batchNo << "' order by retainName");
     for (; !client.eof(); client.moveNext())
-        cboCust.addItem(client.text("retainName"),
-                        QVariant::fromValue(Invoice{client.text("coycode"), session.sBatchNo}));
+        cboCust.addItem(client.text("retainName"), QVariant::fromValue(Invoice{client.text("coycode"), m_batchNo}));
     cboCust.setFocus();
 }
 
@@ -72,7 +69,7 @@ void FrmProcessedBill::cmdBatch_Click() {
     Connection connection = program.openBilling();
     showReport({.file = "\\rptInvoiceDetailsCoyBatchRpt.rpt ",
                 .rows = Recordset(connection, Sql("select  * from vwInvoiceDetailsCoy2Batch where batchNo ='")
-                                                  << session.sBatchNo << "' order by Company"),
+                                                  << m_batchNo << "' order by Company"),
                 .nothing = noReport,
                 .textObjects = {{"Text7", "Invoice Summary for " + periodName()}}});
 }

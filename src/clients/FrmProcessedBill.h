@@ -38,7 +38,7 @@ private:
 
     using Me = FrmProcessedBill;
     Label lblHeading{*this, "lblHeading", "Print Processed Bill [Invoice]"};
-    MonthPicker period{*this, session};
+    MonthPicker period{*this};
     Button cmdPat{*this, "cmdPat", "&Get Processed Company List", &Me::cmdPat_Click};
     ComboBox cboCust{*this, "cboCust", ComboBox::ListOnly, &Me::cboCust_Click};
     Button cmdBatch{*this, "cmdBatch", "Invoice Summary by &Batch", &Me::cmdBatch_Click};
@@ -48,6 +48,8 @@ private:
     Button cmdCoy{*this, "cmdCoy", "C&ustom Invoice for Corporate", &Me::cmdCoy_Click};
     Button cmdDetail{*this, "cmdDetail", "Invoice Summary by Com&pany", &Me::cmdDetail_Click};
     Button cmdPatInv{*this, "cmdPatInv", "Patients' &Invoice", &Me::cmdPatInv_Click};
+
+    QString m_batchNo; ///< of the period taken last
 };
 
 } // namespace orvane

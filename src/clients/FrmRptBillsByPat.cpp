@@ -26,6 +26,12 @@ QString headingOf(const QString& category, const QString& referal) {
 FrmRptBillsByPat::FrmRptBillsByPat(Program& owner) : ReportScreen(owner, "FrmRptBillsByPat", "Patient's Invoice") {
     DTPicker1.setRangeEnd(&DTPicker2);
     cboCust.setToolTip("F3 finds any patient");
+    // The patients of another category are none of this one.
+    for (OptionButton* category : {&radCorp, &radHMO, &radPvt, &radAll})
+        category->onClick = [this] {
+            cboCust.clear();
+            cboCust_Click();
+        };
 }
 
 Layout FrmRptBillsByPat::layout() const {

@@ -28,7 +28,7 @@ void MonthBillsScreen::cmdList_Click() {
     if (!passes({{!range.isComplete(), "Specify Begin and End Dates", &range.DTPicker1}}))
         return;
     const QDate end = range.DTPicker2.date();
-    session.sBatchNo = batchNumber(QString::number(end.year()), monthCode(monthName(end.month())));
+    session.sBatchNo = batchNo = batchNumber(QString::number(end.year()), monthCode(monthName(end.month())));
     range.cboVehNo.clear();
     range.cboVehNo.addItem("");
     listAll();
@@ -71,8 +71,7 @@ void MonthBillsScreen::cmdDeSelect_Click() {
 }
 
 bool MonthBillsScreen::isTicked(const QString& none) {
-    return passes(
-        {{bills.ticked().isEmpty(), none}, {session.sBatchNo.isEmpty(), "Batch No needed for this Processing"}});
+    return passes({{bills.ticked().isEmpty(), none}, {batchNo.isEmpty(), "Batch No needed for this Processing"}});
 }
 
 QVector<ListedBill> MonthBillsScreen::tickedBills() const {

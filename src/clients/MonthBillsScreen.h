@@ -46,6 +46,7 @@ protected:
     Layout layoutOf(const QString& heading, std::initializer_list<Layout> below) const;
 
     using Me = MonthBillsScreen;
+    QString batchNo; ///< sBatchNo: of the second date when the clients were listed; this screen's alone
     RangePicker range;
     Label Label1{*this, "Label1", "Bill List"};
     TickList bills{*this, &Me::cmdAll_Click, &Me::cmdDeSelect_Click};

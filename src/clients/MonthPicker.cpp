@@ -4,14 +4,18 @@
 
 namespace orvane {
 
-MonthPicker::MonthPicker(Form& form, Session& session)
-    : cboMonth(form, "cboMonth", ComboBox::ListOnly), cboYear(form, "cboYear", ComboBox::ListOnly), m_session(session) {
+MonthPicker::MonthPicker(Form& form)
+    : cboMonth(form, "cboMonth", ComboBox::ListOnly), cboYear(form, "cboYear", ComboBox::ListOnly) {
     cboMonth.onClick = [this] {
-        m_session.sBatchMonth = cboMonth.text();
         if (const QString code = monthCode(cboMonth.text()); !code.isEmpty())
             m_monthCode = code;
+        if (onPick)
+            onPick();
     };
-    cboYear.onClick = [this] { m_session.sBatchYear = cboYear.text(); };
+    cboYear.onClick = [this] {
+        if (onPick)
+            onPick();
+    };
 }
 
 void MonthPicker::fillYears(ComboBox& years) {

@@ -2,16 +2,16 @@
 
 #include "forms/Controls.h"
 #include "forms/Layout.h"
-#include "session/Session.h"
 
 namespace orvane {
 
 /// The month and the year that a batch is picked by.
 class MonthPicker {
 public:
-    MonthPicker(Form& form, Session& session);
+    explicit MonthPicker(Form& form);
 
     ComboBox cboMonth, cboYear;
+    std::function<void()> onPick; ///< another month or year was picked
 
     /// An empty entry, then the months and the years of all batches; shows the month of `today`.
     void fill(QDate today);
@@ -21,7 +21,6 @@ public:
     Layout layout() const;
 
 private:
-    Session& m_session;
     QString m_monthCode; ///< a text that is no month leaves it as it was
 };
 

@@ -50,7 +50,7 @@ void frmBillProcess::Form_Load() {
 bool frmBillProcess::takePeriod() {
     if (!passes({{!period.isPicked(), "Select Billing Period", &period.cboMonth}}))
         return false;
-    session.sBatchNo = period.batchNo();
+    session.sBatchNo = m_batchNo = period.batchNo();
     return true;
 }
 

@@ -54,7 +54,7 @@ private:
     void Timer1_Timer() {}
 
     using Me = frmBillProcess;
-    MonthPicker period{*this, session};
+    MonthPicker period{*this};
     Button cmdLoad{*this, "cmdLoad", "Display Collated &Bills for Batch / Company", &Me::cmdLoad_Click};
     ComboBox cboCoy{*this, "cboCoy", ComboBox::ListOnly, &Me::cboCoy_Click};
     TextBox txtSearch{*this, "txtSearch", &Me::txtSearch_Change};
@@ -81,7 +81,8 @@ private:
     Button CancelButton{*this, "CancelButton", "&Close", &Me::unload};
     Button cmdProcess{*this, "cmdProcess", "&Process Collated Bills", &Me::cmdProcess_Click};
 
-    QString lID; ///< of the bill selected last, found again in a list that is filled anew
+    QString m_batchNo; ///< taken last
+    QString lID;       ///< of the bill selected last, found again in a list that is filled anew
 };
 
 } // namespace orvane

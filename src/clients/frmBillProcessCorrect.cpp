@@ -51,7 +51,7 @@ void frmBillProcess::cmDiag_Click() {
     if (!passes({{!period.isPicked(), "Select Billing Period", &period.cboMonth},
                  {session.sBatchNo.isEmpty(), "Specify Transaction Period", &period.cboMonth}}))
         return;
-    session.sBatchNo = period.batchNo();
+    session.sBatchNo = m_batchNo = period.batchNo();
     save<Saved>({.button = cmDiag,
                  .action = "BATCH DIAGNOSIS",
                  .step = [this](Books& books) -> Given<Saved> {
@@ -62,6 +62,7 @@ void frmBillProcess::cmDiag_Click() {
 }
 
 void frmBillProcess::cmdRpt_Click() {
+    session.sBatchNo = m_batchNo; // another screen may have picked one meanwhile
     save<Saved>({.button = cmdRpt,
                  .action = "RPT HEADINGS",
                  .allowed =

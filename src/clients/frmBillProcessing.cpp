@@ -20,7 +20,6 @@ Layout frmBillProcessing::layout() const {
 }
 
 void frmBillProcessing::Form_Load() {
-    session.sBatchNo.clear();
     period.fill(session.gServerDate);
     grdData.setFormat("AmountInvoiced", "#,###.00");
 }
@@ -31,7 +30,7 @@ bool frmBillProcessing::isPeriodPicked() {
 
 bool frmBillProcessing::isBatchOpen() {
     Connection connection = program.openBilling();
-    return passes({{isBatchPast(connection, session.sBatchNo),
+    return passes({{isBatchPast(connection, period.batchNo()),
                     "Invalid Batch No! Please Select a higher Transaction Period", &period.cboMonth}});
 }
 
@@ -41,10 +40,13 @@ void frmBillProcessing::cmdGet_Click() {
     session.sBatchNo = period.batchNo();
     if (!isBatchOpen())
         return;
+    m_listed.batchNo = period.batchNo();
+    m_listed.month = period.cboMonth.text();
+    m_listed.year = period.cboYear.text();
     clients.LstDate.clear();
     Connection connection = program.openBilling();
     Recordset rows(connection, Sql("select  distinct retainCode,coyName from vwBillingProcess where batchno='")
-                                   << session.sBatchNo << "' and retainID <>'" << session.gPrivateTariff << "'");
+                                   << m_listed.batchNo << "' and retainID <>'" << session.gPrivateTariff << "'");
     for (; !rows.eof(); rows.moveNext())
         clients.LstDate.addItem(rows.text("coyName"), rows.integer("retainCode"));
     Label1.setText("Company List : " + QString::number(rows.count()));
@@ -81,15 +83,16 @@ void frmBillProcessing::cmdView_Click() {
 }
 
 MonthRun frmBillProcessing::run() const {
-    MonthRun run{session.sBatchNo,        session.sBatchMonth, session.sBatchYear, session.dWorkDate, {},
-                 m_takesBillsWithoutLines};
+    MonthRun run = m_listed;
+    run.date = session.dWorkDate;
+    run.takesBillsWithoutLines = m_takesBillsWithoutLines;
     for (const int row : clients.ticked())
         run.clients.append(clients.LstDate.itemData(row).toLongLong());
     return run;
 }
 
 bool frmBillProcessing::prepareRun() {
-    if (!passes({{session.sBatchNo.isEmpty(), "Batch No needed for this Processing"}}))
+    if (!passes({{m_listed.batchNo.isEmpty(), "Batch No needed for this Processing"}}))
         return false;
     session.dWorkDate = program.getServerDateTime().date();
     bar.show(0);
@@ -124,7 +127,7 @@ void frmBillProcessing::cmdProcess_Click() {
                .detail =
                    [this] {
                        return aboutLines(
-                           {"Batch " + session.sBatchNo, "Clients: " + QString::number(clients.ticked().size())});
+                           {"Batch " + m_listed.batchNo, "Clients: " + QString::number(clients.ticked().size())});
                    },
                .prepare = [this] { return prepareRun(); },
                .step =

@@ -25,6 +25,7 @@ protected:
     frmBillProcessing(Program& owner, const QString& name, const QString& caption, bool takesBillsWithoutLines);
     virtual void cmdPost_Click() {} ///< invoices are posted on a screen of their own
     virtual bool prepareRun();
+    const QString& listedBatch() const { return m_listed.batchNo; }
     void cmdRefresh_Click();
     void cmdView_Click();
 
@@ -41,10 +42,11 @@ private:
     void showProcessed(int clients);
 
     const bool m_takesBillsWithoutLines = false;
+    MonthRun m_listed; ///< the batch whose clients are listed: what is run, whatever is picked afterwards
 
 protected:
     using Me = frmBillProcessing;
-    MonthPicker period{*this, session};
+    MonthPicker period{*this};
     Button cmdGet{*this, "cmdGet", "&Get List", &Me::cmdGet_Click};
     Label Label1{*this, "Label1", "Company List"};
     TickList clients{*this, &Me::cmdAll_Click, &Me::cmdDeSelect_Click};

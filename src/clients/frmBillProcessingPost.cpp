@@ -10,7 +10,7 @@ frmBillProcessingPost::frmBillProcessingPost(Program& owner)
 /// A batch of which nothing waits any more is left alone.
 bool frmBillProcessingPost::prepareRun() {
     Connection connection = program.openBilling();
-    if (!Recordset(connection, Sql("select * from vwBillingProcess where batchNo='") << session.sBatchNo << "'").eof())
+    if (!Recordset(connection, Sql("select * from vwBillingProcess where batchNo='") << listedBatch() << "'").eof())
         return frmBillProcessing::prepareRun();
     cmdRefresh_Click();
     return false;

@@ -23,7 +23,7 @@ void frmBillProcessingShift::Form_Load() {
 }
 
 Sql frmBillProcessingShift::companies() const {
-    return Sql("select distinct CoyName,retainCode from vwBillingProcess where batchNo='") << session.sBatchNo << "'";
+    return Sql("select distinct CoyName,retainCode from vwBillingProcess where batchNo='") << batchNo << "'";
 }
 
 Sql frmBillProcessingShift::waitingOf(const QString& code) const {
@@ -42,7 +42,7 @@ std::optional<int> frmBillProcessingShift::period() const {
 }
 
 std::optional<QDate> frmBillProcessingShift::shiftedTo() const {
-    return period() && !session.sBatchNo.isEmpty() ? shiftedBillDate(session.sBatchNo, *period()) : std::nullopt;
+    return period() && !batchNo.isEmpty() ? shiftedBillDate(batchNo, *period()) : std::nullopt;
 }
 
 void frmBillProcessingShift::cboPeriod_Click() {
@@ -58,28 +58,38 @@ bool frmBillProcessingShift::isPeriodGiven() {
                    {!shiftedTo(), "There is no Batch so far from the month of the second date", &cboPeriod}});
 }
 
+/// Where the bills would come too late for any run.
+QString frmBillProcessingShift::warning() const {
+    const QDate date = *shiftedTo();
+    Connection connection = program.openBilling();
+    return isBatchPast(connection, date.toString("yyyy/MM"))
+               ? QStringLiteral("A later month is processed already: they can not be processed there")
+               : QString();
+}
+
 void frmBillProcessingShift::cmdProcess_Click() {
-    save<int>({.button = cmdProcess,
-               .action = "SHIFT BILLS",
-               .allowed = [this] { return isPeriodGiven(); },
-               .question = "Are you sure to Update Bills Processing?",
-               .title = "About to save",
-               .detail =
-                   [this] {
-                       cboPeriod_Click();
-                       return aboutLines({lblDisplay.text(), "Bills: " + QString::number(bills.ticked().size())});
-                   },
-               .prepare = [this] { return showStart(); },
-               .step =
-                   [this](Books& books) {
-                       return shiftBills(
-                           books, tickedBills(), *shiftedTo(), [this](int done) { showDone(done); });
-                   },
-               .follow =
-                   [this](int count) {
-                       showSaved(QString::number(count) + " Patient Bills successfully Shifted to Another Month");
-                   },
-               .refused = [this](Refusal refusal) { showRefused(refusal); }});
+    save<int>(
+        {.button = cmdProcess,
+         .action = "SHIFT BILLS",
+         .allowed = [this] { return isPeriodGiven(); },
+         .question = "Are you sure to Update Bills Processing?",
+         .title = "About to save",
+         .detail =
+             [this] {
+                 cboPeriod_Click();
+                 return aboutLines({lblDisplay.text(), "Bills: " + QString::number(bills.ticked().size()), warning()});
+             },
+         .prepare = [this] { return showStart(); },
+         .step =
+             [this](Books& books) {
+                 return shiftBills(
+                     books, tickedBills(), *shiftedTo(), [this](int done) { showDone(done); });
+             },
+         .follow =
+             [this](int count) {
+                 showSaved(QString::number(count) + " Patient Bills successfully Shifted to Another Month");
+             },
+         .refused = [this](Refusal refusal) { showRefused(refusal); }});
 }
 
 } // namespace orvane

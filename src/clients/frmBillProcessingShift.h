@@ -19,8 +19,9 @@ private:
     void cmdProcess_Click() override;
     void cboPeriod_Click();
     bool isPeriodGiven();
-    std::optional<int> period() const;      ///< in months
-    std::optional<QDate> shiftedTo() const; ///< the first day of the month that the bills go to
+    std::optional<int> period() const; ///< in months
+    std::optional<QDate> shiftedTo() const;
+    QString warning() const; ///< empty: none ///< the first day of the month that the bills go to
 
     using Me = frmBillProcessingShift;
     ComboBox cboPeriod{*this, "cboPeriod", ComboBox::FreeText, &Me::cboPeriod_Click};

@@ -66,8 +66,7 @@ bool frmBillReverseProcessing::isOneTicked() {
 void frmBillReverseProcessing::cmdProcess_Click() {
     const auto step = [this](Books& books) {
         const int row = batches.ticked().first();
-        session.sBatchNo = batches.LstDate.item(row);
-        return reverseBatch(books, session.sBatchNo, batches.LstDate.itemData(row).toLongLong());
+        return reverseBatch(books, batches.LstDate.item(row), batches.LstDate.itemData(row).toLongLong());
     };
     save<Saved>({.button = cmdProcess,
                  .action = "REVERSE BATCH",

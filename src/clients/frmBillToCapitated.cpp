@@ -21,7 +21,7 @@ Sql frmBillToCapitated::waitingOf(const QString& code) const {
     return Sql("select  distinct fullName,billno,batchVal,AttdDate from vwBillingProcess where AmountBilled > 0 and "
                "retainCode='")
            << code << "' and  AttndBillDate between '" << range.DTPicker1.date() << "' AND '" << range.DTPicker2.date()
-           << "' order by AttdDate";
+           << "' and BatchNo not in (Select BatchNo from billsForClients) order by AttdDate";
 }
 
 void frmBillToCapitated::cmdProcess_Click() {
@@ -40,7 +40,7 @@ void frmBillToCapitated::cmdProcess_Click() {
          .step =
              [this](Books& books) {
                  return capitateBills(
-                     books, session.sBatchNo, tickedBills(), [this](int done) { showDone(done); });
+                     books, batchNo, tickedBills(), [this](int done) { showDone(done); });
              },
          .follow = [this](int count) { showSaved(QString::number(count) + " Patient Bills successfully Capitated"); },
          .refused = [this](Refusal refusal) { showRefused(refusal); }});

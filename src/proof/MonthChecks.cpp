@@ -75,6 +75,12 @@ constexpr Check notices[] = {
      " l on l.InvNo = i.invNo where isnull(i.AmountInvoiced, 0) - isnull(l.SubTotal, 0) > 0.005",
      "invoice %1: invoiced %2, but the lines of its bills make %3; likely cause: a line was removed from a processed "
      "bill"},
+    {"bill in a past batch",
+     "select top 1000 v.BillNo,v.batchNo,v.AmountBilled from vwBillingProcess v where v.AmountBilled > 0.005 and "
+     "v.ClientCat <> 'PRIVATE' and v.batchVal < (select max(i.batchVal) from "
+     "vwBillsForClientsBatchVal i)",
+     "bill %1 waits in the batch %2 with %3, but a later month is processed, so it never will be; it can be shifted",
+     3},
     {"processed bill without lines",
      "select top 1000 b.billNo,b.InvNo from Billing b where b.isProcess = 1 "
      "and not exists (select d.detID from BillingDetails d where d.billNo = b.billNo)",

@@ -62,7 +62,7 @@ struct Session {
     Sql sPrintRptSQL;       ///< and its rows
     QString sRptPanelLabel; ///< what the label of rptPanelSummary asks for
     QString sRctLine1, sRctLine2, sRctLine3, sRctLine4, sRctLine5;
-    QString sBatchNo, sBatchMonth, sBatchYear; ///< of the monthly batch
+    QString sBatchNo; ///< the monthly batch picked last on any screen; each works on its own
 
     // The accounts.
     QString sRevRptMode;   ///< the revenue report: "SUMMARY", "DETAIL", "CONS-DETAIL" or "CASH"

@@ -124,6 +124,9 @@ TEST_P(BillMoves, SplitsNothingThatMayNotMove) {
     }
     EXPECT_EQ(rows("select billNo, Amountbilled from Billing") + dates() + account(),
               "001OFL000777|700.5001OFL000777|2026-03-14");
+    ws.run("insert into BillingDetails (SNo, billNo, drgName, SubTotal) values (-5, '001OFL000777', 'A DISCOUNT', -1)");
+    EXPECT_EQ(splitFirst(), "A Bill cannot be less than nothing: take the Items along that the discount is for");
+    ws.run("delete from BillingDetails where SNo=-5");
     // Twelve characters are the visit; a letter behind fewer would not count, and behind more is a split bill's.
     EXPECT_EQ(nextSplitNumber(connection, "001OFL00077").refusal(), Refusal::SplitNoVisit);
     makeVisit(connection, {.consultID = "001OFL00077"});
@@ -145,6 +148,9 @@ TEST_P(BillMoves, CapitatesBillsThatAreInNoInvoicedBatch) {
     EXPECT_EQ(process("update Billing set isProcess=1"),
               "This Bill is already processed! to Modify, unProcess the Batch");
     ws.run("update Billing set isProcess=0");
+    EXPECT_EQ(process("update BillingDetails set isRct=1"),
+              "A selected Bill is paid for by a receipt or posted to the Accounts and stays as it is");
+    ws.run("update BillingDetails set isRct=0");
     EXPECT_EQ(process(), "1 Patient Bills successfully Capitated");
     EXPECT_EQ(rows("select Amountbilled, AmountBIlledInWord from Billing") + lines(), "0|XXX");
     EXPECT_EQ(rows("select Capitated, isBilled, attendedto from BillAccum"), "YES|1|1");

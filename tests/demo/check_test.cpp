@@ -163,6 +163,8 @@ const Plant plants[] = {
     {"newest invoice", {"update BillsForClients set isOLD=0"}},
     {"client's debt", {"update hRetainership set Debt=949.99 where retainCode='0102'"}},
     {"invoice's debts", {"update hDebtors set Amount=399.99 where Amount=400"}},
+    {"bill in a past batch",
+     {"update hRecords set BillDate='2026-01-01',coyName='0102',clientCat='MTHLY' where consultID='001OFL0000001'"}},
     {"debt without invoice", {"update hDebtors set invNo='0102/2026/04' where Amount=50"}},
     {"item of another bill", {"update BillAccum set consultID='001OFL0000011' where SNo=10"}},
     {"split bill without its visit",

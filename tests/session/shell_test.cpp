@@ -149,12 +149,14 @@ TEST_P(Shell, everyEntryActsOrIsGreyButTheEmptyOnes) {
         EXPECT_TRUE(grey.contains(unbuilt)) << unbuilt;
     EXPECT_FALSE(grey.contains("mnuVerify") || grey.contains("mnuRPtES"));
     EXPECT_EQ(forms.join(' '),
-              "mnuApprvCode>frmApprvCode mnuCoyInfo>frmRetainership mnuUPC>frmCoyUpdate mnuOffAttd>frmRecordsOffline "
-              "mnuVerify>frmBillingVerify mnuViewColl>frmBillProcess "
+              "mnuApprvCode>frmApprvCode mnuCoyInfo>frmRetainership mnuSupp>frmSupplers mnuEII>frmExpenseItems "
+              "mnuRevCat>frmRevCat mnuUPC>frmCoyUpdate mnuBanks>frmBanks mnuOffAttd>frmRecordsOffline "
+              "mnuVerify>frmBillingVerify mnuViewColl>frmBillProcess mnuPayVouch>frmExpensePay "
               "mnuMIGFC>frmBillProcessing mnuSBTAPP>frmBillProcessingShift mnuLastBatch>frmBillReverseProcessing "
               "mnuAdmDepo>frmReceiptDeposit "
               "mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount mnuPrintB>FrmRptBillsByPat "
               "mnuRPtES>rptPanelSummary mnuOffline>frmReceiptManual mnuPSITC>frmExistBill mnuPCB>rptPanelSummary "
+              "mnuCTTA>frmRevCashAcct mnuCRD>frmRevCashAdjust mnuRHFCB>frmRevCatEdit mnuPMPBFC>frmBillProcessingPost "
               "mnuPCOB>frmBillToCapitated mnuCBFSO>frmBillingVerify mnuEditFind>frmFind mnuVSII>frmPatientInfo "
               "mnuPDI>frmDebtInfo mnuBNIPSL>frmVerifyBillsInSummary mnuPIBP>FrmRptBillsByPat "
               "mnuPrintBMonthly>FrmProcessedBill "
