@@ -55,6 +55,14 @@ create view vwSupplierCode as
 select cast(s.supplierID as bigint) as supplierID
 from suppliers s
 go
+-- Stock received on credit, with the account of its creditor and the name of the inventory account.
+create view vwStockEntryAcct as
+select e.SNO, e.EntryDate, e.InvoiceDate, e.InvoiceNo, s.SupplierName, isnull(e.AccountNo, s.AccountNo) as AccountNo,
+    e.Amount, (select max(c.AccountName) from ChartOfAccounts c where c.AccountNo = e.InvAcctNo) as AccountName,
+    e.InvAcctNo, e.POID, e.isPost, e.TranID
+from StockEntryAcct e
+left join suppliers s on s.supplierID = e.supplierID
+go
 
 -- The items of approved vouchers.
 create view vwhExpenseApprvFinal as

@@ -161,3 +161,7 @@ create index ixVoucherPaidDate on hExpensePay (PayDate)
 go
 create index ixVoucherPaidItemsNo on hExpensePayDetails (vouchNo)
 go
+create index ixStockEntryInvoiceDate on StockEntryAcct (InvoiceDate)
+go
+create index ixStockEntryDate on StockEntryAcct (EntryDate)
+go

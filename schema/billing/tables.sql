@@ -770,7 +770,7 @@ create table StockIssueRetail (
     Comments nvarchar(1000)
 )
 go
--- Stock received on credit, to be posted to the accounts.
+-- Stock received on credit, to be posted to the accounts; TranID is the transaction of the ledger that it was posted in.
 create table StockEntryAcct (
     SNO int identity(1,1) not null primary key,
     EntryDate date,
@@ -781,7 +781,8 @@ create table StockEntryAcct (
     AccountNo varchar(50),
     InvAcctNo varchar(50),
     Amount float,
-    isPost smallint not null default 0
+    isPost smallint not null default 0,
+    TranID varchar(50)
 )
 go
 -- A purchase order.

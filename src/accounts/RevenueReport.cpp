@@ -40,6 +40,12 @@ void showRevenueReport(Program& program, const RevenueReport& report) {
     program.open("frmRevPrintRpt");
 }
 
+void exportRows(Program& program, const Recordset& rows, const QString& name) {
+    const QString file = exportFileName(program.ui().exportFolder(), name, program.ui().now());
+    exportWorkbook(sheetOf(rows), file);
+    program.ui().exported(file);
+}
+
 void exportRevenue(Program& program, QDate from, QDate to, const QString& whose) {
     Ui& ui = program.ui();
     ui.setBusy(true);
@@ -51,9 +57,7 @@ void exportRevenue(Program& program, QDate from, QDate to, const QString& whose)
         program.box("No Revenue OR \r\n");
         return;
     }
-    const QString file = exportFileName(ui.exportFolder(), "Revenue " + whose, ui.now());
-    exportWorkbook(sheetOf(rows), file);
-    ui.exported(file);
+    exportRows(program, rows, "Revenue " + whose);
 }
 
 } // namespace orvane

@@ -38,7 +38,7 @@ Layout frmExpensePay::layout() const {
          flow({field("Paying Acct", cboBank, 44), field("Cheque/No", txtCheque, 12), field("Value Date", dtValue),
                cell(cmdGrid), stretch(), field("Total", lblTotal)}),
          growing(cell(OrderGrid)), growing(cell(grdDataPay)),
-         buttons({&cmdAdd, &cmdRefresh}, {&cmdCancel, &CancelButton, &OKButton})});
+         buttons({&cmdAdd, &cmdRefresh, &cmdPost}, {&cmdCancel, &CancelButton, &OKButton})});
 }
 
 void frmExpensePay::Form_Load() {
@@ -186,6 +186,7 @@ void frmExpensePay::OKButton_Click() {
                  program.writeAuditTrail({.action = "Voucher Payment to: " + paid.recipient,
                                           .document = paid.voucher,
                                           .remarks = formatTwoDecimals(paid.total())});
+                 postToAccounts(paid);
                  cmdCancel_Click();
                  fillGrid();
                  cmdAdd.setFocus();

@@ -32,6 +32,12 @@ private:
     void OKButton_Click();
     VoucherPayment entered();
 
+    // Its way into the accounts (frmExpensePayPost.cpp).
+    void postToAccounts(const VoucherPayment& paid);
+    void cmdPost_Click();
+    QString postToJournal(const Recordset& item, const QString& folder);
+    static QString itemLines(const QStringList& items);
+
     // Its items (frmExpensePayItems.cpp).
     void cboDrug_Click();
     void cmdCon_Click();
@@ -75,6 +81,7 @@ private:
     Grid grdDataPay{*this, "grdDataPay"};
     Button cmdAdd{*this, "cmdAdd", "&Add", &Me::cmdAdd_Click};
     Button cmdRefresh{*this, "cmdRefresh", "&Refresh", &Me::cmdRefresh_Click};
+    Button cmdPost{*this, "cmdPost", "&Post to Accounts", &Me::cmdPost_Click};
     Button cmdCancel{*this, "cmdCancel", "Ca&ncel", &Me::cmdCancel_Click};
     Button CancelButton{*this, "CancelButton", "&Close", &Me::unload};
     Button OKButton{*this, "OKButton", "&Save", &Me::OKButton_Click};

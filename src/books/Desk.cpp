@@ -1,28 +1,9 @@
 #include "books/Desk.h"
 
+#include "books/OpenStep.h"
 #include "data/rows/Transaction.h"
 
 namespace orvane {
-
-namespace {
-
-/// A step counts while it runs.
-class OpenStep {
-public:
-    explicit OpenStep(int* count) : m_count(count) { add(1); }
-    ~OpenStep() { add(-1); }
-    OpenStep(const OpenStep&) = delete;
-    OpenStep& operator=(const OpenStep&) = delete;
-
-private:
-    void add(int n) {
-        if (m_count)
-            *m_count += n;
-    }
-    int* m_count;
-};
-
-} // namespace
 
 Desk::Desk(DataSource& data, const QString& connectionString, BookContext context)
     : m_data(data), m_connectionString(connectionString), m_context(std::move(context)) {}

@@ -17,7 +17,8 @@ QString fitted(const QString& description) {
 
 } // namespace
 
-Ledger::Ledger(Connection& open, const BookContext& context) : m_connection(open), m_context(context) {
+Ledger::Ledger(Connection& open, const BookContext& context)
+    : m_counted(context.openSteps), m_connection(open), m_context(context) {
     const Recordset current(m_connection, Sql("select Period from AccountMonth"));
     m_currentPeriod = current.eof() ? QString() : current.text("Period");
     m_period = m_currentPeriod;

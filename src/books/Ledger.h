@@ -1,6 +1,7 @@
 #pragma once
 
 #include "books/Books.h"
+#include "books/OpenStep.h"
 
 #include <QHash>
 #include <optional>
@@ -47,6 +48,7 @@ private:
     QString lookUpPeriod(QDate date);
     QString known(const QString& account);
 
+    const OpenStep m_counted;
     Connection& m_connection;
     const BookContext& m_context;
     QString m_currentPeriod; ///< of the database, which may have moved on since the program was started

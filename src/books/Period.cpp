@@ -12,7 +12,7 @@ namespace {
 constexpr int monthsAhead = 12;
 constexpr int mostLines = 1000;
 
-/// What may be dated in a period and has to be posted before it closes, by its receipt.
+/// What may be dated in a period and has to be posted before it closes, by its number and day.
 struct Unposted {
     const char* words;
     SqlLiteral from; ///< ends before the first day
@@ -25,6 +25,10 @@ constexpr Unposted unposted[] = {
      "select ReceiptNo,ReceiptDate from PaymentTypes where isPost=0 and ReceiptDate between '"},
     {"the distribution of receipt %1 of %2 is not posted",
      "select ReceiptNo,ReceiptDate from PaymentDetails where isPost=0 and ReceiptDate between '"},
+    {"an item of voucher %1 of %2 is not posted",
+     "select vouchNo,PayDate from hExpensePayDetails where isPost=0 and PayDate between '"},
+    {"an entry of the supplier's invoice %1 of %2 is not posted",
+     "select InvoiceNo,InvoiceDate from StockEntryAcct where isPost=0 and InvoiceDate between '"},
 };
 
 QDate dayAfter(const QVector<Period>& periods, QDate otherwise) {
@@ -35,7 +39,8 @@ void addUnposted(Connection& billing, const Period& period, QStringList& lines) 
     for (const Unposted& one : unposted)
         for (Recordset row(billing, Sql(one.from) << period.firstDay << "' and '" << period.lastDay << "'");
              !row.eof() && lines.size() < mostLines; row.moveNext())
-            lines << QString::fromLatin1(one.words).arg(row.text("ReceiptNo"), row.date("ReceiptDate").toString("dd/MM/yyyy"));
+            lines << QString::fromLatin1(one.words).arg(row.text(0),
+                                                        row.date(row.columns().at(1)).toString("dd/MM/yyyy"));
     for (Recordset row(billing, Sql("select InvNo from BillsForClients where isPost=0 and BatchNo='")
                                     << period.name << "'");
          !row.eof() && lines.size() < mostLines; row.moveNext())

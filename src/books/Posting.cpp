@@ -71,6 +71,9 @@ Given<int> LedgerDesk::post(const Posting& posting) {
     Connection accounting = openAccounting();
     Transaction transaction(accounting);
     settleNotes(accounting);
+    if (posting.flagKnown)
+        if (const QString flagged = posting.flagKnown(m_desk, accounting); !flagged.isEmpty())
+            m_settled << flagged;
     Ledger ledger(accounting, m_desk.context());
     const Given<Noted> noted = note(ledger, posting);
     if (!noted)
@@ -100,13 +103,13 @@ Given<LedgerDesk::Noted> LedgerDesk::savedNote(Ledger& ledger, const Posting& po
         "NOTE POSTING",
         [&](Books& books) -> Given<Noted> {
             Noted noted{posting.note, {}, 0};
+            ledger.fetchTranID();
+            noted.note.tranID = ledger.tranID();
             const Given<QVector<LedgerEntry>> entries = posting.read(books, noted.note);
             if (!entries)
                 return entries.refusal();
             noted.entries = *entries;
             noted.amount = debits(*entries);
-            ledger.fetchTranID();
-            noted.note.tranID = ledger.tranID();
             addNote(books, noted.note);
             books.record(noted.note.tranID, noted.amount);
             return noted;
@@ -117,6 +120,7 @@ void LedgerDesk::drop(const PostingNote& note) {
     m_desk.save<Saved>(
         "DROP POSTING",
         [&](Books& books) -> Given<Saved> {
+            releaseSources(books, note);
             strikeNote(books, note.tranID);
             books.record(note.tranID, 0);
             return Saved{};

@@ -17,9 +17,13 @@ struct LedgerEntry {
 struct Posting {
     QString action; ///< its name in SavedActions
     PostingNote note;
-    /// What is posted, read behind the gate; refuses where there is nothing. Completes the note.
+    /// What is posted, read behind the gate; refuses where there is nothing. Completes the note, which bears the
+    /// transaction's id by then.
     std::function<Given<QVector<LedgerEntry>>(Books&, PostingNote&)> read;
     std::optional<LedgerTrail> trail = {}; ///< of the whole, once it balances
+    /// Flags what the ledger has of it already, so that `read` does not find it, and says so in a sentence; empty:
+    /// there is nothing of it. Runs behind the gate of the accounting database.
+    std::function<QString(const Desk& billing, Connection& accounting)> flagKnown = {};
 };
 
 /// Where both databases are opened for a posting. No transaction holds both: what is about to be flagged is noted in

@@ -23,14 +23,32 @@ void flagReceipts(Books& books, const PostingNote& note) {
                     << ")");
 }
 
+void flagVoucher(Books& books, const PostingNote& note) {
+    books.connection.execute(Sql("update hExpensePayDetails set isPost=1 where VouchNo='") << note.source << "'");
+}
+
+/// By the day of their entry, while those of some days of their invoices were posted: what TranID names is in the
+/// ledger, whatever its flag says.
+void flagSuppliers(Books& books, const PostingNote& note) {
+    books.connection.execute(Sql("update StockEntryAcct set isPost=1 where isPost=0 and EntryDate between '")
+                             << note.firstDay << "' and '" << note.lastDay << "' and SNo<=" << note.lastDetail);
+}
+
+void releaseSuppliers(Books& books, const PostingNote& note) {
+    books.connection.execute(Sql("update StockEntryAcct set TranID=null where TranID='") << note.tranID << "'");
+}
+
 struct SourceKind {
     const char* kind;
     const char* words;
     void (*flag)(Books&, const PostingNote&);
+    void (*release)(Books&, const PostingNote&) = nullptr; ///< null: the posting marks nothing
 };
 
 constexpr SourceKind kinds[] = {
     {"RECEIPT", "the receipts of", flagReceipts},
+    {"EXPENSE", "the voucher", flagVoucher},
+    {"PAYABLE", "the suppliers' entries of", flagSuppliers, releaseSuppliers},
 };
 
 const SourceKind& kindOf(const PostingNote& note) {
@@ -87,6 +105,11 @@ QString noteWords(const PostingNote& note) {
     const QString of =
         note.source.isEmpty() ? note.firstDay.toString(dayForm) + " to " + note.lastDay.toString(dayForm) : note.source;
     return QStringLiteral("%1 %2 (transaction %3)").arg(QLatin1String(kindOf(note).words), of, note.tranID);
+}
+
+void releaseSources(Books& books, const PostingNote& note) {
+    if (const auto release = kindOf(note).release)
+        release(books, note);
 }
 
 void flagPosted(Books& books, const PostingNote& note) {

@@ -22,6 +22,8 @@ bool isBeingPosted(Connection& billing, const QString& kind, QDate first, QDate 
 /// "the receipts of 01/03/2026 to 05/03/2026 (transaction 17)".
 QString noteWords(const PostingNote& note);
 
+/// Gives back what the note's posting had marked as its own before the ledger committed, which it never did.
+void releaseSources(Books& books, const PostingNote& note);
 /// Flags as posted in billing what the note names and its posting had read.
 void flagPosted(Books& books, const PostingNote& note);
 

@@ -90,4 +90,9 @@ Given<Saved> payVoucher(Books& books, const VoucherPayment& payment) {
     return Saved{};
 }
 
+void flagInJournal(Books& books, qlonglong expID) {
+    books.connection.execute(Sql("update hExpenseDetailsApprvFinal  set ispost=1 where ExpID=") << expID);
+    books.record(QString::number(expID), 0);
+}
+
 } // namespace orvane

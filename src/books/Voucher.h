@@ -34,4 +34,7 @@ QString paymentLine(const QString& voucher, const VoucherItem& item);
 /// paid and done. A voucher is paid once, whatever of its amount the payment comes to: refuses one that was paid.
 Given<Saved> payVoucher(Books& books, const VoucherPayment& payment);
 
+/// Flags an approved item as entered in the journal of the other accounting system.
+void flagInJournal(Books& books, qlonglong expID);
+
 } // namespace orvane

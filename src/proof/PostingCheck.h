@@ -4,8 +4,8 @@
 
 namespace orvane {
 
-/// What billing has flagged as posted against what the ledger has of it: receipts by day, way and revenue type, and the
-/// clients' invoices.
+/// What billing has flagged as posted against what the ledger has of it: receipts by day, way and revenue type, the clients'
+/// invoices, vouchers and the suppliers' entries. What a posting that is not settled is about, is left aside.
 void checkPostings(Connection& billing, Connection& accounting, CheckReport& report);
 
 /// The names of these checks.

@@ -10,6 +10,7 @@
 #include "accounts/frmRevCatEdit.h"
 #include "accounts/frmRevHeaders.h"
 #include "accounts/frmSupplers.h"
+#include "accounts/frmSuppliersAcct.h"
 #include "attendance/frmCoyUpdate.h"
 #include "attendance/frmFind.h"
 #include "attendance/frmFlash.h"
@@ -141,6 +142,7 @@ constexpr struct {
     {"frmRevCatEdit", make<frmRevCatEdit>},
     {"frmRevHeaders", make<frmRevHeaders>},
     {"frmSupplers", make<frmSupplers>},
+    {"frmSuppliersAcct", make<frmSuppliersAcct>},
 
     {"frmDrugPrice", make<frmDrugPrice>},
 };

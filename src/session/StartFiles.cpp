@@ -89,4 +89,15 @@ bool readRollPaper(const QString& homeFolder) {
     return roll;
 }
 
+QString readJournalFolder(const QString& homeFolder) {
+    QString folder = "journal";
+    for (const IniLine& line : linesOf(homeFolder, "journal")) {
+        if (line.key.compare(QLatin1String("folder"), Qt::CaseInsensitive) != 0)
+            throw DataError(QStringLiteral("%1: the key \"%2\" is not known; [journal] has folder = NAME.")
+                                .arg(line.place, shownText(line.key)));
+        folder = line.value;
+    }
+    return QDir(homeFolder).filePath(folder);
+}
+
 } // namespace orvane

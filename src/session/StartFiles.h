@@ -23,4 +23,8 @@ QSet<QString> readMenuEntriesTurnedOn(const QString& homeFolder);
 /// "paper = A4", they come on A4. Raises DataError for anything else there.
 bool readRollPaper(const QString& homeFolder);
 
+/// The company data folder of the journal: what the section [journal] of orvane.ini names ("folder = //share/company"),
+/// seen from the home folder; without it, the folder "journal" there. Raises DataError for anything else in the section.
+QString readJournalFolder(const QString& homeFolder);
+
 } // namespace orvane

@@ -1,6 +1,7 @@
 // What looks after the ledger: its periods, and what no screen offers for posting any more.
 #include "books/InvoicePosting.h"
 #include "books/Period.h"
+#include "books/VoucherPosting.h"
 #include "data/rows/SharedTables.h"
 #include "session/Settings.h"
 #include "tool/Command.h"
@@ -68,14 +69,23 @@ int postCommand(Call& call) {
     if (!readSettings(program) || !program.session.gAcctPostOn)
         throw DataError("Posting is not switched on, or its settings are not complete; nothing was posted.");
     LedgerDesk ledger = program.ledgerDesk();
+    const auto tellSettled = [&] {
+        for (const QString& settled : ledger.takeSettled())
+            call.out << settled << '\n';
+    };
     ledger.settle();
-    for (const QString& settled : ledger.takeSettled())
-        call.out << settled << '\n';
+    tellSettled();
     const Given<QStringList> invoices = postInvoicesLeftOver(ledger);
     if (!invoices)
         throw DataError(refusalText(invoices.refusal()));
     for (const QString& invoice : *invoices)
         call.out << "Invoice " << invoice << " was flagged without its entry, and is posted now.\n";
+    const Given<QStringList> vouchers = postVouchersLeftOver(ledger);
+    tellSettled();
+    if (!vouchers)
+        throw DataError(refusalText(vouchers.refusal()));
+    for (const QString& voucher : *vouchers)
+        call.out << "Voucher " << voucher << " was paid and not posted, and is posted now.\n";
     return Done;
 }
 

@@ -2,11 +2,23 @@
 
 #include "support/MoneyActions.h"
 
+#include <QRegularExpression>
+
 namespace orvane {
 
 namespace {
 
+/// The statements of the two databases come in one stream; these tables bear the names of none in billing.
+bool isOfLedger(const QString& tsql) {
+    static const QRegularExpression ledger(
+        "TranFromAppsTrail|TranxactionTemp|AccountMonthOpen|from tranxaction where TranID",
+        QRegularExpression::CaseInsensitiveOption);
+    return tsql.contains(ledger);
+}
+
 bool isOnRows(const QString& tsql) {
+    if (isOfLedger(tsql))
+        return false;
     for (const char* word : {"select", "update", "delete"})
         if (tsql.startsWith(QLatin1StringView(word), Qt::CaseInsensitive))
             return true;

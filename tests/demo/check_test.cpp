@@ -208,6 +208,26 @@ const Plant plants[] = {
     {"invoice's entry without its flag",
      {"insert into TranFromAppsTrail (TranID,TranNoApp,Remarks) values ('T1','0102/2026/03','RECEIVABLE')"},
      true},
+    {"voucher flagged without its entry", {"update hExpensePayDetails set isPost=1"}},
+    {"voucher's entry without its flag",
+     {"insert into TranFromAppsTrail (TranID,TranNoApp,Remarks) values ('T1','V1','EXPENSE')"},
+     true},
+    {"posted voucher",
+     {"update hExpensePayDetails set isPost=1"},
+     false,
+     {"insert into TranFromAppsTrail (TranID,TranNoApp,Remarks) values ('T1','V1','EXPENSE')"}},
+    {"supplier's entry flagged and not posted",
+     {"insert into StockEntryAcct (InvoiceNo,EntryDate,InvoiceDate,Amount,isPost) values "
+      "('I1','2026-03-01','2026-03-01',5,1)"}},
+    {"supplier's entry posted and not flagged",
+     {"insert into StockEntryAcct (InvoiceNo,EntryDate,InvoiceDate,Amount,TranID) values "
+      "('I1','2026-03-01','2026-02-28',0,'T1')"}},
+    {"supplier's entry of another ledger",
+     {"insert into StockEntryAcct (InvoiceNo,Amount,TranID) values ('I1',5,'T1')"}},
+    {"posted supplier's entries",
+     {"insert into Tranxaction (TranID,AccountNo,Amount) values ('T1','1',5)",
+      "insert into TranFromAppsTrail (TranID,TranNoApp,Remarks) values ('T1','I1','PAYABLE')"},
+     true},
     {"posting left over", {"insert into PostingNotes (gTranID,kind) values ('T1','RECEIPT')"}},
 };
 

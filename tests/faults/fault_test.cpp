@@ -136,11 +136,11 @@ void PrintTo(const Case& one, std::ostream* out) {
     *out << caseName(one);
 }
 
-/// All but the collation, which reports nothing, and roles, whose faults are told in a log only.
+/// All but the collation, which reports nothing, roles, whose faults are told in a log only, and postings.
 QList<MoneyAction> pressedActions() {
     static const QStringList others = {"Collation", "Role", "RoleOfUser"};
     QList<MoneyAction> actions = moneyActions();
-    actions.removeIf([](const MoneyAction& action) { return others.contains(action.name); });
+    actions.removeIf([](const MoneyAction& action) { return action.posts || others.contains(action.name); });
     return actions;
 }
 
@@ -404,6 +404,56 @@ TEST_P(UnknownSave, IsToldToWhoeverClosesTheScreen) {
     ws.close(formName);
     const QStringList shown = takeShown(ws.ui);
     expectSavedOnce({shown.filter("box ").replaceInStrings("box ", ""), GetParam().isReportedBy(shown)});
+}
+
+/// What goes through both databases, with each statement and each answer of either of them lost in turn.
+class BrokenPosting : public ::testing::TestWithParam<MoneyAction> {};
+
+QList<MoneyAction> postings() {
+    QList<MoneyAction> actions = moneyActions();
+    actions.removeIf([](const MoneyAction& action) { return !action.posts && !action.postsBehind; });
+    return actions;
+}
+
+INSTANTIATE_TEST_SUITE_P(On, BrokenPosting, ::testing::ValuesIn(postings()),
+                         [](const auto& instance) { return instance.param.name; });
+
+/// As its user does the next time, in a program started anew.
+void finish(const MoneyAction& action, const QString& folder, bool nothingLeft) {
+    Workstation next(folder);
+    ASSERT_TRUE(next.start());
+    if (nothingLeft) {
+        action.enter(next);
+        action.press(next);
+    } else {
+        action.complete(next);
+    }
+    next.ui.forgetBoxes();
+}
+
+TEST_P(BrokenPosting, IsPostedOnceInTheEnd) {
+    const MoneyAction& action = GetParam();
+    const QString after = figuresAfter(action);
+    const int step = qEnvironmentVariableIsSet("ORVANE_PROOF_ALL") ? 1 : 3;
+    for (int moment = 0;; moment += step) {
+        SCOPED_TRACE("broken at " + std::to_string(moment));
+        Scene scene(Engine::Sqlite, action);
+        const QString before = scene.figures();
+        int seen = 0;
+        scene.ws->program.data().setStatementHook([&](const QString& tsql) {
+            if (seen++ == moment || (seen > moment && tsql == "outcome of commit"))
+                throw DataError("the cable was pulled");
+        });
+        scene.press();
+        scene.ws.reset();
+        if (seen <= moment)
+            break;
+        EXPECT_EQ(action.faultsAmong(scene.findings()), QStringList());
+        if (const QString left = scene.figures(); left != after)
+            finish(action, scene.folder(), left == before);
+        EXPECT_EQ(scene.figures(), after);
+        EXPECT_EQ(scene.findings(), QStringList());
+    }
 }
 
 } // namespace

@@ -153,16 +153,15 @@ TEST_P(Shell, everyEntryActsOrIsGreyButTheEmptyOnes) {
               "mnuRevCat>frmRevCat mnuUPC>frmCoyUpdate mnuBanks>frmBanks mnuOffAttd>frmRecordsOffline "
               "mnuVerify>frmBillingVerify mnuViewColl>frmBillProcess mnuPayVouch>frmExpensePay "
               "mnuMIGFC>frmBillProcessing mnuSBTAPP>frmBillProcessingShift mnuLastBatch>frmBillReverseProcessing "
-              "mnuAdmDepo>frmReceiptDeposit "
-              "mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount mnuPrintB>FrmRptBillsByPat "
-              "mnuRPtES>rptPanelSummary mnuOffline>frmReceiptManual mnuPSITC>frmExistBill mnuPCB>rptPanelSummary "
-              "mnuCTTA>frmRevCashAcct mnuCRD>frmRevCashAdjust mnuRHFCB>frmRevCatEdit mnuPMPBFC>frmBillProcessingPost "
+              "mnuAdmDepo>frmReceiptDeposit mnuRct>frmReceiptTemp mnuDisc>frmBillDiscount "
+              "mnuPrintB>FrmRptBillsByPat mnuRPtES>rptPanelSummary mnuOffline>frmReceiptManual "
+              "mnuPSITC>frmExistBill mnuPCB>rptPanelSummary mnuCTTA>frmRevCashAcct mnuCRD>frmRevCashAdjust "
+              "mnuRHFCB>frmRevCatEdit mnuSuppAcctUpdate>frmSuppliersAcct mnuPMPBFC>frmBillProcessingPost "
               "mnuPCOB>frmBillToCapitated mnuCBFSO>frmBillingVerify mnuEditFind>frmFind mnuVSII>frmPatientInfo "
               "mnuPDI>frmDebtInfo mnuBNIPSL>frmVerifyBillsInSummary mnuPIBP>FrmRptBillsByPat "
-              "mnuPrintBMonthly>FrmProcessedBill "
-              "mnuRemnd>frmReminder mnuUsers>frmUsers mnuUserRoles>frmUserRole mnuChangePWD>frmDialog "
-              "mnuCreateRoles>frmRole mnuDSP>frmDrugPrice");
-    ws.open("frmSuppliersAcct");
+              "mnuPrintBMonthly>FrmProcessedBill mnuRemnd>frmReminder mnuUsers>frmUsers mnuUserRoles>frmUserRole "
+              "mnuChangePWD>frmDialog mnuCreateRoles>frmRole mnuDSP>frmDrugPrice");
+    ws.open("frmDispensing");
     EXPECT_BOXES(ui, {"This screen is not part of this version yet."});
 }
 

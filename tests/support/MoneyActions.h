@@ -20,10 +20,15 @@ struct MoneyAction {
     bool brief = false; ///< killed at every fifth moment only, and on a server seen with one fault only
     /// It is saved in steps, each of which stands; this does what is missing, as its user does the next time.
     void (*complete)(Workstation&) = nullptr;
+    bool posts = false;       ///< it is a posting, over both databases, whose commits are settled in their own way
+    const char* leaves = "";  ///< how a finding begins that a cut may leave until it is completed; empty: none may
+    bool postsBehind = false; ///< what it reports is saved; a posting follows
 
     void press(Workstation& ws) const;
     /// What these signs say to the user: it is saved.
     bool isReportedBy(const QStringList& shown) const;
+    /// Of a check's findings those that a cut may not leave.
+    QStringList faultsAmong(QStringList findings) const;
 };
 
 void PrintTo(const MoneyAction& action, std::ostream* out);

@@ -192,6 +192,13 @@ create index ixVoucherPaidDate on hExpensePay (PayDate)
 go
 create index ixVoucherPaidItemsNo on hExpensePayDetails (vouchNo)
 )"},
+    {5, "billing", "the column StockEntryAcct.TranID, the transaction of the ledger that a supplier's entry is in, and indexes", R"(
+alter table StockEntryAcct add TranID varchar(50)
+go
+create index ixStockEntryInvoiceDate on StockEntryAcct (InvoiceDate)
+go
+create index ixStockEntryDate on StockEntryAcct (EntryDate)
+)"},
 };
 
 } // namespace
