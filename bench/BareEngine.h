@@ -13,6 +13,7 @@ namespace orvane {
 struct BareStatement {
     QByteArray text;
     bool audit = false;
+    bool accounting = false;
 };
 
 /// What the engine did for one statement.

@@ -43,8 +43,9 @@ class BarePostgresql : public BareEngine {
 public:
     BarePostgresql(const HomeServer& server, const QDateTime& clock)
         : BareEngine(Engine::Postgresql), m_billing(server.entry, server.login, server.database()),
-          m_audit(server.entry, server.login, server.database()) {
-        for (PgSession* session : {&m_billing, &m_audit})
+          m_audit(server.entry, server.login, server.database()),
+          m_accounting(server.entry, server.login, server.database("accounting")) {
+        for (PgSession* session : {&m_billing, &m_audit, &m_accounting})
             session->run("select set_config('orvane.clock', '" + clock.toString("yyyy-MM-dd HH:mm:ss").toUtf8() +
                          "', false)");
     }
@@ -68,10 +69,13 @@ public:
     }
 
 private:
-    PgSession& sessionOf(const BareStatement& statement) { return statement.audit ? m_audit : m_billing; }
+    PgSession& sessionOf(const BareStatement& statement) {
+        return statement.accounting ? m_accounting : statement.audit ? m_audit : m_billing;
+    }
 
     PgSession m_billing;
     PgSession m_audit;
+    PgSession m_accounting;
 };
 
 } // namespace

@@ -34,10 +34,12 @@ public:
         : BareEngine(Engine::Sqlite), m_clock(clock.toString("yyyy-MM-dd HH:mm:ss").toUtf8()) {
         m_billing = connect(server.database(), durable);
         m_audit = connect(server.database("Audit"), durable);
+        m_accounting = connect(server.database("Accounting"), durable);
     }
     ~BareSqlite() override {
         sqlite3_close(m_billing);
         sqlite3_close(m_audit);
+        sqlite3_close(m_accounting);
     }
 
     void run(const BareStatement& statement) override {
@@ -61,7 +63,9 @@ public:
     }
 
 private:
-    sqlite3* databaseOf(const BareStatement& statement) const { return statement.audit ? m_audit : m_billing; }
+    sqlite3* databaseOf(const BareStatement& statement) const {
+        return statement.accounting ? m_accounting : statement.audit ? m_audit : m_billing;
+    }
 
     [[noreturn]] static void refuse(sqlite3* database, const QByteArray& text) {
         throw DataError(QString::fromUtf8(sqlite3_errmsg(database)), QString::fromUtf8(text));
@@ -103,6 +107,7 @@ private:
     QByteArray m_clock;
     sqlite3* m_billing = nullptr;
     sqlite3* m_audit = nullptr;
+    sqlite3* m_accounting = nullptr;
 };
 
 } // namespace

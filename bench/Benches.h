@@ -14,4 +14,7 @@ void benchGrowth(const QString& smallHome, const QString& largeHome, int rounds)
 /// What the run of a month costs, and its reversal.
 void benchMonth(const QString& smallHome, const QString& largeHome, int rounds);
 
+/// What the ledger's reports and postings cost, on the large hospital alone with millions of legs laid into it.
+void benchLedger(const QString& smallHome, const QString& largeHome, int rounds);
+
 } // namespace orvane

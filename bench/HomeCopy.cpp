@@ -56,7 +56,7 @@ QString HomeServer::database(const QString& name) const {
 }
 
 HomeCopy::HomeCopy(const QString& home, const QString& name) : m_server(home) {
-    for (const QString& file : QDir(home).entryList({"*.sys", "*.JPG", "*.wav"}, QDir::Files))
+    for (const QString& file : QDir(home).entryList({"*.sys", "*.JPG", "*.wav", "*.rpt"}, QDir::Files))
         copyFile(QDir(home).filePath(file), m_folder.filePath(file));
     if (engine() == Engine::Sqlite) {
         copyFiles();

@@ -5,7 +5,9 @@ create view vwBillingDetailsForRev as
 select d.SNo as SNO, d.dtDate as Date,
     isnull(p.fullname, (select max(q.fullname) from hPatientsPublic q where q.PNo = d.PNo)) as Fullname,
     d.drgName as Service, d.Qty, d.SubTotal as subTotal, d.revType, d.treatedBy,
-    e.LastName + ' ' + e.firstname as Consultant, r.retainName as Company, d.billNo as BillNO,
+    e.LastName + ' ' + e.firstname as Consultant,
+    case when isnull(d.treatedBy, '') = '' then 'No consultant named'
+        else isnull(e.LastName + ' ' + e.firstname, d.treatedBy) end as RenderedBy, r.retainName as Company, d.billNo as BillNO,
     isnull(h.clientCat, r.clientcatID) as clientCatID, d.BillType, r.retainCode as RetainCode,
     r.ClientType as clientType, t.AccountNo
 from BillingDetails d
@@ -85,4 +87,35 @@ select y.SNo, y.PayDate as Date, y.PayTime as Time, y.Amount,
     y.REcipient as Recipient, y.Description, y.vouchNo as VouchNo, y.Paidby as PaidBy, h.ApprvBy
 from hExpensePay y
 left join hExpenseApprvFinal h on h.vouchNo = y.vouchNo
+go
+
+-- Every receipt and reversal with the cashier who took it; a name that no user bears is the receipt's own word.
+create view vwPaymentsByCashier as
+select y.SNo, y.ReceivedBy as empID,
+    isnull((select max(u.Fullname) from ApplicationUsers u where u.EmpID = y.ReceivedBy), y.ReceivedBy) as empName,
+    y.ReceiptDate as receiptdate, y.ReceiptNo, y.rTime,
+    isnull(p.fullname, (select max(q.fullname) from hPatientsPublic q where q.PNo = y.PNo)) as Fullname, y.PNo,
+    y.billNo, y.PaymentFor, y.PayType, y.AmountPaid, y.Remarks
+from Payments y
+left join hPatients p on p.PNo = y.PNo
+go
+-- The ways by which each receipt was paid, with its cashier. A number that was entered twice on a day has one cashier.
+create view vwPaymentsByCashierTypes as
+select t.SNo, t.ReceiptDate as receiptdate, t.ReceiptNo, y.ReceivedBy as empID,
+    isnull((select max(u.Fullname) from ApplicationUsers u where u.EmpID = y.ReceivedBy), y.ReceivedBy) as empName,
+    t.PayType, isnull(p.fullname, (select max(q.fullname) from hPatientsPublic q where q.PNo = y.PNo)) as Fullname,
+    t.AmountPaid, t.AccountNo
+from PaymentTypes t
+left join Payments y on y.SNo = (select min(f.SNo) from Payments f where f.ReceiptNo = t.ReceiptNo
+    and f.ReceiptDate = t.ReceiptDate)
+left join hPatients p on p.PNo = y.PNo
+go
+-- What the cashiers paid on vouchers, a payment a row.
+create view vwhExpensePaySumm as
+select y.SNo, y.PayDate as Date, y.PayTime as Time, y.vouchNo as Vouchers, y.REcipient as Recipient, y.Description,
+    (select max(d.PayType) from hExpensePayDetails d where d.vouchNo = y.vouchNo and d.PayDate = y.PayDate) as PayType,
+    (select max(d.ChequeNo) from hExpensePayDetails d where d.vouchNo = y.vouchNo and d.PayDate = y.PayDate) as ChequeNo,
+    y.Amount, isnull((select max(u.Fullname) from ApplicationUsers u where u.Username = y.Paidby or u.EmpID = y.Paidby),
+    y.Paidby) as PaidBy
+from hExpensePay y
 go

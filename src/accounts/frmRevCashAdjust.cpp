@@ -49,11 +49,11 @@ Sql frmRevCashAdjust::receipts(bool forReport) const {
     if (cboGroup.picked<int>() == Undistributed)
         return Sql("select ReceiptDate ,ReceiptNo ,AmountPaid ,paymentFor,billNO   from Payments Where ReceiptDate "
                    "Between '")
-               << first << " ' and '" << last
+               << first << "' and '" << last
                << "'and ReceiptNo  not in (select ReceiptNo  from PaymentDetails  ) order by ReceiptDate";
     Sql sql("select ReceiptDate ,ReceiptNo ,Diff as AmountPaid ,paymentFor,billNO   from vwPaymentDetailsSumm2 ");
     if (forReport)
-        return sql << "Where Diff > 0 and ReceiptDate Between '" << first << " ' and '" << last
+        return sql << "Where Diff > 0 and ReceiptDate Between '" << first << "' and '" << last
                    << "' order by ReceiptDate";
     return sql << "Where Diff <> 0 and ReceiptDate Between '" << first << "' and '" << last << "' order by ReceiptDate";
 }

@@ -24,6 +24,10 @@ void ReportScreen::showReport(const ReportWanted& wanted) {
     ui().setBusy(false);
 }
 
+QString ReportScreen::periodWords(QDate from, QDate to) {
+    return "from " + from.toString("dd/MM/yyyy") + " to " + to.toString("dd/MM/yyyy");
+}
+
 void ReportScreen::showList(const QString& name, const QString& title, const Recordset& rows) {
     crViewer1.show(openDataReport({.file = name, .rows = rows, .values = letterhead(program), .title = title}), name);
 }

@@ -30,6 +30,9 @@ protected:
     /// The same of a plain list, whose layout the program bears itself.
     void showList(const QString& name, const QString& title, const Recordset& rows);
 
+    /// "from 01/03/2026 to 31/03/2026", as a report's head names its days.
+    static QString periodWords(QDate from, QDate to);
+
     ReportViewer crViewer1{*this};
 };
 

@@ -15,6 +15,8 @@ public:
     Button* cancelButton() override { return &CancelButton; }
 
 private:
+    QString fileFor(const Recordset& rows) const;
+
     Button CancelButton{*this, "CancelButton", "&Close", &frmRevPrintRpt::unload};
 };
 

@@ -4,14 +4,22 @@ namespace orvane {
 
 namespace {
 
+QString fieldOf(const ReportElement& element, const ReportData& data, const BandPlace& place) {
+    if (place.row < 0 || !data.has(place.row))
+        return {};
+    const int column = data.column(element.name);
+    if (element.side == ReportElement::Whole)
+        return shownValue(data.value(place.row, column), element.format);
+    const auto amount = data.number(place.row, column, element.side);
+    return amount ? shownValue(*amount, element.format) : QString();
+}
+
 QString wordsOf(const ReportElement& element, const ReportData& data, const BandPlace& place) {
     switch (element.kind) {
     case ReportElement::Text:
         return data.words(element, place.row, place.page, place.pages);
     case ReportElement::Field:
-        return place.row < 0 || !data.has(place.row)
-                   ? QString()
-                   : shownValue(data.value(place.row, data.column(element.name)), element.format);
+        return fieldOf(element, data, place);
     case ReportElement::Sum:
         return shownValue(place.sum(element), element.format.isEmpty() ? QStringLiteral("#,##0.00") : element.format);
     case ReportElement::Count:

@@ -8,11 +8,11 @@ BandReport::BandReport(const ReportTemplate& layout, const ReportInput& input)
         m_layout.paper = ReportTemplate::Portrait;
     for (const ReportGroup& group : m_layout.groups)
         m_groupColumns << m_data.column(group.column);
-    m_summed << -1;
+    m_summed << Summed{-1, ReportElement::Whole};
     for (const ReportBand* band : m_layout.bands())
         for (const ReportElement& element : band->elements)
-            if (element.kind == ReportElement::Sum && !m_summed.contains(m_data.column(element.name)))
-                m_summed << m_data.column(element.name);
+            if (element.kind == ReportElement::Sum && !m_summed.contains(summed(element)))
+                m_summed << summed(element);
     State start;
     start.tallies.fill({0, 0, QVector<double>(m_layout.groups.size(), 0)}, m_summed.size());
     start.placed.fill(0, m_layout.groups.size() + 1);
@@ -187,7 +187,8 @@ int BandReport::firstChange(int row) const {
 
 void BandReport::tally(State& state, int row) const {
     for (int i = 0; i < m_summed.size(); ++i) {
-        const double number = m_summed.at(i) < 0 ? 1 : m_data.number(row, m_summed.at(i));
+        const auto [column, side] = m_summed.at(i);
+        const double number = column < 0 ? 1 : m_data.number(row, column, side).value_or(0);
         Tally& tally = state.tallies[i];
         tally.page += number;
         tally.report += number;
@@ -224,7 +225,7 @@ void BandReport::put(const ReportBand& band, const State& state, Sheet& sheet, i
 
 /// Without a group named, a sum is of the band's own group, else of the report.
 double BandReport::sumOf(const ReportElement& element, const ReportBand& band, const State& state) const {
-    const int slot = element.kind == ReportElement::Count ? 0 : int(m_summed.indexOf(m_data.column(element.name)));
+    const int slot = element.kind == ReportElement::Count ? 0 : int(m_summed.indexOf(summed(element)));
     const Tally& tally = state.tallies.at(slot);
     if (element.of.compare("page", Qt::CaseInsensitive) == 0)
         return tally.page;

@@ -25,6 +25,12 @@ private:
     /// What comes next on the way through the rows: the feet of the groups that end before a row, inner ones first; the
     /// heads of those that begin with it; the row; behind the last row the foot of the report.
     enum class Phase { ReportHead, Feet, Heads, Detail, ReportFoot, Done };
+    /// A column that is summed, or one side of it; -1 counts rows.
+    struct Summed {
+        int column;
+        ReportElement::Side side;
+        bool operator==(const Summed&) const = default;
+    };
     struct Tally {
         double page = 0, report = 0;
         QVector<double> groups;
@@ -59,13 +65,14 @@ private:
     void tally(State& state, int row) const;
     void clearGroup(State& state, int level) const;
     bool goesOn(const State& state, const ReportBand& carry) const;
+    Summed summed(const ReportElement& element) const { return {m_data.column(element.name), element.side}; }
     double sumOf(const ReportElement& element, const ReportBand& band, const State& state) const;
 
     ReportTemplate m_layout;
     ReportData m_data;
     QString m_title;
     QVector<int> m_groupColumns;
-    QVector<int> m_summed;   ///< the columns that are summed; -1 counts rows
+    QVector<Summed> m_summed;
     QVector<State> m_starts; ///< where the pages begin; the last one may be the page that was not laid out yet
     bool m_whole = false;
 };

@@ -164,6 +164,14 @@ double ReportData::number(int row, int column) const {
     return isNumber(found) ? found.toDouble() : parseAmount(found.toString()).value_or(0);
 }
 
+std::optional<double> ReportData::number(int row, int column, ReportElement::Side side) const {
+    const double found = number(row, column);
+    if (side == ReportElement::Whole)
+        return found;
+    const double amount = side == ReportElement::Debit ? found : -found;
+    return amount > 0 ? std::optional(amount) : std::nullopt;
+}
+
 QString ReportData::words(const ReportElement& element, int row, int page, const QString& pages) const {
     QString text = m_textObjects.value(element.name.toLower(), element.text);
     if (!text.contains(u'{') || m_textObjects.contains(element.name.toLower()))

@@ -4,6 +4,7 @@
 #include "reports/Template.h"
 
 #include <QHash>
+#include <optional>
 
 namespace orvane {
 
@@ -32,6 +33,8 @@ public:
     bool has(int row) const { return m_order.isEmpty() ? m_rows.has(row) : row < m_order.size(); }
     QVariant value(int row, int column) const;
     double number(int row, int column) const; ///< null and what is no number as 0
+    /// The side of a signed amount; empty where it is on the other one.
+    std::optional<double> number(int row, int column, ReportElement::Side side) const;
     const Recordset& rows() const { return m_rows; }
     int column(const QString& name) const; ///< -1: the rows have none of this name
     /// What a text element says on a row (-1: there is no row), with each {...} filled in.

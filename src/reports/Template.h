@@ -10,12 +10,14 @@ namespace orvane {
 /// One thing that a band shows. Places are in millimetres from the band's upper left corner inside the margins.
 struct ReportElement {
     enum Kind { Text, Field, Sum, Count, Line, Picture };
+    enum Side { Whole, Debit, Credit }; ///< Debit: what is plus; Credit: what is minus, without its sign
     Kind kind = Text;
-    int line = 0;   ///< of the template, for faults
-    QString name;   ///< Text: of the text object, empty for none. Field and Sum: the column
-    QString text;   ///< Text: what it says, with {...} to be filled in. Picture: the file
-    QString format; ///< of a number or a date
-    QString of;     ///< Sum and Count: the group, "report" or "page"; empty: that of the band
+    int line = 0;      ///< of the template, for faults
+    QString name;      ///< Text: of the text object, empty for none. Field and Sum: the column
+    QString text;      ///< Text: what it says, with {...} to be filled in. Picture: the file
+    Side side = Whole; ///< Field and Sum: of a signed amount
+    QString format;    ///< of a number or a date
+    QString of;        ///< Sum and Count: the group, "report" or "page"; empty: that of the band
     double x = 0, y = 0, width = 0, height = 0; ///< Line: its other end is at x + width, y + height
     double points = 0;                          ///< letter size; 0: the template's
     double thickness = 0.2;

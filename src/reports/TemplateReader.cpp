@@ -259,9 +259,17 @@ private:
         readWords(line, element);
     }
 
+    static void takeSide(TemplateLine& line, ReportElement& element) {
+        if (line.takes("debit"))
+            element.side = ReportElement::Debit;
+        else if (line.takes("credit"))
+            element.side = ReportElement::Credit;
+    }
+
     void readField(TemplateLine& line) {
         ReportElement element = begin(line, ReportElement::Field);
         element.name = line.takeName("the field");
+        takeSide(line, element);
         readWords(line, element);
     }
 
@@ -273,6 +281,7 @@ private:
     void readSum(TemplateLine& line) {
         ReportElement element = begin(line, ReportElement::Sum);
         element.name = line.takeName("the field");
+        takeSide(line, element);
         takeOf(line, element);
         readWords(line, element);
     }

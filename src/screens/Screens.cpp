@@ -44,8 +44,11 @@
 #include "clients/frmRetainership.h"
 #include "clients/frmRptHeading.h"
 #include "clients/frmVerifyBillsInSummary.h"
+#include "printouts/FrmRptPaymentsByCashier.h"
 #include "printouts/frmPrintRpt.h"
 #include "printouts/frmRevPrintRpt.h"
+#include "printouts/frmRptPaymentVoucherByCashier.h"
+#include "printouts/frmRptTB.h"
 #include "receipts/frmCashReceipt.h"
 #include "receipts/frmCashReceiptLab.h"
 #include "receipts/frmDebtInfo.h"
@@ -131,6 +134,9 @@ constexpr struct {
 
     {"frmPrintRpt", make<frmPrintRpt>},
     {"frmRevPrintRpt", make<frmRevPrintRpt>},
+    {"FrmRptPaymentsByCashier", make<FrmRptPaymentsByCashier>},
+    {"frmRptPaymentVoucherByCashier", make<frmRptPaymentVoucherByCashier>},
+    {"frmRptTB", make<frmRptTB>},
 
     {"frmBanks", make<frmBanks>},
     {"frmExpenseItems", make<frmExpenseItems>},

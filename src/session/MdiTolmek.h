@@ -25,7 +25,8 @@ public:
     QString sPrompt;
 
 private:
-    enum class Look { Shown, Hidden, HiddenAndDisabled };
+    /// Empty: shown without any action, unless it is turned on.
+    enum class Look { Shown, Hidden, HiddenAndDisabled, Empty };
     /// A menu (`inMenu` false), or an entry of the menu above it. An entry runs its handler, then opens its screen; one
     /// without either does nothing, and one whose screen is not part of the program is grey.
     struct MenuEntry {
@@ -56,6 +57,7 @@ private:
     void mnuTB_Click();
     void mnuTBBP_Click();
     void mnuGL_Click();
+    void prepareLedgerReport(const QString& kind);
     void mnuBFT_Click();
     void mnuINC_Click();
     void mnuCR_Click();

@@ -8,10 +8,12 @@
 
 namespace orvane {
 
-/// The menus in display order. A hidden entry is reached only where the section [menu] of orvane.ini turns it on.
+/// The menus in display order. A hidden entry, and what an empty one opens, is reached only where the section [menu] of
+/// orvane.ini turns it on.
 const QVector<MdiTolmek::MenuEntry>& MdiTolmek::menuTable() {
     constexpr Look shown = Look::Shown;
     constexpr Look hidden = Look::Hidden;
+    constexpr Look empty = Look::Empty;
     using M = MdiTolmek;
     static const QVector<MenuEntry> table = {
         {false, "mnuFile", "&File"},
@@ -81,7 +83,7 @@ const QVector<MdiTolmek::MenuEntry>& MdiTolmek::menuTable() {
         {true, "mnuReal", "Real Time Bill Generation/Income", hidden, "frmBillGen"},
         {true, "mnuINC", "Receipts for Today", shown, nullptr, &M::mnuINC_Click},
         {true, "mnuPRBC", "Payments Received by Cashier", shown, "FrmRptPaymentsByCashier"},
-        {true, "mnuPayVBC", "Payment Voucher from Cashier"},
+        {true, "mnuPayVBC", "Payment Voucher from Cashier", empty, "frmRptPaymentVoucherByCashier"},
         {true, "mnuBCBBO", "Bills Collated by Billing Officers", shown, "FrmRptBillsByBillingOfficers"},
         {true, "mnuABR", "Amended Bills Report"},
         {true, "mnuBIBC", "Bill Incurred by Clients", hidden, "FrmRptBillsByClient"},
@@ -119,10 +121,13 @@ void MdiTolmek::buildMenus() {
         MenuItem* item = m_menus.back().get();
         if (!entry.inMenu)
             menu = item;
-        if (!turnedOn.contains(name.toLower())) {
-            item->setVisible(entry.look == Look::Shown);
+        const bool turned = turnedOn.contains(name.toLower());
+        if (!turned) {
+            item->setVisible(entry.look == Look::Shown || entry.look == Look::Empty);
             item->setEnabled(entry.look != Look::HiddenAndDisabled);
         }
+        if (entry.look == Look::Empty && !turned)
+            continue;
         if (entry.opens || entry.run)
             item->onClick = [this, &entry] { act(entry); };
         if (entry.opens && !program.isRegistered(entry.opens)) {
@@ -167,15 +172,22 @@ void MdiTolmek::preparePanel(const QString& mode, const QString& label) {
 }
 
 void MdiTolmek::mnuTB_Click() {
-    session.sRptKind = "TB";
+    prepareLedgerReport("TB");
 }
 
 void MdiTolmek::mnuTBBP_Click() {
-    session.sRptKind = "TB2";
+    prepareLedgerReport("TB2");
 }
 
 void MdiTolmek::mnuGL_Click() {
-    session.sRptKind = "GL";
+    prepareLedgerReport("GL");
+}
+
+void MdiTolmek::prepareLedgerReport(const QString& kind) {
+    session.sRptKind = kind;
+    // It takes its kind when it loads.
+    if (Form* open = program.loadedForm("frmRptTB"))
+        open->unload();
 }
 
 void MdiTolmek::mnuBFT_Click() {

@@ -171,22 +171,6 @@ TEST_P(DebtInfo, SummariesGiveWhatIsOwedAsPlus) {
     EXPECT_TRUE(ws.program.loadedForm("frmPrintRpt"));
 }
 
-TEST_P(DebtInfo, EachKindOfRevenueHasItsTemplate) {
-    const QHash<QString, QString> files = {{"DETAIL", "rptRevenue2.rpt"},
-                                           {"CONS-DETAIL", "rptRevenueCons.rpt"},
-                                           {"CASH", "rptRevenueCash.rpt"},
-                                           {"SUMMARY", "rptRevenue.rpt"}};
-    ws.program.session.sRevRptSQL = Sql("select PNo from hPatients");
-    open("frmRevPrintRpt");
-    EXPECT_BOXES(ui, {"No Report for the specified Clients"});
-    layVisit();
-    for (auto file = files.cbegin(); file != files.cend(); ++file) {
-        ws.program.session.sRevRptMode = file.key();
-        ws.program.open("frmRevPrintRpt");
-        EXPECT_BOXES(ui, {QStringLiteral("The report template %1 is not in the program's folder.").arg(*file)});
-    }
-}
-
 /// The workbook as its reader sees it: one part of the file, or a failure.
 QString workbookPart(const QString& file, const QString& part) {
     QProcess unzip;

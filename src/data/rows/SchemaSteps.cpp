@@ -183,6 +183,11 @@ create index ixLedgerTempDate on TranxactionTemp (TranDate)
     {5, "billing", "the index by which the lines of some days are found, for the revenue of these days", R"(
 create index ixDetailsDate on BillingDetails (dtDate)
 )"},
+    {5, "accounting", "the indexes in which the ledger's reports read an account's entries, without its rows", R"(
+create index ixLedgerAccount on Tranxaction (AccountNo, TranDate, SNo, Amount)
+go
+create index ixLedgerTempAccount on TranxactionTemp (AccountNo, TranDate, SNo, Amount)
+)"},
     {5, "billing", "the indexes by which vouchers and what was paid on them are found", R"(
 create index ixVoucherNo on hExpenseApprvFinal (vouchNo)
 go

@@ -35,6 +35,11 @@ Recordset openNextPeriod(Connection& connection, const QVariantMap& parameters);
 /// InsertTranxaction: writes one leg to Tranxaction when @Period is the current period by the database's own word, and to
 /// TranxactionTemp else.
 Recordset storeLeg(Connection& connection, const QVariantMap& parameters);
+
+/// getTrialBalance: makes the tables of the ledger's reports what the ledger is, and gives the days of its first and
+/// last entry, FirstDay and LastDay; no row where nothing was posted yet.
+Recordset ledgerDays(Connection& connection, const QVariantMap& parameters);
+
 /// BillingDetailsForRevRpt: the billed lines of the days @Date1 to @Date2, of the client or the client type
 /// @ClientCat or, with "(ALL)", of everybody.
 Recordset billedLines(Connection& connection, const QVariantMap& parameters);

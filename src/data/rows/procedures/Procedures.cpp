@@ -18,6 +18,7 @@ const ProcedureEntry* findProcedure(const QString& name) {
          {"@TranID", "@AccountNo", "@TranNo", "@TranDate", "@CostCenterID", "@Amount", "@Description", "@TranCat",
           "@EntryDate", "@Period", "@userName"},
          storeLeg},
+        {"getTrialBalance", {}, ledgerDays},
         {"BillingDetailsForRevRpt", {"@Date1", "@Date2", "@ClientCat"}, billedLines},
     };
     for (const ProcedureEntry& entry : entries)
