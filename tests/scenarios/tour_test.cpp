@@ -142,11 +142,12 @@ TEST_P(Rights, AreNoMoreThanTheProgramNeeds) {
     DataSource source(home.folder());
     const std::pair<QString, QStringList> refused[] = {
         {TestHome::billing(),
-         {"drop table Payments", "delete from Payments", "update Payments set AmountPaid=0", "delete from AuditTrail",
-          "update Tranxaction set Amount=0", "delete from hPatients", "insert into AppDefaults (ID) values ('X')",
-          "select * from clients", "create table mine (a int)"}},
+         {"drop table Payments", "delete from Payments", "update Payments set AmountPaid=0",
+          "update PaymentTypes set AmountPaid=0", "delete from AuditTrail", "update Tranxaction set Amount=0",
+          "delete from hPatients", "insert into AppDefaults (ID) values ('X')", "select * from clients",
+          "create table mine (a int)"}},
         {TestHome::accounting(),
-         {"delete from Tranxaction", "insert into Tranxaction (TranID, AccountNo) values ('X', 'X')"}}};
+         {"delete from Tranxaction", "update Tranxaction set Amount=0", "update AccountMonthOpen set isClose=0"}}};
     for (const auto& [database, statements] : refused)
         for (const QString& statement : statements)
             try {

@@ -48,7 +48,7 @@ constexpr TableRights billingTables[] = {
     {"hExpenseDetailsApprvFinal", "update"},
     {"hExpenseItems", "insert, update"},
     {"hExpensePay", "insert"},
-    {"hExpensePayDetails", "insert"},
+    {"hExpensePayDetails", "insert, update (isPost)"},
     {"HospList", ""},
     {"hPatients", "update"},
     {"hPatientsPublic", ""},
@@ -66,13 +66,14 @@ constexpr TableRights billingTables[] = {
     {"labservices", "update"},
     {"LagosBranches", ""},
     {"LoginTrail", "insert"},
-    {"PaymentDetails", "insert, update"},
-    {"Payments", "insert, update"},
+    {"PaymentDetails", "insert, update (isPost, revType)"},
+    {"Payments", "insert, update (isPost)"},
     {"PaymentTypeDetails", "update"},
-    {"PaymentTypes", "insert, update"},
+    {"PaymentTypes", "insert, update (isPost, AccountNo)"},
     {"PostingNotes", "insert, delete"},
     {"Roles", "insert, delete"},
     {"SavedActions", "insert"},
+    {"StockEntryAcct", "update (isPost, TranID, InvAcctNo)"},
     {"suppliers", "insert, update, delete"},
     {"SuppliersArchive", "insert"},
     {"TariffAdjust", "insert"},
@@ -83,12 +84,8 @@ constexpr TableRights billingTables[] = {
 };
 
 constexpr TableRights accountingTables[] = {
-    {"AccountMonth", ""},
-    {"AccountMonthOpen", "insert"},
-    {"ChartOfAccounts", ""},
-    {"IDgen", "insert, update"},
-    {"TranFromAppsTrail", "insert"},
-    {"Tranxaction", "insert"},
+    {"AccountMonth", ""},          {"AccountMonthOpen", "insert"},  {"ChartOfAccounts", ""},
+    {"IDgen", "insert, update"},   {"TranFromAppsTrail", "insert"}, {"Tranxaction", "insert"},
     {"TranxactionTemp", "insert"},
 };
 
