@@ -120,7 +120,7 @@ QList<MoneyAction> postingActions(void (*layReceipt)(Workstation&), void (*layPr
          .lay =
              [](Workstation& ws) {
                  layCash(ws);
-                 ws.run("delete from PaymentDetails");
+                 ws.run("delete from PaymentDetails where SNo > 0");
              },
          .enter = enterHandShare,
          .button = "frmRevCashAdjust.OKButton",
