@@ -9,6 +9,11 @@ namespace orvane {
 
 namespace {
 
+Sql amountChange(const QString& billNo, double amount) {
+    return Sql("update  billing set AmountBilledInWord='")
+           << getValInWord(amount) << "', amountBilled= " << amount << " where billno = '" << billNo << "'";
+}
+
 void compose(Recordset& row, const Bill& bill) {
     row.set("bdate", bill.date);
     row.set("billNo", bill.billNo);
@@ -117,14 +122,18 @@ std::optional<double> billDetailsTotal(Connection& connection, const QString& bi
 }
 
 void setBillAmount(Books& books, const QString& billNo, double amount) {
-    books.connection.execute(Sql("update  billing set AmountBilledInWord='")
-                             << getValInWord(amount) << "', amountBilled= " << amount << " where billno = '" << billNo
-                             << "'");
+    books.connection.execute(amountChange(billNo, amount));
 }
 
-void processBill(Books& books, const QString& billNo, const QString& invNo) {
-    books.connection.execute(Sql("update Billing set isprocess=1, invNo='")
-                             << invNo << "'where billno = '" << billNo << "'");
+void processBills(Books& books, const QString& invNo, const QVector<BillToProcess>& bills) {
+    QVector<Sql> changes;
+    for (const BillToProcess& bill : bills) {
+        if (bill.total)
+            changes.append(amountChange(bill.billNo, *bill.total));
+        changes.append(Sql("update Billing set isprocess=1, invNo='")
+                       << invNo << "'where billno = '" << bill.billNo << "'");
+    }
+    books.connection.executeAll(changes);
 }
 
 void releaseBills(Books& books, const QString& invNo) {

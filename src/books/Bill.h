@@ -46,8 +46,14 @@ std::optional<double> billDetailsTotal(Connection& connection, const QString& bi
 /// What the bill's row says that it bills: `amount` naira, and its words.
 void setBillAmount(Books& books, const QString& billNo, double amount);
 
-/// Puts the bill on its client's invoice, which freezes it.
-void processBill(Books& books, const QString& billNo, const QString& invNo);
+/// A bill of the month's run.
+struct BillToProcess {
+    QString billNo;
+    std::optional<double> total; ///< naira, of its lines; none where the bill has no visit
+};
+
+/// Takes each bill's amount from its lines once more and puts it on its client's invoice, which freezes it.
+void processBills(Books& books, const QString& invNo, const QVector<BillToProcess>& bills);
 
 /// Takes all bills off an invoice; they can be changed again. Their number of an invoice is then the text 0.
 void releaseBills(Books& books, const QString& invNo);

@@ -7,26 +7,23 @@
 #include "books/Debtor.h"
 #include "data/words/Money.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 namespace {
 
-constexpr int billsAtOnce = 50; ///< between two looks of who watches
+constexpr int billsAtOnce = 50; ///< in one message, and between two looks of who watches
 
 /// A client in the run.
 struct RunClient {
     QString code, invNo;
 };
 
-struct RunBill {
-    QString billNo;
-    std::optional<double> total; ///< naira, of its lines; none where the bill has no visit
-};
-
 /// The bills that wait of the client with this id, with what their lines come to: read in one go, for a look at each
 /// bill costs as much as its change.
 void addWaitingBills(Connection& connection, const MonthRun& run, const QString& code, const QString& clientID,
-                     QVector<RunBill>& bills) {
+                     QVector<BillToProcess>& bills) {
     Sql sql = Sql("select distinct BillNo,(select  Subtotal from vwBillingProcessDetailsGrouped where "
                   "billno=vwBillingProcess.BillNo) as Total from vwBillingProcess where batchNo='")
               << run.batchNo << "' and retainCode='" << code << "' and retainID='" << clientID << "'";
@@ -40,8 +37,8 @@ void addWaitingBills(Connection& connection, const MonthRun& run, const QString&
 
 /// Asked by the id that a code stands for: an index leads from it to the bills, on a server that has no statistics of
 /// the month yet too, while a code is looked for in the whole month.
-QVector<RunBill> waitingBills(Connection& connection, const MonthRun& run, const QString& code) {
-    QVector<RunBill> bills;
+QVector<BillToProcess> waitingBills(Connection& connection, const MonthRun& run, const QString& code) {
+    QVector<BillToProcess> bills;
     Recordset client(connection, Sql("select retainID from hretainership where retainCode='") << code << "'");
     for (; !client.eof(); client.moveNext())
         addWaitingBills(connection, run, code, client.text("retainID"), bills);
@@ -49,21 +46,17 @@ QVector<RunBill> waitingBills(Connection& connection, const MonthRun& run, const
 }
 
 /// Gives what the bills come to, in naira.
-double processBills(Books& books, const RunClient& client, const QVector<RunBill>& bills, const RunWatcher& watch,
-                    RunStage stage) {
+double processBillsOf(Books& books, const RunClient& client, const QVector<BillToProcess>& bills,
+                      const RunWatcher& watch, RunStage stage) {
     double total = 0;
     stage.bills = int(bills.size());
-    for (const RunBill& bill : bills) {
-        if (stage.bill % billsAtOnce == 0)
-            watch(stage);
-        if (bill.total) {
-            total = round2(total + *bill.total);
-            setBillAmount(books, bill.billNo, *bill.total);
-        }
-        processBill(books, bill.billNo, client.invNo);
-        ++stage.bill;
+    for (; stage.bill < stage.bills; stage.bill = std::min(stage.bill + billsAtOnce, stage.bills)) {
+        watch(stage);
+        processBills(books, client.invNo, bills.mid(stage.bill, billsAtOnce));
     }
     watch(stage);
+    for (const BillToProcess& bill : bills)
+        total = round2(total + bill.total.value_or(0));
     return total;
 }
 
@@ -86,7 +79,7 @@ Given<int> processMonth(Books& books, const MonthRun& run, const RunWatcher& wat
     for (const qlonglong number : run.clients) {
         const QString code = paddedClientCode(number);
         const RunClient client{code, invoiceNumber(code, run.batchNo)};
-        const double total = processBills(books, client, waitingBills(books.connection, run, code), watch, stage);
+        const double total = processBillsOf(books, client, waitingBills(books.connection, run, code), watch, stage);
         addToInvoice(books, {.date = run.date,
                              .invNo = client.invNo,
                              .coyCode = code,

@@ -37,6 +37,25 @@ TEST_P(TransactionTest, KeepsWhatWasCommittedAndNothingElse) {
     EXPECT_EQ(data.openTransactions(), 0);
 }
 
+TEST_P(TransactionTest, SeveralChangesAreAllOrNone) {
+    const QString hostile = "o'ne $all$ $xall$; \\' end";
+    const auto named = [](const QString& patient) {
+        return Sql("insert into Patients (PNo,fullname) values('P") << patient.size() << "','" << patient << "')";
+    };
+    {
+        Transaction transaction(billing);
+        billing.executeAll({});
+        billing.executeAll({named("a"), named(hostile), Sql("update Patients set fullname='b' where PNo='P1'")});
+        transaction.commit();
+    }
+    EXPECT_EQ(scalar("select fullname from Patients where PNo='P1'"), "b");
+    EXPECT_EQ(scalar("select fullname from Patients where PNo<>'P1'"), hostile);
+    Transaction transaction(billing);
+    EXPECT_THROW(billing.executeAll({named("abc"), named("x"), named("abcd")}), DataError);
+    EXPECT_THROW(transaction.commit(), DataError);
+    EXPECT_EQ(scalar("select count(*) from Patients"), "2");
+}
+
 TEST_P(TransactionTest, AFailedStatementPoisonsIt) {
     addPayment(billing, 1);
     Recordset lost(billing, Sql("select * from Payments"));

@@ -105,6 +105,28 @@ int PhysicalConnection::change(const SqlParts& tsql) {
     return rows;
 }
 
+void PhysicalConnection::changeAll(const QVector<SqlParts>& changes) {
+    ORVANE_ASSERT(inTransaction);
+    if (engine != Engine::Postgresql) {
+        for (const SqlParts& tsql : changes)
+            change(tsql);
+        return;
+    }
+    // One block is one statement to the driver, so that the fault of any of them is its own.
+    QString body;
+    for (const SqlParts& tsql : changes)
+        body += admit(tsql).text + ";\n";
+    if (body.isEmpty())
+        return;
+    QString quote = "$all$";
+    while (body.contains(quote))
+        quote.insert(1, u'x');
+    const QString text = "do " + quote + "begin\n" + body + "end" + quote;
+    QSqlQuery query(database);
+    execute(
+        query, [&] { return query.exec(text); }, text);
+}
+
 void PhysicalConnection::runCompiled(const Statement& statement, const std::function<void(CompiledStatement&)>& use) {
     CompiledStatement& kept = compiled(statement.marked);
     for (int i = 0; i < statement.bound.size(); ++i)

@@ -55,6 +55,8 @@ struct PhysicalConnection {
     Answer ask(const SqlParts& tsql);
     /// The same for a statement whose rows, if any, nobody reads. Gives the number of rows changed.
     int change(const SqlParts& tsql);
+    /// Several changes of the open transaction, in order.
+    void changeAll(const QVector<SqlParts>& changes);
     /// Sends text in the engine's own words, outside the rules for statements: begin, commit, settings.
     QSqlQuery sendNative(const QString& text);
     /// The same for several: all or none. Outside a transaction.

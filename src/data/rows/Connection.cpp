@@ -41,6 +41,13 @@ void Connection::execute(const Sql& sql) {
     d->change(sql.parts());
 }
 
+void Connection::executeAll(const QVector<Sql>& changes) {
+    QVector<SqlParts> parts;
+    for (const Sql& change : changes)
+        parts.append(change.parts());
+    d->changeAll(parts);
+}
+
 Recordset Connection::call(const QString& procedure, const QVariantMap& parameters) {
     const ProcedureEntry* entry = findProcedure(procedure);
     if (!entry)

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
+#include <QVector>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -29,6 +30,9 @@ public:
     Engine engine() const;
     /// Runs a statement that returns no rows. Raises DataError; a failed statement poisons an open transaction.
     void execute(const Sql& sql);
+    /// Runs several changes in their order, in the open transaction; on PostgreSQL in one message, since a message
+    /// costs as much as a small change. Raises DataError for any of them.
+    void executeAll(const QVector<Sql>& changes);
     /// Runs a stored procedure by its name with named parameters; gives its rows (empty when it returns none).
     /// An unknown name or parameter is a DataError.
     Recordset call(const QString& procedure, const QVariantMap& parameters = {});
