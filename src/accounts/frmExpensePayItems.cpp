@@ -104,7 +104,7 @@ void frmExpensePay::addToGrid() {
     const QStringList cells = {cboDrug.text(),
                                txtDesc.text().trimmed(),
                                txtQty.text().trimmed(),
-                               formatTwoDecimals(price),
+                               txtPrice.text().trimmed(),
                                formatTwoDecimals(round2(qty * price)),
                                sAcctDebit,
                                sAcctCredit,
@@ -125,7 +125,7 @@ void frmExpensePay::OrderGrid_Click() {
         return;
     }
     if (!program.question("Are you sure to Delete?", "Check before Delete", Consent::Destroys,
-                          aboutLines({OrderGrid.cell(row, ItemName), nairaText(itemIn(row).amount())})))
+                          aboutLines({OrderGrid.cell(row, ItemName), nairaText(itemIn(row).amount)})))
         return;
     OrderGrid.removeRow(row);
     showTotal();
@@ -135,7 +135,7 @@ void frmExpensePay::OrderGrid_Click() {
 void frmExpensePay::showTotal() {
     double total = 0;
     for (int row = 1; row < OrderGrid.rows() - 1; ++row)
-        total += itemIn(row).amount();
+        total += itemIn(row).amount;
     lblTotal.setText(formatTwoDecimals(round2(total)));
 }
 
@@ -145,6 +145,7 @@ VoucherItem frmExpensePay::itemIn(int row) const {
             .description = OrderGrid.cell(row, Description),
             .qty = parseAmount(OrderGrid.cell(row, Qty)).value_or(0),
             .price = parseAmount(OrderGrid.cell(row, Price)).value_or(0),
+            .amount = parseAmount(OrderGrid.cell(row, Amount)).value_or(0),
             .debit = OrderGrid.cell(row, Debit),
             .credit = OrderGrid.cell(row, Credit),
             .chequeNo = OrderGrid.cell(row, ChequeNo),

@@ -109,4 +109,13 @@ bool isPosted(Connection& accounting, const QString& source, const QString& kind
                 .eof();
 }
 
+qlonglong countLegs(Connection& accounting, const QString& source, const QString& kind) {
+    const Recordset legs(accounting,
+                         Sql("select sum((select count(*) from Tranxaction t where t.TranID=a.TranID)+(select count(*) "
+                             "from TranxactionTemp t where t.TranID=a.TranID)) as n from TranFromAppsTrail a where "
+                             "a.TranNoApp='")
+                             << source << "' and a.Remarks='" << kind << "'");
+    return legs.isNull("n") ? 0 : legs.integer("n");
+}
+
 } // namespace orvane

@@ -65,5 +65,7 @@ std::optional<Refusal> imbalance(const Ledger& ledger);
 bool isPosted(Connection& accounting, const QString& tranID);
 /// Whether the ledger's trail bears the source, such as an invoice number, under this kind.
 bool isPosted(Connection& accounting, const QString& source, const QString& kind);
+/// The legs of all transactions that the trail has for the source under this kind.
+qlonglong countLegs(Connection& accounting, const QString& source, const QString& kind);
 
 } // namespace orvane

@@ -42,7 +42,7 @@ void addItem(Books& books, const VoucherPayment& payment, const VoucherItem& ite
     row.set("Description", nullIfEmpty(item.description));
     row.set("Qty", item.qty);
     row.set("Price", item.price);
-    row.set("Amount", item.amount());
+    row.set("Amount", item.amount);
     row.set("AcctNoDebit", item.debit);
     row.set("AcctNoCreit", item.credit);
     if (!item.chequeNo.isEmpty()) {
@@ -60,14 +60,10 @@ void addItem(Books& books, const VoucherPayment& payment, const VoucherItem& ite
 
 } // namespace
 
-double VoucherItem::amount() const {
-    return round2(qty * price);
-}
-
 double VoucherPayment::total() const {
     double sum = 0;
     for (const VoucherItem& item : items)
-        sum += item.amount();
+        sum += item.amount;
     return round2(sum);
 }
 

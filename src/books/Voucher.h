@@ -9,12 +9,11 @@ struct VoucherItem {
     QString expID; ///< of the approved item
     QString name, description;
     double qty = 0, price = 0; ///< units, naira a unit
+    double amount = 0;         ///< naira, in whole kobo: what is paid, whatever a shown price was rounded to
     QString debit, credit;     ///< accounts of the ledger: the expense, and what pays it
     QString chequeNo;          ///< empty: paid in cash
     QDate valueDate;           ///< of the cheque
     QString itemCode;
-
-    double amount() const; ///< naira, in whole kobo
 };
 
 /// The payment of a voucher.

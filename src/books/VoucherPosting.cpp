@@ -23,8 +23,18 @@ Given<QVector<LedgerEntry>> readItems(Books& books, const PostingNote& note) {
     return entries;
 }
 
+/// Whether the ledger has entries of the voucher whose items are not flagged. A voucher may be approved and paid again:
+/// the items of its next payment are then no part of what the ledger has.
+bool hasUnflaggedEntries(const Desk& billing, Connection& accounting, const PostingNote& note) {
+    Connection connection = billing.open();
+    const Recordset flagged(connection, Sql("select count(*) as n from hExpensePayDetails where isPost=1 and VouchNo='")
+                                            << note.source << "'");
+    constexpr qlonglong legsOfItem = 2;
+    return countLegs(accounting, note.source, note.kind) > legsOfItem * flagged.integer("n");
+}
+
 QString flagKnownVoucher(const Desk& billing, Connection& accounting, const PostingNote& note) {
-    if (!isPosted(accounting, note.source, note.kind))
+    if (!hasUnflaggedEntries(billing, accounting, note))
         return {};
     billing.save<Saved>("FLAG VOUCHER", [&](Books& books) -> Given<Saved> {
         flagPosted(books, note);

@@ -105,6 +105,30 @@ TEST_P(Vouchers, AnApprovedVoucherIsPaidItemByItemAndOnce) {
     EXPECT_EQ(items("cboCat").join('/'), "");
 }
 
+TEST_P(Vouchers, ApprovedAgainItsNextItemIsPaidAndPostedToo) {
+    enterOne();
+    EXPECT_EQ(told("OKButton"), "Record Succesfully saved");
+    ws.run("update hExpenseApprvFinal set isPaid=0 where vouchNo='V1'");
+    // A price of less than a kobo a piece: what was shown is paid, not what its rounded price makes.
+    ws.run("update hExpenseDetailsApprvFinal set Qty=1000, Price=12.345 where ItemName='PAPER'");
+    click("cmdAdd");
+    pick("cboCat", 0);
+    pick("cboDrug", "PAPER");
+    set("cboPay", "CASH");
+    pick("cboExpense", 0);
+    pick("cboBank", 0);
+    EXPECT_EQ(value("lblSub"), "12,345.00");
+    click("cmdGrid");
+    EXPECT_EQ(value("lblTotal"), "12,345.00");
+    ui.answer(true);
+    EXPECT_EQ(told("OKButton"), "Record Succesfully saved");
+    EXPECT_EQ(rows("select Qty,Amount,isPost from hExpensePayDetails order by SNo"), "2|500.5|1\n1000|12345|1");
+    EXPECT_EQ(ws.accountingScalar("select sum(Amount) as n from (select Amount from Tranxaction union all "
+                                  "select Amount from TranxactionTemp) t where Amount>0"),
+              "12845.5");
+    EXPECT_EQ(ws.accountingScalar("select count(*) as n from TranFromAppsTrail"), "2");
+}
+
 TEST_P(Vouchers, OfTwoCashiersOnePaysTheVoucher) {
     enterOne();
     runBeforeTransaction("update hExpenseApprvFinal set isPaid=1 where vouchNo='V1'");
