@@ -121,7 +121,7 @@ void frmRevCashAdjust::OKButton_Click() {
 void frmRevCashAdjust::cmdCash_Click() {
     if (!isRangeGiven())
         return;
-    rebuildUnlike(program.desk(), DTPicker1.date(), DTPicker2.date());
+    rebuildCash(program.desk(), DTPicker1.date(), DTPicker2.date());
     showRevenueReport(program, {"CASH",
                                 Sql("SELECT     ReceiptDate, ReceiptNo, AmountPaid, RevType, billNO, AmountToPay, "
                                     "AccountNo FROM vwPaymentDetails where ReceiptDate Between '")

@@ -54,17 +54,24 @@ Receipt receiptOf(Connection& connection, const QString& receiptNo) {
 }
 
 /// The reversed receipt is spread first where it is not, so that both stand under the same revenue types.
-void spreadReversal(Books& books, const Receipt& reversal) {
+std::optional<double> takeBackReversed(Books& books, const Receipt& reversal) {
     const QString reversedNo = reversedReceipt(reversal.purpose);
-    if (!reversedNo.isEmpty() && takeBackShares(books, reversal, reversedNo))
-        return;
+    if (reversedNo.isEmpty())
+        return std::nullopt;
+    if (const std::optional<double> taken = takeBackShares(books, reversal, reversedNo))
+        return taken;
     const Receipt reversed = receiptOf(books.connection, reversedNo);
-    if (reversed.amountPaid > 0) {
-        distributePayment(books, reversed);
-        takeBackShares(books, reversal, reversedNo);
-    } else {
-        addSummaryShare(books, reversal, "BALANCE_PAYMENT", reversal.amountPaid);
-    }
+    if (reversed.amountPaid <= 0)
+        return std::nullopt;
+    distributePayment(books, reversed);
+    return takeBackShares(books, reversal, reversedNo);
+}
+
+/// What the shares of the reversed receipt leave of a reversal is of the suspense account.
+void spreadReversal(Books& books, const Receipt& reversal) {
+    const double left = round2(reversal.amountPaid - takeBackReversed(books, reversal).value_or(0));
+    if (left != 0)
+        addSummaryShare(books, reversal, "BALANCE_PAYMENT", left);
 }
 
 void spread(Books& books, const SpreadReceipt& one) {
@@ -74,6 +81,19 @@ void spread(Books& books, const SpreadReceipt& one) {
         spreadReversal(books, one.receipt);
     else
         distributePayment(books, one.receipt);
+}
+
+void rebuild(const Desk& desk, QDate first, QDate last, bool details, bool types) {
+    desk.save<Saved>(
+        "REBUILD CASH",
+        [&](Books& books) -> Given<Saved> {
+            if (details)
+                rebuildPaymentDetails(books, first, last);
+            if (types)
+                rebuildPaymentTypes(books, first, last);
+            books.record(first.toString(Qt::ISODate) + " - " + last.toString(Qt::ISODate), 0);
+            return Saved{};
+        });
 }
 
 } // namespace
@@ -119,22 +139,18 @@ void rebuildPaymentDetails(Books& books, QDate first, QDate last) {
         spread(books, one);
 }
 
+void rebuildCash(const Desk& desk, QDate first, QDate last) {
+    rebuild(desk, first, last, true, true);
+}
+
 void rebuildUnlike(const Desk& desk, QDate first, QDate last) {
     const auto unlike = [&](Connection&& connection) {
         const CashTotals totals = readCashTotals(connection, first, last);
         return std::pair(totals.received != totals.distributed, totals.received != totals.byWay);
     };
     const auto [details, types] = unlike(desk.open());
-    if (!details && !types)
-        return;
-    desk.save<Saved>("REBUILD CASH", [&, details = details, types = types](Books& books) -> Given<Saved> {
-        if (details)
-            rebuildPaymentDetails(books, first, last);
-        if (types)
-            rebuildPaymentTypes(books, first, last);
-        books.record(first.toString(Qt::ISODate) + " - " + last.toString(Qt::ISODate), 0);
-        return Saved{};
-    });
+    if (details || types)
+        rebuild(desk, first, last, details, types);
 }
 
 } // namespace orvane

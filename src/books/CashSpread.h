@@ -26,6 +26,9 @@ void rebuildPaymentTypes(Books& books, QDate first, QDate last);
 /// account.
 void rebuildPaymentDetails(Books& books, QDate first, QDate last);
 
+/// Does both.
+void rebuildCash(const Desk& desk, QDate first, QDate last);
+
 /// Does both where the totals of the days are unlike, each only where its own is.
 void rebuildUnlike(const Desk& desk, QDate first, QDate last);
 

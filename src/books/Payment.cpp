@@ -69,13 +69,16 @@ void addSummaryShare(Books& books, const Receipt& receipt, const QString& item, 
               .toPay = amount});
 }
 
-bool takeBackShares(Books& books, const Receipt& reversal, const QString& reversedNo) {
+std::optional<double> takeBackShares(Books& books, const Receipt& reversal, const QString& reversedNo) {
     Recordset share(books.connection,
                     Sql("select snoID,BillDate,BillItem,AccountNo,revType,AmountPaid,AmountToPay from PaymentDetails "
                         "where ReceiptNo='")
                         << reversedNo << "' order by SNo");
-    const bool any = !share.eof();
-    for (; !share.eof(); share.moveNext())
+    if (share.eof())
+        return std::nullopt;
+    double taken = 0;
+    for (; !share.eof(); share.moveNext()) {
+        taken -= share.number("AmountPaid");
         addShare(books, reversal,
                  {.sno = share.integer("snoID"),
                   .billDate = share.date("BillDate"),
@@ -84,7 +87,8 @@ bool takeBackShares(Books& books, const Receipt& reversal, const QString& revers
                   .revType = share.text("revType"),
                   .paid = -share.number("AmountPaid"),
                   .toPay = -share.number("AmountToPay")});
-    return any;
+    }
+    return round2(taken);
 }
 
 QMap<QString, double> incomeByWay(Connection& connection, QDate day) {

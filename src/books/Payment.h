@@ -30,8 +30,8 @@ void distributePayment(Books& books, const Receipt& receipt);
 /// Adds money of the receipt that no line takes, of the suspense account, as a row of PaymentDetails of this item.
 void addSummaryShare(Books& books, const Receipt& receipt, const QString& item, double amount);
 
-/// Takes back in PaymentDetails, under the number of the reversal, what the reversed receipt's rows had spread. False:
-/// there are none.
-bool takeBackShares(Books& books, const Receipt& reversal, const QString& reversedNo);
+/// Takes back in PaymentDetails, under the number of the reversal, what the reversed receipt's rows had spread. Gives
+/// what they come to, below nothing, in naira; null: there are none.
+std::optional<double> takeBackShares(Books& books, const Receipt& reversal, const QString& reversedNo);
 
 } // namespace orvane
