@@ -10,7 +10,6 @@ namespace orvane {
 namespace {
 
 constexpr int monthsAhead = 12;
-constexpr int mostLines = 1000;
 
 /// What may be dated in a period and has to be posted before it closes, by its number and day.
 struct Unposted {
@@ -28,7 +27,7 @@ constexpr Unposted unposted[] = {
     {"an item of voucher %1 of %2 is not posted",
      "select vouchNo,PayDate from hExpensePayDetails where isPost=0 and PayDate between '"},
     {"an entry of the supplier's invoice %1 of %2 is not posted",
-     "select InvoiceNo,InvoiceDate from StockEntryAcct where isPost=0 and InvoiceDate between '"},
+     "select InvoiceNo,InvoiceDate from StockEntryAcct where isPost=0 and TranID is null and InvoiceDate between '"},
 };
 
 QDate dayAfter(const QVector<Period>& periods, QDate otherwise) {
@@ -37,13 +36,13 @@ QDate dayAfter(const QVector<Period>& periods, QDate otherwise) {
 
 void addUnposted(Connection& billing, const Period& period, QStringList& lines) {
     for (const Unposted& one : unposted)
-        for (Recordset row(billing, Sql(one.from) << period.firstDay << "' and '" << period.lastDay << "'");
-             !row.eof() && lines.size() < mostLines; row.moveNext())
+        for (Recordset row(billing, Sql(one.from) << period.firstDay << "' and '" << period.lastDay << "'"); !row.eof();
+             row.moveNext())
             lines << QString::fromLatin1(one.words).arg(row.text(0),
                                                         row.date(row.columns().at(1)).toString("dd/MM/yyyy"));
     for (Recordset row(billing, Sql("select InvNo from BillsForClients where isPost=0 and BatchNo='")
                                     << period.name << "'");
-         !row.eof() && lines.size() < mostLines; row.moveNext())
+         !row.eof(); row.moveNext())
         lines << QStringLiteral("invoice %1 is not posted").arg(row.text("InvNo"));
 }
 
@@ -53,7 +52,7 @@ void addUnbalanced(Connection& accounting, const Period& period, QStringList& li
                       "Period='")
                       << period.name << "' union all select TranID,Amount from TranxactionTemp where Period='"
                       << period.name << "') t group by TranID having sum(Amount) <> 0");
-    for (; !row.eof() && lines.size() < mostLines; row.moveNext())
+    for (; !row.eof(); row.moveNext())
         lines << QStringLiteral("transaction %1 makes %2 in this period instead of nothing")
                      .arg(row.text("TranID"), QString::number(row.number("Total"), 'f', 2));
 }
