@@ -42,7 +42,8 @@ Layout frmRptTB::layout() const {
 void frmRptTB::Form_Load() {
     const QDate today = session.gServerDate;
     DTPicker1.setDate(QDate(today.year(), today.month(), 1));
-    DTPicker2.setDate(today);
+    // A month's invoices are dated on its last day, whenever they are posted.
+    DTPicker2.setDate(isLedger() || isOfDays() ? today : QDate(today.year(), today.month(), today.daysInMonth()));
     if (isLedger())
         fillAccounts();
 }
