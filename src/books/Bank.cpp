@@ -20,7 +20,6 @@ Given<Saved> addRow(Books& books, const BankBranch& branch, const QString& statu
     row.addNew();
     row.set("bankcode", branch.bankCode);
     row.set("branchcode", *code);
-    row.set("bankname", branch.bankName);
     row.set("Branch", nullIfEmpty(branch.branch));
     row.set("Location", nullIfEmpty(branch.location));
     row.set("Status", status);
