@@ -3,6 +3,7 @@
 #include "desktop/Boxes.h"
 #include "desktop/GridBinding.h"
 #include "desktop/LayoutBuilder.h"
+#include "desktop/Manual.h"
 #include "desktop/ReportView.h"
 #include "desktop/SmallBindings.h"
 #include "desktop/TableView.h"
@@ -248,6 +249,10 @@ bool FormView::takesKey(const QKeyEvent& event) {
     if (m_form && event.matches(QKeySequence::Find)) {
         if (TableView* list = listInHand())
             Q_EMIT list->findWanted();
+        return true;
+    }
+    if (m_form && event.key() == Qt::Key_F1 && event.modifiers() == Qt::NoModifier) {
+        showManual(m_form->name(), *this);
         return true;
     }
     if (m_form && event.key() == Qt::Key_F3 && event.modifiers() == Qt::NoModifier) {

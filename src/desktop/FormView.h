@@ -49,8 +49,8 @@ public:
     /// Leaves the form as its user asked, unless he has an entry under way and wants to keep it; a script is not asked.
     /// While an event runs it waits.
     void leave(const std::function<void()>& go);
-    /// Enter, Esc, Ctrl+S (save), F5 (refresh), F6 (the next list), Ctrl+F (find in a list), F3 (find a patient) and
-    /// those of a viewer of reports, wherever in the window the focus is.
+    /// Enter, Esc, Ctrl+S (save), F5 (refresh), F6 (the next list), Ctrl+F (find in a list), F1 (the manual),
+    /// F3 (find a patient) and those of a viewer of reports, wherever in the window the focus is.
     bool takesKey(const QKeyEvent& event);
     void focusFirst();
     /// Code's wish for the focus: at once, or when the user comes back to this form if its window lies behind another

@@ -5,6 +5,7 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -216,6 +217,12 @@ void ShellWindow::closeEvent(QCloseEvent* event) {
     if (m_form && (!mayClose || mayClose()) && m_form)
         m_form->lateEvent([form = m_form] { form->unload(); });
     event->setAccepted(!m_form);
+}
+
+/// Comes here while no screen is open that takes it.
+void ShellWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_F1 || !m_strip->takesKey(*event))
+        QMainWindow::keyPressEvent(event);
 }
 
 } // namespace orvane
