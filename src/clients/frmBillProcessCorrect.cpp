@@ -111,6 +111,8 @@ void frmBillProcess::cmdAdjust_Click() {
                      },
                  .question = "Are you sure to Ajust Bill Details",
                  .title = "Adjustment",
+                 .consent = Consent::Destroys,
+                 .detail = [&] { return removed; },
                  .step = [&](Books& books) -> Given<Saved> {
                      removeFromDetails(books, billNo, sno);
                      return Saved{};

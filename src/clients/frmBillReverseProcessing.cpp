@@ -73,6 +73,7 @@ void frmBillReverseProcessing::cmdProcess_Click() {
                  .allowed = [this] { return isOneTicked(); },
                  .question = "Are you sure to Reverse Last Processing?",
                  .title = "About to Reverse",
+                 .consent = Consent::Destroys,
                  .detail =
                      [this] {
                          return aboutLines({cboCust.text(), "Batch " + batches.LstDate.item(batches.ticked().first())});

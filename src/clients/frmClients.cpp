@@ -58,6 +58,8 @@ void frmClients::cmdDelete_Click() {
     save<Saved>({.button = cmdDelete,
                  .action = "FEE EXEMPTION END",
                  .question = "Are you sure to Delete Record",
+                 .consent = Consent::Destroys,
+                 .detail = [this] { return grdData.text("retainID"); },
                  .step = [id = grdData.text("retainID")](Books& books) -> Given<Saved> {
                      endExemption(books, id);
                      return Saved{};

@@ -106,6 +106,8 @@ void frmRetainership::cmdDel_Click() {
                  .action = "CLIENT DELETE",
                  .question = "Are you sure to Delete Record",
                  .title = "Delete",
+                 .consent = Consent::Destroys,
+                 .detail = [this] { return grdData.text("ClientName"); },
                  .step = [id = grdData.text("retainID")](Books& books) { return deleteClient(books, id); },
                  .follow =
                      [this](const Saved&) {
