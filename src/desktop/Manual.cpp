@@ -1,6 +1,7 @@
 #include "desktop/Manual.h"
 
 #include "desktop/FindLine.h"
+#include "desktop/Look.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QAction>
@@ -55,6 +56,7 @@ ManualPlace manualPlace(const QString& form) {
 ManualBrowser::ManualBrowser(QWidget* parent) : QTextBrowser(parent) {
     setAccessibleName("Manual");
     setOpenExternalLinks(false);
+    document()->setDocumentMargin(look::spacing * 2);
 }
 
 bool ManualBrowser::show(const ManualPlace& place) {
