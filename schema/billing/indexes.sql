@@ -36,8 +36,9 @@ create index ixRecordsOldSerial on hRecords (SUBSTRING(consultID, 1, 3), SUBSTRI
 go
 create index ixRecordsSplit on hRecords (SUBSTRING(consultID, 1, 12))
 go
--- The bills of a month, and those of one client in it.
-create index ixRecordsBatch on hRecords (convert(varchar(7), BillDate, 111), coyName)
+-- The bills of a month, and those of one client in it; with what the review needs of a visit before it looks at its
+-- bill.
+create index ixRecordsBatch on hRecords (convert(varchar(7), BillDate, 111), coyName, PNo, consultID, BillDate)
 go
 -- Those billed between two days.
 create index ixRecordsBillDate on hRecords (BillDate, coyName)

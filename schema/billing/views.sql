@@ -495,8 +495,8 @@ select b.ID, b.billNo as BillNo, h.PNo as pno, p.fullname as Fullname, h.coyName
         where a.SNO = (select min(f.SNO) from hApprvCode f where f.consultID = h.consultID)) as ApprvCode,
     b.isProcess, b.InvNo as invNo
 from hRecords h
-inner join Billing b on b.billNo = h.consultID
 left join hPatients p on p.PNo = h.PNo
+inner join Billing b on b.billNo = h.consultID
 left join hRetainership r on r.retainID = h.coyName
 where h.BillDate is not null
 go

@@ -180,11 +180,17 @@ QString translateIndex(const Tokens& original, Engine engine) {
         .trimmed();
 }
 
+bool isDroppedIndex(const Tokens& tokens) {
+    return tokens.size() == 5 && tokens[0].is("drop") && tokens[1].is("index") && tokens[3].is("on");
+}
+
 } // namespace
 
 bool isDefinition(const Tokens& tokens) {
     if (tokens.size() > 4 && tokens[0].is("alter"))
         return tokens[1].is("table");
+    if (isDroppedIndex(tokens))
+        return true;
     return tokens.size() > 4 && tokens[0].is("create") &&
            (tokens[1].is("table") || tokens[1].is("index") || (tokens[1].is("unique") && tokens[2].is("index")));
 }
@@ -192,6 +198,8 @@ bool isDefinition(const Tokens& tokens) {
 QString translateDefinition(const Tokens& tokens, Engine engine) {
     if (tokens[0].is("alter"))
         return TableDefinition(tokens, engine).addColumn();
+    if (isDroppedIndex(tokens)) // "drop index X on T"; only the server of this dialect asks for its table
+        return render(tokens, 0, engine == Engine::SqlServer ? tokens.size() : 3, engine);
     return tokens[1].is("table") ? TableDefinition(tokens, engine).run() : translateIndex(tokens, engine);
 }
 

@@ -204,6 +204,11 @@ create index ixStockEntryInvoiceDate on StockEntryAcct (InvoiceDate)
 go
 create index ixStockEntryDate on StockEntryAcct (EntryDate)
 )"},
+    {6, "billing", "the index of a month's bills with what the review needs of their visits", R"(
+drop index ixRecordsBatch on hRecords
+go
+create index ixRecordsBatch on hRecords (convert(varchar(7), BillDate, 111), coyName, PNo, consultID, BillDate)
+)"},
 };
 
 } // namespace
