@@ -232,4 +232,26 @@ TEST_P(LedgerTest, InvoicesArePostedOnTheLastDayOfTheirMonthAndStayFlaggedWhenTh
     EXPECT_EQ(post().refusal(), Refusal::NothingToPost);
 }
 
+/// A run takes an invoice back, or adds to it, behind the posting's look at it.
+TEST_P(LedgerTest, AnInvoiceThatChangesMeanwhileIsNotPostedAsItWasRead) {
+    run("insert into Billing (billNo, InvNo) values ('001OFL0000001','0102/2026/03')");
+    run("insert into BillingDetails (billNo, drgName) values ('001OFL0000001','X')");
+    for (const char* const change : {"delete from BillsForClients", "update BillsForClients set Amountbilled=150"}) {
+        SCOPED_TRACE(change);
+        run("insert into BillsForClients (InvNo, CoyCode, BatchNo, BillMonth, BillYear, AmountBilled) values "
+            "('0102/2026/03','0102','2026/03','March','2026',100.10)");
+        data.setStatementHook([&](const QString& statement) {
+            if (statement.startsWith("insert into TranFromAppsTrail"))
+                run(QString::fromLatin1(change));
+        });
+        LedgerDesk open = desk();
+        EXPECT_THROW(postInvoices(open, "March", "2026", [](int, int) {}), DataError);
+        data.setStatementHook({});
+        EXPECT_EQ(ledgerRows("select TranID from Tranxaction") + ledgerRows("select TranID from TranFromAppsTrail"),
+                  "");
+        EXPECT_EQ(rows("select isPost from BillingDetails"), "0");
+    }
+    EXPECT_EQ(rows("select isPost, AmountBilled from BillsForClients"), "0|150");
+}
+
 } // namespace orvane
