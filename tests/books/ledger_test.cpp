@@ -138,6 +138,16 @@ TEST_P(LedgerTest, DebitsUnlikeCreditsPostNothing) {
     EXPECT_EQ(posted() + rows("select gTranID from PostingNotes"), "0");
 }
 
+TEST_P(LedgerTest, AReceiptAndItsReversalThatNobodyHasSpreadArePostedToo) {
+    run("insert into Payments (ReceiptDate, ReceiptNo, billNo, AmountPaid, PayType, PaymentFor) values "
+        "('2026-03-14','7','" +
+        QString(billNo) + "',300.1,'CASH','DRUGS'), ('2026-03-14','8','" + billNo +
+        "',-300.1,'CASH','REVERSAL for RctNo: 7')");
+    EXPECT_TRUE(postDay());
+    EXPECT_EQ(posted(), "1\n1");
+    EXPECT_EQ(rows("select sum(isPost) from PaymentTypes") + rows("select sum(AmountPaid) from PaymentDetails"), "20");
+}
+
 /// Breaks the statement that begins so, once, as a lost server would.
 struct Cut {
     const char* statement;
