@@ -38,10 +38,10 @@ void flagInvoice(const Desk& billing, const InvoiceToPost& invoice) {
         "POST INVOICE",
         [&](Books& books) -> Given<Saved> {
             expectAsRead(books.connection, invoice);
-            books.connection.execute(Sql("update BillsForClients  set ispost=1 where InvNo='") << invoice.invNo << "'");
-            books.connection.execute(
-                Sql("update billingDetails  set ispost=1 where billNo in (Select BillNo from Billing where InvNo= '")
-                << invoice.invNo << "')");
+            books.connection.executeAll(
+                {Sql("update BillsForClients  set ispost=1 where InvNo='") << invoice.invNo << "'",
+                 Sql("update billingDetails  set ispost=1 where billNo in (Select BillNo from Billing where InvNo= '")
+                     << invoice.invNo << "')"});
             books.record(invoice.invNo, invoice.amount);
             return Saved{};
         });
@@ -59,7 +59,7 @@ std::optional<Refusal> postInvoice(Ledger& ledger, const InvoiceToPost& invoice,
     return {};
 }
 
-using InvoiceReader = std::function<QVector<InvoiceToPost>(Connection& billing, Connection& accounting)>;
+using InvoiceReader = std::function<QVector<InvoiceToPost>(Connection& billing, const QSet<QString>& posted)>;
 
 /// What is read behind the ledger's gate, in one transaction of the accounting database; each is flagged before it
 /// commits. Gives their numbers.
@@ -69,11 +69,12 @@ Given<QStringList> postAll(LedgerDesk& ledgerDesk, const InvoiceReader& read,
     Transaction transaction(accounting);
     const BookContext& context = ledgerDesk.billing().context();
     Connection billing = ledgerDesk.billing().open();
-    const QVector<InvoiceToPost> invoices = read(billing, accounting);
+    const QSet<QString> posted = postedSources(accounting, receivable);
+    const QVector<InvoiceToPost> invoices = read(billing, posted);
     Ledger ledger(accounting, context);
     QStringList done;
     for (const InvoiceToPost& invoice : invoices) {
-        if (!isPosted(accounting, invoice.invNo, receivable))
+        if (!posted.contains(invoice.invNo))
             if (const auto refusal = postInvoice(ledger, invoice, context.settings.salesAccount))
                 return *refusal;
         flagInvoice(ledgerDesk.billing(), invoice);
@@ -95,7 +96,7 @@ Given<int> postInvoices(LedgerDesk& ledgerDesk, const QString& month, const QStr
                         const std::function<void(int, int)>& watch) {
     const Given<QStringList> posted = postAll(
         ledgerDesk,
-        [&](Connection& billing, Connection&) {
+        [&](Connection& billing, const QSet<QString>&) {
             return readInvoicesToPost(billing, Sql("isPost=0 and BillMonth ='")
                                                    << month << "' and BillYear ='" << year << "'");
         },
@@ -110,10 +111,9 @@ Given<int> postInvoices(LedgerDesk& ledgerDesk, const QString& month, const QStr
 Given<QStringList> postInvoicesLeftOver(LedgerDesk& ledgerDesk) {
     return postAll(
         ledgerDesk,
-        [](Connection& billing, Connection& accounting) {
+        [](Connection& billing, const QSet<QString>& posted) {
             QVector<InvoiceToPost> flagged = readInvoicesToPost(billing, Sql("isPost=1"));
-            flagged.removeIf(
-                [&](const InvoiceToPost& invoice) { return isPosted(accounting, invoice.invNo, receivable); });
+            flagged.removeIf([&](const InvoiceToPost& invoice) { return posted.contains(invoice.invNo); });
             return flagged;
         },
         [](int, int) {});
