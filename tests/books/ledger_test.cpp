@@ -284,7 +284,7 @@ TEST_P(LedgerTest, OddInputsArePostedWholeOrNotAtAll) {
          longAccount + "|7|2026/03\n4110|-7|2026/03"},
         {"before every period", "1999-12-31", "1001 7", "4110 7", "1001|7|2026/03\n4110|-7|2026/03"},
         {"after all periods", "2031-01-01", "1001 7", "4110 7", "1001|7|2026/03\n4110|-7|2026/03"},
-        {"a month behind the month behind the last one", "2026-05-10", "1001 7", "4110 7", unbalanced},
+        {"two months behind the last period", "2026-07-10", "1001 7", "4110 7", unbalanced},
         {"an empty chart", "2026-03-14", "1001 7", "4110 7", "9999|7|2026/03\n9999|-7|2026/03", true},
     };
     accounting.run("insert into ChartOfAccounts (AccountNo, AccountName) values ('" + longAccount + "', 'LONG')");
