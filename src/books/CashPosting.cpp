@@ -1,5 +1,7 @@
 #include "books/CashPosting.h"
 
+#include "books/CashSpread.h"
+
 namespace orvane {
 
 namespace {
@@ -46,6 +48,7 @@ Posting cashPosting(const BookContext& context, QDate first, QDate last) {
     return {.action = "POST CASH",
             .note = {.kind = receipts, .firstDay = first, .lastDay = last},
             .read = [first, last](Books& books, PostingNote& note) -> Given<QVector<LedgerEntry>> {
+                spreadUnspread(books, first, last);
                 if (!waits(books.connection, first, last))
                     return Refusal::NothingToPost;
                 noteNewest(books.connection, note);

@@ -96,6 +96,39 @@ void rebuild(const Desk& desk, QDate first, QDate last, bool details, bool types
         });
 }
 
+QVector<SpreadReceipt> unlikeByWay(Connection& connection, QDate first, QDate last) {
+    return unlikeReceipts(
+        connection,
+        Sql("select p.ReceiptDate,p.ReceiptNo,max(p.billNo) as billNo,max(p.PaymentFor) as PaymentFor,max(p.PayType) "
+            "as PayType,sum(p.AmountPaid) as Paid,(select sum(t.AmountPaid) from PaymentTypes t where "
+            "t.ReceiptNo=p.ReceiptNo and t.ReceiptDate=p.ReceiptDate) as Spread from Payments p where p.ReceiptDate "
+            "between '")
+            << first << "' and '" << last << "' group by p.ReceiptDate,p.ReceiptNo order by max(p.SNo)");
+}
+
+QVector<SpreadReceipt> unlikeByType(Connection& connection, QDate first, QDate last) {
+    return unlikeReceipts(
+        connection,
+        Sql("select p.ReceiptDate,p.ReceiptNo,max(p.billNo) as billNo,max(p.PaymentFor) as PaymentFor,max(p.PayType) "
+            "as PayType,sum(p.AmountPaid) as Paid,(select sum(d.AmountPaid) from PaymentDetails d where "
+            "d.ReceiptNo=p.ReceiptNo and d.ReceiptDate=p.ReceiptDate) as Spread from Payments p where p.ReceiptDate "
+            "between '")
+            << first << "' and '" << last << "' group by p.ReceiptDate,p.ReceiptNo order by max(p.SNo)");
+}
+
+void addWay(Books& books, const SpreadReceipt& one) {
+    const QMap<QString, QString>& accounts = books.settings().wayAccounts;
+    const QString payType = one.receipt.payType.section(u'/', 0, 0).trimmed().toUpper();
+    addPaymentType(books, one.receipt,
+                   {.payType = payType,
+                    .accountNo = accounts.value(payType, accounts.value("CASH")),
+                    .amount = round2(one.receipt.amountPaid - one.spread)});
+}
+
+bool isAny(Connection& connection, Sql&& select, QDate first, QDate last) {
+    return !Recordset(connection, select << first << "' and '" << last << "'").eof();
+}
+
 } // namespace
 
 CashTotals readCashTotals(Connection& connection, QDate first, QDate last) {
@@ -108,34 +141,12 @@ CashTotals readCashTotals(Connection& connection, QDate first, QDate last) {
 }
 
 void rebuildPaymentTypes(Books& books, QDate first, QDate last) {
-    const QVector<SpreadReceipt> receipts = unlikeReceipts(
-        books.connection,
-        Sql("select p.ReceiptDate,p.ReceiptNo,max(p.billNo) as billNo,max(p.PaymentFor) as PaymentFor,max(p.PayType) "
-            "as "
-            "PayType,sum(p.AmountPaid) as Paid,(select sum(t.AmountPaid) from PaymentTypes t where "
-            "t.ReceiptNo=p.ReceiptNo and t.ReceiptDate=p.ReceiptDate) as Spread from Payments p where p.ReceiptDate "
-            "between '")
-            << first << "' and '" << last << "' group by p.ReceiptDate,p.ReceiptNo order by max(p.SNo)");
-    const QMap<QString, QString>& accounts = books.settings().wayAccounts;
-    for (const SpreadReceipt& one : receipts) {
-        const QString payType = one.receipt.payType.section(u'/', 0, 0).trimmed().toUpper();
-        addPaymentType(books, one.receipt,
-                       {.payType = payType,
-                        .accountNo = accounts.value(payType, accounts.value("CASH")),
-                        .amount = round2(one.receipt.amountPaid - one.spread)});
-    }
+    for (const SpreadReceipt& one : unlikeByWay(books.connection, first, last))
+        addWay(books, one);
 }
 
 void rebuildPaymentDetails(Books& books, QDate first, QDate last) {
-    const QVector<SpreadReceipt> receipts = unlikeReceipts(
-        books.connection,
-        Sql("select p.ReceiptDate,p.ReceiptNo,max(p.billNo) as billNo,max(p.PaymentFor) as PaymentFor,max(p.PayType) "
-            "as "
-            "PayType,sum(p.AmountPaid) as Paid,(select sum(d.AmountPaid) from PaymentDetails d where "
-            "d.ReceiptNo=p.ReceiptNo and d.ReceiptDate=p.ReceiptDate) as Spread from Payments p where p.ReceiptDate "
-            "between '")
-            << first << "' and '" << last << "' group by p.ReceiptDate,p.ReceiptNo order by max(p.SNo)");
-    for (const SpreadReceipt& one : receipts)
+    for (const SpreadReceipt& one : unlikeByType(books.connection, first, last))
         spread(books, one);
 }
 
@@ -151,6 +162,24 @@ void rebuildUnlike(const Desk& desk, QDate first, QDate last) {
     const auto [details, types] = unlike(desk.open());
     if (details || types)
         rebuild(desk, first, last, details, types);
+}
+
+void spreadUnspread(Books& books, QDate first, QDate last) {
+    Connection& connection = books.connection;
+    if (isAny(connection,
+              Sql("select top 1 p.SNo from Payments p where p.isPost=0 and p.AmountPaid<>0 and not exists (select "
+                  "d.SNo from PaymentDetails d where d.ReceiptNo=p.ReceiptNo) and p.ReceiptDate between '"),
+              first, last))
+        for (const SpreadReceipt& one : unlikeByType(connection, first, last))
+            if (!one.isSpread)
+                spread(books, one);
+    if (isAny(connection,
+              Sql("select top 1 p.SNo from Payments p where p.isPost=0 and p.AmountPaid<>0 and not exists (select "
+                  "t.SNo from PaymentTypes t where t.ReceiptNo=p.ReceiptNo) and p.ReceiptDate between '"),
+              first, last))
+        for (const SpreadReceipt& one : unlikeByWay(connection, first, last))
+            if (!one.isSpread)
+                addWay(books, one);
 }
 
 } // namespace orvane

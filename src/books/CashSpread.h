@@ -32,4 +32,8 @@ void rebuildCash(const Desk& desk, QDate first, QDate last);
 /// Does both where the totals of the days are unlike, each only where its own is.
 void rebuildUnlike(const Desk& desk, QDate first, QDate last);
 
+/// Spreads the receipts of the days that are not posted and have no row at all, on the side that lacks it: those that
+/// came in behind the last rebuild, and those whose reversal makes the totals alike without them.
+void spreadUnspread(Books& books, QDate first, QDate last);
+
 } // namespace orvane

@@ -25,14 +25,23 @@ QVector<InvoiceToPost> readInvoicesToPost(Connection& billing, const Sql& chosen
     return invoices;
 }
 
+/// Its row may be taken back or grow in billing while the ledger's gate is held: what was read is posted, or nothing.
+void expectAsRead(Connection& billing, const InvoiceToPost& invoice) {
+    const Recordset row(billing, Sql("select Amountbilled from BillsForClients where InvNo='") << invoice.invNo << "'");
+    if (row.eof() || row.number("Amountbilled") != invoice.amount)
+        throw DataError(QStringLiteral("The invoice %1 was changed by another user meanwhile. Nothing was posted.")
+                            .arg(invoice.invNo));
+}
+
 void flagInvoice(const Desk& billing, const InvoiceToPost& invoice) {
     billing.save<Saved>(
         "POST INVOICE",
         [&](Books& books) -> Given<Saved> {
-            books.connection.execute(Sql("update BillsForClients  set ispost=1 where InvNo='") << invoice.invNo << "'");
-            books.connection.execute(
-                Sql("update billingDetails  set ispost=1 where billNo in (Select BillNo from Billing where InvNo= '")
-                << invoice.invNo << "')");
+            expectAsRead(books.connection, invoice);
+            books.connection.executeAll(
+                {Sql("update BillsForClients  set ispost=1 where InvNo='") << invoice.invNo << "'",
+                 Sql("update billingDetails  set ispost=1 where billNo in (Select BillNo from Billing where InvNo= '")
+                     << invoice.invNo << "')"});
             books.record(invoice.invNo, invoice.amount);
             return Saved{};
         });
@@ -50,22 +59,30 @@ std::optional<Refusal> postInvoice(Ledger& ledger, const InvoiceToPost& invoice,
     return {};
 }
 
-/// In one transaction of the accounting database; each is flagged before it commits.
-Given<int> postAll(LedgerDesk& ledgerDesk, const QVector<InvoiceToPost>& invoices,
-                   const std::function<void(int, int)>& watch) {
+using InvoiceReader = std::function<QVector<InvoiceToPost>(Connection& billing, const QSet<QString>& posted)>;
+
+/// What is read behind the ledger's gate, in one transaction of the accounting database; each is flagged before it
+/// commits. Gives their numbers.
+Given<QStringList> postAll(LedgerDesk& ledgerDesk, const InvoiceReader& read,
+                           const std::function<void(int, int)>& watch) {
     Connection accounting = ledgerDesk.openAccounting();
     Transaction transaction(accounting);
     const BookContext& context = ledgerDesk.billing().context();
+    Connection billing = ledgerDesk.billing().open();
+    const QSet<QString> posted = postedSources(accounting, receivable);
+    const QVector<InvoiceToPost> invoices = read(billing, posted);
     Ledger ledger(accounting, context);
-    int done = 0;
+    QStringList done;
     for (const InvoiceToPost& invoice : invoices) {
-        if (!isPosted(accounting, invoice.invNo, receivable))
+        if (!posted.contains(invoice.invNo))
             if (const auto refusal = postInvoice(ledger, invoice, context.settings.salesAccount))
                 return *refusal;
         flagInvoice(ledgerDesk.billing(), invoice);
-        watch(++done, int(invoices.size()));
+        done << invoice.invNo;
+        watch(int(done.size()), int(invoices.size()));
     }
-    ledgerDesk.commit(transaction, ledger.tranID());
+    if (!done.isEmpty())
+        ledgerDesk.commit(transaction, ledger.tranID());
     return done;
 }
 
@@ -77,27 +94,29 @@ QDate lastDayOf(const QString& batchNo) {
 
 Given<int> postInvoices(LedgerDesk& ledgerDesk, const QString& month, const QString& year,
                         const std::function<void(int, int)>& watch) {
-    Connection billing = ledgerDesk.billing().open();
-    const QVector<InvoiceToPost> invoices =
-        readInvoicesToPost(billing, Sql("isPost=0 and BillMonth ='") << month << "' and BillYear ='" << year << "'");
-    if (invoices.isEmpty())
+    const Given<QStringList> posted = postAll(
+        ledgerDesk,
+        [&](Connection& billing, const QSet<QString>&) {
+            return readInvoicesToPost(billing, Sql("isPost=0 and BillMonth ='")
+                                                   << month << "' and BillYear ='" << year << "'");
+        },
+        watch);
+    if (!posted)
+        return posted.refusal();
+    if (posted->isEmpty())
         return Refusal::NothingToPost;
-    return postAll(ledgerDesk, invoices, watch);
+    return int(posted->size());
 }
 
 Given<QStringList> postInvoicesLeftOver(LedgerDesk& ledgerDesk) {
-    Connection billing = ledgerDesk.billing().open();
-    Connection accounting = ledgerDesk.openAccounting();
-    QVector<InvoiceToPost> missing;
-    QStringList numbers;
-    for (const InvoiceToPost& invoice : readInvoicesToPost(billing, Sql("isPost=1")))
-        if (!isPosted(accounting, invoice.invNo, receivable)) {
-            missing.append(invoice);
-            numbers << invoice.invNo;
-        }
-    if (const Given<int> posted = postAll(ledgerDesk, missing, [](int, int) {}); !posted)
-        return posted.refusal();
-    return numbers;
+    return postAll(
+        ledgerDesk,
+        [](Connection& billing, const QSet<QString>& posted) {
+            QVector<InvoiceToPost> flagged = readInvoicesToPost(billing, Sql("isPost=1"));
+            flagged.removeIf([&](const InvoiceToPost& invoice) { return posted.contains(invoice.invNo); });
+            return flagged;
+        },
+        [](int, int) {});
 }
 
 } // namespace orvane

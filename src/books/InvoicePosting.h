@@ -9,7 +9,7 @@ namespace orvane {
 /// accounting database. Each invoice and the lines of its bills are flagged in billing before that commits, and stay
 /// flagged when it fails. What the ledger has already is flagged, not posted again. `watch` gets how many of all are
 /// done, inside the transaction. Gives the number of invoices; refuses where there are none (NothingToPost) and an
-/// invoice whose legs do not balance.
+/// invoice whose legs do not balance. Raises DataError, too where an invoice is not as it was read any more.
 Given<int> postInvoices(LedgerDesk& ledgerDesk, const QString& month, const QString& year,
                         const std::function<void(int done, int all)>& watch);
 

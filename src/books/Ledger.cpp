@@ -103,10 +103,12 @@ bool isPosted(Connection& accounting, const QString& tranID) {
                 .eof();
 }
 
-bool isPosted(Connection& accounting, const QString& source, const QString& kind) {
-    return !Recordset(accounting, Sql("select top 1 TranID from TranFromAppsTrail where TranNoApp='")
-                                      << source << "' and Remarks='" << kind << "'")
-                .eof();
+QSet<QString> postedSources(Connection& accounting, const QString& kind) {
+    QSet<QString> sources;
+    for (Recordset row(accounting, Sql("select TranNoApp from TranFromAppsTrail where Remarks='") << kind << "'");
+         !row.eof(); row.moveNext())
+        sources.insert(row.text("TranNoApp"));
+    return sources;
 }
 
 qlonglong countLegs(Connection& accounting, const QString& source, const QString& kind) {

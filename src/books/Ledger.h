@@ -4,6 +4,7 @@
 #include "books/OpenStep.h"
 
 #include <QHash>
+#include <QSet>
 #include <optional>
 
 namespace orvane {
@@ -63,8 +64,8 @@ std::optional<Refusal> imbalance(const Ledger& ledger);
 
 /// Whether the ledger's trail bears the transaction.
 bool isPosted(Connection& accounting, const QString& tranID);
-/// Whether the ledger's trail bears the source, such as an invoice number, under this kind.
-bool isPosted(Connection& accounting, const QString& source, const QString& kind);
+/// The sources, such as invoice numbers, that the ledger's trail bears under this kind.
+QSet<QString> postedSources(Connection& accounting, const QString& kind);
 /// The legs of all transactions that the trail has for the source under this kind.
 qlonglong countLegs(Connection& accounting, const QString& source, const QString& kind);
 

@@ -60,8 +60,8 @@ QStringList LedgerDesk::settleNotes(Connection& accounting) {
         finish("FINISH POSTING", {note, {}, 0});
         inLedger << note.tranID;
         m_settled << QStringLiteral(
-                         "A posting of %1 was cut off behind the ledger: it is in the ledger, and its records "
-                         "are flagged as posted now.")
+                         "A posting of %1 was cut off behind the ledger, or is ending just now: it is in the "
+                         "ledger, and its records are flagged as posted.")
                          .arg(noteWords(note));
     }
     return inLedger;

@@ -42,6 +42,7 @@ void makeMasterData(DemoHospital& hospital) {
     copySharedTables(billing, accounting);
     makeClients(billing, hospital);
     makeAccountLists(billing, hospital);
+    makeJournal(hospital);
     makePrices(billing, hospital);
     makeEmployees(billing, hospital);
     if (hospital.options.bills == 0)

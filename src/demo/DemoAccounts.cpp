@@ -97,6 +97,24 @@ void makeSuppliers(Books& books) {
                             .accountNo = QString::fromLatin1(facts.account)});
 }
 
+/// What the store took in and the suppliers' invoices say, each week of the history: entered on the invoice's day, as
+/// another program of the hospital does.
+void makeSupplierEntries(Connection& billing, const DemoHospital& hospital) {
+    const char* const stocks[] = {"1260010", "1260010", "1260040", "1260030"};
+    Recordset entries(billing, Sql("select * from StockEntryAcct where 1=2"));
+    const QDate first = hospital.options.until.addDays(1 - hospital.options.days);
+    int number = 0;
+    for (QDate day = first; day <= hospital.options.until; day = day.addDays(7))
+        for (int supplier = 0; supplier < int(std::size(stocks)); ++supplier, ++number)
+            addRow(entries, {{"EntryDate", day},
+                             {"InvoiceDate", day},
+                             {"InvoiceNo", QStringLiteral("INV-%1").arg(1401 + number)},
+                             {"POID", QStringLiteral("PO%1").arg(number + 1, 5, 10, QLatin1Char('0'))},
+                             {"supplierID", QStringLiteral("%1").arg(supplier + 1, 4, 10, QLatin1Char('0'))},
+                             {"InvAcctNo", QString::fromLatin1(stocks[supplier])},
+                             {"Amount", 48'000.5 + number * 7'919 % 260'000}});
+}
+
 /// Vouchers that were approved elsewhere and wait for their payment.
 void makeVouchers(Connection& billing, const DemoHospital& hospital, const QStringList& codes) {
     const QStringList receivers = {"STEADY HUM GENERATORS (DEMO)", "BUKOLA ADEYEMO", "HALIMA YUSUF",
@@ -140,6 +158,7 @@ void makeAccountLists(Connection& billing, const DemoHospital& hospital) {
     makeBanks(books);
     const QStringList codes = makeExpenseItems(books);
     makeSuppliers(books);
+    makeSupplierEntries(billing, hospital);
     makeVouchers(billing, hospital, codes);
     transaction.commit();
 }

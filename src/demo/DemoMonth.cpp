@@ -2,6 +2,7 @@
 
 #include "books/Batch.h"
 #include "books/Period.h"
+#include "books/RevenueType.h"
 #include "data/rows/SharedTables.h"
 #include "play/Hand.h"
 
@@ -65,6 +66,39 @@ void postInvoices(Program& program, QuietUi& ui, QDate month) {
     form.unload();
 }
 
+void postSuppliers(Program& program, QuietUi& ui, QDate month) {
+    program.open("frmSuppliersAcct");
+    Form& form = program.form("frmSuppliersAcct");
+    Hand hand(form);
+    hand.date("DTPicker1", month);
+    hand.date("DTPicker2", QDate(month.year(), month.month(), month.daysInMonth()));
+    hand.click("cmdList");
+    hand.click("cmdPost");
+    expectBox(ui, "suppliers", "Records Successfully Posted");
+    form.unload();
+}
+
+/// Whom the accountant knows to have rendered a service: of the month's first ones, doctors in turn.
+void nameConsultants(Program& program, QDate month) {
+    QStringList doctors;
+    Connection connection = program.openBilling();
+    for (Recordset doctor(connection, Sql("select empID from employees where deptID='MED' order by empID"));
+         !doctor.eof(); doctor.moveNext())
+        doctors << doctor.text("empID");
+    QVector<RevenueCorrection> named;
+    Recordset line(connection, Sql("select top 40 SNO,BillNO,Service,revType from vwBillingDetailsForRev where "
+                                   "BillType='SERVICE' and Date between '")
+                                   << month << "' and '" << month.addMonths(1).addDays(-1) << "' order by SNO");
+    for (; !line.eof(); line.moveNext())
+        named.append({line.text("SNO").toLongLong(), line.text("BillNO"), line.text("Service"), line.text("revType"),
+                      doctors.at(named.size() % doctors.size())});
+    program.desk().save<Saved>("REVENUE CORRECTION", [&](Books& books) -> Given<Saved> {
+        for (const RevenueCorrection& correction : named)
+            correctRevenue(books, correction);
+        return Saved{};
+    });
+}
+
 } // namespace
 
 void closeMonth(Program& program, QuietUi& ui, QDate month) {
@@ -77,6 +111,8 @@ void postMonth(Program& program, QuietUi& ui, QDate month) {
     ui.takeBoxes();
     postReceipts(program, ui, month);
     postInvoices(program, ui, month);
+    postSuppliers(program, ui, month);
+    nameConsultants(program, month);
     Connection billing = program.openBilling();
     Connection accounting = program.openAccounting();
     const QStringList open = closePeriod(billing, accounting, month.toString("yyyy/MM"));

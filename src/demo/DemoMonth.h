@@ -11,7 +11,8 @@ namespace orvane {
 /// Reviews the batch, gives its lines their headings, and invoices all its clients.
 void closeMonth(Program& program, QuietUi& ui, QDate month);
 
-/// Posts the month's receipts and invoices to the ledger and closes its period.
+/// Posts the month's receipts, invoices and suppliers' entries to the ledger, names the consultants of its services and
+/// closes its period.
 void postMonth(Program& program, QuietUi& ui, QDate month);
 
 /// Shifts the first bill of the day that a client of this name bears to the month that follows.

@@ -69,8 +69,10 @@ void addRow(Recordset& rows, const RowValues& values);
 void makeSettings(Connection& billing, const DemoHospital& hospital);
 void makeUsers(Connection& billing);
 void makeAccounts(Connection& accounting, const DemoHospital& hospital);
-/// Banks, expense items, creditors and the vouchers that wait for their payment.
+/// Banks, expense items, creditors with the entries of their invoices, and the vouchers that wait for their payment.
 void makeAccountLists(Connection& billing, const DemoHospital& hospital);
+/// The files that the accountant of the other accounting system begins, in the company data folder.
+void makeJournal(const DemoHospital& hospital);
 void makePrices(Connection& billing, DemoHospital& hospital);
 void makeClients(Connection& billing, DemoHospital& hospital);
 void makeEmployees(Connection& billing, DemoHospital& hospital);

@@ -138,6 +138,16 @@ TEST_P(LedgerTest, DebitsUnlikeCreditsPostNothing) {
     EXPECT_EQ(posted() + rows("select gTranID from PostingNotes"), "0");
 }
 
+TEST_P(LedgerTest, AReceiptAndItsReversalThatNobodyHasSpreadArePostedToo) {
+    run("insert into Payments (ReceiptDate, ReceiptNo, billNo, AmountPaid, PayType, PaymentFor) values "
+        "('2026-03-14','7','" +
+        QString(billNo) + "',300.1,'CASH','DRUGS'), ('2026-03-14','8','" + billNo +
+        "',-300.1,'CASH','REVERSAL for RctNo: 7')");
+    EXPECT_TRUE(postDay());
+    EXPECT_EQ(posted(), "1\n1");
+    EXPECT_EQ(rows("select sum(isPost) from PaymentTypes") + rows("select sum(AmountPaid) from PaymentDetails"), "20");
+}
+
 /// Breaks the statement that begins so, once, as a lost server would.
 struct Cut {
     const char* statement;
@@ -230,6 +240,80 @@ TEST_P(LedgerTest, InvoicesArePostedOnTheLastDayOfTheirMonthAndStayFlaggedWhenTh
     EXPECT_EQ(*post(), 2);
     EXPECT_EQ(ledgerRows("select count(*) from TranxactionTemp"), "4");
     EXPECT_EQ(post().refusal(), Refusal::NothingToPost);
+}
+
+/// A run takes an invoice back, or adds to it, behind the posting's look at it.
+TEST_P(LedgerTest, AnInvoiceThatChangesMeanwhileIsNotPostedAsItWasRead) {
+    run("insert into Billing (billNo, InvNo) values ('001OFL0000001','0102/2026/03')");
+    run("insert into BillingDetails (billNo, drgName) values ('001OFL0000001','X')");
+    for (const char* const change : {"delete from BillsForClients", "update BillsForClients set Amountbilled=150"}) {
+        SCOPED_TRACE(change);
+        run("insert into BillsForClients (InvNo, CoyCode, BatchNo, BillMonth, BillYear, AmountBilled) values "
+            "('0102/2026/03','0102','2026/03','March','2026',100.10)");
+        data.setStatementHook([&](const QString& statement) {
+            if (statement.startsWith("insert into TranFromAppsTrail"))
+                run(QString::fromLatin1(change));
+        });
+        LedgerDesk open = desk();
+        EXPECT_THROW(postInvoices(open, "March", "2026", [](int, int) {}), DataError);
+        data.setStatementHook({});
+        EXPECT_EQ(ledgerRows("select TranID from Tranxaction") + ledgerRows("select TranID from TranFromAppsTrail"),
+                  "");
+        EXPECT_EQ(rows("select isPost from BillingDetails"), "0");
+    }
+    EXPECT_EQ(rows("select isPost, AmountBilled from BillsForClients"), "0|150");
+}
+
+/// One posting of a day's cash: ways of payment as "ACCOUNT AMOUNT", what they are for likewise.
+struct Odd {
+    const char* what;
+    const char* date;
+    QString ways, shares;
+    QString posted; ///< what refuses it, or account, amount and period of the legs
+    bool emptyChart = false;
+};
+
+TEST_P(LedgerTest, OddInputsArePostedWholeOrNotAtAll) {
+    const QString unbalanced = refusalText(Refusal::NotBalanced), longAccount(50, 'A');
+    const Odd odds[] = {
+        {"halves of a kobo", "2026-03-14", "1001 0.005,1001 0.005", "4110 0.01",
+         "1001|0.01|2026/03\n4110|-0.01|2026/03"},
+        {"half a kobo too little", "2026-03-14", "1001 100", "4110 99.995", unbalanced},
+        {"debits unlike credits", "2026-03-14", "1001 100,1001 50", "4110 100,4110 49.99", unbalanced},
+        {"an account as long as its column", "2026-03-14", longAccount + " 7", "4110 7",
+         longAccount + "|7|2026/03\n4110|-7|2026/03"},
+        {"before every period", "1999-12-31", "1001 7", "4110 7", "1001|7|2026/03\n4110|-7|2026/03"},
+        {"after all periods", "2031-01-01", "1001 7", "4110 7", "1001|7|2026/03\n4110|-7|2026/03"},
+        {"two months behind the last period", "2026-07-10", "1001 7", "4110 7", unbalanced},
+        {"an empty chart", "2026-03-14", "1001 7", "4110 7", "9999|7|2026/03\n9999|-7|2026/03", true},
+    };
+    accounting.run("insert into ChartOfAccounts (AccountNo, AccountName) values ('" + longAccount + "', 'LONG')");
+    for (const Odd& odd : odds) {
+        SCOPED_TRACE(odd.what);
+        for (const char* table : {"PaymentTypes", "PaymentDetails"})
+            run(QString("delete from %1").arg(table));
+        for (const char* table : {"Tranxaction", "TranxactionTemp", "TranFromAppsTrail"})
+            accounting.run(QString("delete from %1").arg(table));
+        if (odd.emptyChart)
+            accounting.run("delete from ChartOfAccounts");
+        for (const QString& way : odd.ways.split(','))
+            run(QString("insert into PaymentTypes (ReceiptDate, ReceiptNo, PayType, AccountNo, AmountPaid) values "
+                        "('%1','1','CASH','%2',%3)")
+                    .arg(odd.date, way.section(' ', 0, 0), way.section(' ', 1)));
+        for (const QString& share : odd.shares.split(','))
+            run(QString("insert into PaymentDetails (ReceiptDate, ReceiptNo, revType, AccountNo, AmountPaid) values "
+                        "('%1','1','CLINIC','%2',%3)")
+                    .arg(odd.date, share.section(' ', 0, 0), share.section(' ', 1)));
+        const QDate date = QDate::fromString(odd.date, Qt::ISODate);
+        LedgerDesk open = desk();
+        const Given<int> given = open.post(cashPosting(context, date, date));
+        const QString legs = ledgerRows("select AccountNo, Amount, Period from Tranxaction union all select AccountNo, "
+                                        "Amount, Period from TranxactionTemp order by Amount desc");
+        EXPECT_EQ(given ? legs : refusalText(given.refusal()) + legs, odd.posted);
+        EXPECT_EQ(ledgerRows("select count(*) from TranFromAppsTrail"), given ? "1" : "0");
+        EXPECT_EQ(rows("select count(*) from PaymentTypes where isPost=0"),
+                  given ? "0" : rows("select count(*) from PaymentTypes"));
+    }
 }
 
 } // namespace orvane

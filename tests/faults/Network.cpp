@@ -49,7 +49,8 @@ void Network::cutAtStatement(int number) {
     m_hasCut = false;
 }
 
-void Network::loseCommit(Loss loss, bool thenAway) {
+void Network::loseCommit(Loss loss, bool thenAway, int commitsBefore) {
+    m_commitsBefore = commitsBefore;
     m_loss = loss;
     m_thenAway = thenAway;
     m_hasCut = false;
@@ -96,7 +97,7 @@ ssize_t Network::send(int socket, const std::string& message, int flags) {
         // It saves an entry: those before it take a number.
         if (commits && said.find("insert into") != std::string::npos) {
             m_statementsLeft = 0;
-            if (m_loss != Loss::None) {
+            if (m_loss != Loss::None && m_commitsBefore-- == 0) {
                 lose(socket, message);
                 return static_cast<ssize_t>(message.size());
             }

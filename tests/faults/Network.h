@@ -30,8 +30,9 @@ public:
     /// Cuts the connection of a transaction instead of passing on its n-th statement, counted from 1 over all
     /// transactions from now on; "begin" is one, the commit another. Once, and not behind the first commit of rows.
     void cutAtStatement(int number);
-    /// Loses the next commit of rows. With `thenAway` the server cannot be reached from that moment on, until comeBack.
-    void loseCommit(Loss loss, bool thenAway);
+    /// Loses a commit of rows, the next one or one behind it. With `thenAway` the server cannot be reached from that
+    /// moment on, until comeBack.
+    void loseCommit(Loss loss, bool thenAway, int commitsBefore = 0);
     void comeBack() { m_away = false; }
     void endDelayedCommit(bool arrives);
     bool hasCut() const { return m_hasCut; }   ///< since the last order
@@ -55,6 +56,7 @@ private:
     std::string m_delayedCommit;
     int m_statementsLeft = 0; ///< 0: none is cut
     Loss m_loss = Loss::None;
+    int m_commitsBefore = 0;
     bool m_thenAway = false;
     bool m_away = false;
     bool m_hasCut = false;

@@ -26,19 +26,19 @@ void redirect(const QString& folder) {
 
 } // namespace
 
-Beside::Beside(const QString& homeFolder) {
+Beside::Beside(const QString& homeFolder, const QString& database) {
     static int last = 0;
     m_name = QString("beside-%1").arg(++last);
     const ServerEntry server = ServerList(homeFolder).entry("SERVER");
     if (server.engine == Engine::Sqlite) {
         m_database = QSqlDatabase::addDatabase("QSQLITE", m_name);
-        m_database.setDatabaseName(server.folder + "/Dunmarch.db");
+        m_database.setDatabaseName(server.folder + '/' + database + ".db");
     } else {
         m_database = QSqlDatabase::addDatabase("QPSQL", m_name);
         m_database.setHostName(server.host);
         m_database.setPort(server.port);
         m_database.setUserName("zorva");
-        m_database.setDatabaseName(server.prefix + "dunmarch");
+        m_database.setDatabaseName(server.prefix + database.toLower());
         m_database.setConnectOptions("options='-c client_min_messages=error'");
     }
     if (!m_database.open())
@@ -92,12 +92,23 @@ void Scene::waitForServer() {
     Beside server(folder());
     for (int i = 0; i < 1000; ++i) {
         if (server.run(
-                "select count(*) from pg_stat_activity where datname=current_database() and pid<>pg_backend_pid() "
+                "select count(*) from pg_stat_activity where backend_type='client backend' and pid<>pg_backend_pid() "
                 "and xact_start is not null") == "0")
             return;
         QThread::msleep(10);
     }
     throw std::runtime_error("a transaction stays open");
+}
+
+QString figuresAfter(const MoneyAction& action) {
+    static QHash<QString, QString> known;
+    QString& figures = known[QLatin1String(action.name)];
+    if (figures.isEmpty()) {
+        Scene scene(Engine::Sqlite, action);
+        EXPECT_TRUE(scene.press().reported);
+        figures = scene.figures();
+    }
+    return figures;
 }
 
 } // namespace orvane

@@ -7,10 +7,10 @@
 
 namespace orvane {
 
-/// A session on a test's billing database beside the program, in the engine's own words.
+/// A session on one of a test's databases beside the program, in the engine's own words.
 class Beside {
 public:
-    explicit Beside(const QString& homeFolder);
+    explicit Beside(const QString& homeFolder, const QString& database = "Dunmarch");
     ~Beside();
     Beside(const Beside&) = delete;
     Beside& operator=(const Beside&) = delete;
@@ -60,5 +60,8 @@ public:
     std::unique_ptr<Workstation> ws;
     std::unique_ptr<Beside> beside; ///< opened by the faults that need it
 };
+
+/// What the figures of an action are after it, by a program that nothing disturbs.
+QString figuresAfter(const MoneyAction& action);
 
 } // namespace orvane

@@ -99,18 +99,6 @@ const Fault faults[] = {
      [](Scene& scene) { terminateAt(scene, "commit transaction"); }, stopTerminating},
 };
 
-/// What the figures of an action are after it, by a program that nothing disturbs.
-QString figuresAfter(const MoneyAction& action) {
-    static QHash<QString, QString> known;
-    QString& figures = known[QLatin1String(action.name)];
-    if (figures.isEmpty()) {
-        Scene scene(Engine::Sqlite, action);
-        EXPECT_TRUE(scene.press().reported);
-        figures = scene.figures();
-    }
-    return figures;
-}
-
 /// How the entry gets saved in the end.
 enum class Ending {
     Press,       ///< the fault is gone
@@ -404,56 +392,6 @@ TEST_P(UnknownSave, IsToldToWhoeverClosesTheScreen) {
     ws.close(formName);
     const QStringList shown = takeShown(ws.ui);
     expectSavedOnce({shown.filter("box ").replaceInStrings("box ", ""), GetParam().isReportedBy(shown)});
-}
-
-/// What goes through both databases, with each statement and each answer of either of them lost in turn.
-class BrokenPosting : public ::testing::TestWithParam<MoneyAction> {};
-
-QList<MoneyAction> postings() {
-    QList<MoneyAction> actions = moneyActions();
-    actions.removeIf([](const MoneyAction& action) { return !action.posts && !action.postsBehind; });
-    return actions;
-}
-
-INSTANTIATE_TEST_SUITE_P(On, BrokenPosting, ::testing::ValuesIn(postings()),
-                         [](const auto& instance) { return instance.param.name; });
-
-/// As its user does the next time, in a program started anew.
-void finish(const MoneyAction& action, const QString& folder, bool nothingLeft) {
-    Workstation next(folder);
-    ASSERT_TRUE(next.start());
-    if (nothingLeft) {
-        action.enter(next);
-        action.press(next);
-    } else {
-        action.complete(next);
-    }
-    next.ui.forgetBoxes();
-}
-
-TEST_P(BrokenPosting, IsPostedOnceInTheEnd) {
-    const MoneyAction& action = GetParam();
-    const QString after = figuresAfter(action);
-    const int step = qEnvironmentVariableIsSet("ORVANE_PROOF_ALL") ? 1 : 3;
-    for (int moment = 0;; moment += step) {
-        SCOPED_TRACE("broken at " + std::to_string(moment));
-        Scene scene(Engine::Sqlite, action);
-        const QString before = scene.figures();
-        int seen = 0;
-        scene.ws->program.data().setStatementHook([&](const QString& tsql) {
-            if (seen++ == moment || (seen > moment && tsql == "outcome of commit"))
-                throw DataError("the cable was pulled");
-        });
-        scene.press();
-        scene.ws.reset();
-        if (seen <= moment)
-            break;
-        EXPECT_EQ(action.faultsAmong(scene.findings()), QStringList());
-        if (const QString left = scene.figures(); left != after)
-            finish(action, scene.folder(), left == before);
-        EXPECT_EQ(scene.figures(), after);
-        EXPECT_EQ(scene.findings(), QStringList());
-    }
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "session/Main.h"
 #include "support/Entries.h"
 #include "support/Hospital.h"
+#include "support/Workstation.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -48,7 +49,8 @@ public:
         if (m_options.contains("linger"))
             m_program.data().setStatementHook([](const QString& tsql) {
                 if (tsql == "commit transaction" || tsql.startsWith("insert into [Tranxaction]") ||
-                    tsql.startsWith("update Billing set isprocess=1"))
+                    tsql.startsWith("update Billing set isprocess=1") ||
+                    tsql.startsWith("insert into TranFromAppsTrail"))
                     QThread::msleep(3);
             });
     }
@@ -57,6 +59,8 @@ public:
     void work(const QStringList& numbers, int rounds, const AroundWork& around) {
         if (m_options.contains("officer"))
             listBatch();
+        if (const QString form = postingForm(); !form.isEmpty())
+            m_program.open(form);
         tell({"ready"});
         QTextStream(stdin).readLine();
         around(m_program, [&] { workRounds(numbers, rounds); });
@@ -87,6 +91,26 @@ private:
         tell({"run", m_ui.takeBoxes().join(" / ")});
     }
 
+    /// Where this worker posts to the ledger; empty: nowhere.
+    QString postingForm() const {
+        return m_options.contains("cash")       ? "frmRevCashAcct"
+               : m_options.contains("invoices") ? "frmBillProcessingPost"
+                                                : "";
+    }
+
+    void post() {
+        const bool cash = m_options.contains("cash");
+        Hand hand(m_program.form(postingForm()));
+        if (cash) {
+            hand.click("cmdList");
+        } else {
+            hand.choose("cboMonth", "March");
+            hand.choose("cboYear", "2026");
+        }
+        hand.click(cash ? "cmdView" : "cmdPost");
+        tell({"posted", m_ui.takeBoxes().join(" / ")});
+    }
+
     /// Bills of clients get one more item each; those that a run has taken meanwhile are refused.
     void workOnBatch(int round) {
         for (int bill = 0; bill < billsOfBatch; bill += 3) {
@@ -103,6 +127,8 @@ private:
     void workRound(int round) {
         if (m_options.contains("cashier"))
             return workOnBatch(round);
+        if (!postingForm().isEmpty())
+            return post();
         const int turn = ownsItsRows() ? m_number : (m_number + round) % sharedVisits;
         const QString shared = visitOfWorkers(turn);
         QString visit;
@@ -287,6 +313,25 @@ QStringList WorkerProcess::told() const {
     QFile lines(m_output->fileName());
     return lines.open(QIODevice::ReadOnly) ? QString::fromUtf8(lines.readAll()).split('\n', Qt::SkipEmptyParts).mid(1)
                                            : QStringList();
+}
+
+void workTogether(const TestHome& home, const QList<QStringList>& workers, QStringList& told) {
+    std::vector<std::unique_ptr<SecondHome>> homes;
+    std::vector<WorkerProcess> running;
+    for (const QStringList& worker : workers) {
+        const QString number = QString::number(homes.size());
+        homes.push_back(std::make_unique<SecondHome>(home));
+        running.emplace_back(QStringList{"--worker", homes.back()->folder(), number, worker.first(), "linger"} +
+                             worker.mid(1));
+    }
+    for (WorkerProcess& worker : running)
+        ASSERT_TRUE(worker.isReady());
+    for (WorkerProcess& worker : running)
+        worker.begin();
+    for (WorkerProcess& worker : running) {
+        ASSERT_TRUE(worker.hasEndedWell());
+        told << worker.told();
+    }
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/Program.h"
+#include "support/TestHome.h"
 
 #include <QProcess>
 #include <QStringList>
@@ -28,13 +29,15 @@ inline const QStringList savesOfARound = {"visit", "deposit", "paidbill", "bill"
 ///   own          the numbers' own patients and visits, instead of those that all workers share
 ///   officer      first runs the batch of the month, which it has listed before it is ready
 ///   cashier      a round adds an item to each third bill of the batch instead
+///   cash         a round lists the day's cash and posts it instead
+///   invoices     a round posts the month's invoices instead
 ///   no-gate      transactions do not take the money gate
 ///   linger       waits between reading a balance and writing the next one, and before each commit, so that the others
 ///                come upon it
 /// Writes "ready" and begins when a line comes in. Then it writes a line of words apart by tabs for each save that the
 /// screen reported (amounts in naira, minus for a reversal):
 ///   visit NUMBER PATIENT, bill NUMBER, and deposit | paidbill | receipt | reversal RECEIPT BILL AMOUNT
-///   run BOXES, refused NUMBER
+///   run BOXES, refused NUMBER, posted BOXES
 /// further "item BILL PRICE" for each item that it laid, and "trouble TEXT" for each save that was refused or
 /// faulty. Gives the exit code. `around` is given the running program and the work, which it must do.
 using AroundWork = std::function<void(Program&, const std::function<void()>& work)>;
@@ -59,5 +62,9 @@ private:
     std::unique_ptr<QTemporaryFile> m_output;
     std::unique_ptr<QProcess> m_process;
 };
+
+/// Has workers work on the databases of a home at the same time, for each its rounds and then its options, and adds
+/// what they told. All of them linger.
+void workTogether(const TestHome& home, const QList<QStringList>& workers, QStringList& told);
 
 } // namespace orvane

@@ -21,26 +21,6 @@ protected:
         before = rows("select sum(SubTotal) as Total from BillingDetails").toDouble();
     }
 
-    void work(const QList<QStringList>& workers) {
-        std::vector<std::unique_ptr<SecondHome>> homes;
-        std::vector<WorkerProcess> running;
-        for (const QStringList& options : workers) {
-            homes.push_back(std::make_unique<SecondHome>(home));
-            const QString rounds = options.contains("cashier") ? "2" : "0";
-            running.emplace_back(
-                QStringList{"--worker", homes.back()->folder(), QString::number(homes.size()), rounds, "linger"} +
-                options);
-        }
-        for (WorkerProcess& worker : running)
-            ASSERT_TRUE(worker.isReady());
-        for (WorkerProcess& worker : running)
-            worker.begin();
-        for (WorkerProcess& worker : running) {
-            ASSERT_TRUE(worker.hasEndedWell());
-            told << worker.told();
-        }
-    }
-
     QString rows(const QString& tsql) {
         Connection connection = ws.billing();
         return rowsOf(connection, tsql);
@@ -57,7 +37,7 @@ protected:
 ORVANE_ON_EACH_ENGINE(MonthProof);
 
 TEST_P(MonthProof, TwoOfficersOfOneBatchInvoiceEachBillOnce) {
-    ASSERT_NO_FATAL_FAILURE(work({{"officer"}, {"officer"}}));
+    ASSERT_NO_FATAL_FAILURE(workTogether(home, {{"0", "officer"}, {"0", "officer"}}, told));
     EXPECT_EQ(told, QStringList(2, "run\t2 Comapny Bills successfully Processed"));
     EXPECT_EQ(faults(), QStringList());
     EXPECT_EQ(ws.tableCount("Billing where isProcess=1"), billsOfBatch);
@@ -65,15 +45,8 @@ TEST_P(MonthProof, TwoOfficersOfOneBatchInvoiceEachBillOnce) {
 }
 
 TEST_P(MonthProof, CashiersWaitForTheRunAndLoseNothing) {
-    ASSERT_NO_FATAL_FAILURE(work({{"officer"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"}}));
+    ASSERT_NO_FATAL_FAILURE(
+        workTogether(home, QList<QStringList>(8, {"2", "cashier"}) + QList<QStringList>{{"0", "officer"}}, told));
     EXPECT_EQ(told.filter("trouble"), QStringList());
     EXPECT_EQ(told.filter("Comapny").size(), 1);
     EXPECT_EQ(faults(), QStringList());
@@ -84,7 +57,7 @@ TEST_P(MonthProof, CashiersWaitForTheRunAndLoseNothing) {
 }
 
 TEST_P(MonthProof, WithoutTheGateItFails) {
-    ASSERT_NO_FATAL_FAILURE(work({{"officer", "no-gate"}, {"officer", "no-gate"}}));
+    ASSERT_NO_FATAL_FAILURE(workTogether(home, {{"0", "officer", "no-gate"}, {"0", "officer", "no-gate"}}, told));
     EXPECT_NE(faults(), QStringList());
 }
 

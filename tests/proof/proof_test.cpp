@@ -80,22 +80,8 @@ protected:
 
     /// Has the workers do their rounds at the same time and gathers what they told.
     void work(int workers, const QStringList& options) {
-        std::vector<std::unique_ptr<SecondHome>> homes;
-        std::vector<WorkerProcess> running;
-        for (int number = 0; number < workers; ++number) {
-            homes.push_back(std::make_unique<SecondHome>(home));
-            running.emplace_back(QStringList{"--worker", homes.back()->folder(), QString::number(number),
-                                             QString::number(roundsOfAWorker()), "linger"} +
-                                 options);
-        }
-        for (WorkerProcess& worker : running)
-            ASSERT_TRUE(worker.isReady());
-        for (WorkerProcess& worker : running)
-            worker.begin();
-        for (WorkerProcess& worker : running) {
-            ASSERT_TRUE(worker.hasEndedWell());
-            told << worker.told();
-        }
+        const QStringList worker = QStringList{QString::number(roundsOfAWorker())} + options;
+        workTogether(home, QList<QStringList>(workers, worker), told);
     }
 
     /// What was told of a kind, without the kind.

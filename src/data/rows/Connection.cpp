@@ -8,6 +8,32 @@
 
 namespace orvane {
 
+namespace {
+
+QStringView bareName(const QString& parameter) {
+    return QStringView(parameter).mid(parameter.startsWith(u'@') ? 1 : 0);
+}
+
+/// By its name, with or without the @, in any case.
+QVariantMap::const_iterator parameterOf(const QVariantMap& given, const QString& name) {
+    auto found = given.constFind(name);
+    if (found == given.constEnd())
+        for (found = given.constBegin(); found != given.constEnd(); ++found)
+            if (bareName(found.key()).compare(bareName(name), Qt::CaseInsensitive) == 0)
+                break;
+    return found;
+}
+
+/// The first one that is not among those known.
+QString unknownParameter(const QVariantMap& given, const QVariantMap& known) {
+    for (auto parameter = given.begin(); parameter != given.end(); ++parameter)
+        if (parameterOf(known, parameter.key()) == known.constEnd())
+            return bareName(parameter.key()).toString().toLower();
+    return {};
+}
+
+} // namespace
+
 Connection::Connection(std::shared_ptr<PhysicalConnection> physical) : d(std::move(physical)) {}
 
 Connection::Connection(Connection&&) noexcept = default;
@@ -52,20 +78,17 @@ Recordset Connection::call(const QString& procedure, const QVariantMap& paramete
     const ProcedureEntry* entry = findProcedure(procedure);
     if (!entry)
         throw DataError(QStringLiteral("Could not find stored procedure '%1'.").arg(procedure));
-    const auto bare = [](QString name) { return name.remove(u'@').toLower(); };
-    QVariantMap byName;
-    for (auto parameter = parameters.begin(); parameter != parameters.end(); ++parameter)
-        byName.insert(bare(parameter.key()), parameter.value());
     QVariantMap known;
     for (const QString& name : entry->parameters) {
-        if (!byName.contains(bare(name))) {
+        const auto found = parameterOf(parameters, name);
+        if (found == parameters.end())
             throw DataError(
                 QStringLiteral("Procedure '%1' expects parameter '%2', which was not supplied.").arg(procedure, name));
-        }
-        known.insert(name, byName.take(bare(name)));
+        known.insert(name, *found);
     }
-    if (!byName.isEmpty())
-        throw DataError(QStringLiteral("%1 is not a parameter for procedure %2.").arg(byName.firstKey(), procedure));
+    if (known.size() < parameters.size())
+        throw DataError(QStringLiteral("%1 is not a parameter for procedure %2.")
+                            .arg(unknownParameter(parameters, known), procedure));
     return entry->body(*this, known);
 }
 
