@@ -6,6 +6,7 @@
 #include "session/Main.h"
 #include "support/Entries.h"
 #include "support/Hospital.h"
+#include "support/Workstation.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -48,6 +49,7 @@ public:
         if (m_options.contains("linger"))
             m_program.data().setStatementHook([](const QString& tsql) {
                 if (tsql == "commit transaction" || tsql.startsWith("insert into [Tranxaction]") ||
+                    tsql.startsWith("update StockItemsRetail") || tsql.startsWith("insert into [BillAccum]") ||
                     tsql.startsWith("update Billing set isprocess=1"))
                     QThread::msleep(3);
             });
@@ -57,6 +59,8 @@ public:
     void work(const QStringList& numbers, int rounds, const AroundWork& around) {
         if (m_options.contains("officer"))
             listBatch();
+        if (m_options.contains("storekeeper"))
+            enterDispensing();
         tell({"ready"});
         QTextStream(stdin).readLine();
         around(m_program, [&] { workRounds(numbers, rounds); });
@@ -67,6 +71,8 @@ public:
             m_number = number.toInt();
             if (m_options.contains("officer"))
                 processBatch();
+            if (m_options.contains("storekeeper"))
+                press("frmDispensing", "dispensed");
             for (int round = 0; round < rounds; ++round)
                 workRound(round);
         }
@@ -100,7 +106,37 @@ private:
         }
     }
 
+    void enterDispensing() {
+        Hand hand = openScreen(m_program, "frmDispensing");
+        hand.chooseContaining("cboVehNo", visitOfWorkers(0));
+        hand.choose("cboDrug", "ARTEMETHER INJECTION");
+        hand.type("txtQty", "1");
+        hand.type("txtUsage", "STAT");
+        hand.click("cmdAdd");
+    }
+
+    void press(const QString& form, const char* kind) {
+        Hand(m_program.form(form)).click("OKButton");
+        tell({kind, m_ui.takeBoxes().join(" / ")});
+    }
+
+    void workInStore(int round) {
+        const QString qty = QString::number(m_number + 1 + round);
+        Hand hand = openScreen(m_program, "frmStockEntry");
+        hand.choose("cboVehNo", "PARACETAMOL 500MG");
+        hand.type("txtFields(0)", qty);
+        hand.chooseContaining("cboDriver", "BELLO");
+        hand.click("OKButton");
+        expectBoxes("goods", {saved});
+        tell({"goods", qty});
+        hand.click("cmdEdit");
+        hand.type("txtFields(0)", QString::number(50 + m_number));
+        press("frmStockEntry", "changed");
+    }
+
     void workRound(int round) {
+        if (m_options.contains("storekeeper"))
+            return attempt([&] { workInStore(round); });
         if (m_options.contains("cashier"))
             return workOnBatch(round);
         const int turn = ownsItsRows() ? m_number : (m_number + round) % sharedVisits;
@@ -123,7 +159,8 @@ private:
         } catch (const DataError& fault) {
             tell({"trouble", fault.description()});
         }
-        for (const char* name : {"frmRecordsOffline", "frmReceiptDeposit", "frmBillingVerify", "frmReceiptTemp"})
+        for (const char* name :
+             {"frmRecordsOffline", "frmReceiptDeposit", "frmBillingVerify", "frmReceiptTemp", "frmStockEntry"})
             if (Form* form = m_program.loadedForm(QLatin1String(name)))
                 form->abandon();
         m_program.deleteClosedForms();
@@ -287,6 +324,27 @@ QStringList WorkerProcess::told() const {
     QFile lines(m_output->fileName());
     return lines.open(QIODevice::ReadOnly) ? QString::fromUtf8(lines.readAll()).split('\n', Qt::SkipEmptyParts).mid(1)
                                            : QStringList();
+}
+
+QStringList workAtOnce(const TestHome& home, const QList<QStringList>& workers, int rounds) {
+    std::vector<std::unique_ptr<SecondHome>> homes;
+    std::vector<WorkerProcess> running;
+    for (const QStringList& options : workers) {
+        homes.push_back(std::make_unique<SecondHome>(home));
+        running.emplace_back(QStringList{"--worker", homes.back()->folder(), QString::number(homes.size()),
+                                         QString::number(options.contains("officer") ? 0 : rounds), "linger"} +
+                             options);
+    }
+    for (WorkerProcess& worker : running)
+        EXPECT_TRUE(worker.isReady());
+    for (WorkerProcess& worker : running)
+        worker.begin();
+    QStringList told;
+    for (WorkerProcess& worker : running) {
+        EXPECT_TRUE(worker.hasEndedWell());
+        told << worker.told();
+    }
+    return told;
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/Program.h"
+#include "support/TestHome.h"
 
 #include <QProcess>
 #include <QStringList>
@@ -28,13 +29,16 @@ inline const QStringList savesOfARound = {"visit", "deposit", "paidbill", "bill"
 ///   own          the numbers' own patients and visits, instead of those that all workers share
 ///   officer      first runs the batch of the month, which it has listed before it is ready
 ///   cashier      a round adds an item to each third bill of the batch instead
+///   storekeeper  first dispenses for one visit, which it has entered before it is ready; a round brings in goods of
+///   one
+///                item and changes the newest entry instead
 ///   no-gate      transactions do not take the money gate
 ///   linger       waits between reading a balance and writing the next one, and before each commit, so that the others
 ///                come upon it
 /// Writes "ready" and begins when a line comes in. Then it writes a line of words apart by tabs for each save that the
 /// screen reported (amounts in naira, minus for a reversal):
 ///   visit NUMBER PATIENT, bill NUMBER, and deposit | paidbill | receipt | reversal RECEIPT BILL AMOUNT
-///   run BOXES, refused NUMBER
+///   run BOXES, refused NUMBER, dispensed BOXES, goods QUANTITY, changed BOXES
 /// further "item BILL PRICE" for each item that it laid, and "trouble TEXT" for each save that was refused or
 /// faulty. Gives the exit code. `around` is given the running program and the work, which it must do.
 using AroundWork = std::function<void(Program&, const std::function<void()>& work)>;
@@ -59,5 +63,9 @@ private:
     std::unique_ptr<QTemporaryFile> m_output;
     std::unique_ptr<QProcess> m_process;
 };
+
+/// Lets workers of these options work at the same time, on databases of `home`, for so many rounds; gives what they
+/// told. Fails the test when one of them does not end well.
+QStringList workAtOnce(const TestHome& home, const QList<QStringList>& workers, int rounds);
 
 } // namespace orvane

@@ -153,7 +153,9 @@ TEST_P(Kill, LosesNothingThatWasReportedSaved) {
             before = left;
             ASSERT_NE(before, after);
         }
-        EXPECT_TRUE(!run.reported || left == after || (action.postsBehind && left != before)) << "reported saved, but left:\n" << left.toStdString();
+        EXPECT_TRUE(!run.reported || left == after || (action.postsBehind && left != before))
+            << "reported saved, but left:\n"
+            << left.toStdString();
         if (left == before)
             play(*home, action, -1);
         else if (left != after)

@@ -21,25 +21,7 @@ protected:
         before = rows("select sum(SubTotal) as Total from BillingDetails").toDouble();
     }
 
-    void work(const QList<QStringList>& workers) {
-        std::vector<std::unique_ptr<SecondHome>> homes;
-        std::vector<WorkerProcess> running;
-        for (const QStringList& options : workers) {
-            homes.push_back(std::make_unique<SecondHome>(home));
-            const QString rounds = options.contains("cashier") ? "2" : "0";
-            running.emplace_back(
-                QStringList{"--worker", homes.back()->folder(), QString::number(homes.size()), rounds, "linger"} +
-                options);
-        }
-        for (WorkerProcess& worker : running)
-            ASSERT_TRUE(worker.isReady());
-        for (WorkerProcess& worker : running)
-            worker.begin();
-        for (WorkerProcess& worker : running) {
-            ASSERT_TRUE(worker.hasEndedWell());
-            told << worker.told();
-        }
-    }
+    void work(const QList<QStringList>& workers) { told = workAtOnce(home, workers, 2); }
 
     QString rows(const QString& tsql) {
         Connection connection = ws.billing();
@@ -57,7 +39,7 @@ protected:
 ORVANE_ON_EACH_ENGINE(MonthProof);
 
 TEST_P(MonthProof, TwoOfficersOfOneBatchInvoiceEachBillOnce) {
-    ASSERT_NO_FATAL_FAILURE(work({{"officer"}, {"officer"}}));
+    work({{"officer"}, {"officer"}});
     EXPECT_EQ(told, QStringList(2, "run\t2 Comapny Bills successfully Processed"));
     EXPECT_EQ(faults(), QStringList());
     EXPECT_EQ(ws.tableCount("Billing where isProcess=1"), billsOfBatch);
@@ -65,15 +47,15 @@ TEST_P(MonthProof, TwoOfficersOfOneBatchInvoiceEachBillOnce) {
 }
 
 TEST_P(MonthProof, CashiersWaitForTheRunAndLoseNothing) {
-    ASSERT_NO_FATAL_FAILURE(work({{"officer"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"},
-                                  {"cashier"}}));
+    work({{"officer"},
+          {"cashier"},
+          {"cashier"},
+          {"cashier"},
+          {"cashier"},
+          {"cashier"},
+          {"cashier"},
+          {"cashier"},
+          {"cashier"}});
     EXPECT_EQ(told.filter("trouble"), QStringList());
     EXPECT_EQ(told.filter("Comapny").size(), 1);
     EXPECT_EQ(faults(), QStringList());
@@ -84,7 +66,7 @@ TEST_P(MonthProof, CashiersWaitForTheRunAndLoseNothing) {
 }
 
 TEST_P(MonthProof, WithoutTheGateItFails) {
-    ASSERT_NO_FATAL_FAILURE(work({{"officer", "no-gate"}, {"officer", "no-gate"}}));
+    work({{"officer", "no-gate"}, {"officer", "no-gate"}});
     EXPECT_NE(faults(), QStringList());
 }
 
