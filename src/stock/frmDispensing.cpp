@@ -23,12 +23,11 @@ frmDispensing::frmDispensing(Program& owner)
 
 Layout frmDispensing::entryLayout() const {
     using namespace orvane::layout;
-    return group(
-        "Drug/Service",
-        {row({column({field("Drug/Service", cboDrug, 44), field("Dosage", txtUsage, 44),
-                      field("Qty Prescribed", txtQty, 10)}),
-              column({field("Qty in Stock", lblStock), field("Price", lblPrice), field("Sub Total", lblSub)})}),
-         row({field("Category", lblCat), field("Qty/Unit", lblUnit), stretch(), cell(cmdAdd)})});
+    return group("Drug/Service",
+                 {column({field("Drug/Service", cboDrug, 64), field("Dosage", txtUsage, 64)}),
+                  row({field("Qty Prescribed", txtQty, 10), field("Qty in Stock", lblStock), field("Price", lblPrice),
+                       field("Sub Total", lblSub), stretch()}),
+                  row({field("Category", lblCat), field("Qty/Unit", lblUnit), stretch(), cell(cmdAdd)})});
 }
 
 Layout frmDispensing::layout() const {

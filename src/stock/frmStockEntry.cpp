@@ -27,6 +27,12 @@ frmStockEntry::frmStockEntry(Program& owner) : Screen(owner, "frmStockEntry", "R
         box->setToolTip("Kept behind the comments");
     grdData.setToolTip("Double Click an entry to change it");
     grdData.hide({"EntryID"});
+    for (const auto& [column, head] : {std::pair("EntryDate", "Entry Date"),
+                                       {"itemCode", "Product/Item Code"},
+                                       {"qty", "Retail Qty"},
+                                       {"receivedby", "Received by"},
+                                       {"comments", "Comments/Condition of product"}})
+        grdData.setHead(column, head);
 }
 
 Layout frmStockEntry::layout() const {
