@@ -58,6 +58,15 @@ create index ixConsultingConsultID on hconsulting (consultID)
 go
 create index ixConsultingPNo on hconsulting (PNo)
 go
+-- Those that nobody has finished with.
+create index ixConsultingOpen on hconsulting (consultID) where attendedto = 0
+go
+create index ixDispensedConsultID on hConsultingDetails (consultID)
+go
+create index ixMedChartConsultID on hMedChartMonitor (consultID)
+go
+create index ixStockEntryRetailItem on StockEntryRetail (ItemID, EntryID)
+go
 create index ixAdmissionConsultID on hAdmission (consultID)
 go
 create index ixAdmissionOpen on hAdmission (consultID) where DischDate is null

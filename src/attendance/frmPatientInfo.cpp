@@ -101,15 +101,17 @@ Layout frmPatientInfo::layout() const {
                    buttons({&cmdREpairs, &cmdTyres}, {&CancelButton})});
 }
 
+/// Of half a million nodes each shares what it can: the name of its parent, and its number with what it stands for.
 void frmPatientInfo::Form_Load() {
+    const QString root = "qvr";
     TreeView1.clear();
-    TreeView1.addNode({"qvr", "HALDEN HOSPITAL", {}, true});
+    TreeView1.addNode({root, "HALDEN HOSPITAL", {}, true});
     TreeView1.fill(Recordset::paged(program.openBilling(), Sql("SELECT * FROM qryhCardNotExpired order by psurname")),
-                   [](const Recordset& patient) {
-                       const ListedPatient listed{patient.text("pNo"),
-                                                  patient.text("psurname") + " " + patient.text("pfirstname")};
-                       return Tree::Node{"ijkl" + listed.pno, listed.name + " [" + listed.pno + "]", "qvr", false,
-                                         QVariant::fromValue(listed)};
+                   [root](const Recordset& patient) {
+                       const QString pno = patient.text("pNo");
+                       return Tree::Node{"ijkl" + pno,
+                                         patient.text("psurname") + " " + patient.text("pfirstname") + " [" + pno + "]",
+                                         root, false, pno};
                    });
     // The tree is still being read.
     Connection connection = program.openBilling();
@@ -118,8 +120,8 @@ void frmPatientInfo::Form_Load() {
 }
 
 void frmPatientInfo::TreeView1_NodeClick() {
-    if (const auto picked = TreeView1.picked<ListedPatient>())
-        showPatient(*picked);
+    if (const auto pno = TreeView1.picked<QString>())
+        showPatient(*pno);
 }
 
 Screen::PatientTaker frmPatientInfo::patientTaker() {
@@ -136,13 +138,14 @@ void frmPatientInfo::showFound(const QString& pno) {
     Connection connection = program.openBilling();
     const Recordset name(connection, Sql("select fullname from hPatients where PNo='") << pno << "'");
     if (!name.eof())
-        showPatient({pno, name.text("fullname")});
+        showPatient(pno);
 }
 
-void frmPatientInfo::showPatient(const ListedPatient& listed) {
-    m_patient = listed;
+void frmPatientInfo::showPatient(const QString& pno) {
     Connection connection = program.openBilling();
-    const Recordset patient(connection, Sql("SELECT * FROM hPatients WHERE pNo ='") << m_patient.pno << "'");
+    const Recordset patient(connection, Sql("SELECT * FROM hPatients WHERE pNo ='") << pno << "'");
+    m_pno = pno;
+    m_name = patient.eof() ? QString() : patient.text("psurname") + " " + patient.text("pfirstname");
     if (patient.eof())
         clearCard(); // gone since the list was read
     else
@@ -159,7 +162,7 @@ void frmPatientInfo::clearCard() {
 void frmPatientInfo::showCard(Connection& connection, const Recordset& patient) {
     for (std::size_t i = 0; i < m_fields.size(); ++i)
         m_fields[i]->setText(shown(connection, patient, cardFields[i]));
-    lblHeading.setText("Patient Information  : " + m_patient.name);
+    lblHeading.setText("Patient Information  : " + m_name);
     const QDate born = patient.date("DOB");
     txtAge.setText(born.isValid() ? QString::number(program.ui().now().date().year() - born.year()) + " yrs" : "--");
 }
@@ -170,14 +173,14 @@ void frmPatientInfo::cmdREpairs_Click() {
     grdData.load(Recordset(
         connection,
         Sql("select bDate,BalanceDate,billNo,pNo,Fullname,Balance from qryhBillingbalanceForPrivate where pNo='")
-            << m_patient.pno << "'"));
-    lblDisplay.setText("Balance to be paid by " + m_patient.name);
+            << m_pno << "'"));
+    lblDisplay.setText("Balance to be paid by " + m_name);
 }
 
 void frmPatientInfo::cmdTyres_Click() {
     Connection connection = program.openBilling();
-    grdData.load(Recordset(connection, Sql("select * from qryhVisits where pNo='") << m_patient.pno << "'"));
-    lblDisplay.setText("Frequency of Hospital Visits by " + m_patient.name);
+    grdData.load(Recordset(connection, Sql("select * from qryhVisits where pNo='") << m_pno << "'"));
+    lblDisplay.setText("Frequency of Hospital Visits by " + m_name);
 }
 
 } // namespace orvane

@@ -19,13 +19,8 @@ protected:
     PatientTaker patientTaker() override;
 
 private:
-    /// What a node of the tree stands for.
-    struct ListedPatient {
-        QString pno, name;
-    };
-
     void showFound(const QString& pno);
-    void showPatient(const ListedPatient& listed);
+    void showPatient(const QString& pno);
     void TreeView1_NodeClick();
     void clearCard();
     void showCard(Connection& connection, const Recordset& patient);
@@ -45,7 +40,7 @@ private:
     /// One a column of the card, in the order of the table in the source.
     std::vector<std::unique_ptr<TextBox>> m_fields;
 
-    ListedPatient m_patient;
+    QString m_pno, m_name; ///< of the patient in hand
 };
 
 } // namespace orvane

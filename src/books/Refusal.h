@@ -49,6 +49,9 @@ enum class Refusal {
     SupplierCodeTaken, ///< a creditor bears the code that comes next
     VoucherPaid,       ///< the voucher was paid since it was picked
     NoDrug,            ///< no drug or service bears the name
+    AlreadyDispensed,  ///< the prescription waits no more for this patient
+    NoStockItem,       ///< the retail store has no item of the code
+    StockEntryChanged, ///< the entry under edit was changed since it was read
     UserNameTaken,     ///< an account bears the name
     UnknownUser,       ///< no account bears the name, or not with this password
     RoleExists,        ///< a role has the id

@@ -5,6 +5,7 @@
 #include "demo/BulkHospital.h"
 #include "demo/DemoMonth.h"
 #include "demo/DemoParts.h"
+#include "demo/DemoPharmacy.h"
 #include "play/QuietUi.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
@@ -44,6 +45,7 @@ void makeMasterData(DemoHospital& hospital) {
     makeAccountLists(billing, hospital);
     makeJournal(hospital);
     makePrices(billing, hospital);
+    makeStore(billing, hospital);
     makeEmployees(billing, hospital);
     if (hospital.options.bills == 0)
         makePatients(billing, hospital);

@@ -196,8 +196,8 @@ void makeEmployees(Connection& billing, DemoHospital& hospital) {
                           {"E003", "ADEYEMO", "BUKOLA", "ACC"}, {"E004", "IGBINOSA", "EFOSA", "ACC"},
                           {"E005", "YUSUF", "HALIMA", "REC"},   {"E006", "EZE", "OBINNA", "REC"}};
     const Names names;
-    const QStringList departments = {"MED", "MED", "MED", "MED", "MED", "MED",
-                                     "REC", "NUR", "NUR", "LAB", "PHA", "ACC"};
+    const QStringList departments = {"MED", "MED", "MED", "MED", "MED",   "MED",
+                                     "REC", "NUR", "NUR", "LAB", "PHARM", "ACC"};
     for (const QString& department : departments) {
         const QStringList& surname = hospital.random.pick(names.surnames);
         const QString sex = hospital.random.chance(50) ? "F" : "M";
@@ -205,6 +205,8 @@ void makeEmployees(Connection& billing, DemoHospital& hospital) {
         hospital.employees.append(
             {id, surname.at(0), names.firstName(sex, surname.at(1), hospital.random), department});
     }
+    hospital.employees.append({"E019", "SALAMI", "KEHINDE", "PHARM"});
+    const QHash<QString, QString> designations = {{"MED", "DOCTOR"}, {"PHARM", "PHARMACIST"}};
     Transaction transaction(billing);
     Recordset rows(billing, Sql("select * from employees where 1=2"));
     for (const DemoEmployee& employee : hospital.employees)
@@ -212,7 +214,7 @@ void makeEmployees(Connection& billing, DemoHospital& hospital) {
                       {"LastName", employee.lastName},
                       {"firstname", employee.firstName},
                       {"deptID", employee.department},
-                      {"designation", employee.department == QLatin1String("MED") ? "DOCTOR" : "OFFICER"}});
+                      {"designation", designations.value(employee.department, "OFFICER")}});
     transaction.commit();
 }
 

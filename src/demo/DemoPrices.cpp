@@ -27,6 +27,10 @@ const QHash<QString, QString> revenueTypeOfCategory = {
     {"CARDIOLOGY", "RADIOLOGY"},
 };
 
+/// What is given in the injection room stands in a group of its own.
+const QHash<QString, QString> groupOfCategory = {
+    {"INJECTIONS", "INJECTIONS"}, {"VACCINES", "INJECTIONS"}, {"DRESSING", "DRESSING"}};
+
 /// Categories that capitation contracts mostly cover.
 const QStringList capitatedCategories = {"CONSULTATION", "TABLETS",     "CAPSULES",    "SYRUP",
                                          "NURSING",      "HAEMATOLOGY", "MICROBIOLOGY"};
@@ -81,7 +85,8 @@ void makeDrugs(Connection& billing, DemoHospital& hospital) {
                        {"Reorderlevel", drug.unitsInPack}});
         if (!known.contains(drug.category)) {
             known.append(drug.category);
-            addRow(categories, {{"drgCatname", drug.category}, {"catremarks", "PHARMACY"}});
+            addRow(categories,
+                   {{"drgCatname", drug.category}, {"catremarks", groupOfCategory.value(drug.category, "PHARMACY")}});
         }
     }
 }

@@ -3,6 +3,7 @@
 #include "data/rows/Transaction.h"
 #include "demo/DemoBilling.h"
 #include "demo/DemoMonth.h"
+#include "demo/DemoPharmacy.h"
 #include "play/Hand.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
@@ -16,9 +17,14 @@ namespace {
 constexpr int visitsADay = 20;
 constexpr int emergencyDay = 15; ///< of each month
 const QString emergencyNumbers = "001EMG";
-constexpr int admittedVisits = 3; ///< of the last day, still in a ward
-constexpr int waitingVisits = 12; ///< of the last day, for the officer who tries the program
+constexpr int admittedVisits = 3;  ///< of the last day, still in a ward
+constexpr int waitingVisits = 12;  ///< of the last day, for the officer who tries the program
+constexpr int injectionsEvery = 4; ///< visits
+constexpr int goodsEvery = 5;      ///< days
 const QTime opening(8, 0);
+
+/// Categories whose contracts cover what is dispensed.
+const QStringList capitated = {"HMO", "NHIS", "PHIS"};
 
 /// The users who collate bills, day by day in turn.
 const QStringList billingUsers = {"amina.b", "chidi.o", "bukola.a", "efosa.i"};
@@ -66,8 +72,8 @@ public:
     /// `number`: of the day, from 1.
     DayOfVisits(DemoHospital& hospital, QDate day, int number)
         : m_hospital(hospital), m_day(day), m_program(hospital.options.home, m_ui),
-          m_billing(m_program, m_ui, hospital), m_user(billingUsers.at(number % int(billingUsers.size()))),
-          m_isFirst(number == 1) {}
+          m_billing(m_program, m_ui, hospital), m_pharmacy(m_program, m_ui, hospital),
+          m_user(billingUsers.at(number % int(billingUsers.size()))), m_number(number) {}
 
     void run() {
         m_program.data().setDisposable();
@@ -83,6 +89,7 @@ public:
         const int billed = last ? qMax(0, int(visits.size()) - waitingVisits) : int(visits.size());
         if (last)
             admit(visits.mid(visits.size() - qMin(admittedVisits, int(visits.size()))));
+        workPharmacy(visits.mid(0, billed));
         for (int i = 0; i < billed; ++i) {
             setTime(opening.addSecs(60 * (4 * 60 + 12 * i)));
             m_billing.bill(visits.at(i));
@@ -92,7 +99,7 @@ public:
             splitBill(m_program, m_ui, m_day, visits.last().consultID);
         if (m_day.daysInMonth() == m_day.day())
             shiftBillOf(visits);
-        if (m_day.day() == 1 && !m_isFirst) {
+        if (m_day.day() == 1 && m_number > 1) {
             closeMonth(m_program, m_ui, m_day.addMonths(-1));
             postMonth(m_program, m_ui, m_day.addMonths(-1));
         }
@@ -150,18 +157,29 @@ private:
         Connection connection = m_program.openBilling();
         Transaction transaction(connection);
         Recordset rows(connection, Sql("select * from hconsulting where 1=2"));
-        int minutes = 25;
-        for (DemoVisit& visit : visits) {
+        for (int i = 0; i < visits.size(); ++i) {
+            DemoVisit& visit = visits[i];
             visit.orders = ordersOf(m_hospital);
             if (visit.consultID.contains(emergencyNumbers)) // an item to split off, and one to stay
                 visit.orders += ordersOf(m_hospital);
+            else if (i % injectionsEvery == 2 && !capitated.contains(visit.patient->category))
+                visit.injections = injectionsOf(m_hospital, m_number + i);
             const DemoEmployee& doctor = m_hospital.random.pick(doctors);
-            addRow(rows, consultationRow(visit, doctor, QDateTime(m_day, opening.addSecs(60 * minutes)), m_hospital));
+            const QDateTime at(m_day, opening.addSecs(60 * (25 + 12 * i)));
+            addRow(rows, consultationRow(visit, doctor, at, m_hospital));
             connection.execute(Sql("update hRecords set attendedto=1,attendedtoByDoc=1 where consultID='")
                                << visit.consultID << "'");
-            minutes += 12;
         }
         transaction.commit();
+    }
+
+    void workPharmacy(const QVector<DemoVisit>& visits) {
+        setTime(opening.addSecs(60 * 60 * 4));
+        for (const DemoVisit& visit : visits)
+            if (!visit.injections.isEmpty())
+                m_pharmacy.dispense(visit);
+        if (m_number % goodsEvery == 0)
+            m_pharmacy.takeGoods(m_number);
     }
 
     void admit(const QVector<DemoVisit>& visits) {
@@ -222,8 +240,9 @@ private:
     QuietUi m_ui;
     Program m_program;
     DemoBilling m_billing;
+    DemoPharmacy m_pharmacy;
     QString m_user;
-    bool m_isFirst; ///< there is no month before it
+    int m_number; ///< 1: there is no month before it
 };
 
 /// Appointments that doctors gave: a few fall due on the last day, the others later.
@@ -249,6 +268,9 @@ void makeAppointments(DemoHospital& hospital) {
 } // namespace
 
 RowValues consultationRow(const DemoVisit& visit, const DemoEmployee& doctor, QDateTime at, DemoHospital& hospital) {
+    QStringList injections;
+    for (const DemoOrder& ordered : visit.injections)
+        injections.append(QStringLiteral("%1 (%2) STAT").arg(ordered.item->name).arg(ordered.quantity));
     QStringList prescription, tests, services;
     for (const DemoOrder& ordered : visit.orders)
         if (ordered.item->kind == QLatin1String("DRUG"))
@@ -265,11 +287,12 @@ RowValues consultationRow(const DemoVisit& visit, const DemoEmployee& doctor, QD
             {"cTime", at.time().toString("HH:mm")},
             {"Diagnosis", hospital.random.pick(hospital.diagnoses).at(1)},
             {"prescription", prescription.join(QLatin1Char('\n'))},
+            {"injprescription", nullIfEmpty(injections.join(QLatin1Char('\n')))},
             {"Investigate", tests.join(QLatin1Char('\n'))},
             {"services", services.join(QLatin1Char('\n'))},
             {"treatplan", QStringLiteral("REVIEW IN %1 DAYS").arg(hospital.random.between(3, 21))},
             {"treatedby", QStringLiteral("%1 %2").arg(doctor.lastName, doctor.firstName)},
-            {"attendedto", 1}};
+            {"attendedto", injections.isEmpty() ? 1 : 0}};
 }
 
 void makeVisits(DemoHospital& hospital, const std::function<void(int)>& dayDone) {

@@ -15,6 +15,7 @@ struct DemoVisit {
     QString consultID;
     QString clinic;
     QVector<DemoOrder> orders;
+    QVector<DemoOrder> injections; ///< with dressings; they wait for the pharmacist, and the visit with them
 };
 
 /// The row of hconsulting that the doctor leaves, finished.

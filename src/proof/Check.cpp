@@ -29,12 +29,12 @@ CheckReport checkDatabases(Connection& billing, Connection& accounting) {
     if (!report.findings.isEmpty())
         return report;
     Checker ofBilling(billing, "billing");
-    for (const auto& checks :
-         {numberChecks(), accountChecks(), billChecks(), receiptChecks(), monthChecks(), voucherChecks()})
+    for (const auto& checks : {numberChecks(), accountChecks(), billChecks(), receiptChecks(), monthChecks(),
+                               voucherChecks(), stockChecks()})
         ofBilling.run(checks, report.findings, report.remarks);
     ofBilling.runNumbers(report.findings);
     ofBilling.runDemanded(report.findings);
-    for (const auto& notices : {noticeChecks(), monthNotices()})
+    for (const auto& notices : {noticeChecks(), monthNotices(), stockNotices()})
         ofBilling.run(notices, report.notices, report.remarks);
     Checker ofAccounting(accounting, "accounting");
     ofAccounting.run(ledgerChecks(), report.findings, report.remarks);
@@ -49,8 +49,9 @@ CheckReport checkDatabases(Connection& billing, Connection& accounting) {
 
 QStringList checkNames() {
     QStringList names = Checker::amountCheckNames() + postingCheckNames() + QStringList{"repeated table"};
-    for (const auto& checks : {numberChecks(), accountChecks(), billChecks(), receiptChecks(), monthChecks(),
-                               voucherChecks(), noticeChecks(), monthNotices(), ledgerChecks(), ledgerNotices()})
+    for (const auto& checks :
+         {numberChecks(), accountChecks(), billChecks(), receiptChecks(), monthChecks(), voucherChecks(), stockChecks(),
+          noticeChecks(), monthNotices(), stockNotices(), ledgerChecks(), ledgerNotices()})
         for (const Check& check : checks)
             names.append(QString::fromLatin1(check.name));
     return names;

@@ -24,6 +24,8 @@ std::span<const Check> noticeChecks(); ///< what actions of the program leave an
 std::span<const Check> monthChecks();
 std::span<const Check> monthNotices();
 std::span<const Check> voucherChecks();
+std::span<const Check> stockChecks();
+std::span<const Check> stockNotices();
 /// Of the accounting database.
 std::span<const Check> ledgerChecks();
 std::span<const Check> ledgerNotices();

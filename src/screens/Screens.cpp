@@ -64,7 +64,9 @@
 #include "session/frmUserRole.h"
 #include "session/frmUsers.h"
 #include "session/frmWelcome.h"
+#include "stock/frmDispensing.h"
 #include "stock/frmDrugPrice.h"
+#include "stock/frmStockEntry.h"
 
 namespace orvane {
 
@@ -150,7 +152,9 @@ constexpr struct {
     {"frmSupplers", make<frmSupplers>},
     {"frmSuppliersAcct", make<frmSuppliersAcct>},
 
+    {"frmDispensing", make<frmDispensing>},
     {"frmDrugPrice", make<frmDrugPrice>},
+    {"frmStockEntry", make<frmStockEntry>},
 };
 
 } // namespace

@@ -17,6 +17,8 @@ public:
     void Form_Load() override;
     bool Form_Unload() override;
 
+    void showDispensing(); ///< the one way to its screen
+
     // Prompts of the day; each puts its line in front of sPrompt when there is something to say.
     void VerifyApptDate();
     void VerifyVisitsToday();

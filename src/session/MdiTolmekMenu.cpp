@@ -63,6 +63,8 @@ const QVector<MdiTolmek::MenuEntry>& MdiTolmek::menuTable() {
         {true, "mnuDFO", "Part Payment [Deposit]", hidden},
         {true, "mnuCBFSO", "Collate Bill forService Outlets", shown, "frmBillingVerify"},
         {true, "mnuCBFHPC", "Collate Bill for Hospital Patients (Cash)", hidden},
+        {true, "mnuDispense", "Dispensing For Injections/Dressing", hidden, nullptr, &M::showDispensing},
+        {true, "mnuStockEntry", "Retail Stock Entry", hidden, "frmStockEntry"},
 
         {false, "mnuSearch", "Searc&h", hidden},
         {true, "mnuEditFind", "Find if a Patient Record Exists", shown, "frmFind"},
@@ -228,6 +230,10 @@ void MdiTolmek::viewToday(const Sql& sql, const QString& emptyMessage, const QSt
         program.box(emptyMessage);
     else
         viewList(program, report, title, rows, sums);
+}
+
+void MdiTolmek::showDispensing() {
+    program.open("frmDispensing");
 }
 
 void MdiTolmek::mnuAcctEnable_Click() {

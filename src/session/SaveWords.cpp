@@ -57,6 +57,9 @@ const QHash<QString, QString>& patterns() {
         {"CASH DISTRIBUTION", "Receipt %1 distributed[: %2]"},
         {"INVENTORY ACCOUNT", "Inventory account of entry %1 saved"},
         {"VOUCHER PAYMENT", "Voucher %1 paid[: %2]"},
+        {"DISPENSING", "Items[ of %2] dispensed for visit %1"},
+        {"STOCK ENTRY", "Stock of %1 entered"},
+        {"STOCK ENTRY EDIT", "Stock entry of %1 changed"},
         {"USER", "User %1 saved"},
         {"PASSWORD", "Password of %1 changed"},
     };

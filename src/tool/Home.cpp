@@ -20,6 +20,8 @@ constexpr const char* menuSection = "[menu]\n"
                                     "mnuRct = 1\n"
                                     "mnuAdmDepo = 1\n"
                                     "mnuDisc = 1\n"
+                                    "mnuDispense = 1\n"
+                                    "mnuStockEntry = 1\n"
                                     "mnusecurity = 0\n";
 
 constexpr const char* printSection = "\n[print]\n"

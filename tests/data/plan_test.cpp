@@ -12,10 +12,12 @@ namespace orvane {
 namespace {
 
 const QSet<QString>& growingTables() {
-    static const QSet<QString> tables = {
-        "hpatients",   "hpatientspublic", "hrecords", "hrecordspublic", "hconsulting", "hadmission",   "hreferal",
-        "happrvcode",  "billaccum",       "billing",  "billingdetails", "payments",    "paymenttypes", "paymentdetails",
-        "tranxaction", "useractivities",  "drugnhis", "labservicenhis", "hservicenhis"};
+    static const QSet<QString> tables = {"hpatients",          "hpatientspublic", "hrecords",        "hrecordspublic",
+                                         "hconsulting",        "hadmission",      "hreferal",        "happrvcode",
+                                         "billaccum",          "billing",         "billingdetails",  "payments",
+                                         "paymenttypes",       "paymentdetails",  "tranxaction",     "useractivities",
+                                         "drugnhis",           "labservicenhis",  "hservicenhis",    "stockentryretail",
+                                         "hconsultingdetails", "hinjanddressing", "hmedchartmonitor"};
     return tables;
 }
 
@@ -26,6 +28,7 @@ bool readsFewRows(const QString& statement, const QString& step) {
     return statement.contains(" where revType='") ||
            (statement.startsWith("select top 1 SNO") && (sqlite || step.contains("Limit"))) ||
            step.contains("ixRecordsUnbilled", Qt::CaseInsensitive) ||
+           step.contains("ixConsultingOpen", Qt::CaseInsensitive) ||
            statement.startsWith("select sum(AmountBilled) as totAmt"); // of all bills there are
 }
 

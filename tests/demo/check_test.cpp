@@ -228,6 +228,14 @@ const Plant plants[] = {
      {"insert into Tranxaction (TranID,AccountNo,Amount) values ('T1','1',5)",
       "insert into TranFromAppsTrail (TranID,TranNoApp,Remarks) values ('T1','I1','PAYABLE')"},
      true},
+    {"stock entry without item", {"insert into StockEntryRetail (ItemID,Qty) values ('GONE',5)"}},
+    {"quantity of a stock entry",
+     {"insert into StockItemsRetail (ItemID) values ('A')",
+      "insert into StockEntryRetail (ItemID,Qty) values ('A',-1)"}},
+    {"injection in part",
+     {"insert into hInjAndDressing (consultID,injname) values ('001OFL0000001','A')",
+      "insert into hMedChartMonitor (consultID,drgName) values ('001OFL0000001','A')"}},
+    {"stock below nothing", {"insert into StockItemsRetail (ItemID,UnitsInStock) values ('A',-1)"}},
     {"posting left over", {"insert into PostingNotes (gTranID,kind) values ('T1','RECEIPT')"}},
 };
 

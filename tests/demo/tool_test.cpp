@@ -154,7 +154,8 @@ TEST_F(Tool, makesTheSameSoundHospitalTwice) {
     ASSERT_EQ(made.code, 0) << made.errors.toStdString();
     const Result check = tool({"check", "--home", home});
     EXPECT_EQ(check.code, 0) << check.out.toStdString();
-    EXPECT_EQ(scalar(home, "select count(*) from vwhConsultingVisitsForBilling where date='2026-03-13'"), "12");
+    EXPECT_EQ(scalar(home, "select count(*) from vwhConsultingVisitsForBilling where date='2026-03-13'"), "10");
+    EXPECT_EQ(scalar(home, "select count(*) from qryhConsultingPatListForInjAndDressingBill"), "2");
     EXPECT_EQ(scalar(home, "select count(*) from hRecords"), "40");
     EXPECT_EQ(scalar(home, "select count(*) from hRecords where BillDate is not null"), "28");
     EXPECT_NE(scalar(home, "select count(*) from Payments"), "0");

@@ -36,7 +36,8 @@ protected:
             makeItem(billing, {.consultID = consultID, .pno = pno, .date = today, .price = 2000});
         }
         QFile settings(home.folder() + "/orvane.ini");
-        ASSERT_TRUE(settings.open(QIODevice::Append) && settings.write("\n[menu]\nmnuRct = 1\n") > 0);
+        ASSERT_TRUE(settings.open(QIODevice::Append) &&
+                    settings.write("\n[menu]\nmnuRct = 1\nmnuDispense = 1\nmnuStockEntry = 1\n") > 0);
         settings.close();
         QFont font = usual;
         font.setPointSizeF(usual.pointSizeF() * GetParam().second);
@@ -201,6 +202,23 @@ TEST_P(KeysTest, AVoucherIsPaidAndARevenueTypeAdded) {
     EXPECT_EQ(boxes, (QStringList{"Are you sure to Save Record", "Record Succesfully Saved"}));
     EXPECT_EQ(rowsOf(billing, "select CatRemarks,Active,AccountNo from hRevenueType where revType='SCANS'"),
               "CLINIC|YES|1210");
+}
+
+TEST_P(KeysTest, APrescriptionIsDispensedAndGoodsAreTakenIn) {
+    const QString give = "frmDispensing.", stock = "frmStockEntry.", outlets = "MdiTolmek.mnuOutlets";
+    Connection billing = program.openBilling();
+    billing.run("update hconsulting set attendedto=0, injprescription='STAT' where PNo='OGINN'");
+    billing.run("update employees set deptID='PHARM' where empID='E001'");
+    work({outlets, "MdiTolmek.mnuDispense", "Down", give + "cboDrug", "'arte", "Down", "Return", give + "txtQty", "'2",
+          give + "txtUsage", "'STAT", "Return", "Ctrl+S"});
+    EXPECT_EQ(boxes, (QStringList{"Are you sure to save?", "Record Succesfully saved"}));
+    EXPECT_EQ(rowsOf(billing, "select injname,numOfTimes from hInjAndDressing"), "ARTEMETHER INJECTION|2");
+    boxes.clear();
+    work({"Esc", outlets, "MdiTolmek.mnuStockEntry", "'parac", "Down", "Return", stock + "txtFields(0)", "'7",
+          stock + "cboDriver", "Down", "Return"});
+    EXPECT_EQ(boxes, QStringList{"Record Succesfully saved"});
+    EXPECT_EQ(rowsOf(billing, "select UnitsInStock from StockItemsRetail where ItemID='PARACETAMOL 500MG'"), "507");
+    EXPECT_EQ(target(), bindingOf(stock + "cboVehNo")->widget()) << "where the next entry begins";
 }
 
 } // namespace

@@ -49,6 +49,7 @@ public:
         if (m_options.contains("linger"))
             m_program.data().setStatementHook([](const QString& tsql) {
                 if (tsql == "commit transaction" || tsql.startsWith("insert into [Tranxaction]") ||
+                    tsql.startsWith("update StockItemsRetail") || tsql.startsWith("insert into [BillAccum]") ||
                     tsql.startsWith("update Billing set isprocess=1") ||
                     tsql.startsWith("insert into TranFromAppsTrail"))
                     QThread::msleep(3);
@@ -61,6 +62,8 @@ public:
             listBatch();
         if (const QString form = postingForm(); !form.isEmpty())
             m_program.open(form);
+        if (m_options.contains("storekeeper"))
+            enterDispensing();
         tell({"ready"});
         QTextStream(stdin).readLine();
         around(m_program, [&] { workRounds(numbers, rounds); });
@@ -71,6 +74,8 @@ public:
             m_number = number.toInt();
             if (m_options.contains("officer"))
                 processBatch();
+            if (m_options.contains("storekeeper"))
+                press("frmDispensing", "dispensed");
             for (int round = 0; round < rounds; ++round)
                 workRound(round);
         }
@@ -124,7 +129,37 @@ private:
         }
     }
 
+    void enterDispensing() {
+        Hand hand = openScreen(m_program, "frmDispensing");
+        hand.chooseContaining("cboVehNo", visitOfWorkers(0));
+        hand.choose("cboDrug", "ARTEMETHER INJECTION");
+        hand.type("txtQty", "1");
+        hand.type("txtUsage", "STAT");
+        hand.click("cmdAdd");
+    }
+
+    void press(const QString& form, const char* kind) {
+        Hand(m_program.form(form)).click("OKButton");
+        tell({kind, m_ui.takeBoxes().join(" / ")});
+    }
+
+    void workInStore(int round) {
+        const QString qty = QString::number(m_number + 1 + round);
+        Hand hand = openScreen(m_program, "frmStockEntry");
+        hand.choose("cboVehNo", "PARACETAMOL 500MG");
+        hand.type("txtFields(0)", qty);
+        hand.chooseContaining("cboDriver", "BELLO");
+        hand.click("OKButton");
+        expectBoxes("goods", {saved});
+        tell({"goods", qty});
+        hand.click("cmdEdit");
+        hand.type("txtFields(0)", QString::number(50 + m_number));
+        press("frmStockEntry", "changed");
+    }
+
     void workRound(int round) {
+        if (m_options.contains("storekeeper"))
+            return attempt([&] { workInStore(round); });
         if (m_options.contains("cashier"))
             return workOnBatch(round);
         if (!postingForm().isEmpty())
@@ -149,7 +184,8 @@ private:
         } catch (const DataError& fault) {
             tell({"trouble", fault.description()});
         }
-        for (const char* name : {"frmRecordsOffline", "frmReceiptDeposit", "frmBillingVerify", "frmReceiptTemp"})
+        for (const char* name :
+             {"frmRecordsOffline", "frmReceiptDeposit", "frmBillingVerify", "frmReceiptTemp", "frmStockEntry"})
             if (Form* form = m_program.loadedForm(QLatin1String(name)))
                 form->abandon();
         m_program.deleteClosedForms();

@@ -31,13 +31,15 @@ inline const QStringList savesOfARound = {"visit", "deposit", "paidbill", "bill"
 ///   cashier      a round adds an item to each third bill of the batch instead
 ///   cash         a round lists the day's cash and posts it instead
 ///   invoices     a round posts the month's invoices instead
+///   storekeeper  first dispenses for one visit, which it has entered before it is ready; a round brings in goods of one
+///                item and changes the newest entry instead
 ///   no-gate      transactions do not take the money gate
 ///   linger       waits between reading a balance and writing the next one, and before each commit, so that the others
 ///                come upon it
 /// Writes "ready" and begins when a line comes in. Then it writes a line of words apart by tabs for each save that the
 /// screen reported (amounts in naira, minus for a reversal):
 ///   visit NUMBER PATIENT, bill NUMBER, and deposit | paidbill | receipt | reversal RECEIPT BILL AMOUNT
-///   run BOXES, refused NUMBER, posted BOXES
+///   run BOXES, refused NUMBER, posted BOXES, dispensed BOXES, goods QUANTITY, changed BOXES
 /// further "item BILL PRICE" for each item that it laid, and "trouble TEXT" for each save that was refused or
 /// faulty. Gives the exit code. `around` is given the running program and the work, which it must do.
 using AroundWork = std::function<void(Program&, const std::function<void()>& work)>;

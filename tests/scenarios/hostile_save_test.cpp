@@ -219,6 +219,21 @@ const QVector<Save>& saves() {
          {{"cboCat", "select top 1 PaymentFor from Payments order by SNo desc"},
           {"cboPay", "select top 1 PayType from Payments order by SNo desc"}},
          "OKButton"},
+        {"frmDispensing",
+         [](HostileSave& at) {
+             at.run("update hconsulting set attendedto=0, injprescription='STAT' where consultID='001OFL0000001'");
+             at.click("cmdRefresh");
+             at.fill("cboVehNo=ADEYEMI BOLA [001OFL0000001]|cboDrug=ARTEMETHER INJECTION|txtQty=1");
+         },
+         {{"txtUsage", "select top 1 usage from hConsultingDetails order by SNo desc"},
+          {"txtUsage", "select top 1 dosage from hInjAndDressing order by SNo desc"},
+          {"txtUsage", "select top 1 dosage from hMedChartMonitor order by SNo desc"}},
+         "OKButton",
+         [](HostileSave& at) { at.click("cmdAdd"); }},
+        {"frmStockEntry",
+         [](HostileSave& at) { at.fill("cboVehNo=PARACETAMOL 500MG|txtFields(0)=1|cboDriver=OKAFOR CHIDI [D001]"); },
+         {{"txtFields(1)", "select top 1 Comments from StockEntryRetail order by EntryID desc", true}},
+         "OKButton"},
         {"frmUsers",
          [](HostileSave& at) {
              at.run("delete from ApplicationUsers where Username<>'amina.b'");
@@ -256,6 +271,7 @@ const QVector<Save>& saves() {
 void HostileSave::prepare(Connection& billing) {
     billing.run("update AppDefaults set idval='NO' where ID='LockPrice'");
     billing.run("insert into LagosBranches (BranchCode) values ('ANNEX')");
+    billing.run("update employees set deptID='PHARM' where empID='D001'");
     makePatient(billing, {.pno = "P/0003", .surname = "CLERK", .category = "MTHLY", .client = "0102"});
     makeVisit(billing, {.consultID = companyBill, .pno = "P/0003", .category = "MTHLY", .client = "0102"});
     makeItem(billing, {.consultID = companyBill, .pno = "P/0003", .client = "0102", .price = 1500});

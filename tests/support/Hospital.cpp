@@ -31,7 +31,7 @@ const char* const hospitalRows[] = {
     "insert into clinicTypes (ClinicID, ConFee, Code, rctCode) values ('OPD', 2000, 'OP', 'OP'), "
     "('ANTENATAL', 1501.5, 'AN', 'AN')",
     "insert into hOutletTypes (ItemName, ItemCode) values ('LABORATORY', 'LB'), ('PHARMACY', 'PH')",
-    "insert into drugcategories (drgCatname, catremarks) values ('TABLETS', 'ORAL'), ('INJECTIONS', 'INJECTION')",
+    "insert into drugcategories (drgCatname, catremarks) values ('TABLETS', 'ORAL'), ('INJECTIONS', 'INJECTIONS')",
     "insert into billingPrice (clientCatID, clientType, pcent, pvalue) values ('PRIVATE','PRIVATE',0,0), "
     "('HMO','HMO',0,0), ('NHIS','NHIS',0,0), ('PHIS','NHIS',0,0), ('COMPANY','COMPANY',0,0), "
     "('MTHLY','COMPANY',0,0), ('3MTHLY','COMPANY',0,0), ('6MTHLY','COMPANY',0,0)",

@@ -213,6 +213,40 @@ void enterRevenueRename(Workstation& ws) {
     fill(ws, "frmRevCat", {{"txtNAme", "PHARMACY"}, {"cboVehNo", "CLINIC"}});
 }
 
+/// A prescription that waits for the pharmacist.
+void layPrescription(Workstation& ws) {
+    layVisit(ws);
+    ws.run("insert into hconsulting (consultID, PNo, injprescription) values ('001OFL0000001', 'P/0001', 'STAT')");
+}
+
+void enterDispensing(Workstation& ws) {
+    ws.open("frmDispensing");
+    ws.pick("frmDispensing.cboVehNo", bill);
+    fill(ws, "frmDispensing", {{"cboDrug", "ARTEMETHER INJECTION"}, {"txtQty", "3"}, {"txtUsage", "STAT"}});
+    ws.click("frmDispensing.cmdAdd");
+}
+
+void layStore(Workstation& ws) {
+    ws.run("update employees set deptID='PHARM' where empID='E001'");
+    ws.run("update StockItemsRetail set QuantityPerUnit='10'");
+    ws.run("insert into StockItems (ItemID, UnitPrice) values ('PARACETAMOL 500MG', 705)");
+}
+
+void enterStockEntry(Workstation& ws) {
+    ws.open("frmStockEntry");
+    ws.pick("frmStockEntry.cboVehNo", item);
+    ws.set("frmStockEntry.txtFields(0)", "7");
+    ws.pick("frmStockEntry.cboDriver", 0);
+}
+
+void enterStockEdit(Workstation& ws) {
+    ws.open("frmStockEntry");
+    ws.pick("frmStockEntry.cboVehNo", item);
+    ws.row("frmStockEntry.grdData", 0);
+    ws.click("frmStockEntry.cmdEdit");
+    ws.set("frmStockEntry.txtFields(0)", "0");
+}
+
 const char* const saved = "box Record Succesfully saved";
 const char* const receiptShown = "opened frmCashReceipt";
 
@@ -302,6 +336,15 @@ const QList<MoneyAction>& moneyActions() {
             {"Approval", layInsured, enterApproval, "frmApprvCode.OKButton", "", saved, true},
             {"DrugPrice", layVisit, enterDrugPrice, "frmDrugPrice.OKButton", "yes", "box Record Succesfully updated",
              true},
+            {"Dispensing", layPrescription, enterDispensing, "frmDispensing.OKButton", "yes", saved},
+            {"StockEntry", layStore, enterStockEntry, "frmStockEntry.OKButton", "", saved},
+            {"StockEntryEdit",
+             [](Workstation& ws) {
+                 layStore(ws);
+                 enterStockEntry(ws);
+                 ws.click("frmStockEntry.OKButton");
+             },
+             enterStockEdit, "frmStockEntry.OKButton", "", "box Record Succesfully updated", true},
             {"FeeForService", layInsured,
              [](Workstation& ws) {
                  openOnBill(ws, "frmBillPat");
@@ -425,6 +468,12 @@ QString moneyFigures(Workstation& ws) {
         {"billDiscounts", "", "Amount"},
         {"hApprvCode", "1=1"},
         {"Drugs", "", "Cost"},
+        {"StockItemsRetail", "", "UnitsInStock; Reorderlevel"},
+        {"StockEntryRetail", "1=1", "Qty"},
+        {"hConsultingDetails", "1=1"},
+        {"hInjAndDressing", "1=1"},
+        {"hMedChartMonitor", "1=1"},
+        {"hconsulting", "attendedto=1"},
         {"ApplicationUsers", "1=1"},
         {"Roles", "1=1"},
         {"UserRoles", "1=1"},

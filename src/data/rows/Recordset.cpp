@@ -14,9 +14,9 @@ namespace {
 
 /// The table of "select * from T where 1=2", which is opened only to add a row; null for any other statement.
 const Table* tableOfEmptyRows(const QString& tsql, const QString& database) {
-    static const QRegularExpression form("^select\\s+\\*\\s+from\\s+(\\w+)\\s+where\\s+1\\s*=\\s*2$",
+    static const QRegularExpression form("^select\\s+\\*\\s+from\\s+(\\w+)\\s+where\\s+1\\s*=\\s*2\\s*$",
                                          QRegularExpression::CaseInsensitiveOption);
-    if (!tsql.endsWith(u'2'))
+    if (!QStringView(tsql).trimmed().endsWith(u'2'))
         return nullptr;
     const QRegularExpressionMatch match = form.match(tsql);
     return match.hasMatch() ? Catalog::instance().table(match.captured(1), database) : nullptr;

@@ -209,6 +209,15 @@ drop index ixRecordsBatch on hRecords
 go
 create index ixRecordsBatch on hRecords (convert(varchar(7), BillDate, 111), coyName, PNo, consultID, BillDate)
 )"},
+    {6, "billing", "the indexes by which prescriptions that wait, what was dispensed, and entries of stock are found", R"(
+create index ixConsultingOpen on hconsulting (consultID) where attendedto = 0
+go
+create index ixDispensedConsultID on hConsultingDetails (consultID)
+go
+create index ixMedChartConsultID on hMedChartMonitor (consultID)
+go
+create index ixStockEntryRetailItem on StockEntryRetail (ItemID, EntryID)
+)"},
 };
 
 } // namespace
