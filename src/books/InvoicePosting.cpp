@@ -67,6 +67,7 @@ Given<QStringList> postAll(LedgerDesk& ledgerDesk, const InvoiceReader& read,
                            const std::function<void(int, int)>& watch) {
     Connection accounting = ledgerDesk.openAccounting();
     Transaction transaction(accounting);
+    ledgerDesk.settleNotes(accounting);
     const BookContext& context = ledgerDesk.billing().context();
     Connection billing = ledgerDesk.billing().open();
     const QSet<QString> posted = postedSources(accounting, receivable);
@@ -97,8 +98,11 @@ Given<int> postInvoices(LedgerDesk& ledgerDesk, const QString& month, const QStr
     const Given<QStringList> posted = postAll(
         ledgerDesk,
         [&](Connection& billing, const QSet<QString>&) {
-            return readInvoicesToPost(billing, Sql("isPost=0 and BillMonth ='")
-                                                   << month << "' and BillYear ='" << year << "'");
+            QVector<InvoiceToPost> invoices = readInvoicesToPost(
+                billing, Sql("isPost=0 and BillMonth ='") << month << "' and BillYear ='" << year << "'");
+            for (InvoiceToPost& invoice : invoices)
+                invoice.date = invoices.first().date;
+            return invoices;
         },
         watch);
     if (!posted)

@@ -41,7 +41,9 @@ public:
 
     /// Finishes or drops what earlier postings left over. Gives the transactions that are in the ledger.
     QStringList settle();
-    /// What `settle` and `post` have settled, a sentence each; once.
+    /// The same for who holds the gate of the accounting database, in a transaction of this connection.
+    QStringList settleNotes(Connection& accounting);
+    /// What was settled, a sentence each; once.
     QStringList takeSettled() { return std::exchange(m_settled, {}); }
 
     const Desk& billing() const { return m_desk; }
@@ -56,7 +58,6 @@ private:
         QVector<LedgerEntry> entries;
         double amount = 0; ///< of the debits, naira
     };
-    QStringList settleNotes(Connection& accounting);
     Given<Noted> note(Ledger& ledger, const Posting& posting);
     Given<Noted> savedNote(Ledger& ledger, const Posting& posting);
     void drop(const PostingNote& note);

@@ -36,6 +36,8 @@ void frmBillProcessingPost::post() {
     const Given<int> posted = postInvoices(ledger, period.cboMonth.text(), period.cboYear.text(),
                                            [this](int done, int all) { bar.show(qRound(100.0 / all) * done); });
     ui().setBusy(false);
+    for (const QString& settled : ledger.takeSettled())
+        program.box(settled);
     if (posted)
         showPosted(*posted);
     else if (posted.refusal() == Refusal::NothingToPost) {
