@@ -6,7 +6,8 @@ create view qryhConsultingPatListForInjAndDressingBill as
 select c.consultID, p.psurname as pSurname, p.pfirstname, h.PNo as pno, h.clientCat as clientcat, c.injprescription,
     case when exists (select a.SNo from hAdmission a where a.consultID = c.consultID and a.DischDate is null)
         then 'ADMISSION' else h.Remarks end as remarks,
-    c.treatedby, year(h.recDate) - year(p.DOB) as Age
+    c.treatedby, year(h.recDate) - year(p.DOB) - case
+        when month(h.recDate) * 100 + day(h.recDate) < month(p.DOB) * 100 + day(p.DOB) then 1 else 0 end as Age
 from hconsulting c
 inner join hRecords h on h.consultID = c.consultID
 left join hPatients p on p.PNo = h.PNo

@@ -1,5 +1,6 @@
 #include "books/Dispensing.h"
 
+#include "books/Bill.h"
 #include "books/BillItem.h"
 #include "data/words/Money.h"
 
@@ -8,6 +9,8 @@
 namespace orvane {
 
 namespace {
+
+constexpr auto hospitalNumber = "0"; ///< as every session has it
 
 QString shownNumber(double qty) {
     return QString::number(qty, 'g', 15);
@@ -56,7 +59,7 @@ void addTreatment(Books& books, const Dispensing& given, const DispensedItem& it
     chart.update();
 }
 
-BillItem waitingItem(const Books& books, const Dispensing& given, const DispensedItem& item) {
+BillItem waitingItem(const Dispensing& given, const DispensedItem& item) {
     return {.date = given.date,
             .consultID = given.consultID,
             .pno = given.pno,
@@ -64,7 +67,7 @@ BillItem waitingItem(const Books& books, const Dispensing& given, const Dispense
             .price = item.price,
             .qty = item.qty,
             .subTotal = item.subTotal(),
-            .billType = isInjectionOrDressing(item.category) ? "DRUG" : books.settings().hospital,
+            .billType = isInjectionOrDressing(item.category) ? "DRUG" : hospitalNumber,
             .capitated = {}}; // the collation finds that out
 }
 
@@ -106,10 +109,12 @@ Given<Saved> dispense(Books& books, const Dispensing& given) {
                                 << given.consultID << "'");
     if (waiting.eof() || waiting.text("pno") != given.pno)
         return Refusal::AlreadyDispensed;
+    if (isBillProcessed(books.connection, given.consultID))
+        return Refusal::BillProcessed;
     const bool isInWard = waiting.text("remarks") == "ADMISSION";
     bool isDone = false;
     for (const DispensedItem& item : given.items) {
-        addItem(books, waitingItem(books, given, item));
+        addItem(books, waitingItem(given, item));
         addDispensed(books, given, item);
         isDone = isDone || isInjectionOrDressing(item.category);
         if (isInjectionOrDressing(item.category) && !isInWard)

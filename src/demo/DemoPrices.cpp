@@ -27,9 +27,9 @@ const QHash<QString, QString> revenueTypeOfCategory = {
     {"CARDIOLOGY", "RADIOLOGY"},
 };
 
-/// What is given in the injection room stands in a group of its own.
-const QHash<QString, QString> groupOfCategory = {
-    {"INJECTIONS", "INJECTIONS"}, {"VACCINES", "INJECTIONS"}, {"DRESSING", "DRESSING"}};
+/// What is given in the injection room stands in a group of its own. Vaccines are given elsewhere: a prescription ends
+/// with an injection or a dressing only.
+const QHash<QString, QString> groupOfCategory = {{"INJECTIONS", "INJECTIONS"}, {"DRESSING", "DRESSING"}};
 
 /// Categories that capitation contracts mostly cover.
 const QStringList capitatedCategories = {"CONSULTATION", "TABLETS",     "CAPSULES",    "SYRUP",
