@@ -83,7 +83,7 @@ bool frmExpensePay::isItemComplete() {
                    {cboExpense.text().isEmpty(), "Please enter Expense Acct Name (Acct to Debit) ", &cboExpense},
                    {cboBank.text().isEmpty(), "Please enter paying Acct Name (Acct to Credit)", &cboBank},
                    {cboCat.text().isEmpty(), "Please enter Recipient Name ", &cboCat},
-                   {!qty, "Please specify Quantity Needed in Figures ", &txtQty},
+                   {qty.value_or(0) <= 0, "Please specify Quantity Needed in Figures ", &txtQty},
                    {!price, "Please specify Unit Price  in Figures ", &txtPrice},
                    {price.value_or(1) <= 0, "Please specify Unit Price  above zero", &txtPrice},
                    {cboDrug.text().isEmpty(), "Please specify Drug/Service used ", &cboDrug}});

@@ -3,6 +3,7 @@
 #include "books/Bill.h"
 #include "books/BillItem.h"
 #include "books/BillLine.h"
+#include "books/Limits.h"
 #include "books/PatientAccount.h"
 #include "data/words/Money.h"
 
@@ -91,6 +92,8 @@ Given<Saved> adjustItem(Books& books, const ItemAdjustment& now) {
     const ItemChange& change = now.change;
     if (isBillProcessed(books.connection, change.billNo))
         return Refusal::BillProcessed;
+    if (const auto refusal = whyNotCharged(change.newItem, change.newAmount(), change.oldAmount()))
+        return *refusal;
     Recordset item = itemOf(books, change);
     requireUnchanged(item, change);
     saveItem(item, now);
@@ -133,6 +136,8 @@ Given<Saved> removeItem(Books& books, const ItemChange& change) {
 Given<Saved> adjustPrice(Books& books, const ItemChange& change, const QString& capitated) {
     if (isBillProcessed(books.connection, change.billNo))
         return Refusal::BillProcessed;
+    if (const auto refusal = whyNotCharged(change.newItem, change.newAmount(), change.oldAmount()))
+        return *refusal;
     Recordset item = itemOf(books, change);
     requireUnchanged(item, change);
     setAmounts(item, change);
@@ -155,6 +160,8 @@ Given<Saved> splitPayer(Books& books, const ItemChange& change, const QString& b
 Given<Saved> customiseLine(Books& books, const ItemChange& change, const QString& heading, const QString& billTo) {
     if (isBillProcessed(books.connection, change.billNo))
         return Refusal::BillProcessed;
+    if (const auto refusal = whyNotCharged(change.newItem, change.newAmount(), change.oldAmount()))
+        return *refusal;
     Recordset line = lineOf(books, change);
     requireUnchanged(line, change);
     const double before = line.number("SubTotal");

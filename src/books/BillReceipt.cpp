@@ -1,6 +1,7 @@
 #include "books/BillReceipt.h"
 
 #include "books/Bill.h"
+#include "books/Limits.h"
 #include "books/PatientAccount.h"
 #include "books/Receipt.h"
 #include "books/ReceiptNumber.h"
@@ -35,6 +36,8 @@ Given<QString> enter(Books& books, Receipt receipt, const QString& audited) {
 
 Given<QString> takeReceipt(Books& books, const BillReceipt& receipt) {
     ORVANE_ASSERT(receipt.amount >= 0);
+    if (const auto refusal = whyNotDated(books, receipt.date))
+        return *refusal;
     return enter(books,
                  {.date = receipt.date,
                   .receiptNo = {},

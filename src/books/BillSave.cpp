@@ -4,6 +4,7 @@
 #include "books/BillDate.h"
 #include "books/Collate.h"
 #include "books/Fees.h"
+#include "books/Limits.h"
 #include "books/PatientAccount.h"
 #include "books/Words.h"
 #include "data/words/Money.h"
@@ -66,6 +67,9 @@ void saveReceipt(Books& books, const ReceiptInSave& receipt) {
 } // namespace
 
 Given<Saved> saveBill(Books& books, const BillToSave& bill) {
+    for (const QDate& day : {bill.date, bill.receipt ? bill.receipt->row.date : QDate()})
+        if (const auto refusal = whyNotDated(books, day))
+            return *refusal;
     const BillInHand& visit = bill.visit;
     if (const auto refusal = whyNotBilled(books.connection, visit))
         return *refusal;

@@ -1,6 +1,7 @@
 #include "books/Deposit.h"
 
 #include "books/Bill.h"
+#include "books/Limits.h"
 #include "books/PatientAccount.h"
 #include "books/Receipt.h"
 #include "books/ReceiptNumber.h"
@@ -9,6 +10,8 @@
 namespace orvane {
 
 Given<QString> takeDeposit(Books& books, const Deposit& deposit) {
+    if (const auto refusal = whyNotDated(books, deposit.date))
+        return *refusal;
     if (hasBill(books.connection, deposit.billNo))
         return Refusal::BillExists;
     const Given<ReceiptNumber> receipt =

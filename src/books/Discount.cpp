@@ -2,6 +2,7 @@
 
 #include "books/Bill.h"
 #include "books/BillLine.h"
+#include "books/Limits.h"
 #include "books/Words.h"
 #include "data/words/Money.h"
 
@@ -31,11 +32,21 @@ void moveBill(Books& books, const QString& billNo, double amount) {
     changeBill(books, *bill);
 }
 
+/// Naira; what a bill without its row has due is not known, and nothing.
+double amountDue(Connection& connection, const QString& billNo) {
+    const std::optional<Bill> bill = readBill(connection, billNo);
+    return bill ? round2(bill->amountBilled - bill->amountPaid) : 0;
+}
+
 } // namespace
 
 Given<Saved> addBillDiscount(Books& books, const BillDiscount& discount) {
     if (isBillProcessed(books.connection, discount.billNo))
         return Refusal::BillProcessed;
+    if (const auto refusal = whyNotDated(books, discount.date))
+        return *refusal;
+    if (discount.isDiscount && discount.amount > amountDue(books.connection, discount.billNo))
+        return Refusal::DiscountAboveDue;
     const double amount = discount.isDiscount ? -discount.amount : discount.amount;
     addLines(books, {{.billNo = discount.billNo,
                       .date = discount.date,

@@ -4,6 +4,7 @@
 #include "books/BillInHand.h"
 #include "books/BillItem.h"
 #include "books/BillLine.h"
+#include "books/Limits.h"
 #include "books/Words.h"
 #include "data/words/Money.h"
 
@@ -68,6 +69,8 @@ Given<Saved> addItems(Books& books, const EnteredItems& entered,
     QVector<BillLine> lines;
     double total = 0;
     for (const EnteredItem& item : entered.items) {
+        if (const auto refusal = whyNotCharged(item.name, item.subTotal))
+            return *refusal;
         if (const std::optional<BillLine> line = add(item))
             lines.append(*line);
         total += item.subTotal;

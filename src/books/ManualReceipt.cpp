@@ -1,6 +1,7 @@
 #include "books/ManualReceipt.h"
 
 #include "books/Bill.h"
+#include "books/Limits.h"
 #include "books/PatientAccount.h"
 #include "books/Receipt.h"
 #include "books/ReceiptNumber.h"
@@ -27,6 +28,8 @@ Given<double> billPaper(Books& books, const ManualReceipt& paper) {
 } // namespace
 
 Given<QString> enterManualReceipt(Books& books, const ManualReceipt& paper) {
+    if (const auto refusal = whyNotDated(books, paper.date))
+        return *refusal;
     const QString receiptNo = paperReceiptNumber(paper.paperNo);
     const QString privateClient = books.settings().privateClient;
     const Given<double> total = billPaper(books, paper);

@@ -11,6 +11,9 @@ constexpr struct {
     const char* text;
 } words[] = {
     {Refusal::BillProcessed, "This Bill is already processed! to Modify, unProcess the Batch"},
+    {Refusal::WrongYear, "Please check the Date: its year must be between 1990 and next year"},
+    {Refusal::LessThanNothing, "An Item cannot be charged at less than nothing. Use Discount to lower a Bill"},
+    {Refusal::DiscountAboveDue, "A Discount cannot be above the Amount Due"},
     {Refusal::BillExists, "This page is only for receipt of Advance/Deposit!!! Use Receipt Entry Form"},
     {Refusal::InvoicePosted, "This Batch is posted to the Accounts and cannot be reversed"},
     {Refusal::NoBill, "This Bill does not Exist any more"},

@@ -7,6 +7,9 @@ namespace orvane {
 /// Why a rule of the books did not do what was asked. The row is untouched then and the transaction is rolled back.
 enum class Refusal {
     BillProcessed,     ///< a monthly batch holds the bill, which freezes it
+    WrongYear,         ///< a document's day lies before 1990 or after the next year
+    LessThanNothing,   ///< an item would be charged at a negative amount
+    DiscountAboveDue,  ///< a discount is more than what is due on its bill
     BillExists,        ///< a deposit opens the bill, so there may be none
     InvoicePosted,     ///< the invoice to be taken back is in the ledger
     NoBill,            ///< the bill has no row

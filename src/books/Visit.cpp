@@ -2,6 +2,7 @@
 
 #include "books/Bill.h"
 #include "books/Consultation.h"
+#include "books/Limits.h"
 
 namespace orvane {
 
@@ -92,6 +93,8 @@ bool hasOpenVisit(Connection& connection, const QString& pno, QDate day) {
 }
 
 Given<QString> enterVisit(Books& books, const Visit& visit, const QDateTime& at, const QString& followUpOf) {
+    if (const auto refusal = whyNotDated(books, visit.date))
+        return *refusal;
     if (hasOpenVisit(books.connection, visit.pno, visit.date))
         return Refusal::VisitOpen;
     const QString consultID = genConsultID(books.connection, books.settings().hospital);
@@ -103,6 +106,8 @@ Given<QString> enterVisit(Books& books, const Visit& visit, const QDateTime& at,
 }
 
 Given<Saved> changeVisit(Books& books, qlonglong recID, const Visit& listed, const Visit& visit) {
+    if (const auto refusal = whyNotDated(books, visit.date))
+        return *refusal;
     Recordset row = visitRow(books, recID);
     if (const auto refusal = whyNotChanged(books, row, listed))
         return *refusal;

@@ -55,6 +55,21 @@ constexpr Check checks[] = {
      "BillingDetails group by billNo) d inner join Billing b on b.billNo = d.billNo "
      "where b.billType = 'CASH' and abs(isnull(b.Amountbilled, 0) - isnull(d.SubTotal, 0)) >= 0.005",
      "bill %1: billed %2, but its lines make %3"},
+    {"line below nothing",
+     "select top 1000 d.billNo,d.drgName,d.SubTotal from BillingDetails d where d.SubTotal < 0 and not (d." CARRIED
+     ") and not exists (select 1 from billDiscounts x where x.Remarks = d.drgName)",
+     "bill %1: %2 is charged at %3, but it is no discount and no carried credit"},
+    {"discount above its bill",
+     "select top 1000 x.billNo,x.Amount,d.SubTotal from billDiscounts x inner join (select billNo,sum(SubTotal) as "
+     "SubTotal from BillingDetails where SubTotal > 0 group by billNo) d on d.billNo = x.billNo where x.Amount > "
+     "d.SubTotal",
+     "bill %1: a discount of %2 on items of %3"},
+    {"day out of bounds",
+     "select top 1000 t.Kind,t.Number,t.Day from (select 'visit' as Kind,consultID as Number,recDate as Day from "
+     "hRecords union all select 'bill' as Kind,billNo as Number,bdate as Day from Billing union all select 'receipt' "
+     "as Kind,ReceiptNo as Number,ReceiptDate as Day from Payments union all select 'discount on bill' as Kind,billNo "
+     "as Number,dtDate as Day from billDiscounts) t where year(t.Day) < 1990 or year(t.Day) > year(getdate()) + 1",
+     "%1 %2 is dated %3"},
     // No statement rounds a balance that stands; the next entry of its account does.
     {"part of a kobo",
      "select top 1000 PNo,cast(DebtBF * 10000 as bigint) as Parts from hPatients "

@@ -69,11 +69,11 @@ TEST(Formats, ShowAmountsAsTheScreensDo) {
 
 TEST(Amounts, AreReadOnlyFromPlainNumbers) {
     const std::pair<const char*, double> good[] = {
-        {"1,234.50", 1234.5}, {" 12 ", 12}, {"-0.5", -0.5}, {".5", 0.5}, {"5.", 5}, {"1,2,3", 123}, {"007", 7}};
+        {"1,234.50", 1234.5}, {" 12 ", 12}, {"-0.5", -0.5}, {".5", 0.5}, {"5.", 5}, {"12,345,678.5", 12345678.5}, {"007", 7}};
     for (const auto& [text, value] : good)
         EXPECT_EQ(parseAmount(text), value) << text;
     for (const char* text :
-         {"", " ", ".", "-", "abc", "12a", "inf", "nan", "1e5", "0x10", "1.2.3", ",", "--5", "5-", "1 000", "12,"})
+         {"", " ", ".", "-", "abc", "12a", "inf", "nan", "1e5", "0x10", "1.2.3", ",", "--5", "5-", "1 000", "12,", "1,2,3", "1,23", "1234,567", ",123", "0.004", "-0.0049"})
         EXPECT_EQ(parseAmount(text), std::nullopt) << text;
     EXPECT_EQ(parseAmount(QString(400, u'9')), std::nullopt) << "no amount holds it";
 }

@@ -70,7 +70,7 @@ QString formatNumber(double value, const QString& format) {
 }
 
 std::optional<double> parseAmount(const QString& text) {
-    static const QRegularExpression plain(QStringLiteral(R"(^[+-]?(\d+(,\d+)*)?(\.\d*)?$)"));
+    static const QRegularExpression plain(QStringLiteral(R"(^[+-]?(\d{1,3}(,\d{3})+|\d+)?(\.\d*)?$)"));
     QString trimmed = text.trimmed();
     const bool hasDigit = std::any_of(trimmed.begin(), trimmed.end(),
                                       [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
@@ -78,7 +78,8 @@ std::optional<double> parseAmount(const QString& text) {
         return std::nullopt;
     bool ok = false;
     const double value = trimmed.remove(QLatin1Char(',')).toDouble(&ok);
-    if (!ok || !std::isfinite(value))
+    constexpr double halfKobo = 0.005;
+    if (!ok || !std::isfinite(value) || (value != 0 && std::abs(value) < halfKobo))
         return std::nullopt;
     return value;
 }

@@ -14,8 +14,9 @@ inline QString formatTwoDecimals(double value) {
     return formatNumber(value, "#,##0.00");
 }
 
-/// The number that a text states, its grouping commas stripped; none for an empty text, for anything else than a plain
-/// decimal number, and for one that no amount can hold (infinite).
+/// The number that a text states; none for an empty text, for anything else than a plain decimal number, whose commas,
+/// if it has any, group its thousands, and for one that no amount can hold: infinite, or not nought but less than half
+/// a kobo.
 std::optional<double> parseAmount(const QString& text);
 
 /// The rounding of fees and prices before they are stored: two decimals, half away from zero on the decimal text of the
