@@ -2,6 +2,7 @@
 
 #include "books/Bill.h"
 #include "books/BillLine.h"
+#include "books/OutletBill.h"
 #include "books/Words.h"
 #include "data/words/Money.h"
 
@@ -48,6 +49,8 @@ Given<Saved> addBillDiscount(Books& books, const BillDiscount& discount) {
     if (discount.isDiscount)
         addDiscountRow(books, discount);
     moveBill(books, discount.billNo, amount);
+    if (isOutletBill(discount.billNo))
+        settleOutletDebt(books, discount.billNo, discount.date);
     books.record(discount.billNo, amount);
     return Saved{};
 }
