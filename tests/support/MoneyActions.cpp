@@ -404,7 +404,15 @@ const QList<MoneyAction>& moneyActions() {
             {"OutletBill", layOutlet,
              [](Workstation& ws) { enterOutletBill(ws.program, "001/26/000001", "1500.25", "LABORATORY"); },
              "frmBillingPublic.OKButton", "yes", "opened frmCashReceiptLab"},
-            {"OutletCredit", layOutlet, [](Workstation& ws) { enterOutletBill(ws.program, "001/26/000001", {}, {}); },
+            {"OutletCredit", layOutlet,
+             [](Workstation& ws) {
+                 ws.open("frmBillGen");
+                 ws.row("frmBillGen.grdData", 0);
+                 ws.open("frmBillingPublic");
+                 ws.click("frmBillingPublic.cmdList");
+                 ws.pick("frmBillingPublic.cboVehNo", "001/26/000001");
+                 enterOutletBill(ws.program, {}, {}, {});
+             },
              "frmBillingPublic.OKButton", "yes", saved, true},
             {"User", layVisit, enterUser, "frmUsers.cmdApply", "", "box Account creation succeeded.", true},
             {"Role", layVisit,
