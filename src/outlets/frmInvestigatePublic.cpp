@@ -44,6 +44,7 @@ Layout frmInvestigatePublic::layout() const {
 }
 
 void frmInvestigatePublic::Form_Load() {
+    cmdRefresh_Click();
     reset();
     cmdNew.setFocus();
 }
@@ -99,7 +100,7 @@ void frmInvestigatePublic::reset() {
     lblBill.clear();
     lblClient.clear();
     clearLines();
-    cmdRefresh_Click();
+    clearItem();
 }
 
 void frmInvestigatePublic::clearLines() {
