@@ -1,6 +1,7 @@
 #include "bench/Road.h"
 
 #include "data/rows/Transaction.h"
+#include "demo/DemoOutlets.h"
 #include "support/Hospital.h"
 
 namespace orvane {
@@ -18,8 +19,8 @@ QStringList firstColumn(Connection& connection, const Sql& sql) {
 
 } // namespace
 
-const QStringList Road::actions = {"attendance save",  "deposit", "load of the bill",
-                                   "save of the bill", "receipt", "reversal"};
+const QStringList Road::actions = {"attendance save", "deposit",  "load of the bill", "save of the bill",
+                                   "receipt",         "reversal", "outlet request",   "outlet bill"};
 
 Road::Road(Site& site) : m_site(site) {
     Connection billing = site.program.openBilling();
@@ -60,7 +61,19 @@ void Road::walk(const RoadPatient& patient) {
     takeReceipt(program);
     // The screen leaves the saved receipt selected.
     press("reversal", enterReversal(program), "OKButton", {saved});
+    serveOutlet(patient);
     m_site.tidy();
+}
+
+/// The same person off the street, with five items and a receipt.
+void Road::serveOutlet(const RoadPatient& patient) {
+    QVector<OutletOrder> orders;
+    for (const QString& item : m_items.first(5))
+        orders.append({"DRUG", item, "2"});
+    Hand request = enterOutletRequest(m_site.program, patient.name, patient.number, orders);
+    press("outlet request", request, "OKButton", {"Record Succesfully saved !!! Please collate bill"});
+    request.click("cmdBill");
+    press("outlet bill", enterOutletBill(m_site.program, {}, "1000", "PHARMACY"), "OKButton");
 }
 
 QString Road::attend(const RoadPatient& patient) {

@@ -10,8 +10,8 @@ struct RoadPatient {
     QString number, name;
 };
 
-/// The road of one visit through a workstation's screens, from the attendance to a receipt and its reversal. Each save,
-/// and the load of the bill, is a measured stretch of the site's recorder.
+/// The road of one visit through a workstation's screens, from the attendance to a receipt and its reversal, and of a
+/// customer of an outlet. Each save, and the load of the bill, is a measured stretch of the site's recorder.
 class Road {
 public:
     /// The stretches that a walk measures, in their order.
@@ -28,6 +28,7 @@ public:
 private:
     QString attend(const RoadPatient& patient);
     void seeDoctor(const RoadPatient& patient, const QString& visit);
+    void serveOutlet(const RoadPatient& patient);
     /// Measures the press, which must show these boxes.
     void press(const QString& action, Hand hand, const QString& button, const QStringList& boxes = {});
 

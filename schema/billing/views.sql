@@ -336,9 +336,9 @@ select b.SNo, b.consultID, b.drgName as Service, b.drgName as Drug, b.Category, 
     b.SubTotal, b.usage, b.Capitated, b.billType, b.billTo, b.coyName, b.revType
 from BillAccum b
 go
--- The items of outlet visits with their customer and, where there is one, their bill.
+-- The items of outlet visits with their customer and, where there is one, their bill; of the visit's day.
 create view qryBillAccumPublic as
-select b.SNo, b.dtDate as Date, b.consultID as ConsultID, b.PNo as patno,
+select b.SNo, h.recDate as Date, b.consultID as ConsultID, b.PNo as patno,
     (select max(q.fullname) from hPatientsPublic q where q.PNo = h.PNo) as fullname, h.Remarks,
     r.retainName as coyname, b.drgName as Service, b.Price as UnitPrice, b.Qty, b.SubTotal as Subtotal,
     b.billType as billtype, b.revType, b.conID, b.attendedto as attendedTo, i.Amountbilled, i.AmountPaid, i.profFee,
@@ -625,6 +625,12 @@ left join hPatients p on p.PNo = h.PNo
 left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
 where exists (select d.detID from BillingDetails d where d.billNo = h.consultID)
     or exists (select a.SNo from BillAccum a where a.consultID = h.consultID and a.Capitated = 'YES')
+union all
+select h.consultID as billNo, h.PNo, (select max(q.fullname) from hPatientsPublic q where q.PNo = h.PNo) as fullName,
+    r.retainName as Company, h.recDate as Date, h.clientCat as clientcatID
+from hRecordsPublic h
+left join hRetainership r on r.retainID = h.coyName
+where exists (select d.detID from BillingDetails d where d.billNo = h.consultID)
 go
 -- The lines of a bill, processed or not, with what vwBillingForClaims has of them. A private patient pays himself.
 create view vwBillingForClaimsByPat as
@@ -646,6 +652,21 @@ inner join BillingDetails d on d.billNo = h.consultID
 left join Billing b on b.billNo = h.consultID
 left join hPatients p on p.PNo = h.PNo
 left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
+union all
+select convert(varchar(7), h.recDate, 111) as batchNo, r.retainCode as CoyCode, '' as InvNo, r.retainName as Coyname,
+    (select max(q.fullname) from hPatientsPublic q where q.PNo = h.PNo) as SentTo, '' as SentToAddress,
+    h.consultID as billNo, d.detID as SNO, h.PNo,
+    (select max(q.fullname) from hPatientsPublic q where q.PNo = h.PNo) as Fullname,
+    (select max(q.sex) from hPatientsPublic q where q.PNo = h.PNo) as sex, null as Age, '' as empNo,
+    h.clientCat as pCatid, h.referal, h.recDate as AttdDate, h.recDate as BillDate, b.diagnosis as Diagnosis,
+    '' as ApprvCode, d.dtDate as Date, d.drgName as Service,
+    case when isnull(d.BillHead, '') <> '' then d.BillHead when isnull(d.revType, '') <> '' then d.revType
+        else 'OTHERS' end as BillHead,
+    d.Qty, d.Price, d.SubTotal, 'Total' as TotalLabel
+from hRecordsPublic h
+inner join BillingDetails d on d.billNo = h.consultID
+left join Billing b on b.billNo = h.consultID
+left join hRetainership r on r.retainID = h.coyName
 go
 -- The same lines for the invoice by headings.
 create view vwBillingForCorpClientsByPat as

@@ -24,6 +24,7 @@ void frmRevHeaders::OKButton_Click() {
         return;
     session.sRevHeads = ticked.join(", ");
     unload();
+    picked();
 }
 
 } // namespace orvane

@@ -8,12 +8,16 @@ namespace orvane {
 /// sRevHeads.
 class frmRevHeaders : public Screen {
 public:
-    explicit frmRevHeaders(Program& owner) : Screen(owner, "frmRevHeaders", "Revenue Headers") {}
+    explicit frmRevHeaders(Program& owner) : frmRevHeaders(owner, "frmRevHeaders") {}
 
     Layout layout() const override;
     void Form_Load() override;
     Button* defaultButton() override { return &OKButton; }
     Button* cancelButton() override { return &CancelButton; }
+
+protected:
+    frmRevHeaders(Program& owner, const QString& name) : Screen(owner, name, "Revenue Headers") {}
+    virtual void picked() {} ///< what follows a choice, when this screen has closed
 
 private:
     void OKButton_Click();

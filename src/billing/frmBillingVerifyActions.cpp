@@ -206,8 +206,9 @@ void frmBillingVerify::cmdExt_Click() {
 
 void frmBillingVerify::cmdRev_Click() {
     program.openModal("frmRevHeaders");
-    if (receipt.cboPayFor.isUsable() && !session.sRevHeads.isEmpty())
-        receipt.cboPayFor.setText(session.sRevHeads);
+    const QString heads = std::exchange(session.sRevHeads, QString());
+    if (receipt.cboPayFor.isUsable() && !heads.isEmpty())
+        receipt.cboPayFor.setText(heads);
 }
 
 void frmBillingVerify::cmdPR_Click() {

@@ -2,6 +2,7 @@
 
 #include "books/Bill.h"
 #include "books/Limits.h"
+#include "books/OutletBill.h"
 #include "books/PatientAccount.h"
 #include "books/Receipt.h"
 #include "books/ReceiptNumber.h"
@@ -21,13 +22,18 @@ Given<QString> enter(Books& books, Receipt receipt, const QString& audited) {
         return next.refusal();
     receipt.receiptNo = next->number;
     addReceipt(books, receipt);
-    postPatientTran(books, {.pno = receipt.pno,
-                            .billNo = receipt.billNo,
-                            .amount = receipt.amountPaid,
-                            .clientCode = books.settings().privateClient,
-                            .remarks = "Payment"});
+    // An outlet's customer has no running account: what he owes stands in hDebtors.
+    const bool outlet = isOutletBill(receipt.billNo);
+    if (!outlet)
+        postPatientTran(books, {.pno = receipt.pno,
+                                .billNo = receipt.billNo,
+                                .amount = receipt.amountPaid,
+                                .clientCode = books.settings().privateClient,
+                                .remarks = "Payment"});
     books.audit({audited, receipt.billNo, formatTwoDecimals(receipt.amountPaid)});
     payBill(books, receipt.billNo, receipt.amountPaid);
+    if (outlet)
+        settleOutletDebt(books, receipt.billNo, receipt.date);
     books.record(receipt.receiptNo, receipt.amountPaid);
     return receipt.receiptNo;
 }

@@ -3,6 +3,7 @@
 #include "books/Bill.h"
 #include "books/BillLine.h"
 #include "books/Limits.h"
+#include "books/OutletBill.h"
 #include "books/Words.h"
 #include "data/words/Money.h"
 
@@ -59,6 +60,8 @@ Given<Saved> addBillDiscount(Books& books, const BillDiscount& discount) {
     if (discount.isDiscount)
         addDiscountRow(books, discount);
     moveBill(books, discount.billNo, amount);
+    if (isOutletBill(discount.billNo))
+        settleOutletDebt(books, discount.billNo, discount.date);
     books.record(discount.billNo, amount);
     return Saved{};
 }

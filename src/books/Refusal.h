@@ -28,6 +28,8 @@ enum class Refusal {
     NoClient,          ///< the visit's client is not in the list of clients
     NoConsultID,       ///< no receipt number: the visit's clinic has no code
     NoTranID,          ///< no receipt number: the outlet's item has no code
+    NothingToCollate,  ///< no item of the outlet's visit waits for its bill
+    OutletItemsMoved,  ///< the waiting items of the outlet's visit are not those that its cashier saw
     NoNumber,          ///< no receipt number: the counter gave none
     VisitOpen,         ///< the patient's visit of that day is still open
     VisitGone,         ///< the visit under edit was deleted

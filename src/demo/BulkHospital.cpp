@@ -4,6 +4,7 @@
 #include "books/Consultation.h"
 #include "data/rows/Transaction.h"
 #include "data/words/Money.h"
+#include "demo/BulkOutlets.h"
 #include "demo/BulkRows.h"
 
 #include <cmath>
@@ -309,6 +310,7 @@ void makeBulkHospital(DemoHospital& hospital, Connection& billing, Connection& a
     writePatients(billing, hospital);
     billing.execute(Sql("update IDgen set ID=") << bulk.receipts() << " where DestName='RECEIPT2'");
     checkItemNumbers(billing, bulk.items());
+    makeBulkOutlets(billing, hospital);
     transaction.commit();
     progress(QStringLiteral("%1 patients are in.").arg(hospital.patients.size()));
 }

@@ -3,6 +3,7 @@
 #include "data/rows/Transaction.h"
 #include "demo/DemoBilling.h"
 #include "demo/DemoMonth.h"
+#include "demo/DemoOutlets.h"
 #include "demo/DemoPharmacy.h"
 #include "play/Hand.h"
 #include "screens/Screens.h"
@@ -21,6 +22,7 @@ constexpr int admittedVisits = 3;  ///< of the last day, still in a ward
 constexpr int waitingVisits = 12;  ///< of the last day, for the officer who tries the program
 constexpr int injectionsEvery = 4; ///< visits
 constexpr int goodsEvery = 5;      ///< days
+constexpr int outletDays = 31;     ///< up to the last day
 const QTime opening(8, 0);
 
 /// Categories whose contracts cover what is dispensed.
@@ -95,6 +97,8 @@ public:
             m_billing.bill(visits.at(i));
         }
         setTime(opening.addSecs(60 * 60 * 10));
+        if (m_day > m_hospital.options.until.addDays(-outletDays))
+            serve();
         if (m_day.day() == emergencyDay)
             splitBill(m_program, m_ui, m_day, visits.last().consultID);
         if (m_day.daysInMonth() == m_day.day())
@@ -149,6 +153,13 @@ private:
         if (boxes != QStringList{"Record Succesfully saved"})
             throw DataError(QStringLiteral("The visit of %1 was not saved: %2").arg(patient.number, boxes.join(" / ")));
         return visit;
+    }
+
+    /// From numbers of its own, so that the outlets change nothing of the hospital's visits.
+    void serve() {
+        DemoRandom random(m_hospital.options.seed + quint64(m_day.toJulianDay()));
+        m_ui.takeBoxes();
+        serveOutlets(m_program, m_ui, m_hospital, m_day, random);
     }
 
     /// The doctors' part, which another program of the hospital writes.

@@ -62,6 +62,9 @@ public:
     /// What it needs, not what it would like: lists and notes give way before anything has to be scrolled to.
     int heightForWidth(int width) const override;
 
+Q_SIGNALS:
+    void listHandled(); ///< the user has scrolled a list, sorted it or gone on in it
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 

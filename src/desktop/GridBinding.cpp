@@ -7,8 +7,10 @@
 #include "forms/Form.h"
 #include "reports/Workbook.h"
 
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QScrollBar>
 
 namespace orvane {
 
@@ -44,8 +46,18 @@ GridBinding::GridBinding(FormView& view, Control& grid, QWidget* parent, TableMo
         m_table->setAccessibleDescription("Enter opens the row");
     m_table->columns().setChoice(ColumnChoice::of(view.memory().value(m_memoryKey)));
     connect(m_table, &TableView::rowPicked, this, &GridBinding::pick);
+    connect(m_table, &TableView::rowReached, this, &GridBinding::reach);
+    followUser();
     connect(m_table, &TableView::rowOpened, this, &GridBinding::open);
     connect(m_table, &TableView::menuWanted, this, &GridBinding::openMenu);
+}
+
+/// Timers of the form rest for him.
+void GridBinding::followUser() {
+    const auto handled = [this] { Q_EMIT view().listHandled(); };
+    connect(m_table->verticalScrollBar(), &QAbstractSlider::actionTriggered, this, handled);
+    connect(m_table->horizontalHeader(), &QHeaderView::sectionPressed, this, handled);
+    connect(m_table, &TableView::rowReached, this, handled);
 }
 
 int GridBinding::currentRow() const {
@@ -74,6 +86,25 @@ EntryGrid* GridBinding::linesToDelete() const {
     auto* lines =
         control() && control()->kind() == ControlKind::EntryGrid ? static_cast<EntryGrid*>(control()) : nullptr;
     return lines && lines->onDelete ? lines : nullptr;
+}
+
+bool GridBinding::clickDeletes() const {
+    return linesToDelete() && control()->onClick;
+}
+
+/// Who goes through lines that a click takes away means to look at them.
+void GridBinding::reach(int viewRow) {
+    if (!clickDeletes())
+        pick(viewRow);
+}
+
+/// The line that was reached last; where a click takes it away, that is done with it.
+void GridBinding::deleteLine(EntryGrid& lines) {
+    const unsigned before = lines.contentRevision();
+    if (m_table->currentIndex().isValid() && m_model->controlRow(m_table->currentIndex().row()) != currentRow())
+        pick(m_table->currentIndex().row());
+    if (control() && lines.contentRevision() == before)
+        press([&lines] { lines.pressDelete(); });
 }
 
 void GridBinding::pick(int viewRow) {
@@ -124,7 +155,7 @@ bool GridBinding::eventFilter(QObject* watched, QEvent* event) {
     const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
     if (EntryGrid* lines = linesToDelete()) {
         if (key == Qt::Key_Delete) {
-            press([lines] { lines->pressDelete(); });
+            deleteLine(*lines);
             return true;
         }
     } else if (key != 0 && control() && control()->onDblClick) {

@@ -31,8 +31,12 @@ private:
     void openMenu(QPoint place);
     int currentRow() const;
     void pick(int viewRow);
+    void reach(int viewRow);
+    void deleteLine(EntryGrid& lines);
+    void followUser();
     void open(int viewRow);
     EntryGrid* linesToDelete() const; ///< null: its lines cannot be deleted
+    bool clickDeletes() const;        ///< a click on a line takes it away
 
     TableModel* m_model;
     TableView* m_table;

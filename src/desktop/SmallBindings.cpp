@@ -17,6 +17,9 @@ namespace orvane {
 
 namespace {
 
+/// A timer rests so long after a list was scrolled, so that its user can read what he has scrolled to.
+constexpr int ticksAfterAList = 2;
+
 /// Click and double click of a control that is no input: a strip, a picture, a label.
 void raiseMouse(Binding& binding, QEvent* event) {
     const QPointer<Control> control(binding.control());
@@ -300,10 +303,14 @@ void StatusBinding::refresh() {
 
 TimerBinding::TimerBinding(FormView& view, Timer& timer) : Binding(view, timer, nullptr), m_timer(&timer) {
     connect(
-        &m_clock, &QTimer::timeout, this, [this] {
-            if (!isWorking())
+        &m_clock, &QTimer::timeout, this,
+        [this] {
+            if (m_rest > 0)
+                --m_rest;
+            else if (!isWorking())
                 byItself([this] { m_timer->tick(); });
         });
+    connect(&view, &FormView::listHandled, this, [this] { m_rest = ticksAfterAList; });
 }
 
 void TimerBinding::refresh() {

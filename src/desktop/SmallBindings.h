@@ -228,6 +228,7 @@ private:
     QLabel* m_message;
 };
 
+/// A timer rests while its user scrolls or sorts a list of the form: what it would do may read the list anew.
 class TimerBinding : public Binding {
     Q_OBJECT
 
@@ -241,6 +242,7 @@ protected:
 private:
     Timer* m_timer;
     QTimer m_clock;
+    int m_rest = 0; ///< ticks that are still left out
 };
 
 } // namespace orvane

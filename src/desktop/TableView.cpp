@@ -149,7 +149,7 @@ void TableView::keyPressEvent(QKeyEvent* event) {
     QTableView::keyPressEvent(event);
     keepCurrentMarked();
     if (currentIndex().isValid() && currentIndex().row() != row)
-        Q_EMIT rowPicked(currentIndex().row());
+        Q_EMIT rowReached(currentIndex().row());
 }
 
 void TableView::mousePressEvent(QMouseEvent* event) {

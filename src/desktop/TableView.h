@@ -28,6 +28,7 @@ public:
 
 Q_SIGNALS:
     void rowPicked(int row);       ///< the user has chosen a row of the view
+    void rowReached(int row);      ///< he has gone on to it with the keys
     void rowOpened(int row);       ///< double click or Enter
     void markedChanged();          ///< other rows may be marked
     void findWanted();             ///< the line that finds a text is asked for

@@ -11,12 +11,13 @@ namespace {
     "on p.billNo = j.billNo and p.BillItem = j.BillItem)"
 
 constexpr Check checks[] = {
-    // A bill from a paper receipt (type CASH) states its amount without lines.
+    // A bill from a paper receipt (type CASH) states its amount without lines; an outlet's, of the same type, has them.
     {"amount billed",
      "select top 1000 b.billNo,b.Amountbilled,d.SubTotal from (select billNo,sum(SubTotal) as SubTotal from "
      "BillingDetails "
      "group by billNo) d inner join Billing b on b.billNo = d.billNo "
-     "where isnull(b.billType, '') <> 'CASH' and abs(isnull(b.Amountbilled, 0) - isnull(d.SubTotal, 0)) > 0.005",
+     "where (isnull(b.billType, '') <> 'CASH' or SUBSTRING(b.billNo, 7, 1) = '/') and abs(isnull(b.Amountbilled, 0) - "
+     "isnull(d.SubTotal, 0)) > 0.005",
      "bill %1: billed %2, but its lines make %3"},
     // A line without an item of a visit (a discount) bears a negative number.
     {"bill line without item",
@@ -42,6 +43,17 @@ constexpr Check checks[] = {
      "where d.isRct = 1 and t.billNo is null and not exists (select p.SNo from PaymentDetails p "
      "where p.billNo = d.billNo and (p.snoID = d.SNo or p.BillItem = d.drgName or p.BillItem = a.drgName))",
      "bill %2: the line %3 of the item %1 is marked as covered by a receipt, but no receipt covers it"},
+    {"outlet's debt",
+     "select top 1000 t.billNo,t.Owed,t.Amount from (select b.billNo,isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, "
+     "0) "
+     "as Owed,(select sum(d.Amount) from hDebtors d where d.billNo = b.billNo) as Amount "
+     "from hRecordsPublic q inner join Billing b on b.billNo = q.consultID) t "
+     "where (t.Amount is null and t.Owed > 0.005) or abs(t.Amount - t.Owed) > 0.005",
+     "bill %1: %2 of it is not paid, but its debt is entered as %3"},
+    {"outlet item without visit",
+     "select top 1000 a.SNo,a.consultID,a.drgName from BillAccum a where SUBSTRING(a.consultID, 7, 1) = '/' "
+     "and not exists (select q.ID from hRecordsPublic q where q.consultID = a.consultID)",
+     "item %1, %3, is of the outlet visit %2, which is not there"},
     {"approval code without visit",
      "select top 1000 c.SNO,c.ApprvCode,c.consultID from hApprvCode c "
      "where not exists (select h.recID from hRecords h where h.consultID = c.consultID) "

@@ -44,6 +44,10 @@
 #include "clients/frmRetainership.h"
 #include "clients/frmRptHeading.h"
 #include "clients/frmVerifyBillsInSummary.h"
+#include "outlets/frmBillGen.h"
+#include "outlets/frmBillingPublic.h"
+#include "outlets/frmInvestigatePublic.h"
+#include "outlets/frmRevHeadersPublic.h"
 #include "printouts/FrmRptPaymentsByCashier.h"
 #include "printouts/frmPrintRpt.h"
 #include "printouts/frmRevPrintRpt.h"
@@ -133,6 +137,11 @@ constexpr struct {
     {"frmRetainership", make<frmRetainership>},
     {"frmRptHeading", make<frmRptHeading>},
     {"frmVerifyBillsInSummary", make<frmVerifyBillsInSummary>},
+
+    {"frmBillGen", make<frmBillGen>},
+    {"frmBillingPublic", make<frmBillingPublic>},
+    {"frmInvestigatePublic", make<frmInvestigatePublic>},
+    {"frmRevHeadersPublic", make<frmRevHeadersPublic>},
 
     {"frmPrintRpt", make<frmPrintRpt>},
     {"frmRevPrintRpt", make<frmRevPrintRpt>},

@@ -60,6 +60,7 @@ const QVector<MdiTolmek::MenuEntry>& MdiTolmek::menuTable() {
 
         {false, "mnuOutlets", "&Service Outlets"},
         {true, "mnuReqEntrt", "Request Entries", shown, "frmInvestigatePublic"},
+        {true, "mnuBillPublic", "Collate Bill of an External Patient", hidden, "frmBillingPublic"},
         {true, "mnuDFO", "Part Payment [Deposit]", hidden},
         {true, "mnuCBFSO", "Collate Bill forService Outlets", shown, "frmBillingVerify"},
         {true, "mnuCBFHPC", "Collate Bill for Hospital Patients (Cash)", hidden},

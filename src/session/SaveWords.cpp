@@ -60,6 +60,10 @@ const QHash<QString, QString>& patterns() {
         {"DISPENSING", "Items[ of %2] dispensed for visit %1"},
         {"STOCK ENTRY", "Stock of %1 entered"},
         {"STOCK ENTRY EDIT", "Stock entry of %1 changed"},
+        {"OUTLET REQUEST", "Outlet request %1[ of %2] saved"},
+        {"OUTLET BILL", "Outlet bill %1[ of %2] saved"},
+        {"OUTLET RECEIPT", "Outlet bill saved with receipt %1[ of %2]"},
+        {"OUTLET TARIFF", "Price[ %2] of %1 saved in the price list"},
         {"USER", "User %1 saved"},
         {"PASSWORD", "Password of %1 changed"},
     };

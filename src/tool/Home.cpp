@@ -22,6 +22,8 @@ constexpr const char* menuSection = "[menu]\n"
                                     "mnuDisc = 1\n"
                                     "mnuDispense = 1\n"
                                     "mnuStockEntry = 1\n"
+                                    "mnuBillPublic = 1\n"
+                                    "mnuReal = 1\n"
                                     "mnusecurity = 0\n";
 
 constexpr const char* printSection = "\n[print]\n"

@@ -22,10 +22,10 @@ const QSet<QString>& growingTables() {
 }
 
 /// What reads a table whole by design: the newest row by its key, the few rows that a partial index holds, a sum of
-/// all, or a revenue type that is given another name.
+/// all, a revenue type that is given another name, or the look for outlet visits before a hospital's first one.
 bool readsFewRows(const QString& statement, const QString& step) {
     const bool sqlite = step.startsWith("SCAN");
-    return statement.contains(" where revType='") ||
+    return statement.contains(" where revType='") || statement.contains("from qryidgenConPublic") ||
            (statement.startsWith("select top 1 SNO") && (sqlite || step.contains("Limit"))) ||
            step.contains("ixRecordsUnbilled", Qt::CaseInsensitive) ||
            step.contains("ixConsultingOpen", Qt::CaseInsensitive) ||

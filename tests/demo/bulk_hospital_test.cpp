@@ -103,8 +103,9 @@ TEST_P(BulkHospital, isSoundAndGoesOnUnderTheScreens) {
     ASSERT_TRUE(Main(program, "amina.b")) << ui.takeBoxes().join(" / ").toStdString();
 
     const std::pair<const char*, const char*> sizes[] = {
-        {"select count(*) from Billing", "60"},
-        {"select count(*) from BillingDetails", "300"},
+        {"select count(*) from Billing", "66"},
+        {"select count(*) from BillingDetails", "306"},
+        {"select count(*) from hRecordsPublic", "6"},
         {"select count(*) from hPatients", "150"},
         {"select count(*) from vwhConsultingVisitsForBilling", "312"},
         {"select count(*) from vwhConsultingVisitsForBilling where Date='2026-03-13'", "42"},
@@ -136,7 +137,7 @@ TEST_P(BulkHospital, isSoundAndGoesOnUnderTheScreens) {
 
     // A waiting visit is collated, paid and saved; its numbers follow the loaded ones.
     const QString receipts = scalar("select ID from IDgen where DestName='RECEIPT2'");
-    EXPECT_EQ(receipts, scalar("select count(*) from Payments"));
+    EXPECT_EQ(receipts, scalar("select count(*) from Payments where billNo not like '001/%'"));
     const QString visit = scalar("select top 1 h.consultID from hRecords h where h.clientCat='PRIVATE' and h.BillDate "
                                  "is null and (select count(*) from BillAccum a where a.consultID=h.consultID)=20");
     hand.type("txtSearch", visit);

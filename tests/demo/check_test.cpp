@@ -112,6 +112,8 @@ const Plant plants[] = {
     {"patient's balance", {"update hPatients set DebtBF=-499.99"}},
     {"account without patient",
      {"insert into Tranxaction (PNo,billNo,Amount,RunningTotal) values ('9/001','001OFL0000001',5,5)"}},
+    {"outlet's debt", {"insert into Billing (billNo,billType,Amountbilled) values ('001/26/000009','CASH',0.01)"}},
+    {"outlet item without visit", {"insert into BillAccum (consultID,drgName) values ('001/26/000010','PCV')"}},
     {"amount billed", {"update Billing set Amountbilled=1499.99 where billNo='001OFL0000001'"}},
     {"amount paid", {"update Billing set AmountPaid=2000 where billNo='001OFL0000001'"}},
     {"ways of payment", {"update PaymentTypes set AmountPaid=600.01 where PayType='POS'"}},

@@ -406,5 +406,46 @@ TEST_F(GridViewTest, AnEntryGridShowsItsCellsAndItsEmptyRow) {
     EXPECT_EQ(entries->model()->rowCount(), 1);
 }
 
+/// The keys only go through lines that a click takes away; Delete is the click there.
+TEST_F(GridViewTest, KeysTakeNoLineAwayButDelete) {
+    form.strip.setTab(1);
+    form.grdEntry.onClick = [this] { form.grdEntry.removeRow(form.grdEntry.currentRow()); };
+    form.grdEntry.onDelete = form.grdEntry.onClick;
+    for (const char* item : {"A", "B", "C"}) {
+        form.grdEntry.setCell(form.grdEntry.rows() - 1, 0, item);
+        form.grdEntry.addRow();
+    }
+    settleEvents();
+    TableView* entries = tableOf(form.grdEntry);
+    entries->setFocus();
+    entries->selectionModel()->setCurrentIndex(entries->model()->index(0, 0), QItemSelectionModel::SelectCurrent);
+    QTest::keyClick(entries, Qt::Key_Down);
+    settleEvents();
+    EXPECT_EQ(form.grdEntry.rows(), 5);
+    QTest::keyClick(entries, Qt::Key_Delete);
+    settleEvents();
+    EXPECT_EQ(form.grdEntry.cell(1, 0) + form.grdEntry.cell(2, 0), "AC");
+}
+
+TEST_F(GridViewTest, ATimerRestsWhileAListIsScrolled) {
+    window = std::make_unique<FormWindow>(form, ViewSetting{{}, false, 200});
+    window->resize(1100, 640);
+    window->show();
+    form.grdRows.load(lines());
+    form.tmrTick.setEnabled(true);
+    const auto ticked = [&] { return events().contains("tmrTick Timer"); };
+    EXPECT_TRUE(QTest::qWaitFor(ticked));
+    QScrollBar* bar = tableOf(form.grdRows)->verticalScrollBar();
+    for (int turn = 0; turn < 30; ++turn) {
+        bar->triggerAction(turn % 2 ? QAbstractSlider::SliderSingleStepAdd : QAbstractSlider::SliderSingleStepSub);
+        form.takeEvents();
+        QThread::msleep(6);
+        QApplication::processEvents(); // one tick at most
+        EXPECT_FALSE(form.takeEvents().contains("tmrTick Timer"));
+    }
+    EXPECT_TRUE(QTest::qWaitFor(ticked)) << "and goes on";
+    form.tmrTick.setEnabled(false);
+}
+
 } // namespace
 } // namespace orvane

@@ -156,6 +156,18 @@ TEST_P(KeysTest, AReceiptTakesFewAndWhatIsPayableAndSavedStaysInSight) {
     }
 }
 
+TEST_P(KeysTest, AnOutletServesACustomerFromHisRequestToHisReceipt) {
+    const QString request = "frmInvestigatePublic.", bill = "frmBillingPublic.";
+    work({"MdiTolmek.mnuOutlets", "MdiTolmek.mnuReqEntrt", "Return", "'OKORO", request + "txtFirst", "'ADA"});
+    work({request + "cboMat", "Down", request + "txtSex", "Down", request + "txtLabNo", "'L1"});
+    work({request + "cboCat", "Down", "Down", request + "cboDrug", "'PARACETAMOL", "Tab", "Return", "Ctrl+S"});
+    EXPECT_EQ(boxes.value(1), "Record Succesfully saved !!! Please collate bill");
+    work({"Return", bill + "cboCat", "Down", bill + "cboPay", "Down", bill + "txtHt", "'50", "Ctrl+S"});
+    expectReceipt("frmBillingPublic", "cboVehNo");
+    Connection billing = program.openBilling();
+    EXPECT_EQ(rowsOf(billing, "select ReceiptNo, AmountPaid from Payments"), "001LB0000001|50");
+}
+
 TEST_P(KeysTest, BillsAreMovedBeforeTheMonthsRun) {
     Connection billing = program.openBilling();
     makePatient(billing);

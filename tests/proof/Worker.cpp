@@ -1,6 +1,7 @@
 #include "Worker.h"
 
 #include "data/engine/Physical.h"
+#include "demo/DemoOutlets.h"
 #include "play/QuietUi.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
@@ -164,6 +165,8 @@ private:
             return workOnBatch(round);
         if (!postingForm().isEmpty())
             return post();
+        if (m_options.contains("outlet"))
+            return attempt([&] { serveOutlet(); });
         const int turn = ownsItsRows() ? m_number : (m_number + round) % sharedVisits;
         const QString shared = visitOfWorkers(turn);
         QString visit;
@@ -177,6 +180,19 @@ private:
         attempt([&] { receiveAndReverse(shared, 300.1 + m_number); });
     }
 
+    void serveOutlet() {
+        Hand request = enterOutletRequest(m_program, "PROOF", QString::number(m_number),
+                                          {{"INVESTIGATION", "MALARIA PARASITE", "1"}});
+        request.click("OKButton");
+        expectBoxes("request", {"Record Succesfully saved !!! Please collate bill"});
+        request.click("cmdBill");
+        Hand bill = enterOutletBill(m_program, {}, "1500", "LABORATORY");
+        const QString number = bill.value("lblBill");
+        bill.click("OKButton");
+        expectBoxes("outlet bill", {});
+        tell({"outlet", number, Hand(m_program.form("frmCashReceiptLab")).value("txtReceiptNo")});
+    }
+
     template <typename Step>
     void attempt(Step step) {
         try {
@@ -184,8 +200,8 @@ private:
         } catch (const DataError& fault) {
             tell({"trouble", fault.description()});
         }
-        for (const char* name :
-             {"frmRecordsOffline", "frmReceiptDeposit", "frmBillingVerify", "frmReceiptTemp", "frmStockEntry"})
+        for (const char* name : {"frmInvestigatePublic", "frmBillingPublic", "frmCashReceiptLab", "frmRecordsOffline",
+                                 "frmReceiptDeposit", "frmBillingVerify", "frmReceiptTemp", "frmStockEntry"})
             if (Form* form = m_program.loadedForm(QLatin1String(name)))
                 form->abandon();
         m_program.deleteClosedForms();

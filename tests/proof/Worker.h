@@ -33,13 +33,15 @@ inline const QStringList savesOfARound = {"visit", "deposit", "paidbill", "bill"
 ///   invoices     a round posts the month's invoices instead
 ///   storekeeper  first dispenses for one visit, which it has entered before it is ready; a round brings in goods of one
 ///                item and changes the newest entry instead
+///   outlet       a round serves a customer of an outlet instead: his request and his bill, paid
 ///   no-gate      transactions do not take the money gate
 ///   linger       waits between reading a balance and writing the next one, and before each commit, so that the others
 ///                come upon it
 /// Writes "ready" and begins when a line comes in. Then it writes a line of words apart by tabs for each save that the
 /// screen reported (amounts in naira, minus for a reversal):
 ///   visit NUMBER PATIENT, bill NUMBER, and deposit | paidbill | receipt | reversal RECEIPT BILL AMOUNT
-///   run BOXES, refused NUMBER, posted BOXES, dispensed BOXES, goods QUANTITY, changed BOXES
+///   run BOXES, refused NUMBER, posted BOXES, dispensed BOXES, goods QUANTITY, changed BOXES,
+///   outlet NUMBER RECEIPT
 /// further "item BILL PRICE" for each item that it laid, and "trouble TEXT" for each save that was refused or
 /// faulty. Gives the exit code. `around` is given the running program and the work, which it must do.
 using AroundWork = std::function<void(Program&, const std::function<void()>& work)>;

@@ -159,6 +159,22 @@ TEST_P(Proof, WorkstationsLoseAndDoubleNothing) {
     EXPECT_EQ(checkDatabases(ws.program).findings, QStringList());
 }
 
+/// Outlets' numbers and their receipts', which are formed by MAX and one more, have no gap and no double.
+TEST_P(Proof, OutletsNumberTheirVisitsAndReceiptsInOneRow) {
+    const int workers = 8;
+    ASSERT_NO_FATAL_FAILURE(work(workers, {"outlet"}));
+    EXPECT_EQ(toldOf("trouble"), QStringList());
+    QStringList visits, receipts;
+    for (int n = 1; n <= workers * roundsOfAWorker(); ++n) {
+        visits << QStringLiteral("001/26/%1").arg(n, 6, 10, QLatin1Char('0'));
+        receipts << QStringLiteral("001LB%1").arg(n, 7, 10, QLatin1Char('0'));
+    }
+    EXPECT_EQ(stored("select consultID from hRecordsPublic"), visits);
+    EXPECT_EQ(stored("select ReceiptNo from Payments"), receipts);
+    EXPECT_EQ(stored("select billNo,ReceiptNo from Payments"), sorted(toldOf("outlet")));
+    EXPECT_EQ(checkDatabases(ws.program).findings, QStringList());
+}
+
 /// The same work without the gate goes wrong, so the proof above can fail. On the embedded engine the gate is the
 /// transaction itself, so there each statement is then for itself.
 TEST_P(Proof, WithoutTheGateItFails) {

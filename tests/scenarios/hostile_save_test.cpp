@@ -1,6 +1,7 @@
 // Every text that a screen saves is read back from the database as it was typed, or it is refused in plain words and
 // nothing is saved.
 #include "ScreenWalk.h"
+#include "demo/DemoOutlets.h"
 #include "play/ControlActs.h"
 #include "session/Screen.h"
 #include "support/Check.h"
@@ -82,7 +83,8 @@ protected:
     }
 
     void closeAll() {
-        for (const QString& name : {QStringLiteral("frmCashReceipt"), QStringLiteral("frmReceiptTemp"), m_form})
+        for (const QString& name :
+             QStringList{"frmCashReceipt", "frmCashReceiptLab", "frmReceiptTemp", "frmInvestigatePublic", m_form})
             if (Form* form = program.loadedForm(name))
                 form->abandon();
         program.deleteClosedForms();
@@ -233,6 +235,27 @@ const QVector<Save>& saves() {
         {"frmStockEntry",
          [](HostileSave& at) { at.fill("cboVehNo=PARACETAMOL 500MG|txtFields(0)=1|cboDriver=OKAFOR CHIDI [D001]"); },
          {{"txtFields(1)", "select top 1 Comments from StockEntryRetail order by EntryID desc", true}},
+         "OKButton"},
+        {"frmInvestigatePublic",
+         [](HostileSave& at) {
+             enterOutletRequest(at.program, "OKORO", "ADA", {{"DRUG", "PARACETAMOL 500MG", "1"}});
+         },
+         {{"txtName", "select top 1 pSurname from hPatientsPublic order by SNo desc", true, true},
+          {"txtFirst", "select top 1 pfirstname from hPatientsPublic order by SNo desc", true, true},
+          {"txtPhone", "select top 1 pPhoneNo from hPatientsPublic order by SNo desc", true},
+          {"txtLabNo", "select top 1 left(labnum, len(labnum) - 4) from hInvestigate order by SNo desc", true}},
+         "OKButton",
+         nullptr,
+         40},
+        {"frmBillingPublic",
+         [](HostileSave& at) {
+             enterOutletRequest(at.program, "OKORO", "ADA", {{"DRUG", "PARACETAMOL 500MG", "1"}}).click("OKButton");
+             enterOutletBill(at.program, at.scalar("select max(consultID) as S from hRecordsPublic"), "5", "DRUGS");
+         },
+         {{"cboCat", "select top 1 PaymentFor from Payments order by SNo desc", true},
+          {"cboPay", "select top 1 PayType from Payments order by SNo desc", true},
+          {"cboClinic", "select top 1 ClinicID from Payments order by SNo desc", true},
+          {"txtDiag", "select top 1 diagnosis from Billing order by ID desc", true}},
          "OKButton"},
         {"frmUsers",
          [](HostileSave& at) {

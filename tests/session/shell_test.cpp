@@ -96,7 +96,7 @@ TEST_P(Shell, hiddenEntriesAreTurnedOnByTheIniAlone) {
         if (control->kind() == ControlKind::Menu && !control->isVisible())
             hidden << control->name();
     EXPECT_EQ(hidden,
-              QStringLiteral("mnuUPC mnuBanks mnuAdmDepo mnuRct mnuDisc mnuPCR mnuPSITC mnuPCBILL mnuPCB mnuDFO "
+              QStringLiteral("mnuUPC mnuBanks mnuAdmDepo mnuRct mnuDisc mnuPCR mnuPSITC mnuPCBILL mnuPCB mnuBillPublic mnuDFO "
                              "mnuCBFHPC mnuDispense mnuStockEntry mnuSearch mnuView mnuReal mnuBIBC mnuRemnd mnuCR mnusecurity mnuLR mnuAuto")
                   .split(QLatin1Char(' ')));
     EXPECT_FALSE(ws.control("MdiTolmek.mnusecurity").isEnabled());
@@ -159,9 +159,11 @@ TEST_P(Shell, everyEntryActsOrIsGreyButTheEmptyOnes) {
               "mnuPSITC>frmExistBill mnuPCB>rptPanelSummary mnuTB>frmRptTB mnuTBBP>frmRptTB mnuGL>frmRptTB "
               "mnuCTTA>frmRevCashAcct mnuCRD>frmRevCashAdjust "
               "mnuRHFCB>frmRevCatEdit mnuSuppAcctUpdate>frmSuppliersAcct mnuPMPBFC>frmBillProcessingPost "
-              "mnuPCOB>frmBillToCapitated mnuCBFSO>frmBillingVerify mnuDispense>frmDispensing mnuStockEntry>frmStockEntry mnuEditFind>frmFind mnuVSII>frmPatientInfo "
+              "mnuPCOB>frmBillToCapitated mnuReqEntrt>frmInvestigatePublic mnuBillPublic>frmBillingPublic "
+              "mnuCBFSO>frmBillingVerify mnuDispense>frmDispensing mnuStockEntry>frmStockEntry mnuEditFind>frmFind mnuVSII>frmPatientInfo "
               "mnuPDI>frmDebtInfo mnuBNIPSL>frmVerifyBillsInSummary mnuPIBP>FrmRptBillsByPat "
-              "mnuPrintBMonthly>FrmProcessedBill mnuPRBC>FrmRptPaymentsByCashier mnuRemnd>frmReminder mnuUsers>frmUsers mnuUserRoles>frmUserRole "
+              "mnuPrintBMonthly>FrmProcessedBill mnuReal>frmBillGen mnuPRBC>FrmRptPaymentsByCashier "
+              "mnuRemnd>frmReminder mnuUsers>frmUsers mnuUserRoles>frmUserRole "
               "mnuChangePWD>frmDialog mnuCreateRoles>frmRole mnuDSP>frmDrugPrice");
     ws.open("frmStockItems");
     EXPECT_BOXES(ui, {"This screen is not part of this version yet."});

@@ -1,5 +1,6 @@
 #include "support/MoneyActions.h"
 
+#include "demo/DemoOutlets.h"
 #include "support/Entries.h"
 #include "support/PostingActions.h"
 
@@ -47,6 +48,18 @@ void layReceipt(Workstation& ws) {
     enterReceipt(ws.program, bill, "1,500.25");
     ws.ui.answer(true);
     ws.click("frmReceiptTemp.OKButton");
+}
+
+void enterAtOutlet(Workstation& ws) {
+    enterOutletRequest(ws.program, "OKORO", "ADA", {{"INVESTIGATION", "MALARIA PARASITE", "1"}, {"DRUG", item, "10"}});
+}
+
+/// A request of 2000 naira.
+void layOutlet(Workstation& ws) {
+    enterAtOutlet(ws);
+    ws.ui.answer(true);
+    ws.click("frmInvestigatePublic.OKButton");
+    ws.close("frmInvestigatePublic");
 }
 
 /// A patient whose bill his insurer pays, seen by a doctor, with a capitated item.
@@ -380,6 +393,27 @@ const QList<MoneyAction>& moneyActions() {
             {"RevenueCorrection", layReceipt, enterRevenueCorrection, "frmRevCatEdit.OKButton", "", "", true},
             {"VoucherPayment", layVoucher, enterVoucher, "frmExpensePay.OKButton", "yes", saved, false, postLeftOver,
              false, "", true},
+            {"OutletRequest", layVisit, enterAtOutlet, "frmInvestigatePublic.OKButton", "yes",
+             "box Record Succesfully saved !!! Please collate bill"},
+            {"OutletPrice", layVisit,
+             [](Workstation& ws) {
+                 enterOutletRequest(ws.program, "OKORO", "ADA", {});
+                 fill(ws, "frmInvestigatePublic", {{"cboCat", "DRUG"}, {"cboDrug", item}, {"txtPrice", "60.50"}});
+             },
+             "frmInvestigatePublic.cmdAdd", "", "", true},
+            {"OutletBill", layOutlet,
+             [](Workstation& ws) { enterOutletBill(ws.program, "001/26/000001", "1500.25", "LABORATORY"); },
+             "frmBillingPublic.OKButton", "yes", "opened frmCashReceiptLab"},
+            {"OutletCredit", layOutlet,
+             [](Workstation& ws) {
+                 ws.open("frmBillGen");
+                 ws.row("frmBillGen.grdData", 0);
+                 ws.open("frmBillingPublic");
+                 ws.click("frmBillingPublic.cmdList");
+                 ws.pick("frmBillingPublic.cboVehNo", "001/26/000001");
+                 enterOutletBill(ws.program, {}, {}, {});
+             },
+             "frmBillingPublic.OKButton", "yes", saved, true},
             {"User", layVisit, enterUser, "frmUsers.cmdApply", "", "box Account creation succeeded.", true},
             {"Role", layVisit,
              [](Workstation& ws) {
@@ -452,6 +486,11 @@ QString moneyFigures(Workstation& ws) {
         {"Billing", "clientID='0102'; isProcess=1; InvNo='0'", "Amountbilled; AmountPaid"},
         {"BillsForClients", "1=1; isOLD=0", "AmountInvoiced; isPost"},
         {"hDebtors", "1=1", "Amount"},
+        {"hRecordsPublic", "1=1"},
+        {"hPatientsPublic", "1=1"},
+        {"hInvestigate", "1=1"},
+        {"hInvestigateFindings", "1=1"},
+        {"DrugNHIS", "", "Price"},
         {"hRetainership", "", "Debt"},
         {"Payments", "1=1", "AmountPaid; isPost"},
         {"PaymentTypes", "AccountNo='1220'", "AmountPaid; isPost"},
