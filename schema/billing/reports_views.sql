@@ -2,43 +2,42 @@
 -- of clients any more is shown by his code, an officer who is no user any more by his name on the line.
 
 -- Every bill of a visit or an outlet with the officer who collated it: the last one whom a line of it names, by his user
--- name or his number.
+-- name or his number. What stands once a bill comes by subqueries, since a server may else read every patient.
 create view vwBillsByBillingOfficers as
-select d.BillBy as empID, isnull((select max(u.Fullname) from ApplicationUsers u where u.Username = d.BillBy or
-    u.EmpID = d.BillBy), isnull(d.BillBy, 'Not recorded')) as empName, h.recDate, h.BillDate, h.consultID as billNo, h.PNo,
-    isnull(p.fullname, h.PNo) as Fullname, isnull(r.retainName, isnull(h.coyName, p.coyName)) as Company,
-    (select count(*) from BillingDetails i where i.billNo = h.consultID) as Items,
-    (select sum(i.SubTotal) from BillingDetails i where i.billNo = h.consultID) as Amount
+select d.BillBy as empID, isnull(u.Fullname, isnull((select max(e.Fullname) from ApplicationUsers e
+    where e.EmpID = d.BillBy), isnull(d.BillBy, 'Not recorded'))) as empName, h.recDate, h.BillDate,
+    h.consultID as billNo, h.PNo, isnull((select p.fullname from hPatients p where p.PNo = h.PNo), h.PNo) as Fullname,
+    isnull(r.retainName, h.coyName) as Company,
+    (select b.Amountbilled from Billing b where b.billNo = h.consultID) as Amount
 from hRecords h
 left join BillingDetails d on d.detID = (select max(l.detID) from BillingDetails l where l.billNo = h.consultID
     and l.BillBy is not null)
-left join hPatients p on p.PNo = h.PNo
-left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
-where exists (select l.detID from BillingDetails l where l.billNo = h.consultID)
+left join ApplicationUsers u on u.Username = d.BillBy
+left join hRetainership r on r.retainID = h.coyName
+where d.detID is not null or exists (select l.detID from BillingDetails l where l.billNo = h.consultID)
 union all
-select d.BillBy as empID, isnull((select max(u.Fullname) from ApplicationUsers u where u.Username = d.BillBy or
-    u.EmpID = d.BillBy), isnull(d.BillBy, 'Not recorded')) as empName, h.recDate, (select b.bdate from Billing b where b.billNo = h.consultID)
-    as BillDate, h.consultID as billNo, h.PNo, (select max(q.fullname) from hPatientsPublic q where q.PNo = h.PNo)
-    as Fullname, isnull(r.retainName, h.coyName) as Company,
-    (select count(*) from BillingDetails i where i.billNo = h.consultID) as Items,
-    (select sum(i.SubTotal) from BillingDetails i where i.billNo = h.consultID) as Amount
+select d.BillBy as empID, isnull(u.Fullname, isnull((select max(e.Fullname) from ApplicationUsers e
+    where e.EmpID = d.BillBy), isnull(d.BillBy, 'Not recorded'))) as empName, h.recDate,
+    (select b.bdate from Billing b where b.billNo = h.consultID) as BillDate, h.consultID as billNo, h.PNo,
+    (select max(q.fullname) from hPatientsPublic q where q.PNo = h.PNo) as Fullname,
+    isnull(r.retainName, h.coyName) as Company,
+    (select b.Amountbilled from Billing b where b.billNo = h.consultID) as Amount
 from hRecordsPublic h
 left join BillingDetails d on d.detID = (select max(l.detID) from BillingDetails l where l.billNo = h.consultID
     and l.BillBy is not null)
+left join ApplicationUsers u on u.Username = d.BillBy
 left join hRetainership r on r.retainID = h.coyName
-where exists (select l.detID from BillingDetails l where l.billNo = h.consultID)
+where d.detID is not null or exists (select l.detID from BillingDetails l where l.billNo = h.consultID)
 go
--- Every billed line of the day dtDate with the client who bears it.
+-- Every billed line of the day dtDate with the client who bears it: the line's own, else the visit's.
 create view vwOrderDetails as
-select d.billNo as billno, d.detID as SNO, d.dtDate, d.PNo,
-    isnull(p.fullname, (select max(q.fullname) from hPatientsPublic q where q.PNo = d.PNo)) as Fullname,
-    isnull(r.retainName, isnull(d.coyName, isnull(h.coyName, 'No client'))) as coyfullname, d.drgName as Service, d.Qty,
-    d.Price, d.SubTotal, d.revType
+select d.billNo as billno, d.detID as SNO, d.dtDate, d.PNo, isnull((select p.fullname from hPatients p
+    where p.PNo = d.PNo), (select max(q.fullname) from hPatientsPublic q where q.PNo = d.PNo)) as Fullname,
+    isnull(r.retainName, isnull(d.coyName, isnull((select h.coyName from hRecords h where h.consultID = d.billNo),
+        'No client'))) as coyfullname, d.drgName as Service, d.Qty, d.Price, d.SubTotal, d.revType
 from BillingDetails d
-left join hPatients p on p.PNo = d.PNo
-left join hRecords h on h.consultID = d.billNo
-left join hRetainership r on r.retainID = isnull(d.coyName, isnull(h.coyName,
-    (select max(o.coyName) from hRecordsPublic o where o.consultID = d.billNo)))
+left join hRetainership r on r.retainID = isnull(d.coyName, isnull((select h.coyName from hRecords h
+    where h.consultID = d.billNo), (select max(o.coyName) from hRecordsPublic o where o.consultID = d.billNo)))
 go
 -- The visits with items whose bill nobody has saved, and the outlets' that nobody has collated; Amount is what their
 -- items come to so far.
