@@ -43,7 +43,7 @@ void layRows(Connection& billing) {
         "insert into hInvestigateFindings (consultID, conID, PNo, invDate, sympItem, sympItemCat, Result) select "
         "billNo, 0, PNo, dtDate, drgName, 'BLOOD', '41 %' from BillingDetails");
     if (billing.engine() == Engine::Postgresql)
-        billing.run("analyze");
+        billing.run("vacuum analyze");
 }
 
 Hand prepared(Site& site, const Question& question, QDate first, QDate last) {
