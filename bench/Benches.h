@@ -17,4 +17,7 @@ void benchMonth(const QString& smallHome, const QString& largeHome, int rounds);
 /// What the ledger's reports and postings cost, on the large hospital alone with millions of legs laid into it.
 void benchLedger(const QString& smallHome, const QString& largeHome, int rounds);
 
+/// What the list reports of a month and a laboratory's result cost, on the large hospital alone.
+void benchCatalogue(const QString& smallHome, const QString& largeHome, int rounds);
+
 } // namespace orvane

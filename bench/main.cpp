@@ -16,8 +16,11 @@ struct Bench {
     int rounds;
 };
 
-constexpr Bench benches[] = {
-    {"actions", benchActions, 30}, {"growth", benchGrowth, 15}, {"month", benchMonth, 3}, {"ledger", benchLedger, 5}};
+constexpr Bench benches[] = {{"actions", benchActions, 30},
+                             {"growth", benchGrowth, 15},
+                             {"month", benchMonth, 3},
+                             {"ledger", benchLedger, 5},
+                             {"catalogue", benchCatalogue, 5}};
 
 } // namespace
 
@@ -26,7 +29,7 @@ int main(int argc, char** argv) {
     QCommandLineParser parser;
     parser.setApplicationDescription("Compares a small and a large hospital of one engine, on copies of both.");
     parser.addHelpOption();
-    parser.addPositionalArgument("bench", "actions, growth, month or ledger");
+    parser.addPositionalArgument("bench", "actions, growth, month, ledger or catalogue");
     parser.addOptions({{"small", "The home folder of the small hospital.", "folder"},
                        {"large", "The home folder of the large hospital.", "folder"},
                        {"rounds", "How often each thing is measured.", "number"}});

@@ -175,3 +175,11 @@ create index ixStockEntryInvoiceDate on StockEntryAcct (InvoiceDate)
 go
 create index ixStockEntryDate on StockEntryAcct (EntryDate)
 go
+
+-- The laboratory's requests by their day and by their number, and the findings of a visit.
+create index ixInvestigateDate on hInvestigate (invDate)
+go
+create index ixInvestigateLabNo on hInvestigate (labnum)
+go
+create index ixFindingsConsultID on hInvestigateFindings (consultID)
+go

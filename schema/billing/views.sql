@@ -101,10 +101,12 @@ go
 -- Visits
 -- ------
 
--- Every visit.
+-- Every visit with what was billed on it, and what its items under a fixed fee are worth.
 create view qryhVisits as
 select h.recID as recid, h.PNo as pno, p.fullname as Fullname, h.consultID as ConsultID, h.recDate, h.htime as Time,
-    h.clinicType, h.Remarks, h.clientCat, isnull(h.coyName, p.coyName) as retainID, r.retainName as Company
+    h.clinicType, h.Remarks, h.clientCat, isnull(h.coyName, p.coyName) as retainID, r.retainName as Company,
+    (select sum(d.SubTotal) from BillingDetails d where d.billNo = h.consultID) as Bill,
+    (select sum(a.SubTotal) from BillAccum a where a.consultID = h.consultID and a.Capitated = 'YES') as Capitation
 from hRecords h
 left join hPatients p on p.PNo = h.PNo
 left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)

@@ -2,6 +2,7 @@
 
 #include "data/rows/Transaction.h"
 #include "demo/DemoBilling.h"
+#include "demo/DemoLab.h"
 #include "demo/DemoMonth.h"
 #include "demo/DemoOutlets.h"
 #include "demo/DemoPharmacy.h"
@@ -182,6 +183,7 @@ private:
                                << visit.consultID << "'");
         }
         transaction.commit();
+        answerFromLaboratory(connection, m_hospital, m_day, visits);
     }
 
     void workPharmacy(const QVector<DemoVisit>& visits) {

@@ -28,6 +28,10 @@ QString ReportScreen::periodWords(QDate from, QDate to) {
     return "from " + from.toString("dd/MM/yyyy") + " to " + to.toString("dd/MM/yyyy");
 }
 
+QString ReportScreen::bothDays(QDate from, QDate to) {
+    return from.toString("dd/MM/yyyy") + " and " + to.toString("dd/MM/yyyy");
+}
+
 void ReportScreen::showList(const QString& name, const QString& title, const Recordset& rows) {
     crViewer1.show(openDataReport({.file = name, .rows = rows, .values = letterhead(program), .title = title}), name);
 }

@@ -32,6 +32,8 @@ protected:
 
     /// "from 01/03/2026 to 31/03/2026", as a report's head names its days.
     static QString periodWords(QDate from, QDate to);
+    /// "01/03/2026 and 31/03/2026", behind "between".
+    static QString bothDays(QDate from, QDate to);
 
     ReportViewer crViewer1{*this};
 };

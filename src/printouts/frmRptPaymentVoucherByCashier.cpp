@@ -27,8 +27,7 @@ void frmRptPaymentVoucherByCashier::cmdDisplay_Click() {
                                          Sql("select distinct * from vwhExpensePaySumm where date between'")
                                              << first << "' and '" << last << "' order by date desc"),
                 .nothing = "No Report for the specified Expense Date",
-                .textObjects = {{"Text7", "Payment Vouchers between " + first.toString("dd/MM/yyyy") + " and " +
-                                              last.toString("dd/MM/yyyy")}},
+                .textObjects = {{"Text7", "Payment Vouchers between " + bothDays(first, last)}},
                 .values = {{"Period", periodWords(first, last)}}});
 }
 

@@ -3,11 +3,11 @@
 #include "data/words/FigToWrd.h"
 #include "data/words/Money.h"
 #include "data/words/ShownText.h"
+#include "reports/RowOrder.h"
 
 #include <QDir>
 #include <QRegularExpression>
 #include <algorithm>
-#include <numeric>
 
 namespace orvane {
 
@@ -50,14 +50,6 @@ QHash<QString, QString> lowerCased(const QHash<QString, QString>& texts) {
     for (auto text = texts.cbegin(); text != texts.cend(); ++text)
         result.insert(text.key().toLower(), text.value());
     return result;
-}
-
-int compared(const QVariant& one, const QVariant& other) {
-    if (isNumber(one) && isNumber(other))
-        return one.toDouble() < other.toDouble() ? -1 : one.toDouble() > other.toDouble() ? 1 : 0;
-    if (one.typeId() == QMetaType::QDate && other.typeId() == QMetaType::QDate)
-        return one.toDate() < other.toDate() ? -1 : one.toDate() > other.toDate() ? 1 : 0;
-    return one.toString().compare(other.toString(), Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -202,33 +194,14 @@ QString ReportData::picture(const QString& file) const {
     return QDir(m_folder).filePath(file);
 }
 
-/// Rows of one group stand together; equal ones stay as they came.
+/// Rows of one group stand together.
 void ReportData::sort(const ReportTemplate& layout) {
-    QVector<std::pair<int, bool>> keys;
+    QVector<RowKey> keys;
     for (const SortKey& key : layout.sort)
-        keys.append({column(key.column), key.descending});
+        keys.append(RowKey{column(key.column), key.descending});
     for (const ReportGroup& group : layout.groups)
-        keys.append({column(group.column), false});
-    QVector<QVariant> values; // of the keys, row after row: a sort asks for each of them many times
-    for (int row = 0; m_rows.has(row); ++row) {
-        m_rows.moveTo(row);
-        for (const auto& [key, descending] : keys)
-            values.append(m_rows.value(key));
-    }
-    const auto stands = [&](int one, int other) {
-        for (qsizetype key = 0; key < keys.size(); ++key)
-            if (const int difference =
-                    compared(values.at(one * keys.size() + key), values.at(other * keys.size() + key)))
-                return keys.at(key).second ? difference > 0 : difference < 0;
-        return false;
-    };
-    QVector<int> order(m_rows.count());
-    std::iota(order.begin(), order.end(), 0);
-    // Most statements give the order already.
-    if (std::is_sorted(order.cbegin(), order.cend(), stands))
-        return;
-    std::stable_sort(order.begin(), order.end(), stands);
-    m_order = order;
+        keys.append(RowKey{column(group.column)});
+    m_order = rowOrder(m_rows, keys);
 }
 
 } // namespace orvane

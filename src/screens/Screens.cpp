@@ -48,11 +48,18 @@
 #include "outlets/frmBillingPublic.h"
 #include "outlets/frmInvestigatePublic.h"
 #include "outlets/frmRevHeadersPublic.h"
+#include "printouts/FrmRptAttendByCoy.h"
+#include "printouts/FrmRptBillsByBillingOfficers.h"
+#include "printouts/FrmRptBillsByClient.h"
+#include "printouts/FrmRptBillsUnAttendedTo.h"
 #include "printouts/FrmRptPaymentsByCashier.h"
+#include "printouts/FrmRptSummQVR.h"
 #include "printouts/frmPrintRpt.h"
 #include "printouts/frmRevPrintRpt.h"
 #include "printouts/frmRptPaymentVoucherByCashier.h"
 #include "printouts/frmRptTB.h"
+#include "printouts/rptPanelBill.h"
+#include "printouts/rptPanelForFinancial.h"
 #include "receipts/frmCashReceipt.h"
 #include "receipts/frmCashReceiptLab.h"
 #include "receipts/frmDebtInfo.h"
@@ -145,9 +152,16 @@ constexpr struct {
 
     {"frmPrintRpt", make<frmPrintRpt>},
     {"frmRevPrintRpt", make<frmRevPrintRpt>},
+    {"FrmRptAttendByCoy", make<FrmRptAttendByCoy>},
+    {"FrmRptBillsByBillingOfficers", make<FrmRptBillsByBillingOfficers>},
+    {"FrmRptBillsByClient", make<FrmRptBillsByClient>},
+    {"FrmRptBillsUnAttendedTo", make<FrmRptBillsUnAttendedTo>},
     {"FrmRptPaymentsByCashier", make<FrmRptPaymentsByCashier>},
+    {"FrmRptSummQVR", make<FrmRptSummQVR>},
     {"frmRptPaymentVoucherByCashier", make<frmRptPaymentVoucherByCashier>},
     {"frmRptTB", make<frmRptTB>},
+    {"rptPanelBill", make<rptPanelBill>},
+    {"rptPanelForFinancial", make<rptPanelForFinancial>},
 
     {"frmBanks", make<frmBanks>},
     {"frmExpenseItems", make<frmExpenseItems>},

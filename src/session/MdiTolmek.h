@@ -30,7 +30,7 @@ private:
     /// Empty: shown without any action, unless it is turned on.
     enum class Look { Shown, Hidden, HiddenAndDisabled, Empty };
     /// A menu (`inMenu` false), or an entry of the menu above it. An entry runs its handler, then opens its screen; one
-    /// without either does nothing, and one whose screen is not part of the program is grey.
+    /// without either does nothing.
     struct MenuEntry {
         bool inMenu;
         const char* name;

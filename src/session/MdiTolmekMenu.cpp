@@ -133,10 +133,6 @@ void MdiTolmek::buildMenus() {
             continue;
         if (entry.opens || entry.run)
             item->onClick = [this, &entry] { act(entry); };
-        if (entry.opens && !program.isRegistered(entry.opens)) {
-            item->setEnabled(false);
-            item->setToolTip("Not part of this version yet");
-        }
     }
 }
 

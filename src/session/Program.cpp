@@ -89,10 +89,6 @@ Form& Program::form(const QString& name) {
 }
 
 void Program::open(const QString& name) {
-    if (!isRegistered(name)) {
-        box("This screen is not part of this version yet.", Icon::Information);
-        return;
-    }
     Form& opened = form(name);
     opened.load();
     if (!opened.isClosed())
@@ -107,10 +103,6 @@ void Program::open(const QString& name) {
 }
 
 void Program::openModal(const QString& name) {
-    if (!isRegistered(name)) {
-        open(name);
-        return;
-    }
     Form& opened = form(name);
     opened.load();
     if (!opened.isClosed())

@@ -50,9 +50,9 @@ public:
     /// The loaded form of this name, or a new one (made, not yet loaded or shown). An unregistered name is asserted.
     Form& form(const QString& name);
     Form* loadedForm(const QString& name); ///< null when it is not open
-    /// Loads and shows a form, bringing it forward if loaded. A screen that is not built yet says so in a box.
+    /// Loads and shows a form, bringing it forward if loaded. An unregistered name is asserted.
     void open(const QString& name);
-    /// Loads and shows a form modally; returns when it has closed.
+    /// The same modally; returns when it has closed.
     void openModal(const QString& name);
     /// The screen that was shown or brought forward last, modal ones and the shell aside; null when there is none.
     Form* activeForm() const { return m_shown.isEmpty() ? nullptr : m_shown.last(); }

@@ -55,6 +55,40 @@ void reviewAndPrint(Workstation& ws) {
         ws.click(QString("FrmRptBillsByPat.") + button);
 }
 
+/// The list reports of some days, a result of the laboratory and a bill on paper, which read their rows likewise.
+void printCatalogue(Workstation& ws) {
+    Connection connection = ws.billing();
+    makePatient(connection);
+    makeMonthBill(connection, "001OFL0000001", "0102", 1500);
+    makeVisit(connection, {.consultID = "001OFL0000002"});
+    makeItem(connection, {.consultID = "001OFL0000002"});
+    connection.run("update Billing set bdate='2026-03-14' where billNo='001OFL0000001'");
+    connection.run("insert into hInvestigate (consultID, PNo, invDate, labnum) values ('001OFL0000001', 'P/0001', "
+                   "'2026-03-14', 'L1')");
+    connection.run(
+        "insert into hInvestigateFindings (consultID, sympItem, Result) values ('001OFL0000001', 'PCV', '9')");
+    ws.open("FrmRptAttendByCoy");
+    ws.pick("FrmRptAttendByCoy.cboCust", 0);
+    ws.click("FrmRptAttendByCoy.cmdDisplay");
+    for (const char* screen : {"FrmRptBillsByBillingOfficers", "FrmRptBillsByClient", "FrmRptBillsUnAttendedTo",
+                               "FrmRptSummQVR", "rptPanelBill"}) {
+        ws.open(screen);
+        const QString name = QLatin1String(screen) + '.';
+        const bool isPanel = name.startsWith("rpt"), isLab = name.startsWith("FrmRptSummQVR");
+        const QString list = isPanel ? "cboVehNo" : "cboCust";
+        ws.click(name + (isPanel ? "cmdInv" : "cmdList"));
+        ws.pick(name + list, int(ws.items(name + list).size()) - 1);
+        ws.click(name + (isPanel ? "OKButton" : "cmdDisplay"));
+        if (isPanel || isLab)
+            ws.click(name + (isPanel ? "cmdHeads" : "cmdHist"));
+    }
+    ws.open("rptPanelForFinancial");
+    for (int i = 0; i < ws.items("rptPanelForFinancial.cboRpt").size(); ++i) {
+        ws.pick("rptPanelForFinancial.cboRpt", i);
+        ws.click("rptPanelForFinancial.OKButton");
+    }
+}
+
 void record(const std::function<void(Workstation&)>& work, QStringList& statements) {
     const TestHome home(Engine::Sqlite);
     Workstation ws(home.folder());
@@ -81,6 +115,7 @@ QStringList record() {
             },
             statements);
     record(reviewAndPrint, statements);
+    record(printCatalogue, statements);
     return statements;
 }
 

@@ -12,12 +12,12 @@ namespace orvane {
 namespace {
 
 const QSet<QString>& growingTables() {
-    static const QSet<QString> tables = {"hpatients",          "hpatientspublic", "hrecords",        "hrecordspublic",
-                                         "hconsulting",        "hadmission",      "hreferal",        "happrvcode",
-                                         "billaccum",          "billing",         "billingdetails",  "payments",
-                                         "paymenttypes",       "paymentdetails",  "tranxaction",     "useractivities",
-                                         "drugnhis",           "labservicenhis",  "hservicenhis",    "stockentryretail",
-                                         "hconsultingdetails", "hinjanddressing", "hmedchartmonitor"};
+    static const QSet<QString> tables = {
+        "hpatients",          "hpatientspublic", "hrecords",         "hrecordspublic", "hconsulting",
+        "hadmission",         "hreferal",        "happrvcode",       "billaccum",      "billing",
+        "billingdetails",     "payments",        "paymenttypes",     "paymentdetails", "tranxaction",
+        "useractivities",     "drugnhis",        "labservicenhis",   "hservicenhis",   "stockentryretail",
+        "hconsultingdetails", "hinjanddressing", "hmedchartmonitor", "hinvestigate",   "hinvestigatefindings"};
     return tables;
 }
 

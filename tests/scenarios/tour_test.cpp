@@ -144,7 +144,7 @@ TEST_P(Rights, AreNoMoreThanTheProgramNeeds) {
         {TestHome::billing(),
          {"drop table Payments", "delete from Payments", "update Payments set AmountPaid=0",
           "update PaymentTypes set AmountPaid=0", "delete from AuditTrail", "update Tranxaction set Amount=0",
-          "delete from hPatients", "insert into AppDefaults (ID) values ('X')", "select * from clients",
+          "delete from hPatients", "insert into AppDefaults (ID) values ('X')", "select * from billoflading",
           "create table mine (a int)"}},
         {TestHome::accounting(),
          {"delete from Tranxaction", "update Tranxaction set Amount=0", "update AccountMonthOpen set isClose=0"}}};

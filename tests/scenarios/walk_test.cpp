@@ -202,5 +202,24 @@ TEST_P(EveryScreenTest, AnswersEveryActWithoutAFaultOfTheDatabase) {
     }
 }
 
+/// Hidden ones too, and those that an empty entry opens where it is turned on.
+TEST_P(EveryScreenTest, OpensFromTheMenuWithTheLeastRights) {
+    program.open("MdiTolmek");
+    QStringList entries;
+    for (const Control* control : program.form("MdiTolmek").controls())
+        if (const auto* item = dynamic_cast<const MenuItem*>(control);
+            item && item->menu() && item->isEnabled() && item->name() != QLatin1String("mnuEPE"))
+            entries << item->name();
+    EXPECT_GT(entries.size(), 60);
+    ui.answer = [] { return std::nullopt; };
+    for (const QString& entry : std::as_const(entries)) {
+        Form& shell = program.form("MdiTolmek");
+        shell.userEvent([&] { static_cast<MenuItem*>(shell.find(entry))->click(); });
+        checkBoxes(entry);
+        if (Form* active = program.activeForm(); active && active != &shell)
+            active->abandon();
+    }
+}
+
 } // namespace
 } // namespace orvane

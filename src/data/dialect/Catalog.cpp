@@ -111,7 +111,8 @@ struct Catalog::Private {
 
 void Catalog::Private::read(const QString& database) {
     Database& entry = databases[database];
-    for (const char* part : {"tables", "indexes", "views", "accounts_views", "outlet_views", "stock_views", "rows"}) {
+    for (const char* part :
+         {"tables", "indexes", "views", "accounts_views", "outlet_views", "stock_views", "reports_views", "rows"}) {
         const QString path = QStringLiteral(":/schema/%1/%2.sql").arg(database, QLatin1StringView(part));
         for (const QString& statement : splitScript(readResource(path))) {
             entry.statements += statement;

@@ -31,6 +31,7 @@ constexpr TableRights billingTables[] = {
     {"billingPrice", ""},
     {"BillsForClients", "insert, update, delete"},
     {"ChartOfAccounts", ""},
+    {"clients", ""},
     {"clinicTypes", ""},
     {"drugMaster", "update"},
     {"DrugNHIS", "update"},

@@ -218,6 +218,13 @@ create index ixMedChartConsultID on hMedChartMonitor (consultID)
 go
 create index ixStockEntryRetailItem on StockEntryRetail (ItemID, EntryID)
 )"},
+    {6, "billing", "the indexes by which the laboratory's requests and findings are found", R"(
+create index ixInvestigateDate on hInvestigate (invDate)
+go
+create index ixInvestigateLabNo on hInvestigate (labnum)
+go
+create index ixFindingsConsultID on hInvestigateFindings (consultID)
+)"},
 };
 
 } // namespace

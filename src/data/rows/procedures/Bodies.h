@@ -44,4 +44,8 @@ Recordset ledgerDays(Connection& connection, const QVariantMap& parameters);
 /// @ClientCat or, with "(ALL)", of everybody.
 Recordset billedLines(Connection& connection, const QVariantMap& parameters);
 
+/// getBilling: the lines of the bill @billNo as an in-patient's bill shows them: without the consultation fee of a client
+/// who is not to see it.
+Recordset billOnPaper(Connection& connection, const QVariantMap& parameters);
+
 } // namespace orvane

@@ -20,6 +20,7 @@ const ProcedureEntry* findProcedure(const QString& name) {
          storeLeg},
         {"getTrialBalance", {}, ledgerDays},
         {"BillingDetailsForRevRpt", {"@Date1", "@Date2", "@ClientCat"}, billedLines},
+        {"getBilling", {"@billNo"}, billOnPaper},
     };
     for (const ProcedureEntry& entry : entries)
         if (name.compare(QLatin1StringView(entry.name), Qt::CaseInsensitive) == 0)
