@@ -13,7 +13,7 @@ select d.SNo as SNO, d.dtDate as Date,
 from BillingDetails d
 left join hPatients p on p.PNo = d.PNo
 left join hRecords h on h.consultID = d.billNo
-left join hRetainership r on r.retainID = isnull(d.coyName, isnull(h.coyName,
+left join hRetainership r on r.retainID = isnull(case when d.coyName <> '' then d.coyName end, isnull(h.coyName,
     (select max(o.coyName) from hRecordsPublic o where o.consultID = d.billNo)))
 left join hRevenueType t on t.revType = d.revType
 left join employees e on e.empID = d.treatedBy

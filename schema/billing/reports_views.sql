@@ -4,7 +4,7 @@
 -- Every bill of a visit or an outlet with the officer who collated it: the last one whom a line of it names, by his user
 -- name or his number. What stands once a bill comes by subqueries, since a server may else read every patient.
 create view vwBillsByBillingOfficers as
-select d.BillBy as empID, isnull(u.Fullname, isnull((select max(e.Fullname) from ApplicationUsers e
+select isnull(u.EmpID, d.BillBy) as empID, isnull(u.Fullname, isnull((select max(e.Fullname) from ApplicationUsers e
     where e.EmpID = d.BillBy), isnull(d.BillBy, 'Not recorded'))) as empName, h.recDate, h.BillDate,
     h.consultID as billNo, h.PNo, isnull((select p.fullname from hPatients p where p.PNo = h.PNo), h.PNo) as Fullname,
     isnull(r.retainName, h.coyName) as Company,
@@ -16,7 +16,7 @@ left join ApplicationUsers u on u.Username = d.BillBy
 left join hRetainership r on r.retainID = h.coyName
 where d.detID is not null or exists (select l.detID from BillingDetails l where l.billNo = h.consultID)
 union all
-select d.BillBy as empID, isnull(u.Fullname, isnull((select max(e.Fullname) from ApplicationUsers e
+select isnull(u.EmpID, d.BillBy) as empID, isnull(u.Fullname, isnull((select max(e.Fullname) from ApplicationUsers e
     where e.EmpID = d.BillBy), isnull(d.BillBy, 'Not recorded'))) as empName, h.recDate,
     (select b.bdate from Billing b where b.billNo = h.consultID) as BillDate, h.consultID as billNo, h.PNo,
     (select max(q.fullname) from hPatientsPublic q where q.PNo = h.PNo) as Fullname,
@@ -33,11 +33,13 @@ go
 create view vwOrderDetails as
 select d.billNo as billno, d.detID as SNO, d.dtDate, d.PNo, isnull((select p.fullname from hPatients p
     where p.PNo = d.PNo), (select max(q.fullname) from hPatientsPublic q where q.PNo = d.PNo)) as Fullname,
-    isnull(r.retainName, isnull(d.coyName, isnull((select h.coyName from hRecords h where h.consultID = d.billNo),
-        'No client'))) as coyfullname, d.drgName as Service, d.Qty, d.Price, d.SubTotal, d.revType
+    isnull(r.retainName, isnull(case when d.coyName <> '' then d.coyName end,
+        isnull((select h.coyName from hRecords h where h.consultID = d.billNo), 'No client'))) as coyfullname,
+    d.drgName as Service, d.Qty, d.Price, d.SubTotal, d.revType
 from BillingDetails d
-left join hRetainership r on r.retainID = isnull(d.coyName, isnull((select h.coyName from hRecords h
-    where h.consultID = d.billNo), (select max(o.coyName) from hRecordsPublic o where o.consultID = d.billNo)))
+left join hRetainership r on r.retainID = isnull(case when d.coyName <> '' then d.coyName end,
+    isnull((select h.coyName from hRecords h where h.consultID = d.billNo),
+        (select max(o.coyName) from hRecordsPublic o where o.consultID = d.billNo)))
 go
 -- The visits with items whose bill nobody has saved, and the outlets' that nobody has collated; Amount is what their
 -- items come to so far.

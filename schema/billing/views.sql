@@ -106,7 +106,8 @@ create view qryhVisits as
 select h.recID as recid, h.PNo as pno, p.fullname as Fullname, h.consultID as ConsultID, h.recDate, h.htime as Time,
     h.clinicType, h.Remarks, h.clientCat, isnull(h.coyName, p.coyName) as retainID, r.retainName as Company,
     (select sum(d.SubTotal) from BillingDetails d where d.billNo = h.consultID) as Bill,
-    (select sum(a.SubTotal) from BillAccum a where a.consultID = h.consultID and a.Capitated = 'YES') as Capitation
+    (select sum(a.SubTotal) from BillAccum a where a.consultID = h.consultID and (a.Capitated = 'YES' or (isnull(a.Capitated, '') = '' and
+        a.attendedto = 1 and not exists (select l.detID from BillingDetails l where l.SNo = a.SNo)))) as Capitation
 from hRecords h
 left join hPatients p on p.PNo = h.PNo
 left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
@@ -413,7 +414,8 @@ select b.bdate as Date, b.PNo as pno,
     b.billNo as BillNo, b.Amountbilled as AmountBilled, b.AmountPaid, isnull(b.AmtBF, 0) as AmtCF,
     case when abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) < 0.005 then 0
         else isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) end as Balance, b.AmountBIlledInWord as AmountBilledInWord,
-    r.retainName as CoyName, h.clientCat as clientcatID
+    r.retainName as CoyName, isnull(h.clientCat,
+    (select max(o.clientCat) from hRecordsPublic o where o.consultID = b.billNo)) as clientcatID
 from Billing b
 left join hPatients p on p.PNo = b.PNo
 left join hRecords h on h.consultID = b.billNo
@@ -429,6 +431,17 @@ select b.billNo, b.bdate, h.recDate as Date, b.PNo, p.fullname as fullName, p.em
 from Billing b
 inner join hRecords h on h.consultID = b.billNo
 left join hPatients p on p.PNo = b.PNo
+left join hRetainership r on r.retainID = b.clientID
+where h.clientCat = 'PRIVATE'
+union all
+select b.billNo, b.bdate, h.recDate as Date, b.PNo,
+    (select max(q.fullname) from hPatientsPublic q where q.PNo = b.PNo) as fullName, null as empNo, b.clientID,
+    r.retainName as clientName, b.diagnosis, b.Amountbilled as AmountBilled,
+    b.AmountBIlledInWord as AmountBilledInWord, b.AmountPaid, b.AmtBF, b.profFee,
+    case when abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) < 0.005 then 0
+        else isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) end as AmountDue
+from Billing b
+inner join hRecordsPublic h on h.consultID = b.billNo
 left join hRetainership r on r.retainID = b.clientID
 where h.clientCat = 'PRIVATE'
 go
@@ -461,6 +474,16 @@ where h.clientCat = 'PRIVATE' and not exists (select b.ID from Billing b where b
     and exists (select d.detID from BillingDetails d where d.billNo = h.consultID)
     and abs(isnull((select sum(d.SubTotal) from BillingDetails d where d.billNo = h.consultID), 0)
         - isnull((select sum(y.AmountPaid) from Payments y where y.billNo = h.consultID), 0)) >= 0.005
+union all
+select b.billNo, b.bdate, h.recDate as Date, b.PNo,
+    (select max(q.fullname) from hPatientsPublic q where q.PNo = b.PNo) as fullName, b.clientID, r.retainName as clientName,
+    b.diagnosis, b.Amountbilled as amountbilled, b.AmountPaid, b.AmtBF, b.profFee,
+    isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) as AmountDue,
+    isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) as currentDebt, isnull(b.AmtBF, 0) as prevDebt
+from Billing b
+inner join hRecordsPublic h on h.consultID = b.billNo
+left join hRetainership r on r.retainID = b.clientID
+where h.clientCat = 'PRIVATE' and abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) >= 0.005
 go
 -- The saved ones of these bills for the printout of one patient's account.
 create view qryBillingBalanceDue as
@@ -480,6 +503,14 @@ select b.bdate as bDate,
 from Billing b
 inner join hRecords h on h.consultID = b.billNo
 left join hPatients p on p.PNo = b.PNo
+where h.clientCat = 'PRIVATE' and abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) >= 0.005
+union all
+select b.bdate as bDate,
+    isnull((select max(y.ReceiptDate) from Payments y where y.billNo = b.billNo), b.bdate) as BalanceDate, b.billNo,
+    b.PNo as pNo, (select max(q.fullname) from hPatientsPublic q where q.PNo = b.PNo) as Fullname, b.Amountbilled as Bills,
+    b.AmountPaid, isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0) as Balance
+from Billing b
+inner join hRecordsPublic h on h.consultID = b.billNo
 where h.clientCat = 'PRIVATE' and abs(isnull(b.Amountbilled, 0) - isnull(b.AmountPaid, 0)) >= 0.005
 go
 -- The month
@@ -709,7 +740,8 @@ inner join BillAccum d on d.consultID = h.consultID
 left join Billing b on b.billNo = h.consultID
 left join hPatients p on p.PNo = h.PNo
 left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
-where d.Capitated = 'YES'
+where (d.Capitated = 'YES' or (isnull(d.Capitated, '') = '' and
+    d.attendedto = 1 and not exists (select l.detID from BillingDetails l where l.SNo = d.SNo)))
 go
 
 -- Receipts
@@ -724,7 +756,8 @@ select y.SNo, y.ReceiptDate as receiptDate, y.ReceiptNo as receiptNo,
 from Payments y
 left join hPatients p on p.PNo = y.PNo
 left join hRecords h on h.consultID = y.billNo
-left join hRetainership r on r.retainID = isnull(h.coyName, p.coyName)
+left join hRetainership r on r.retainID = isnull(h.coyName, isnull(p.coyName,
+    (select max(o.coyName) from hRecordsPublic o where o.consultID = y.billNo)))
 go
 -- A receipt as it is printed; idval is the first line of the heading of its code.
 create view qryhBillingReceipt as

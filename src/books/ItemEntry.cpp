@@ -101,7 +101,9 @@ Given<Saved> addToVisit(Books& books, const EnteredItems& entered) {
             if (!item.billed)
                 return std::nullopt;
             audit(books, entered, "insert BillDetails Item for ", item);
-            return lineOf(item, numberOfAddedItem(books.connection, item));
+            BillLine line = lineOf(item, numberOfAddedItem(books.connection, item));
+            line.billBy = books.actor().user;
+            return line;
         });
 }
 

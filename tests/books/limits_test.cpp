@@ -19,14 +19,15 @@ protected:
     }
     QString addItem(const QString& name, double qty) {
         return told<Saved>([&](Books& books) {
-            return addToVisit(books, {.consultID = billNo,
-                                      .pno = "P/0001",
-                                      .retainID = "0001",
-                                      .category = "PRIVATE",
-                                      .feeForService = "NO",
-                                      .date = day,
-                                      .company = "PRIVATE",
-                                      .items = {{.name = name, .price = 100, .qty = qty, .subTotal = qty * 100}}});
+            return addToVisit(
+                books, {.consultID = billNo,
+                        .pno = "P/0001",
+                        .retainID = "0001",
+                        .category = "PRIVATE",
+                        .feeForService = "NO",
+                        .date = day,
+                        .company = "PRIVATE",
+                        .items = {{name, {}, 100, qty, qty * 100, {}, "NO", "SERVICE", "0001", "0001", "DRUGS"}}});
         });
     }
     QString discount(double amount, bool isDiscount, QDate on) {
@@ -70,12 +71,16 @@ TEST_P(Limits, ADocumentBearsADayOfOurTime) {
     const QString wrong = refusalText(Refusal::WrongYear);
     for (const QDate& on : {QDate(1989, 12, 31), QDate(2028, 1, 1), QDate(2206, 3, 14)}) {
         EXPECT_EQ(discount(1, false, on), wrong);
-        EXPECT_EQ(told<QString>([&](Books& books) { return takeReceipt(books, {.billNo = billNo, .date = on}); }),
-                  wrong);
-        EXPECT_EQ(told<QString>([&](Books& books) { return takeDeposit(books, {.billNo = billNo, .date = on}); }),
+        EXPECT_EQ(told<QString>([&](Books& books) {
+                      return takeReceipt(books, {billNo, {}, {}, on, 0, 0, {}, {}, {}});
+                  }),
                   wrong);
         EXPECT_EQ(told<QString>([&](Books& books) {
-                      return enterVisit(books, {.pno = "P/0001", .date = on}, QDateTime(on, QTime(9, 0)), {});
+                      return takeDeposit(books, {billNo, {}, {}, {}, on, 0, 0, 0, {}, {}, {}, {}});
+                  }),
+                  wrong);
+        EXPECT_EQ(told<QString>([&](Books& books) {
+                      return enterVisit(books, {on, "P/0001", {}, {}, {}, {}, {}, {}}, QDateTime(on, QTime(9, 0)), {});
                   }),
                   wrong);
     }

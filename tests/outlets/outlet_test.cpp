@@ -200,6 +200,17 @@ TEST_P(Outlets, ACreditSaleOwesAllAndNoVisitIsBilledTwiceOrUnseen) {
     save();
     EXPECT_EQ(ui.takeBoxes().join('\n'), "No System generated Bill for this Patient");
     EXPECT_EQ(receipts(), "");
+
+    // He comes back and pays, as every private debtor does.
+    open("frmReceiptTemp");
+    click("cmdAdd");
+    click("cmdInv");
+    pick("cboVehNo", "OKORO ADA [001/26/000001]");
+    EXPECT_EQ(shown("lblCurr lblDep txtEmp"), "501.00|0.00|501.00");
+    pay("501");
+    save();
+    EXPECT_EQ(owed(), "501|501|1|0|CREDIT|1");
+    EXPECT_EQ(rows("select count(*) as n from Tranxaction"), "0") << "he has no running account";
 }
 
 /// Items and ways of the outlet's receipt are made at the cash transfer; nothing of it lies in suspense.
