@@ -179,7 +179,7 @@ void BulkRows::addLine(const BulkVisit& visit, const BulkItem& item, DemoPatient
                  {"coyName", patient.clientID},
                  {"billTo", patient.clientID},
                  {"revType", item.revType},
-                 {"BillBy", consultation ? QVariant(m_user.name) : QVariant()},
+                 {"BillBy", m_user.name},
                  {"Capitated", consultation ? QVariant() : QVariant("NO")},
                  {"isRct", item.covered ? 1 : 0}});
     if (patient.clientID == privateClient)

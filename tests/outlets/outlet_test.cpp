@@ -209,6 +209,7 @@ TEST_P(Outlets, ACreditSaleOwesAllAndNoVisitIsBilledTwiceOrUnseen) {
     EXPECT_EQ(shown("lblCurr lblDep txtEmp"), "501.00|0.00|501.00");
     pay("501");
     save();
+    EXPECT_BOXES(ui, {"Record Succesfully saved"});
     EXPECT_EQ(owed(), "501|501|1|0|CREDIT|1");
     EXPECT_EQ(rows("select count(*) as n from Tranxaction"), "0") << "he has no running account";
 }

@@ -90,7 +90,7 @@ TEST_P(Catalogue, ABillCountsForTheOfficerWhoCollatedItLast) {
     expectDays("cmdDisplay", "No Report for the specified Bill Officer");
     click("cmdList");
     EXPECT_EQ(ws.items("FrmRptBillsByBillingOfficers.cboCust"),
-              (QStringList{"(ALL)", "AMINA BELLO", "AMINA BELLO", "LEFT.LONG.AGO"})); // by user name, by number
+              (QStringList{"(ALL)", "AMINA BELLO", "LEFT.LONG.AGO"})); // she by her user name and by her number
     click("cmdDisplay");
     expectPaper("Bills Collated Betweeen 14/03/2026 and 14/03/2026|All billing officers|");
     expectPaper("4|bills|143.50|");

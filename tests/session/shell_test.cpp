@@ -96,8 +96,10 @@ TEST_P(Shell, hiddenEntriesAreTurnedOnByTheIniAlone) {
         if (control->kind() == ControlKind::Menu && !control->isVisible())
             hidden << control->name();
     EXPECT_EQ(hidden,
-              QStringLiteral("mnuUPC mnuBanks mnuAdmDepo mnuRct mnuDisc mnuPCR mnuPSITC mnuPCBILL mnuPCB mnuBillPublic mnuDFO "
-                             "mnuCBFHPC mnuDispense mnuStockEntry mnuSearch mnuView mnuReal mnuBIBC mnuRemnd mnuCR mnusecurity mnuLR mnuAuto")
+              QStringLiteral(
+                  "mnuUPC mnuBanks mnuAdmDepo mnuRct mnuDisc mnuPCR mnuPSITC mnuPCBILL mnuPCB mnuBillPublic mnuDFO "
+                  "mnuCBFHPC mnuDispense mnuStockEntry mnuSearch mnuView mnuReal mnuBIBC mnuRemnd mnuCR mnusecurity "
+                  "mnuLR mnuAuto")
                   .split(QLatin1Char(' ')));
     EXPECT_FALSE(ws.control("MdiTolmek.mnusecurity").isEnabled());
     EXPECT_EQ(state("mnuAccts"), "visible enabled") << "her name is in UsersForAccts";

@@ -46,7 +46,7 @@ TEST_P(Dispensing, ReachesChartAndBillOnceAndLeavesTheStock) {
     save();
     EXPECT_BOXES(ui, {"Record Succesfully saved"});
     EXPECT_EQ(rows("select drgName, Price, Qty, SubTotal, billType, Capitated, attendedto from BillAccum order by SNo"),
-              "ARTEMETHER INJECTION|1020|3|3060|DRUG||0\nPARACETAMOL 500MG|60|10|600|001||0");
+              "ARTEMETHER INJECTION|1020|3|3060|DRUG||0\nPARACETAMOL 500MG|60|10|600|0||0");
     EXPECT_EQ(rows("select drgName, drgCatName, Qty, usage from hConsultingDetails order by SNo"),
               "ARTEMETHER INJECTION|INJECTIONS|3|STAT\nPARACETAMOL 500MG|TABLETS|10|STAT");
     EXPECT_EQ(rows("select injname, injdate, injTime, numOfTimes, numtaken, dosage, clientCat from hInjAndDressing"),
