@@ -933,15 +933,29 @@ create table ChartOfAccounts (
     groupID varchar(50)
 )
 go
--- What a save wrote of itself in its own transaction: a commit whose answer was lost is looked up by its token.
+-- What a save wrote of itself in its own transaction: a commit whose answer was lost is looked up by its token. The time
+-- and the login are the server's word; trailRows says how many rows of the audit trail name the token.
 create table SavedActions (
     token varchar(36) not null primary key,
-    savedAt datetime not null default getdate(),
+    savedAt datetime not null default sysdatetime(),
+    login nvarchar(128) default suser_sname(),
     username nvarchar(50),
     workstation nvarchar(50),
     action nvarchar(50),
     document nvarchar(50),
-    amount float
+    amount float,
+    trailRows int
+)
+go
+-- What a save added to the rows of money, or took from them (minus): how many rows of a kind, and how much. All parts of
+-- a document make what its rows are; those of the action OPENING stand for what was there before parts were kept.
+create table SavedParts (
+    SNo int identity(1,1) not null primary key,
+    token varchar(36) not null,
+    kind varchar(20) not null,
+    document nvarchar(50) not null,
+    counted int not null,
+    amount float not null
 )
 go
 -- Working tables of job lists and reports that other programs fill; this one reads them whole, if at all.

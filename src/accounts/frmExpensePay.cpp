@@ -190,7 +190,8 @@ void frmExpensePay::OKButton_Click() {
                  cmdCancel_Click();
                  fillGrid();
                  cmdAdd.setFocus();
-             }});
+             },
+         .trailRows = 1});
 }
 
 } // namespace orvane

@@ -115,7 +115,8 @@ void frmRevCashAdjust::OKButton_Click() {
                                           txtBillNo.text(), cboRev.text()});
                  list();
                  clearEntry();
-             }});
+             },
+         .trailRows = 1});
 }
 
 void frmRevCashAdjust::cmdCash_Click() {

@@ -171,7 +171,8 @@ void frmRevCatEdit::OKButton_Click() {
                               .remarks = "OldValue >> " + m_line.revType + " :NewValue >> " + cboRev.text()});
                          m_edited = m_line.sno;
                          cmdList_Click();
-                     }});
+                     },
+                 .trailRows = 1});
 }
 
 void frmRevCatEdit::printLines(const QString& mode) {

@@ -84,7 +84,8 @@ void frmCoyUpdate::OkButton_Click() {
                           [this](const AuditEntry& entry) {
                               program.writeAuditTrail(entry);
                               unload();
-                          }});
+                          },
+                      .trailRows = 1});
 }
 
 } // namespace orvane

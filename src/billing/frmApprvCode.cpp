@@ -117,7 +117,8 @@ void frmApprvCode::OKButton_Click() {
                          addApprovalCode(books, code);
                      return Saved{};
                  },
-                 .follow = [this](const Saved&) { afterSave(); }});
+                 .follow = [this](const Saved&) { afterSave(); },
+                 .trailRows = 1});
 }
 
 void frmApprvCode::afterSave() {

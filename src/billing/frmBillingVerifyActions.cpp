@@ -42,7 +42,8 @@ void frmBillingVerify::cmdBill_Click() {
                           program.box(percent + "% Prof fee of " + formatTwoDecimals(bill) +
                                       " Added\nProf Fee is based on Current Bill\nProf Fee Charged is " +
                                       formatTwoDecimals(fee));
-                      }});
+                      },
+                  .trailRows = 1});
 }
 
 /// False: its user wants no fee.
@@ -69,7 +70,8 @@ void frmBillingVerify::cmdNHIS_Click() {
                                m_bill.consultID, m_feeItem});
                           session.sAdjustItem = m_feeItem;
                           getAccumBill();
-                      }});
+                      },
+                  .trailRows = 1});
 }
 
 bool frmBillingVerify::isManager() {

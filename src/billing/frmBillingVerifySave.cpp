@@ -151,10 +151,16 @@ void frmBillingVerify::saveApprvCode() {
     if (code.isEmpty())
         return;
     try {
-        const bool isNew = *program.desk().save<bool>(
-            "APPROVAL CODE", [&](Books& books) -> Given<bool> { return noteApprovalCode(books, m_bill, code); });
-        program.writeAuditTrail(
-            {(isNew ? "insert Apprv Code for " : "Edit Apprv Code for ") + m_bill.patient, m_bill.consultID, code});
+        QString token;
+        const bool isNew = *program.desk().save<bool>("APPROVAL CODE", [&](Books& books) -> Given<bool> {
+            books.expectTrail(1);
+            token = books.token();
+            return noteApprovalCode(books, m_bill, code);
+        });
+        program.writeAuditTrail({.action = (isNew ? "insert Apprv Code for " : "Edit Apprv Code for ") + m_bill.patient,
+                                 .document = m_bill.consultID,
+                                 .remarks = code,
+                                 .token = token});
     } catch (const DataError& fault) {
         program.box(fault.description());
     }

@@ -134,7 +134,8 @@ void frmPriceAdjustVerify::cmdCancel_Click() {
                              {session.sBillPatName, "Bill " + m_row.billNo, m_row.oldItem, nairaText(m_oldAmount)});
                      },
                  .step = [this](Books& books) { return removeItem(books, m_row); },
-                 .follow = [this, gone = m_row](const Saved&) { afterRemoval(gone); }});
+                 .follow = [this, gone = m_row](const Saved&) { afterRemoval(gone); },
+                 .trailRows = 1});
 }
 
 void frmPriceAdjustVerify::afterRemoval(const ItemChange& gone) {

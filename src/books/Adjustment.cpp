@@ -117,7 +117,9 @@ Given<Saved> removeItem(Books& books, const ItemChange& change) {
     requireUnchanged(itemOf(books, change), change);
     const Recordset line = lineOf(books, change);
     const double charged = line.eof() ? 0 : chargedFor(books, line);
-    books.connection.execute(Sql("delete from billingdetails where SNO = '") << change.sno << "'");
+    removeLines(books, line.eof() ? change.billNo : line.text("billNo"), [&] {
+        books.connection.execute(Sql("delete from billingdetails where SNO = '") << change.sno << "'");
+    });
     books.connection.execute(Sql("delete from billAccum where SNO = '") << change.sno << "'");
     ItemChange gone = change;
     gone.newItem = gone.oldItem;

@@ -68,6 +68,7 @@ void addBill(Books& books, const Bill& bill) {
     row.addNew();
     compose(row, bill);
     row.update();
+    books.note({"BILL", bill.billNo, 1, 0});
 }
 
 void changeBill(Books& books, const Bill& bill) {

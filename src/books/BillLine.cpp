@@ -30,6 +30,16 @@ void addLine(Books& books, const BillLine& line) {
     if (line.sno == 0)
         books.connection.execute(Sql("update BillingDetails set SNo=0-detID where SNo is null and billNo='")
                                  << line.billNo << "'");
+    books.note({"LINE", line.billNo, 1, line.subTotal});
+}
+
+/// The lines of a bill and what they come to.
+SavedPart linesOf(Books& books, const QString& billNo) {
+    const Recordset lines(
+        books.connection,
+        Sql("select count(*) as N,isnull(sum(SubTotal), 0) as Total from BillingDetails where billNo='")
+            << billNo << "'");
+    return {"LINE", billNo, int(lines.integer("N")), lines.number("Total")};
 }
 
 bool bearsTheSame(const Recordset& row, const LineChange& now) {
@@ -61,6 +71,7 @@ void addLines(Books& books, const QVector<BillLine>& lines) {
 
 void changeLine(Books& books, Recordset& row, const LineChange& now, const QString& pno, const QString& remarks) {
     const double before = chargedFor(books, row);
+    books.note({"LINE", row.text("billNo"), 0, round2(now.subTotal - row.number("SubTotal"))});
     const double after = bearsTheSame(row, now) ? before : chargeOf(books, now.name, now.billTo, now.subTotal);
     row.set("drgName", now.name);
     row.set("Price", now.price);
@@ -95,6 +106,8 @@ QVector<AccountEntry> moveLine(Books& books, const Recordset& row, const NewPaye
                              << to.billNo << "',Coyname='" << to.clientID << "',BillTo='" << to.clientCode
                              << "' where sno =" << sno);
     books.connection.execute(Sql("update BillingDetails set Charged=") << after << " where SNo=" << sno);
+    books.note({"LINE", row.text("billNo"), -1, 0 - row.number("SubTotal")});
+    books.note({"LINE", to.billNo, 1, row.number("SubTotal")});
     QVector<AccountEntry> entries;
     const QString privateClient = books.settings().privateClient;
     const QString remarks = "Bill Item Shifted: " + name;
@@ -113,8 +126,20 @@ void keepCharges(Books& books, const QString& billNo) {
                              << billNo << "'");
 }
 
+void removeLines(Books& books, const QString& billNo, const std::function<void()>& removal) {
+    const SavedPart before = linesOf(books, billNo);
+    removal();
+    const SavedPart after = linesOf(books, billNo);
+    books.note({"LINE", billNo, after.counted - before.counted, round2(after.amount - before.amount)});
+}
+
 void removeEmptyLines(Books& books, const QString& billNo) {
-    books.connection.execute(Sql("delete from Billingdetails  where subtotal=0 and billno = '") << billNo << "'");
+    removeLines(
+        books, billNo,
+        [&] {
+            books.connection.execute(Sql("delete from Billingdetails  where subtotal=0 and billno = '")
+                                     << billNo << "'");
+        });
 }
 
 } // namespace orvane

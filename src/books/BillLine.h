@@ -3,6 +3,8 @@
 #include "books/BillItem.h"
 #include "books/PatientAccount.h"
 
+#include <functional>
+
 namespace orvane {
 
 /// A row of BillingDetails: one line of a bill.
@@ -58,6 +60,8 @@ QVector<AccountEntry> moveLine(Books& books, const Recordset& row, const NewPaye
 void keepCharges(Books& books, const QString& billNo);
 
 /// A line at no charge is none.
+/// Runs what deletes lines of the bill, and notes how many and how much it was.
+void removeLines(Books& books, const QString& billNo, const std::function<void()>& removal);
 void removeEmptyLines(Books& books, const QString& billNo);
 
 } // namespace orvane

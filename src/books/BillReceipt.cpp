@@ -6,6 +6,7 @@
 #include "books/PatientAccount.h"
 #include "books/Receipt.h"
 #include "books/ReceiptNumber.h"
+#include "books/User.h"
 #include "data/words/Money.h"
 
 namespace orvane {
@@ -60,6 +61,8 @@ Given<QString> takeReceipt(Books& books, const BillReceipt& receipt) {
 }
 
 Given<QString> reverseReceipt(Books& books, const Reversal& reversal) {
+    if (!holdsRole(books, "MANAGEMENT"))
+        return Refusal::NoReversalRight;
     const QString purpose = reversalPurpose(reversal.receiptNo);
     return enter(books,
                  {.date = reversal.date,

@@ -26,8 +26,10 @@ void removeFromDetails(Books& books, const QString& billNo, qlonglong sno) {
     if (!line.eof())
         giveChargeBack(books, billNo, line);
     // Sent twice: the second one finds nothing.
-    for (int times = 0; times < 2; ++times)
-        connection.execute(Sql("delete from billingdetails where SNO = '") << sno << "'");
+    removeLines(books, line.eof() ? billNo : line.text("billNo"), [&] {
+        for (int times = 0; times < 2; ++times)
+            connection.execute(Sql("delete from billingdetails where SNO = '") << sno << "'");
+    });
     connection.execute(Sql("delete from billAccum where SNO = '") << sno << "'");
     refreshBillFromLines(books, billNo);
     books.record(billNo, line.eof() ? 0 : 0 - line.number("SubTotal"));

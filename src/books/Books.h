@@ -3,12 +3,16 @@
 #include "books/Given.h"
 #include "data/rows/Connection.h"
 #include "data/rows/Recordset.h"
+#include "data/rows/Transaction.h"
 
 #include <QDate>
 #include <QMap>
 #include <functional>
 
 namespace orvane {
+
+/// The name under which the tools work.
+inline const QString toolUser = QStringLiteral("orvane-db");
 
 /// Who acts and from where.
 struct Actor {
@@ -35,7 +39,8 @@ struct AuditEntry {
     QString action;
     QString document; ///< the number of the bill or receipt
     QString remarks;
-    QString user = {}; ///< empty: by the name that he signed in with
+    QString user = {};  ///< empty: by the name that he signed in with
+    QString token = {}; ///< of the save that it belongs to
 };
 
 /// What the work is done with, the same for all that a user does at one moment.
@@ -52,7 +57,7 @@ struct BookContext {
 /// Every writer and rule of the books takes one; all of them raise DataError, which rolls the transaction back.
 class Books {
 public:
-    Books(Connection& open, const BookContext& context) : connection(open), m_context(context) {}
+    Books(Connection& open, const BookContext& context) : connection(open), m_context(context), m_token(freshToken()) {}
 
     Connection& connection;
     const Actor& actor() const { return m_context.actor; }
@@ -60,17 +65,27 @@ public:
     QDate today() const { return m_context.today; }
     QTime now() const { return m_context.now; }
 
-    void audit(const AuditEntry& entry) const { m_context.audit(entry); }
+    void audit(AuditEntry entry);
+    /// So many rows of the audit trail follow once this save is in; they name its token.
+    void expectTrail(int rows) { m_trailRows += rows; }
+    /// What the save adds to the rows of money, or takes from them; see SavedPart.
+    void note(const SavedPart& part);
     /// What this save comes to, for its row in SavedActions: the number of its bill or receipt, and naira.
     void record(const QString& document, double amount);
 
     const QString& document() const { return m_document; }
     double amount() const { return m_amount; }
+    const QString& token() const { return m_token; }
+    /// The row of SavedActions under this name; nothing for a save that did nothing which is to be remembered.
+    std::optional<SavedAction> savedAction(const QString& name) const;
 
 private:
     const BookContext& m_context;
     QString m_document;
     double m_amount = 0;
+    QString m_token;
+    int m_trailRows = 0;
+    QVector<SavedPart> m_parts; ///< one a kind and document
 };
 
 /// For a column that is null where there is nothing to say.

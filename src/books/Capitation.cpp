@@ -4,6 +4,7 @@
 #include "books/BillLine.h"
 #include "books/ItemTrace.h"
 #include "books/PatientAccount.h"
+#include "books/User.h"
 #include "data/words/Money.h"
 
 namespace orvane {
@@ -21,8 +22,10 @@ QHash<qlonglong, double> chargesOf(Books& books, const QString& billNo) {
     return charges;
 }
 
-void emptyBill(Connection& connection, const QString& billNo) {
-    connection.execute(Sql("delete from billingdetails where BillNo = '") << billNo << "'");
+void emptyBill(Books& books, const QString& billNo) {
+    Connection& connection = books.connection;
+    removeLines(books, billNo,
+                [&] { connection.execute(Sql("delete from billingdetails where BillNo = '") << billNo << "'"); });
     connection.execute(Sql("update  billing set AmountBilled=0,AmountBilledInWord='XXX'  where BillNo = '")
                        << billNo << "'");
     connection.execute(Sql("update  BillAccum set Capitated='YES',isBilled=1,AttendedTo=1  where consultID = '")
@@ -47,7 +50,7 @@ QString qtyAndAmount(const Recordset& item) {
     return ": Qty:" + item.text("Qty") + " Amount: " + formatTwoDecimals(item.number("SubTotal"));
 }
 
-void auditCapitation(const Books& books, const BillInHand& bill, const QString& remarks) {
+void auditCapitation(Books& books, const BillInHand& bill, const QString& remarks) {
     books.audit({"Capitated  Bill Item for " + bill.patient, bill.consultID, remarks});
 }
 
@@ -77,7 +80,7 @@ void traceAtItsPrice(Books& books, const BillInHand& bill, const Recordset& item
 /// Gives what goes back to the patient's account, in naira.
 double capitate(Books& books, const BillInHand& bill, Trace trace) {
     const QHash<qlonglong, double> charges = chargesOf(books, bill.consultID);
-    emptyBill(books.connection, bill.consultID);
+    emptyBill(books, bill.consultID);
     QVector<AccountEntry> credits;
     double total = 0;
     for (Recordset items(books.connection, Sql("select * from billAccum where consultID='") << bill.consultID << "'");
@@ -97,6 +100,8 @@ double capitate(Books& books, const BillInHand& bill, Trace trace) {
 } // namespace
 
 Given<Saved> capitateBill(Books& books, const BillInHand& bill) {
+    if (!holdsRole(books, "MANAGEMENT"))
+        return Refusal::NotManager;
     if (const auto refusal = whyNotBilled(books.connection, bill))
         return *refusal;
     books.record(bill.consultID, round2(0 - capitate(books, bill, traceAtNoPrice)));

@@ -19,14 +19,10 @@ void Desk::run(const QString& action, const std::function<bool(Books&)>& step) c
     Books books(connection, m_context);
     if (!step(books))
         return;
-    if (books.document().isEmpty())
-        transaction.commit();
+    if (const std::optional<SavedAction> saved = books.savedAction(action))
+        transaction.commit(*saved);
     else
-        transaction.commit(SavedAction{.user = m_context.actor.user,
-                                       .workstation = m_context.actor.workstation,
-                                       .action = action,
-                                       .document = books.document(),
-                                       .amount = books.amount()});
+        transaction.commit();
 }
 
 } // namespace orvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "books/ActionRights.h"
 #include "books/Books.h"
 
 namespace orvane {
@@ -20,7 +21,10 @@ public:
     Given<T> save(const QString& action, const std::function<Given<T>(Books&)>& step) const {
         std::optional<Given<T>> given;
         run(action, [&](Books& books) {
-            given.emplace(step(books));
+            if (const std::optional<Refusal> refusal = missingRight(books, action))
+                given.emplace(*refusal);
+            else
+                given.emplace(step(books));
             return bool(*given);
         });
         return *given;

@@ -21,6 +21,7 @@ void addDiscountRow(Books& books, const BillDiscount& discount) {
     row.set("Remarks", discount.name);
     row.set("entryBy", books.actor().user);
     row.update();
+    books.note({"DISCOUNT", discount.billNo, 1, discount.amount});
 }
 
 void moveBill(Books& books, const QString& billNo, double amount) {
@@ -62,6 +63,8 @@ Given<Saved> addBillDiscount(Books& books, const BillDiscount& discount) {
     moveBill(books, discount.billNo, amount);
     if (isOutletBill(discount.billNo))
         settleOutletDebt(books, discount.billNo, discount.date);
+    books.audit({(discount.isDiscount ? "insert Discount: " : "insert Charge: ") + discount.name, discount.billNo,
+                 formatTwoDecimals(amount)});
     books.record(discount.billNo, amount);
     return Saved{};
 }

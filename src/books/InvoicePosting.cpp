@@ -33,8 +33,8 @@ void expectAsRead(Connection& billing, const InvoiceToPost& invoice) {
                             .arg(invoice.invNo));
 }
 
-void flagInvoice(const Desk& billing, const InvoiceToPost& invoice) {
-    billing.save<Saved>(
+Given<Saved> flagInvoice(const Desk& billing, const InvoiceToPost& invoice) {
+    return billing.save<Saved>(
         "POST INVOICE",
         [&](Books& books) -> Given<Saved> {
             expectAsRead(books.connection, invoice);
@@ -42,6 +42,7 @@ void flagInvoice(const Desk& billing, const InvoiceToPost& invoice) {
                 {Sql("update BillsForClients  set ispost=1 where InvNo='") << invoice.invNo << "'",
                  Sql("update billingDetails  set ispost=1 where billNo in (Select BillNo from Billing where InvNo= '")
                      << invoice.invNo << "')"});
+            books.note({"POSTING", invoice.invNo, 1, invoice.amount});
             books.record(invoice.invNo, invoice.amount);
             return Saved{};
         });
@@ -78,7 +79,8 @@ Given<QStringList> postAll(LedgerDesk& ledgerDesk, const InvoiceReader& read,
         if (!posted.contains(invoice.invNo))
             if (const auto refusal = postInvoice(ledger, invoice, context.settings.salesAccount))
                 return *refusal;
-        flagInvoice(ledgerDesk.billing(), invoice);
+        if (const Given<Saved> flagged = flagInvoice(ledgerDesk.billing(), invoice); !flagged)
+            return flagged.refusal();
         done << invoice.invNo;
         watch(int(done.size()), int(invoices.size()));
     }

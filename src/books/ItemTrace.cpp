@@ -47,7 +47,7 @@ void traceAdjustmentOfPatient(Books& books, const ItemChange& change, const QStr
     trace.update();
 }
 
-void auditAdjustment(const Books& books, const ItemChange& change, const QString& heading) {
+void auditAdjustment(Books& books, const ItemChange& change, const QString& heading) {
     books.audit({heading + change.oldItem + " : => " + change.newItem, change.billNo,
                  " Qty from: " + QString::number(change.oldQty) + " : => " + QString::number(change.newQty) +
                      " price from: " + formatNumber(change.oldPrice, "0.00") + " : => " +

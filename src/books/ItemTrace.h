@@ -22,7 +22,7 @@ void traceAdjustment(Books& books, const ItemChange& change, const QString& rema
 void traceAdjustmentOfPatient(Books& books, const ItemChange& change, const QString& remarks);
 
 /// The same change in the audit trail; `heading` stands before the item's name.
-void auditAdjustment(const Books& books, const ItemChange& change, const QString& heading);
+void auditAdjustment(Books& books, const ItemChange& change, const QString& heading);
 
 /// The correction of a line that is or was a carried balance, in hDebtReview: `price` as it stands, but minus for a
 /// "PREVIOUS DEBT".

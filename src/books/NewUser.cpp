@@ -1,5 +1,6 @@
 #include "books/NewUser.h"
 
+#include "books/ToolContext.h"
 #include "books/User.h"
 #include "data/rows/Transaction.h"
 #include "data/words/Scramble.h"
@@ -61,11 +62,11 @@ void admitUser(Books& books, const NewUser& user) {
 }
 
 void admitUser(Connection& billing, const NewUser& user) {
-    const BookContext tool{};
+    const BookContext tool = toolContext(billing);
     Transaction transaction(billing);
     Books books(billing, tool);
     admitUser(books, user);
-    transaction.commit();
+    transaction.commit(*books.savedAction("USER ADD"));
 }
 
 } // namespace orvane

@@ -102,6 +102,10 @@ Given<LedgerDesk::Noted> LedgerDesk::savedNote(Ledger& ledger, const Posting& po
     return m_desk.save<Noted>(
         "NOTE POSTING",
         [&](Books& books) -> Given<Noted> {
+            // A voucher is posted behind its payment, by whoever pays it.
+            if (posting.note.kind != QLatin1String("EXPENSE"))
+                if (const std::optional<Refusal> refusal = missingRight(books, "POST INVOICE"))
+                    return *refusal;
             Noted noted{posting.note, {}, 0};
             ledger.fetchTranID();
             noted.note.tranID = ledger.tranID();
@@ -111,6 +115,7 @@ Given<LedgerDesk::Noted> LedgerDesk::savedNote(Ledger& ledger, const Posting& po
             noted.entries = *entries;
             noted.amount = debits(*entries);
             addNote(books, noted.note);
+            books.note({"POSTING", noted.note.tranID, 1, noted.amount});
             books.record(noted.note.tranID, noted.amount);
             return noted;
         });
@@ -122,6 +127,7 @@ void LedgerDesk::drop(const PostingNote& note) {
         [&](Books& books) -> Given<Saved> {
             releaseSources(books, note);
             strikeNote(books, note.tranID);
+            books.note({"POSTING", note.tranID, -1, 0});
             books.record(note.tranID, 0);
             return Saved{};
         });

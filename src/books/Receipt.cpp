@@ -21,6 +21,7 @@ void addReceipt(Books& books, const Receipt& receipt) {
     row.set("rTime", books.now().toString("HH:mm"));
     row.set("Remarks", receipt.remarks);
     row.update();
+    books.note({"RECEIPT", receipt.receiptNo, 1, receipt.amountPaid});
 }
 
 } // namespace orvane

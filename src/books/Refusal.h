@@ -57,6 +57,9 @@ enum class Refusal {
     AlreadyDispensed,  ///< the prescription waits no more for this patient
     NoStockItem,       ///< the retail store has no item of the code
     StockEntryChanged, ///< the entry under edit was changed since it was read
+    NoReversalRight,   ///< a user without the role MANAGEMENT reverses no receipt
+    NotManager,        ///< a user without the role MANAGEMENT capitates no bill
+    NotOfAccounts,     ///< what the Accounts do is for their users
     UserNameTaken,     ///< an account bears the name
     UnknownUser,       ///< no account bears the name, or not with this password
     RoleExists,        ///< a role has the id

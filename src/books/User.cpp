@@ -20,6 +20,7 @@ Given<Saved> addUser(Books& books, const User& user) {
     if (!user.empID.isEmpty())
         books.connection.execute(Sql("update ApplicationUsers set EmpID='")
                                  << user.empID << "' where Username = '" << user.name << "'");
+    books.audit({"Add User: " + user.name, user.name, {}});
     books.record(user.name, 0);
     return Saved{};
 }
@@ -31,6 +32,7 @@ Given<Saved> changeAccountStatus(Books& books, const QString& name, const QStrin
         return Refusal::UnknownUser;
     account.set("AccountStatus", status);
     account.update();
+    books.audit({"Account " + status + ": " + name, name, {}});
     books.record(name, 0);
     return Saved{};
 }
@@ -42,6 +44,7 @@ Given<Saved> changePassword(Books& books, const QString& name, const QString& ol
         return Refusal::UnknownUser;
     books.connection.execute(Sql("UPDATE ApplicationUsers SET Password = '")
                              << newPassword << "' where Username = '" << name << "'");
+    books.audit({"Change Password: " + name, name, {}});
     books.record(name, 0);
     return Saved{};
 }
@@ -50,6 +53,7 @@ Given<Saved> addRole(Books& books, qlonglong id, const QString& name) {
     if (!Recordset(books.connection, Sql("SELECT * FROM Roles WHERE RoleID = '") << id << "'").eof())
         return Refusal::RoleExists;
     books.connection.execute(Sql("INSERT INTO Roles (RoleID, LoginRole) VALUES (") << id << ", '" << name << "')");
+    books.audit({"Add Role: " + name, QString::number(id), {}});
     books.record(QString::number(id), 0);
     return Saved{};
 }
@@ -60,6 +64,7 @@ Given<Saved> deleteRole(Books& books, qlonglong id) {
     if (!Recordset(books.connection, Sql("SELECT * FROM UserRoles WHERE RoleID = ") << id).eof())
         return Refusal::RoleIsHeld;
     books.connection.execute(Sql("DELETE FROM Roles WHERE RoleID = '") << id << "'");
+    books.audit({"Delete Role: " + QString::number(id), QString::number(id), {}});
     books.record(QString::number(id), 0);
     return Saved{};
 }
@@ -71,8 +76,17 @@ Given<Saved> allotRole(Books& books, qlonglong id, const QString& userName) {
         return Refusal::RoleAllotted;
     books.connection.execute(Sql("INSERT INTO UserRoles(RoleID, Username) VALUES (")
                              << id << ", '" << userName << "')");
+    books.audit({"Allot Role " + QString::number(id) + " to: " + userName, userName, {}});
     books.record(userName, 0);
     return Saved{};
+}
+
+bool holdsRole(Books& books, const QString& role) {
+    return !Recordset(books.connection, Sql("select username from vwUsers where loginRole='")
+                                            << role
+                                            << "' and isnull(AccountStatus, '') in ('Enabled', '') and username='"
+                                            << books.actor().user << "'")
+                .eof();
 }
 
 } // namespace orvane

@@ -21,6 +21,10 @@ Given<Saved> changeAccountStatus(Books& books, const QString& name, const QStrin
 /// Stores the new password as it was typed. Refuses a name that does not go with the old one.
 Given<Saved> changePassword(Books& books, const QString& name, const QString& oldPassword, const QString& newPassword);
 
+/// Whether the user of the books has an account in use with this role, as the database says now: asked inside the
+/// transaction that needs the right, since it may have been taken away while a screen was open.
+bool holdsRole(Books& books, const QString& role);
+
 /// Refuses an id that is in use.
 Given<Saved> addRole(Books& books, qlonglong id, const QString& name);
 /// Refuses a role that does not exist, and one that users hold.

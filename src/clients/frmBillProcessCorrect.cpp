@@ -20,7 +20,8 @@ void frmBillProcess::cmdOK_Click() {
                      noteOnBill(books);
                      return Saved{};
                  },
-                 .follow = [this](const Saved&) { afterNote(); }});
+                 .follow = [this](const Saved&) { afterNote(); },
+                 .trailRows = int(!txtApprv.text().trimmed().isEmpty()) + int(!txtDiag.text().trimmed().isEmpty())});
 }
 
 void frmBillProcess::noteOnBill(Books& books) {
@@ -118,7 +119,8 @@ void frmBillProcess::cmdAdjust_Click() {
                      return Saved{};
                  },
                  .follow = [this, billNo, removed, patient = grdData.text("Fullname")](
-                               const Saved&) { afterRemoval(billNo, removed, patient); }});
+                               const Saved&) { afterRemoval(billNo, removed, patient); },
+                 .trailRows = 1});
 }
 
 void frmBillProcess::afterRemoval(const QString& billNo, const QString& removed, const QString& patient) {

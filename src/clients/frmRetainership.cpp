@@ -152,22 +152,22 @@ ClientEntry frmRetainership::entered() const {
 
 void frmRetainership::OKButton_Click() {
     if (bEditing)
-        save<Saved>(
-            {.button = master.OKButton,
-             .action = "CLIENT EDIT",
-             .allowed = [this] { return isComplete(); },
-             .step = [this](Books& books) -> Given<Saved> {
-                 changeClient(books, sRetainID, entered());
-                 return Saved{};
-             },
-             .follow = [this](const Saved&) { afterSave("Record Succesfully Updated", "Edit Client Info: "); }});
+        save<Saved>({.button = master.OKButton,
+                     .action = "CLIENT EDIT",
+                     .allowed = [this] { return isComplete(); },
+                     .step = [this](Books& books) -> Given<Saved> {
+                         changeClient(books, sRetainID, entered());
+                         return Saved{};
+                     },
+                     .follow = [this](const Saved&) { afterSave("Record Succesfully Updated", "Edit Client Info: "); },
+                     .trailRows = 1});
     else
-        save<QString>(
-            {.button = master.OKButton,
-             .action = "CLIENT ADD",
-             .allowed = [this] { return isComplete(); },
-             .step = [this](Books& books) { return addClient(books, entered()); },
-             .follow = [this](const QString&) { afterSave("Record Succesfully saved", "Add Client Info: "); }});
+        save<QString>({.button = master.OKButton,
+                       .action = "CLIENT ADD",
+                       .allowed = [this] { return isComplete(); },
+                       .step = [this](Books& books) { return addClient(books, entered()); },
+                       .follow = [this](const QString&) { afterSave("Record Succesfully saved", "Add Client Info: "); },
+                       .trailRows = 1});
 }
 
 void frmRetainership::afterSave(const QString& message, const QString& action) {

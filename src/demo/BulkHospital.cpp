@@ -2,7 +2,7 @@
 
 #include "books/BillDate.h"
 #include "books/Consultation.h"
-#include "data/rows/Transaction.h"
+#include "data/rows/ActionParts.h"
 #include "data/words/Money.h"
 #include "demo/BulkOutlets.h"
 #include "demo/BulkRows.h"
@@ -311,6 +311,7 @@ void makeBulkHospital(DemoHospital& hospital, Connection& billing, Connection& a
     billing.execute(Sql("update IDgen set ID=") << bulk.receipts() << " where DestName='RECEIPT2'");
     checkItemNumbers(billing, bulk.items());
     makeBulkOutlets(billing, hospital);
+    noteOpening(billing);
     transaction.commit();
     progress(QStringLiteral("%1 patients are in.").arg(hospital.patients.size()));
 }

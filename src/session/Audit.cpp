@@ -22,7 +22,8 @@ void Program::writeAuditTrail(const AuditEntry& entry) {
                                         {"@ActionTime", session.gServerTime.toString("HH:mm")},
                                         {"@TranCode", entry.document},
                                         {"@Remarks", entry.remarks},
-                                        {"@Src", session.gModuleName + ": from " + session.sComputerName}});
+                                        {"@Src", session.gModuleName + ": from " + session.sComputerName},
+                                        {"@saveToken", entry.token.isEmpty() ? followedSave : entry.token}});
     } catch (const DataError& fault) {
         boxAfterTransaction(fault.description());
     }

@@ -22,7 +22,8 @@ bool proveUser(Program& program, Connection& connection) {
     Session& session = program.session;
     const Recordset user(connection,
                          Sql("SELECT EmpID, Fullname,username,loginrole,hname,hospID FROM vwUsers WHERE Username = '")
-                             << session.gUsername << "'  and loginrole='" << session.gModuleName << "'");
+                             << session.gUsername << "'  and loginrole='" << session.gModuleName
+                             << "' and isnull(AccountStatus, '') in ('Enabled', '')");
     if (user.eof()) {
         program.box("Invalid Login OR session has expired!!! Please Re-login");
         return false;

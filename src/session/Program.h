@@ -69,6 +69,7 @@ public:
     /// As Ui::question. Asserts that no transaction is open.
     bool question(const QString& text, const QString& title = {}, Consent consent = Consent::Keeps,
                   const QString& detail = {});
+    QString followedSave; ///< token of the save whose follow-up runs: rows of the audit trail name it
     /// Hears what was saved last, in words; the shell shows it.
     std::function<void(const QString& words)> onSaved;
 

@@ -1,6 +1,7 @@
 #include "session/Screen.h"
 
 #include <QPointer>
+#include <QScopedValueRollback>
 
 namespace orvane {
 
@@ -19,7 +20,8 @@ const QString leftOpenText = QStringLiteral(
     "It is still not known whether the last entry was saved. Please look it up before you enter it again.");
 
 /// A fault in what follows a save must not look as if nothing had been saved.
-void doAfterSave(const std::function<void()>& follow) {
+void doAfterSave(QString& followedSave, const std::function<void()>& follow) {
+    const QScopedValueRollback<QString> thisSave(followedSave);
     try {
         follow();
     } catch (const DataError& fault) {
@@ -86,7 +88,7 @@ bool Screen::saveErased(const AnySave& wanted) {
             program.box(refusalText(*refusal));
         return false;
     }
-    doAfterSave(wanted.follow);
+    doAfterSave(program.followedSave, wanted.follow);
     return true;
 }
 
@@ -125,7 +127,7 @@ bool Screen::settlesSave() {
     program.box(outcome == CommitOutcome::Saved ? savedText : notSavedText);
     if (outcome == CommitOutcome::Saved) {
         keepSaved(settled.words());
-        doAfterSave(settled.follow);
+        doAfterSave(program.followedSave, settled.follow);
     }
     return true;
 }

@@ -26,6 +26,7 @@ struct Save {
     std::function<bool()> prepare = {};        ///< what comes between the answer and the transaction; false stops
     std::function<Given<Result>(Books&)> step; ///< what is written, in one transaction
     std::function<void(const Result&)> follow; ///< once it is saved. It must live off what it is given and holds
+    int trailRows = 0;                         ///< of the audit trail, that `follow` writes
     std::function<void(Refusal)> refused = {}; ///< when the step refused; unset: its words in a box
 };
 
@@ -55,7 +56,7 @@ protected:
     bool save(const Save<Result>& wanted) {
         struct Outcome {
             std::optional<Given<Result>> given;
-            QString document;
+            QString document, token;
             double amount = 0;
         };
         const auto result = std::make_shared<Outcome>();
@@ -69,6 +70,8 @@ protected:
              .prepare = wanted.prepare,
              .step = [this, &wanted, result]() -> std::optional<Refusal> {
                  const auto kept = [&](Books& books) {
+                     books.expectTrail(wanted.trailRows);
+                     result->token = books.token();
                      result->given.emplace(wanted.step(books));
                      result->document = books.document();
                      result->amount = books.amount();
@@ -78,7 +81,11 @@ protected:
                  return given ? std::nullopt : std::optional(given.refusal());
              },
              .words = [action = wanted.action, result] { return savedWords(action, result->document, result->amount); },
-             .follow = [follow = wanted.follow, result] { follow(**result->given); },
+             .follow =
+                 [this, follow = wanted.follow, result] {
+                     program.followedSave = result->token;
+                     follow(**result->given);
+                 },
              .refused = wanted.refused});
     }
 

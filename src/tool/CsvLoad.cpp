@@ -1,5 +1,7 @@
 #include "tool/CsvLoad.h"
 
+#include "books/ToolContext.h"
+#include "data/rows/ActionParts.h"
 #include "data/rows/Recordset.h"
 #include "data/rows/Transaction.h"
 #include "data/words/Csv.h"
@@ -179,12 +181,27 @@ void continueNumbering(Connection& connection, const Table& table, const QVector
     }
 }
 
+/// The load as a save: settings and users come by one too. Money that had come by no save before it stays so.
+SavedAction loadAction(Connection& connection, const Table& table, int count, const QVector<SavedPart>& before) {
+    const BookContext tool = toolContext(connection);
+    Books books(connection, tool);
+    for (const SavedPart& part : moneyBesideSaves(connection))
+        books.note(part);
+    for (const SavedPart& part : before)
+        books.note({part.kind, part.document, 0 - part.counted, 0 - part.amount});
+    books.audit({"Load: " + table.name, {}, QStringLiteral("%1 row(s)").arg(count)});
+    books.record(table.name, 0);
+    return *books.savedAction("LOAD");
+}
+
 } // namespace
 
 int loadCsv(Connection& connection, const Table& table, const QString& fileName, const QByteArray& content) {
     CsvReader reader(content);
     const QVector<const Column*> columns = readHeads(reader, table, fileName);
+    const bool ofBilling = Catalog::instance().tables("billing").contains(&table);
     Transaction transaction(connection);
+    const QVector<SavedPart> before = ofBilling ? moneyBesideSaves(connection) : QVector<SavedPart>();
     Recordset rows = connection.run(QStringLiteral("select * from [%1] where 1=2").arg(table.name));
     int count = 0;
     while (const auto record = reader.next()) {
@@ -195,7 +212,10 @@ int loadCsv(Connection& connection, const Table& table, const QString& fileName,
         refuse(fileName, *reader.fault(), columns);
     if (count > 0)
         continueNumbering(connection, table, columns);
-    transaction.commit();
+    if (ofBilling)
+        transaction.commit(loadAction(connection, table, count, before));
+    else
+        transaction.commit();
     return count;
 }
 

@@ -25,11 +25,12 @@ TEST_P(ProceduresTest, AnAuditRowSurvivesARollback) {
                                      {"ActionTime", QTime(9, 30)},
                                      {"TranCode", "R1"},
                                      {"Remarks", QString()},
-                                     {"Src", "BILLING: from DESK"}});
+                                     {"Src", "BILLING: from DESK"},
+                                     {"saveToken", "T1"}});
     }
     Connection trail = data.open(GetParam() == Engine::Sqlite ? "Server=SERVER;Database=Audit" : TestHome::billing());
-    EXPECT_EQ(rowsOf(trail, "select userName,userAction,ActionDate,ActionTime,TranCode,Src from AuditTrail"),
-              "amina.b|Save O'NEILL|2026-03-14|09:30:00|R1|BILLING: from DESK");
+    EXPECT_EQ(rowsOf(trail, "select userName,userAction,ActionDate,ActionTime,TranCode,Src,saveToken from AuditTrail"),
+              "amina.b|Save O'NEILL|2026-03-14|09:30:00|R1|BILLING: from DESK|T1");
     EXPECT_EQ(scalar("select count(*) from Payments"), "0");
 }
 

@@ -1,5 +1,6 @@
 #include "support/Check.h"
 
+#include "data/rows/ActionParts.h"
 #include "play/QuietUi.h"
 #include "session/Main.h"
 #include "support/Rows.h"
@@ -82,6 +83,7 @@ void lay(Program& program, std::span<const Rows> laid, const QStringList& statem
     Connection billing = program.openBilling();
     for (const Rows& rows : laid)
         addRows(billing, rows.into, rows.rows);
+    noteOpening(billing);
     for (const QString& statement : statements)
         (ofAccounting ? program.openAccounting() : program.openBilling()).run(statement);
 }
@@ -242,6 +244,17 @@ const Plant plants[] = {
      {"insert into hInjAndDressing (consultID,injname) values ('001OFL0000001','A')",
       "insert into hMedChartMonitor (consultID,drgName) values ('001OFL0000001','A')"}},
     {"stock below nothing", {"insert into StockItemsRetail (ItemID,UnitsInStock) values ('A',-1)"}},
+    {"receipt beside its saves", {"update Payments set AmountPaid=AmountPaid+1 where ReceiptNo='7'"}},
+    {"bill beside its saves", {"insert into Billing (billNo) values ('001OFL0000050')"}},
+    {"bill's lines beside its saves", {"delete from BillingDetails where SNo=4"}},
+    {"discount beside its saves", {"insert into billDiscounts (billNo,Amount) values ('001OFL0000001',10)"}},
+    {"money without its save", {"delete from SavedActions"}},
+    {"save without its trail", {"insert into SavedActions (token,trailRows) values ('T1',1)"}},
+    {"posting without its save",
+     {"insert into SavedParts (token,kind,document,counted,amount) values ('T1','POSTING','8',1,0)"},
+     false,
+     {"insert into TranFromAppsTrail (TranID,TranNoApp,Remarks) values ('8','I8','RECEIPT')",
+      "insert into TranFromAppsTrail (TranID,TranNoApp,Remarks) values ('9','I9','RECEIPT')"}},
     {"posting left over", {"insert into PostingNotes (gTranID,kind) values ('T1','RECEIPT')"}},
 };
 

@@ -124,7 +124,9 @@ TEST_P(Rights, AreEnoughForEveryActionAndItWritesByTheBooksAlone) {
         action.enter(ws);
         takeShown(ws.ui);
         const QString before = moneyFigures(ws);
+        const int saves = ws.tableCount("SavedActions where trailRows >= 0");
         action.press(ws);
+        EXPECT_GT(ws.tableCount("SavedActions where trailRows >= 0"), saves) << "no row of its own";
         listener.expectSteps(action.name);
         const QStringList shown = takeShown(ws.ui);
         EXPECT_TRUE(action.isReportedBy(shown)) << shown.join(" / ").toStdString();
@@ -143,9 +145,15 @@ TEST_P(Rights, AreNoMoreThanTheProgramNeeds) {
     const std::pair<QString, QStringList> refused[] = {
         {TestHome::billing(),
          {"drop table Payments", "delete from Payments", "update Payments set AmountPaid=0",
-          "update PaymentTypes set AmountPaid=0", "delete from AuditTrail", "update Tranxaction set Amount=0",
-          "delete from hPatients", "insert into AppDefaults (ID) values ('X')", "select * from billoflading",
-          "create table mine (a int)"}},
+          "update PaymentTypes set AmountPaid=0", "delete from AuditTrail", "update AuditTrail set login='x'",
+          "insert into AuditTrail (userName, login) values ('x', 'y')",
+          "insert into AuditTrail (savedAt) values "
+          "('2020-01-01')",
+          "insert into SavedActions (token, savedAt) values ('x', '2020-01-01')",
+          "insert into SavedActions (token, login) values ('x', 'y')", "update SavedActions set username='x'",
+          "delete from SavedActions", "delete from SavedParts", "update SavedParts set amount=0",
+          "update Tranxaction set Amount=0", "delete from hPatients", "insert into AppDefaults (ID) values ('X')",
+          "select * from billoflading", "create table mine (a int)"}},
         {TestHome::accounting(),
          {"delete from Tranxaction", "update Tranxaction set Amount=0", "update AccountMonthOpen set isClose=0"}}};
     for (const auto& [database, statements] : refused)

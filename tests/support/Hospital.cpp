@@ -1,5 +1,6 @@
 #include "support/Hospital.h"
 
+#include "data/rows/ActionParts.h"
 #include "data/rows/Recordset.h"
 #include "data/rows/Transaction.h"
 
@@ -130,6 +131,7 @@ void makeMonthLine(Connection& billing, const QString& billNo, const QString& cl
                     << "')");
     billing.execute(Sql("update Billing set Amountbilled=isnull(Amountbilled, 0)+")
                     << amount << " where billNo='" << billNo << "'");
+    noteOpening(billing);
 }
 
 } // namespace orvane

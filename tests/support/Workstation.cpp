@@ -1,9 +1,11 @@
 #include "support/Workstation.h"
 
+#include "data/rows/ActionParts.h"
 #include "screens/Screens.h"
 #include "session/Main.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <stdexcept>
 
 namespace orvane {
@@ -56,6 +58,14 @@ Control& Workstation::usable(const QString& name) {
     Control& found = control(name);
     requireUsable(found, nullptr);
     return found;
+}
+
+void Workstation::run(const QString& tsql) {
+    Connection connection = billing();
+    connection.run(tsql);
+    static const QRegularExpression money("Payments|Billing|billDiscounts", QRegularExpression::CaseInsensitiveOption);
+    if (tsql.contains(money))
+        noteOpening(connection);
 }
 
 QString Workstation::scalar(const QString& tsql) {

@@ -57,7 +57,7 @@ public:
 
     Connection billing() { return program.openBilling(); }
     Connection accounting() { return program.openAccounting(); }
-    void run(const QString& tsql) { billing().run(tsql); } ///< on the billing database
+    void run(const QString& tsql); ///< on the billing database; what it does to money counts as history
     /// The first column of the first row of the billing database; "" without a row.
     QString scalar(const QString& tsql);
     QString accountingScalar(const QString& tsql);

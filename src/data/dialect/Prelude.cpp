@@ -13,6 +13,11 @@ const char* const postgresql[] = {
     "create or replace function getdate() returns timestamp language sql stable as "
     "$$ select coalesce(nullif(current_setting('orvane.clock', true), '')::timestamp, date_trunc('second', "
     "localtimestamp)) $$",
+    // The server's own clock and login, for columns by default: no setting of the session changes them. Their bodies
+    // are read here and now, so that no schema of the session's path stands before them.
+    "create or replace function sysdatetime() returns timestamp language sql volatile "
+    "return date_trunc('second', clock_timestamp() at time zone current_setting('log_timezone'))",
+    "create or replace function suser_sname() returns citext language sql stable return session_user::text::citext",
     // The digits that a text begins with; 0 when it begins with none, so that a foreign number is no fault.
     "create or replace function orvane_bigint(citext) returns bigint language sql immutable parallel safe as "
     "$$ select coalesce(substring($1::text from '^ *([+-]?[0-9]{1,18})')::bigint, case when $1 is null then null else "

@@ -106,6 +106,12 @@ QString valueText(const QVariant& value) {
     }
 }
 
+QString cutTo(const QString& text, const Column& column) {
+    if (column.length <= 0 || text.size() <= column.length)
+        return text;
+    return text.left(text.at(column.length).isLowSurrogate() ? column.length - 1 : column.length);
+}
+
 QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind kind, int longest) {
     const bool isText = kind == ColumnKind::Text || kind == ColumnKind::Time;
     if (isEmptyValue(value) ||

@@ -14,6 +14,9 @@ QString valueText(const QVariant& value);
 /// naming the column for what it may not hold, such as a text of more than `longest` characters (0: any number).
 QVariant valueForColumn(const QVariant& value, const QString& column, ColumnKind kind, int longest = 0);
 
+/// As much of a text as the column takes, no character of it half.
+QString cutTo(const QString& text, const Column& column);
+
 /// A value as it is bound into a statement: dates as ISO text.
 QVariant valueForBinding(const QVariant& value);
 

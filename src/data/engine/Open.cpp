@@ -10,7 +10,9 @@
 #include <QSqlDriver>
 #include <QSqlError>
 #include <QUrl>
+#include <pwd.h>
 #include <sqlite3.h>
+#include <unistd.h>
 
 namespace orvane {
 
@@ -78,6 +80,17 @@ void getDate(sqlite3_context* context, int, sqlite3_value**) {
     giveText(context, written);
 }
 
+/// sysdatetime(): the machine's clock, whatever clock is fixed for scripts.
+void systemTime(sqlite3_context* context, int, sqlite3_value**) {
+    giveText(context, QDateTime::currentDateTime().toString("yyyy-MM-dd HH:mm:ss"));
+}
+
+/// suser_sname(): who runs this process, by the system's own list of users.
+void systemUser(sqlite3_context* context, int, sqlite3_value**) {
+    const passwd* user = getpwuid(getuid());
+    giveText(context, user ? QString::fromLocal8Bit(user->pw_name) : QString());
+}
+
 /// orvane_text(x): a number as T-SQL writes it, without ".0" behind a whole one; a text as it is.
 void textOf(sqlite3_context* context, int, sqlite3_value** arguments) {
     if (sqlite3_value_type(arguments[0]) == SQLITE_FLOAT)
@@ -92,6 +105,8 @@ void prepareSqlite(const Physical& physical, const std::shared_ptr<Source>& sour
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     sqlite3_create_function(handle, "getdate", 0, SQLITE_UTF8, source.get(), getDate, nullptr, nullptr);
+    sqlite3_create_function(handle, "sysdatetime", 0, SQLITE_UTF8, nullptr, systemTime, nullptr, nullptr);
+    sqlite3_create_function(handle, "suser_sname", 0, SQLITE_UTF8, nullptr, systemUser, nullptr, nullptr);
     sqlite3_create_function(handle, "orvane_text", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, textOf, nullptr,
                             nullptr);
     installExactSum(handle);

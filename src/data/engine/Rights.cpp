@@ -2,6 +2,7 @@
 
 #include "data/dialect/Catalog.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <span>
 
@@ -21,7 +22,7 @@ constexpr TableRights billingTables[] = {
     {"AppDefaults", ""},
     {"ApplicationUsers", "insert, update"},
     {"appSettings", ""},
-    {"AuditTrail", "insert"},
+    {"AuditTrail", "insert (userName, userAction, ActionDate, ActionTime, TranCode, Remarks, Src, saveToken)"},
     {"banks", "insert, update, delete"},
     {"BillAccum", "insert, update, delete"},
     {"billDiscounts", "insert"},
@@ -80,7 +81,8 @@ constexpr TableRights billingTables[] = {
     {"PostingNotes", "insert, delete"},
     {"PurchaseOrder", ""},
     {"Roles", "insert, delete"},
-    {"SavedActions", "insert"},
+    {"SavedActions", "insert (token, username, workstation, action, document, amount, trailRows)"},
+    {"SavedParts", "insert (token, kind, document, counted, amount)"},
     {"StockEntryAcct", "update (isPost, TranID, InvAcctNo)"},
     {"StockEntryRetail", "insert, update"},
     {"StockItems", ""},
@@ -101,11 +103,14 @@ constexpr TableRights accountingTables[] = {
 };
 
 /// Nothing: the program leaves the table alone. The checks read every table that holds an amount.
-std::optional<QString> rightsOn(const Table& table, bool billing) {
+/// SQL Server grants an insert for whole tables only.
+std::optional<QString> rightsOn(const Table& table, bool billing, Engine engine) {
     const std::span<const TableRights> all = billing ? std::span<const TableRights>(billingTables) : accountingTables;
     for (const TableRights& rights : all) {
         if (table.name == QLatin1StringView(rights.table)) {
-            const QString does = QLatin1StringView(rights.does);
+            QString does = QLatin1StringView(rights.does);
+            if (engine == Engine::SqlServer)
+                does.replace(QRegularExpression("insert \\([^)]*\\)"), "insert");
             return does.isEmpty() ? "select" : "select, " + does;
         }
     }
@@ -131,7 +136,7 @@ QStringList rightsStatements(Engine engine, const QString& database, const QStri
     if (billing)
         tables += Catalog::instance().tables("audit");
     for (const Table* table : tables)
-        if (const std::optional<QString> rights = rightsOn(*table, billing))
+        if (const std::optional<QString> rights = rightsOn(*table, billing, engine))
             statements += QStringLiteral("grant %1 on %2 to %3").arg(*rights, table->name, to);
     for (const QString& view : Catalog::instance().views(database))
         statements += QStringLiteral("grant select on %1 to %2").arg(view, to);

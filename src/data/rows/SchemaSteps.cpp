@@ -197,7 +197,8 @@ create index ixVoucherPaidDate on hExpensePay (PayDate)
 go
 create index ixVoucherPaidItemsNo on hExpensePayDetails (vouchNo)
 )"},
-    {5, "billing", "the column StockEntryAcct.TranID, the transaction of the ledger that a supplier's entry is in, and indexes", R"(
+    {5, "billing",
+     "the column StockEntryAcct.TranID, the transaction of the ledger that a supplier's entry is in, and indexes", R"(
 alter table StockEntryAcct add TranID varchar(50)
 go
 create index ixStockEntryInvoiceDate on StockEntryAcct (InvoiceDate)
@@ -209,7 +210,8 @@ drop index ixRecordsBatch on hRecords
 go
 create index ixRecordsBatch on hRecords (convert(varchar(7), BillDate, 111), coyName, PNo, consultID, BillDate)
 )"},
-    {6, "billing", "the indexes by which prescriptions that wait, what was dispensed, and entries of stock are found", R"(
+    {6, "billing", "the indexes by which prescriptions that wait, what was dispensed, and entries of stock are found",
+     R"(
 create index ixConsultingOpen on hconsulting (consultID) where attendedto = 0
 go
 create index ixDispensedConsultID on hConsultingDetails (consultID)
@@ -224,6 +226,78 @@ go
 create index ixInvestigateLabNo on hInvestigate (labnum)
 go
 create index ixFindingsConsultID on hInvestigateFindings (consultID)
+)"},
+    {6, "billing",
+     "SavedActions with the server's time and login, and the table SavedParts with what each save did to money", R"(
+create table SavedActionsKept (token varchar(36) not null, savedAt datetime, username nvarchar(50), workstation nvarchar(50), action nvarchar(50), document nvarchar(50), amount float)
+go
+insert into SavedActionsKept (token, savedAt, username, workstation, action, document, amount)
+    select token, savedAt, username, workstation, action, document, amount from SavedActions
+go
+drop table SavedActions
+go
+create table SavedActions (
+    token varchar(36) not null primary key,
+    savedAt datetime not null default sysdatetime(),
+    login nvarchar(128) default suser_sname(),
+    username nvarchar(50),
+    workstation nvarchar(50),
+    action nvarchar(50),
+    document nvarchar(50),
+    amount float,
+    trailRows int
+)
+go
+insert into SavedActions (token, savedAt, username, workstation, action, document, amount)
+    select token, savedAt, username, workstation, action, document, amount from SavedActionsKept
+go
+drop table SavedActionsKept
+go
+create table SavedParts (
+    SNo int identity(1,1) not null primary key,
+    token varchar(36) not null,
+    kind varchar(20) not null,
+    document nvarchar(50) not null,
+    counted int not null,
+    amount float not null
+)
+go
+insert into SavedActions (token, action) values ('opening-of-schema-6', 'OPENING')
+go
+insert into SavedParts (token, kind, document, counted, amount)
+    select 'opening-of-schema-6', t.kind, isnull(t.document, ''), count(*), isnull(sum(t.amount), 0) from (
+    select 'RECEIPT' as kind, ReceiptNo as document, AmountPaid as amount from Payments
+    union all select 'BILL' as kind, billNo as document, 0 as amount from Billing
+    union all select 'LINE' as kind, billNo as document, SubTotal as amount from BillingDetails
+    union all select 'DISCOUNT' as kind, billNo as document, Amount as amount from billDiscounts
+    ) t group by t.kind, isnull(t.document, '')
+)"},
+    {6, "audit", "the audit trail with the server's time and login, and the save that a row belongs to", R"(
+create table AuditTrailKept (SNo int not null primary key, userName nvarchar(50), userAction nvarchar(1000), ActionDate date, ActionTime varchar(20), TranCode varchar(50), Remarks nvarchar(1000), Src nvarchar(100))
+go
+insert into AuditTrailKept (SNo, userName, userAction, ActionDate, ActionTime, TranCode, Remarks, Src)
+    select SNo, userName, userAction, ActionDate, ActionTime, TranCode, Remarks, Src from AuditTrail
+go
+drop table AuditTrail
+go
+create table AuditTrail (
+    SNo int identity(1,1) not null primary key,
+    userName nvarchar(50),
+    userAction nvarchar(1000),
+    ActionDate date,
+    ActionTime varchar(20),
+    TranCode varchar(50),
+    Remarks nvarchar(1000),
+    Src nvarchar(100),
+    saveToken varchar(36),
+    savedAt datetime not null default sysdatetime(),
+    login nvarchar(128) default suser_sname()
+)
+go
+insert into AuditTrail (userName, userAction, ActionDate, ActionTime, TranCode, Remarks, Src)
+    select userName, userAction, ActionDate, ActionTime, TranCode, Remarks, Src from AuditTrailKept order by SNo
+go
+drop table AuditTrailKept
 )"},
 };
 

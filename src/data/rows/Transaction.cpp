@@ -10,13 +10,7 @@ namespace orvane {
 
 namespace {
 
-/// At most so many characters, none of them half.
-QString cut(const QString& text, int longest) {
-    const bool inMidCharacter = text.size() > longest && text.at(longest).isLowSurrogate();
-    return text.left(inMidCharacter ? longest - 1 : longest);
-}
-
-void writeToken(PhysicalConnection& physical, const QString& token, const SavedAction& action) {
+void writeAction(PhysicalConnection& physical, const QString& token, const SavedAction& action) {
     const Table* table = Catalog::instance().table("SavedActions");
     const std::pair<QString, QString> texts[] = {{"token", token},
                                                  {"username", action.user},
@@ -24,18 +18,39 @@ void writeToken(PhysicalConnection& physical, const QString& token, const SavedA
                                                  {"action", action.action},
                                                  {"document", action.document}};
     SqlParts tsql;
-    tsql.addFragment(u"insert into SavedActions (token, username, workstation, action, document, amount) values (");
+    tsql.addFragment(
+        u"insert into SavedActions (token, username, workstation, action, document, amount, trailRows) values (");
     for (const auto& [name, text] : texts) {
         const Column* column = table->column(name);
-        tsql.addValue(valueForBinding(valueForColumn(cut(text, column->length), name, column->kind)));
+        tsql.addValue(valueForBinding(valueForColumn(cutTo(text, *column), name, column->kind)));
         tsql.addFragment(u", ");
     }
     tsql.addValue(valueForColumn(action.amount, "amount", ColumnKind::Number));
+    tsql.addFragment(u", ");
+    tsql.addNumber(qlonglong(action.trailRows));
     tsql.addFragment(u")");
     physical.change(tsql);
 }
 
+void writeParts(PhysicalConnection& physical, const QString& token, const QVector<SavedPart>& parts) {
+    QVector<SqlParts> rows;
+    for (const SavedPart& part : parts)
+        rows.append(partStatement(token, part).parts());
+    physical.changeAll(rows);
+}
+
 } // namespace
+
+QString freshToken() {
+    return QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
+Sql partStatement(const QString& token, const SavedPart& part) {
+    const Column* document = Catalog::instance().table("SavedParts")->column("document");
+    return Sql("insert into SavedParts (token, kind, document, counted, amount) values ('")
+           << token << "', '" << part.kind << "', '" << cutTo(part.document, *document) << "', " << part.counted << ", "
+           << part.amount << ")";
+}
 
 struct Transaction::Private {
     std::shared_ptr<PhysicalConnection> physical; ///< null once it has ended
@@ -57,9 +72,10 @@ void Transaction::commit() {
 
 void Transaction::commit(const SavedAction& action) {
     ORVANE_ASSERT(d->physical);
-    const QString token = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    const QString token = action.token.isEmpty() ? freshToken() : action.token;
     try {
-        writeToken(*d->physical, token, action);
+        writeAction(*d->physical, token, action);
+        writeParts(*d->physical, token, action.parts);
     } catch (...) {
         rollback();
         throw;

@@ -7,7 +7,7 @@ namespace orvane {
 const ProcedureEntry* findProcedure(const QString& name) {
     static const QList<ProcedureEntry> entries = {
         {"SpAudiTrail",
-         {"@userName", "@userAction", "@ActionDate", "@ActionTime", "@TranCode", "@Remarks", "@Src"},
+         {"@userName", "@userAction", "@ActionDate", "@ActionTime", "@TranCode", "@Remarks", "@Src", "@saveToken"},
          storeAuditRow},
         {"getIDNo", {"DestName"}, nextNumber},
         {"updateRevType", {"@ConsultID"}, fillRevenueTypes},
