@@ -24,4 +24,13 @@ BookContext toolContext(Connection& billing) {
             }};
 }
 
+void saveToolWork(Connection& billing, const QString& action, const QString& document) {
+    const BookContext tool = toolContext(billing);
+    Transaction transaction(billing);
+    Books books(billing, tool);
+    books.audit({action, document, {}});
+    books.record(document, 0);
+    transaction.commit(*books.savedAction(action));
+}
+
 } // namespace orvane

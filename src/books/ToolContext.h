@@ -8,4 +8,7 @@ namespace orvane {
 /// trail beside `billing`, which must live as long.
 BookContext toolContext(Connection& billing);
 
+/// A row in SavedActions and one in the audit trail for what a tool did in the accounting database.
+void saveToolWork(Connection& billing, const QString& action, const QString& document);
+
 } // namespace orvane

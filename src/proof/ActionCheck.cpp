@@ -13,7 +13,6 @@ namespace {
 const QString lostSave = "money without its save";
 const QString lostTrail = "save without its trail";
 const QString lostPosting = "posting without its save";
-const QString noTrail = "audit trail";
 
 struct Kind {
     const char *kind, *check, *words;
@@ -78,7 +77,7 @@ QHash<QString, int> readTrail(Connection& billing, CheckReport& report) {
              !row.eof(); row.moveNext())
             rows.insert(row.text("saveToken"), int(row.integer("N")));
     } catch (const DataError& fault) {
-        tell(noTrail, {"it cannot be read: " + fault.description()}, report);
+        tell(lostTrail, {"the audit trail cannot be read: " + fault.description()}, report);
     }
     return rows;
 }
@@ -127,7 +126,7 @@ void checkActions(Connection& billing, Connection& accounting, CheckReport& repo
 }
 
 QStringList actionCheckNames() {
-    QStringList names{lostSave, lostTrail, lostPosting, noTrail};
+    QStringList names{lostSave, lostTrail, lostPosting};
     for (const Kind& kind : kinds)
         names << QLatin1String(kind.check);
     return names;

@@ -1,6 +1,7 @@
 // What looks after the ledger: its periods, and what no screen offers for posting any more.
 #include "books/InvoicePosting.h"
 #include "books/Period.h"
+#include "books/ToolContext.h"
 #include "books/VoucherPosting.h"
 #include "data/rows/SharedTables.h"
 #include "session/Settings.h"
@@ -37,6 +38,8 @@ int periodOpenCommand(Call& call) {
     Workplace workplace(call.required("home"));
     Connection accounting = workplace.program().openAccounting();
     call.out << openPeriodsUpTo(accounting, month) << " periods were opened.\n";
+    Connection billing = workplace.program().openBilling();
+    saveToolWork(billing, "PERIOD OPEN", call.operands.value(0));
     return Done;
 }
 
@@ -53,6 +56,7 @@ int periodCloseCommand(Call& call) {
         call.out << "The period " << period << " stays open.\n";
         return Refused;
     }
+    saveToolWork(billing, "PERIOD CLOSE", period);
     copySharedTables(billing, accounting);
     keepPeriodsOpen(accounting, QDate::currentDate());
     call.out << "The period " << period << " is closed; the current one is " << currentPeriod(accounting) << ".\n";

@@ -455,9 +455,13 @@ bool MoneyAction::isReportedBy(const QStringList& shown) const {
     return *report ? shown.contains(QLatin1String(report)) : shown.filter("box ").isEmpty();
 }
 
-QStringList MoneyAction::faultsAmong(QStringList findings) const {
-    // A workstation that dies behind its save leaves rows of the trail unwritten: told, and right so.
+QStringList besideTheTrail(QStringList findings) {
     findings.removeIf([](const QString& finding) { return finding.startsWith("save without its trail: "); });
+    return findings;
+}
+
+QStringList MoneyAction::faultsAmong(QStringList findings) const {
+    findings = besideTheTrail(findings);
     if (*leaves)
         findings.removeIf([this](const QString& finding) { return finding.startsWith(QLatin1String(leaves)); });
     return findings;

@@ -31,6 +31,9 @@ struct MoneyAction {
     QStringList faultsAmong(QStringList findings) const;
 };
 
+/// Without those that a workstation leaves which dies behind its save, before its rows of the trail are written.
+QStringList besideTheTrail(QStringList findings);
+
 void PrintTo(const MoneyAction& action, std::ostream* out);
 
 const QList<MoneyAction>& moneyActions();
