@@ -1,4 +1,5 @@
 // Invoices and claims on paper: what a page totals is what the client was invoiced, whichever form it has.
+#include "data/rows/ActionParts.h"
 #include "data/words/Money.h"
 #include "forms/ReportViewer.h"
 #include "reports/StockTemplates.h"
@@ -44,6 +45,7 @@ protected:
         layLines("D");
         connection.run("update Billing set Amountbilled=(select sum(SubTotal) from BillingDetails d where "
                        "d.billNo=Billing.billNo)");
+        noteOpening(connection);
     }
     void process() {
         open("frmBillProcessing");
