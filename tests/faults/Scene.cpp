@@ -85,7 +85,7 @@ QString Scene::figures() {
 
 QStringList Scene::findings() {
     Workstation watcher(folder());
-    return checkDatabases(watcher.program).findings;
+    return besideTheTrail(checkDatabases(watcher.program).findings);
 }
 
 void Scene::waitForServer() {
