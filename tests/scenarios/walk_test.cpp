@@ -83,8 +83,8 @@ protected:
 
     /// Every row of both databases but the trails of who was at work, and roles: any text makes one.
     QSet<QString> everyRow() {
-        static const QStringList trails = {"LoginTrail",   "UserActivities", "AuditTrail",
-                                           "SavedActions", "SavedParts", "UserRoles",      "Roles"};
+        static const QStringList trails = {"LoginTrail", "UserActivities", "AuditTrail", "SavedActions",
+                                           "SavedParts", "UserRoles",      "Roles"};
         QSet<QString> rows;
         for (const QString& database : {QString("billing"), QString("accounting")}) {
             Connection connection = database == "billing" ? program.openBilling() : program.openAccounting();
