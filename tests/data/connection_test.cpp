@@ -164,6 +164,19 @@ ORVANE_ON_EACH_ENGINE(Pool);
 
 class OnServer : public EngineTest {};
 
+TEST_P(OnServer, TheEnvironmentOfAWorkstationChangesNoSession) {
+    const QString zone = "select current_setting('timezone') || current_setting('standard_conforming_strings') as s";
+    const auto asked = [&] {
+        DataSource fresh(home.folder());
+        return fresh.open(TestHome::billing()).run(zone).text(0);
+    };
+    const QString before = asked();
+    EXPECT_TRUE(before.endsWith("on"));
+    qputenv("PGTZ", "Pacific/Kiritimati");
+    qputenv("PGOPTIONS", "-c standard_conforming_strings=off");
+    EXPECT_EQ(asked(), before);
+}
+
 TEST_P(OnServer, AnIdleConnectionThatIsAliveIsGivenWithoutAMessage) {
     const QString server = data.open(TestHome::billing()).run("select pg_backend_pid() as p").text(0);
     const Connection again = data.open(TestHome::billing());

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QProcessEnvironment>
 #include <QSqlDriver>
 #include <QSqlError>
 #include <QUrl>
@@ -171,10 +172,20 @@ QString serverDatabase(const ServerEntry& entry, const ConnectionTarget& target)
 /// compiles no expressions: for a month's list that takes longer than it saves.
 QString postgresqlOptions(int lockWait) {
     return QStringLiteral("connect_timeout=10;tcp_user_timeout=30000;keepalives_idle=15;keepalives_interval=5;"
-                          "keepalives_count=3;options='-c lock_timeout=%1 -c client_min_messages=warning -c jit=off "
+                          "keepalives_count=3;options='-c standard_conforming_strings=on -c lock_timeout=%1 -c "
+                          "client_min_messages=warning -c jit=off "
                           "-c idle_in_transaction_session_timeout=30000 -c tcp_keepalives_idle=15 "
                           "-c tcp_keepalives_interval=5 -c tcp_keepalives_count=3'")
         .arg(lockWait);
+}
+
+/// The driver's library takes host, password, time zone and options of a session from PG* where nobody gives them: what
+/// a workstation's environment holds is none of this program's business. (With a time zone of its own, audit rows went
+/// back a day; with standard_conforming_strings off, a text could end its statement.)
+void forgetEnvironmentOfPostgresql() {
+    for (const QString& name : QProcessEnvironment::systemEnvironment().keys())
+        if (name.startsWith(QLatin1String("PG")))
+            qunsetenv(name.toLocal8Bit().constData());
 }
 
 void connectServer(const Physical& physical, const ServerEntry& entry, const ConnectionTarget& target,
@@ -184,6 +195,7 @@ void connectServer(const Physical& physical, const ServerEntry& entry, const Con
     physical->database.setUserName(fromEnvironment("ORVANE_DB_USER", target.user));
     physical->database.setPassword(fromEnvironment("ORVANE_DB_PASSWORD", target.password));
     if (postgresql) {
+        forgetEnvironmentOfPostgresql();
         physical->database.setHostName(entry.host);
         physical->database.setPort(entry.port > 0 ? entry.port : 5432);
         physical->database.setDatabaseName(database);
