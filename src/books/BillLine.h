@@ -59,9 +59,10 @@ QVector<AccountEntry> moveLine(Books& books, const Recordset& row, const NewPaye
 /// many lines by one statement does this first, or their charges would seem to have moved.
 void keepCharges(Books& books, const QString& billNo);
 
-/// A line at no charge is none.
 /// Runs what deletes lines of the bill, and notes how many and how much it was.
 void removeLines(Books& books, const QString& billNo, const std::function<void()>& removal);
+
+/// A line at no charge is none.
 void removeEmptyLines(Books& books, const QString& billNo);
 
 } // namespace orvane
