@@ -4,6 +4,7 @@
 #include "desktop/GridModel.h"
 #include "desktop/TableView.h"
 
+#include <algorithm>
 #include <numeric>
 
 namespace orvane {
@@ -34,17 +35,28 @@ QString TotalsLine::sums(const QVector<int>& rows) const {
     return sums.join("     ");
 }
 
+/// An entry list ends with the blank row of the entry that comes next, which is none.
+int TotalsLine::rowsEntered() const {
+    const TableModel& model = *m_table.table();
+    const int last = model.rowCount() - 1;
+    for (int column = 0; last >= 0 && column < model.columnCount(); ++column)
+        if (!model.index(last, column).data().toString().isEmpty())
+            return last + 1;
+    return std::max(last, 0);
+}
+
 void TotalsLine::sumUpAll() {
     const TableModel& model = *m_table.table();
+    const int count = rowsEntered();
     m_all.clear();
     if (model.hasMore() && !sums({}).isEmpty()) {
         m_all = QStringLiteral("%L1 rows so far; the total comes when all are read").arg(model.rowCount());
-    } else if (model.rowCount() > 0) {
-        QVector<int> rows(model.rowCount());
+    } else if (count > 0) {
+        QVector<int> rows(count);
         std::iota(rows.begin(), rows.end(), 0);
         m_all = sums(rows);
         if (!m_all.isEmpty())
-            m_all.prepend(QStringLiteral("Total of all %L1 rows:   ").arg(model.rowCount()));
+            m_all.prepend(QStringLiteral("Total of all %L1 rows:   ").arg(count));
     }
     sumUpMarked();
 }

@@ -15,6 +15,7 @@ public:
     TotalsLine(TableView& table, QWidget* parent);
 
 private:
+    int rowsEntered() const;
     void sumUpAll();
     void sumUpMarked();
     QString sums(const QVector<int>& rows) const;
